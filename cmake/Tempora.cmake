@@ -1,0 +1,31 @@
+# Settings that every target of the project shares.
+add_library(tempora_options INTERFACE)
+if(MSVC)
+  target_compile_options(tempora_options INTERFACE /W4 /utf-8 /permissive-)
+else()
+  target_compile_options(tempora_options INTERFACE -Wall -Wextra -Wshadow -Wconversion
+    -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual)
+endif()
+if(TEMPORA_WERROR)
+  target_compile_options(tempora_options INTERFACE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX,-Werror>)
+endif()
+if(TEMPORA_SANITIZE)
+  target_compile_options(tempora_options INTERFACE -fsanitize=address,undefined
+    -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(tempora_options INTERFACE -fsanitize=address,undefined)
+endif()
+target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII
+  QT_USE_QSTRINGBUILDER UNICODE _UNICODE)
+
+# One folder of src/ is one library and one layer: what it links is what it may use.
+#   tempora_layer(NAME SOURCES a.cpp ... USES layer ... [EXTERNAL target ...])
+function(tempora_layer name)
+  cmake_parse_arguments(LAYER "" "" "SOURCES;USES;EXTERNAL" ${ARGN})
+  add_library(tempora_${name} STATIC ${LAYER_SOURCES})
+  target_include_directories(tempora_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  set(layers "")
+  foreach(layer IN LISTS LAYER_USES)
+    list(APPEND layers tempora_${layer})
+  endforeach()
+  target_link_libraries(tempora_${name} PUBLIC ${layers} ${LAYER_EXTERNAL} PRIVATE tempora_options)
+endfunction()

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace db {
+
+/// What the configuration file of the companion web application says about the MySQL server.
+struct PhpConfiguration {
+    QString host;
+    QString login;
+    QString password;
+    QString base;
+    QString port = QStringLiteral("3306");
+};
+
+/// Reads the file line by line (LF, CR LF or CR; UTF-8, with or without a mark, or Latin-1 when it
+/// is not valid UTF-8). Only the position of a value in its line counts: the variable's name at the
+/// start of the line, a fixed number of characters dropped there, the last two dropped at the end.
+/// Spaces around "=" or a trailing comment therefore give a wrong value without any error, which
+/// is wanted: the web application writes the file in exactly one form.
+/// Error: FileNotFound.
+[[nodiscard]] PhpConfiguration readPhpConfiguration(const QString& path);
+
+/// The connection strings that the program builds once at start-up.
+struct ConnectStrings {
+    QString ConnectString; ///< opens the connection
+    QString DsnString;     ///< "DSN=" and the trimmed base name, kept for both kinds
+};
+
+/// Access: the data source named `baseName`. MySQL: the server named in
+/// `applicationFolder`/app_data/`baseName`.php.
+/// Error: FileNotFound when the PHP file is missing.
+[[nodiscard]] ConnectStrings BuildConnectString(const QString& baseName, bool useMySql,
+                                                const QString& applicationFolder);
+
+} // namespace db

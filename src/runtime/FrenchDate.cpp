@@ -1,0 +1,57 @@
+#include "runtime/FrenchDate.h"
+
+#include "runtime/RunTimeError.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace runtime {
+namespace {
+
+const std::array<QString, 12>& upperMonthNames()
+{
+    static const std::array<QString, 12> names = {
+        QStringLiteral("JANVIER"),   QStringLiteral("FÉVRIER"), QStringLiteral("MARS"),
+        QStringLiteral("AVRIL"),     QStringLiteral("MAI"),     QStringLiteral("JUIN"),
+        QStringLiteral("JUILLET"),   QStringLiteral("AOÛT"),    QStringLiteral("SEPTEMBRE"),
+        QStringLiteral("OCTOBRE"),   QStringLiteral("NOVEMBRE"), QStringLiteral("DÉCEMBRE")};
+    return names;
+}
+
+} // namespace
+
+const std::array<QString, 6>& frenchDayNames()
+{
+    static const std::array<QString, 6> names = {
+        QStringLiteral("Lundi"), QStringLiteral("Mardi"),    QStringLiteral("Mercredi"),
+        QStringLiteral("Jeudi"), QStringLiteral("Vendredi"), QStringLiteral("Samedi")};
+    return names;
+}
+
+QString frenchLongDate(QDate date)
+{
+    if (!date.isValid()) {
+        return {};
+    }
+    return QStringLiteral("%1/%2/%3")
+        .arg(date.day(), 2, 10, QLatin1Char('0'))
+        .arg(upperMonthNames().at(static_cast<std::size_t>(date.month() - 1)))
+        .arg(date.year(), 4, 10, QLatin1Char('0'));
+}
+
+QDate fromFrenchLongDate(const QString& text)
+{
+    const QStringList fields = text.split(u'/');
+    if (fields.size() == 3) {
+        const auto& months = upperMonthNames();
+        const auto month = std::find(months.begin(), months.end(), fields[1].toUpper());
+        const QDate date(fields[2].toInt(), static_cast<int>(month - months.begin()) + 1,
+                         fields[0].toInt());
+        if (month != months.end() && date.isValid()) {
+            return date;
+        }
+    }
+    throw RunTimeError(ErrorNumber::TypeMismatch);
+}
+
+} // namespace runtime

@@ -1,0 +1,55 @@
+#include "runtime/RunTimeError.h"
+
+namespace runtime {
+
+QString platformErrorText(ErrorNumber number)
+{
+    switch (number) {
+    case ErrorNumber::InvalidProcedureCall:
+        return QStringLiteral("Invalid procedure call or argument");
+    case ErrorNumber::Overflow:
+        return QStringLiteral("Overflow");
+    case ErrorNumber::SubscriptOutOfRange:
+        return QStringLiteral("Subscript out of range");
+    case ErrorNumber::TypeMismatch:
+        return QStringLiteral("Type mismatch");
+    case ErrorNumber::FileNotFound:
+        return QStringLiteral("File not found");
+    case ErrorNumber::InvalidUseOfNull:
+        return QStringLiteral("Invalid use of Null");
+    case ErrorNumber::ItemNotFound:
+        return QStringLiteral("Item cannot be found in the collection corresponding to the "
+                              "requested name or ordinal.");
+    case ErrorNumber::DatabaseFailure:
+    case ErrorNumber::StatementRefused:
+    case ErrorNumber::TableMissing:
+        break;
+    }
+    return {};
+}
+
+RunTimeError::RunTimeError(ErrorNumber number) : RunTimeError(number, platformErrorText(number)) {}
+
+RunTimeError::RunTimeError(ErrorNumber number, QString text)
+    : m_number(number), m_text(std::move(text)), m_what(m_text.toUtf8())
+{
+}
+
+void RunTimeError::addActivity(const QString& activity)
+{
+    if (m_activity.isEmpty()) {
+        m_activity = activity;
+    }
+}
+
+QString RunTimeError::message() const
+{
+    QString message = QStringLiteral("Run-time error '%1':\n\n%2")
+                          .arg(QString::number(static_cast<int>(m_number)), m_text);
+    if (!m_activity.isEmpty()) {
+        message += QStringLiteral("\n\n") + m_activity;
+    }
+    return message;
+}
+
+} // namespace runtime

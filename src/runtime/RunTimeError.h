@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QString>
+#include <exception>
+#include <type_traits>
+#include <utility>
+
+namespace runtime {
+
+/// Numbers of the run-time errors that the program can end with, as the legacy platform counts
+/// them. Their texts come from `platformErrorText`; database errors carry the driver's own text.
+enum class ErrorNumber : int {
+    InvalidProcedureCall = 5,
+    Overflow = 6,
+    SubscriptOutOfRange = 9,
+    TypeMismatch = 13,
+    FileNotFound = 53,
+    InvalidUseOfNull = 94,
+    ItemNotFound = 3265,
+    DatabaseFailure = -2147467259,   ///< 80004005: no connection, or the driver failed
+    StatementRefused = -2147217900,  ///< 80040E14: the database refuses the statement
+    TableMissing = -2147217865,      ///< 80040E37
+};
+
+/// The platform's own text of an error number; empty for the database errors.
+[[nodiscard]] QString platformErrorText(ErrorNumber number);
+
+/// A fault that nothing traps: it travels to the one place that shows it and ends the program.
+/// Copies share nothing that can throw while the exception is in flight.
+class RunTimeError : public std::exception
+{
+public:
+    explicit RunTimeError(ErrorNumber number);
+    RunTimeError(ErrorNumber number, QString text);
+
+    [[nodiscard]] ErrorNumber number() const { return m_number; }
+    /// The platform's or the driver's text. Never holds a password.
+    [[nodiscard]] const QString& text() const { return m_text; }
+    /// What was being done and with which value, in French, for the user; may be empty.
+    [[nodiscard]] const QString& activity() const { return m_activity; }
+    /// The innermost activity stays: it names the value at fault.
+    void addActivity(const QString& activity);
+
+    /// "Run-time error '13':", an empty line, the text, and the activity when there is one.
+    [[nodiscard]] QString message() const;
+    [[nodiscard]] const char* what() const noexcept override { return m_what.constData(); }
+
+private:
+    ErrorNumber m_number;
+    QString m_text;
+    QString m_activity;
+    QByteArray m_what; // UTF-8 of the text, kept so that what() cannot fail
+};
+
+/// Runs `action`; a run-time error that leaves it is told what was being done.
+template <typename Action>
+decltype(auto) during(const QString& activity, Action&& action)
+{
+    try {
+        return std::forward<Action>(action)();
+    } catch (RunTimeError& error) {
+        error.addActivity(activity);
+        throw;
+    }
+}
+
+/// Runs `step` and skips it when it fails with a run-time error: the rule "a step that fails is
+/// skipped and the next one runs" of the routines that trap errors. Tells whether it succeeded.
+template <typename Step>
+bool skipOnError(Step&& step)
+{
+    try {
+        std::forward<Step>(step)();
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+} // namespace runtime

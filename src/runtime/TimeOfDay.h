@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+/// Times of day as texts: 8h30, 8H30 and 8:30 are the same time.
+namespace runtime {
+
+/// The text in upper case with every "H" turned into ":", as times are read from it.
+[[nodiscard]] QString normaliseTimeText(const QString& text);
+
+/// Seconds since midnight of a time of day written "8:30" or "8:30:15", outer blanks aside.
+/// "8:" is 8 o'clock, as "8h" is what people write.
+/// Error: TypeMismatch for a text that is no time.
+[[nodiscard]] int secondsOfDay(const QString& text);
+
+/// Minute boundaries between two times of day given in seconds since midnight: from 8:00:59 to
+/// 8:01:00 is one minute. Negative when `to` is earlier.
+[[nodiscard]] int minutesBetween(int fromSeconds, int toSeconds);
+
+} // namespace runtime
