@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace db {
+namespace db
+{
 
 /// What the configuration file of the companion web application says about the MySQL server.
 struct PhpConfiguration {

@@ -7,7 +7,8 @@
 #include <utility>
 #include <vector>
 
-namespace db {
+namespace db
+{
 
 /// The one connection to the timetable database, through ODBC. Statements are in the dialect of
 /// the database kind in use (see SqlDialect.h); where the driver at hand is the embedded SQLite,

@@ -7,7 +7,8 @@
 #include <memory>
 #include <vector>
 
-namespace db {
+namespace db
+{
 
 /// The names of a result's columns, shared by all that was read from it. A name is found whatever
 /// its case, accents included: `matière` finds "Matière".

@@ -3,7 +3,8 @@
 #include <QDate>
 #include <QString>
 
-namespace db {
+namespace db
+{
 
 /// How a date is written into SQL text for the database kind in use.
 class SqlDialect

@@ -5,7 +5,8 @@
 #include <cstdint>
 #include <variant>
 
-namespace db {
+namespace db
+{
 
 /// One field of a row, as the database gave it. Null is a value of its own: asked for a text, a
 /// number or a date it raises "Invalid use of Null", as the legacy platform does.

@@ -5,16 +5,18 @@
 #include <QStringList>
 #include <algorithm>
 
-namespace runtime {
-namespace {
+namespace runtime
+{
+namespace
+{
 
 const std::array<QString, 12>& upperMonthNames()
 {
     static const std::array<QString, 12> names = {
-        QStringLiteral("JANVIER"),   QStringLiteral("FÉVRIER"), QStringLiteral("MARS"),
-        QStringLiteral("AVRIL"),     QStringLiteral("MAI"),     QStringLiteral("JUIN"),
-        QStringLiteral("JUILLET"),   QStringLiteral("AOÛT"),    QStringLiteral("SEPTEMBRE"),
-        QStringLiteral("OCTOBRE"),   QStringLiteral("NOVEMBRE"), QStringLiteral("DÉCEMBRE")};
+        QStringLiteral("JANVIER"), QStringLiteral("FÉVRIER"),  QStringLiteral("MARS"),
+        QStringLiteral("AVRIL"),   QStringLiteral("MAI"),      QStringLiteral("JUIN"),
+        QStringLiteral("JUILLET"), QStringLiteral("AOÛT"),     QStringLiteral("SEPTEMBRE"),
+        QStringLiteral("OCTOBRE"), QStringLiteral("NOVEMBRE"), QStringLiteral("DÉCEMBRE")};
     return names;
 }
 

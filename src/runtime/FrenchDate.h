@@ -5,7 +5,8 @@
 #include <array>
 
 /// Dates as the window shows them: in French whatever the system's language.
-namespace runtime {
+namespace runtime
+{
 
 /// Names of the six teaching days, Monday first: the items of the day list.
 [[nodiscard]] const std::array<QString, 6>& frenchDayNames();

@@ -6,8 +6,10 @@
 #include <cmath>
 #include <limits>
 
-namespace runtime {
-namespace {
+namespace runtime
+{
+namespace
+{
 
 /// Halves go to the even neighbour whatever rounding mode the process runs in.
 double roundHalfToEven(double value)
@@ -32,7 +34,10 @@ Integer nearestWithin(double value)
     return static_cast<Integer>(rounded);
 }
 
-bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
 
 qsizetype skipDigits(const QString& text, qsizetype position)
 {
@@ -58,9 +63,15 @@ qsizetype exponentLength(const QString& text, qsizetype position)
 
 } // namespace
 
-std::int32_t nearestInteger(double value) { return nearestWithin<std::int32_t>(value); }
+std::int32_t nearestInteger(double value)
+{
+    return nearestWithin<std::int32_t>(value);
+}
 
-std::int16_t nearestInt16(double value) { return nearestWithin<std::int16_t>(value); }
+std::int16_t nearestInt16(double value)
+{
+    return nearestWithin<std::int16_t>(value);
+}
 
 double leadingNumber(const QString& text)
 {
@@ -101,9 +112,15 @@ double toNumber(const QString& text)
     return value;
 }
 
-std::int16_t toInt16(const QString& text) { return nearestInt16(toNumber(text)); }
+std::int16_t toInt16(const QString& text)
+{
+    return nearestInt16(toNumber(text));
+}
 
-std::int32_t toInt32(const QString& text) { return nearestInteger(toNumber(text)); }
+std::int32_t toInt32(const QString& text)
+{
+    return nearestInteger(toNumber(text));
+}
 
 bool toBoolean(const QString& text)
 {

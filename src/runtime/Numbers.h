@@ -4,7 +4,8 @@
 #include <cstdint>
 
 /// The legacy rules by which texts and numbers turn into one another.
-namespace runtime {
+namespace runtime
+{
 
 /// The nearest integer, halves to the even one: 0.5 is 0, 1.5 is 2, 2.5 is 2.
 /// Error: Overflow outside the 32-bit range, or for a value that is no number.

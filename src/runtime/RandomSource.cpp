@@ -2,7 +2,8 @@
 
 #include <chrono>
 
-namespace runtime {
+namespace runtime
+{
 
 RandomSource::RandomSource(std::optional<std::uint32_t> fixedSeed) : m_fixedSeed(fixedSeed)
 {

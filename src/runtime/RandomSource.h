@@ -4,7 +4,8 @@
 #include <optional>
 #include <random>
 
-namespace runtime {
+namespace runtime
+{
 
 /// Random numbers for the row colours. With a fixed seed every seeding starts the same sequence,
 /// so that the same input gives the same bytes; without one the clock decides.

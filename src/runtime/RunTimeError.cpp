@@ -1,6 +1,7 @@
 #include "runtime/RunTimeError.h"
 
-namespace runtime {
+namespace runtime
+{
 
 QString platformErrorText(ErrorNumber number)
 {

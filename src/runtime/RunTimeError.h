@@ -5,7 +5,8 @@
 #include <type_traits>
 #include <utility>
 
-namespace runtime {
+namespace runtime
+{
 
 /// Numbers of the run-time errors that the program can end with, as the legacy platform counts
 /// them. Their texts come from `platformErrorText`; database errors carry the driver's own text.
@@ -17,9 +18,9 @@ enum class ErrorNumber : int {
     FileNotFound = 53,
     InvalidUseOfNull = 94,
     ItemNotFound = 3265,
-    DatabaseFailure = -2147467259,   ///< 80004005: no connection, or the driver failed
-    StatementRefused = -2147217900,  ///< 80040E14: the database refuses the statement
-    TableMissing = -2147217865,      ///< 80040E37
+    DatabaseFailure = -2147467259,  ///< 80004005: no connection, or the driver failed
+    StatementRefused = -2147217900, ///< 80040E14: the database refuses the statement
+    TableMissing = -2147217865,     ///< 80040E37
 };
 
 /// The platform's own text of an error number; empty for the database errors.

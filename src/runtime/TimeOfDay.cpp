@@ -5,7 +5,8 @@
 
 #include <QRegularExpression>
 
-namespace runtime {
+namespace runtime
+{
 
 QString normaliseTimeText(const QString& text)
 {
@@ -27,6 +28,9 @@ int secondsOfDay(const QString& text)
     return (hours * 60 + minutes) * 60 + seconds;
 }
 
-int minutesBetween(int fromSeconds, int toSeconds) { return toSeconds / 60 - fromSeconds / 60; }
+int minutesBetween(int fromSeconds, int toSeconds)
+{
+    return toSeconds / 60 - fromSeconds / 60;
+}
 
 } // namespace runtime

@@ -3,7 +3,8 @@
 #include <QString>
 
 /// Times of day as texts: 8h30, 8H30 and 8:30 are the same time.
-namespace runtime {
+namespace runtime
+{
 
 /// The text in upper case with every "H" turned into ":", as times are read from it.
 [[nodiscard]] QString normaliseTimeText(const QString& text);

@@ -1,0 +1,65 @@
+#include "context/Establishment.h"
+
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+namespace context
+{
+namespace
+{
+
+EstablishmentHeader readHeader(db::Connection& connection)
+{
+    const db::Recordset found = connection.open(QStringLiteral("select * from etablissement "));
+    EstablishmentHeader header;
+    if (!found.isEmpty()) {
+        const db::Row& row = found.first();
+        header.UniversityName = row.field(QStringLiteral("Université")).toJoinedText();
+        header.EstablishmentName = row.field(QStringLiteral("Nom")).toJoinedText();
+        const db::Value& year = row.field(QStringLiteral("Année"));
+        header.AcademicYear = year.isNull() ? std::int16_t{0} : year.toInt16();
+    }
+    return header;
+}
+
+void countRooms(form::PlanForm& form, db::Connection& connection, RoomPage& page)
+{
+    const QString zone = form.cb_Locaux.text();
+    page.RoomTotal = connection.recordCount(
+        zone != u"0" ? QStringLiteral("select * from salle where Zone=%1").arg(zone)
+                     : QStringLiteral("select * from salle  "));
+    form.Command3.enabled = page.RoomTotal > runtime::leadingNumber(form.Total_L_P.text());
+}
+
+void listPeriods(form::PlanForm& form, db::Connection& connection)
+{
+    const db::Recordset periods = connection.open(QStringLiteral("select * from tranche"));
+    for (const db::Row& period : periods.rows()) {
+        form.CbTranche.addItem(period.field(1).toJoinedText());
+    }
+}
+
+} // namespace
+
+EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& database,
+                                      Periods& periods, RoomPage& page,
+                                      const QString& connectString, const QString& trancheSetting)
+{
+    runtime::during(QStringLiteral("Ouverture de la base de données"),
+                    [&] { database.open(connectString); });
+    db::Connection& connection = database.Db();
+    const EstablishmentHeader header =
+        runtime::during(QStringLiteral("Lecture de la table « etablissement »"),
+                        [&] { return readHeader(connection); });
+    form.Label4[4].caption = header.EstablishmentName;
+    runtime::during(QStringLiteral("Comptage des salles (table « salle »)"),
+                    [&] { countRooms(form, connection, page); });
+    runtime::during(QStringLiteral("Lecture des périodes (table « tranche »)"),
+                    [&] { listPeriods(form, connection); });
+    runtime::during(QStringLiteral("Choix de la période du paramètre « Tranche » (valeur « %1 »)")
+                        .arg(trancheSetting),
+                    [&] { periods.chooseByIdent(runtime::toInt32(trancheSetting)); });
+    return header;
+}
+
+} // namespace context

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "context/Periods.h"
+#include "context/RoomPage.h"
+#include "db/Database.h"
+#include "form/PlanForm.h"
+
+#include <QString>
+#include <cstdint>
+
+namespace context
+{
+
+/// Who the plan belongs to.
+struct EstablishmentHeader {
+    QString UniversityName;
+    QString EstablishmentName;
+    std::int16_t AcademicYear = 0;
+};
+
+/// Opens the database and reads what the header shows: establishment, number of rooms, periods,
+/// and the period named by the settings with its dates.
+/// `trancheSetting` is the setting "Tranche", a period number.
+/// Errors: any database error, TypeMismatch or Overflow for a value that does not convert.
+[[nodiscard]] EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& database,
+                                                    Periods& periods, RoomPage& page,
+                                                    const QString& connectString,
+                                                    const QString& trancheSetting);
+
+} // namespace context

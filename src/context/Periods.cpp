@@ -1,0 +1,238 @@
+#include "context/Periods.h"
+
+#include "context/DateRules.h"
+#include "runtime/FrenchDate.h"
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+#include <utility>
+
+namespace context
+{
+namespace
+{
+
+// Columns of `tranche` and of `dat_exam` are read by position.
+constexpr int kIdent = 0;
+constexpr int kName = 1;
+constexpr int kFirstDay = 2;
+constexpr int kLastDay = 3;
+constexpr int kExamWeek1 = 1;
+constexpr int kExamWeek2 = 2;
+constexpr int kControlWeek = 3;
+
+QString dateCaption(const db::Value& date)
+{
+    return date.isNull() ? QString() : runtime::frenchLongDate(date.toDate());
+}
+
+} // namespace
+
+Periods::Periods(form::PlanForm& form, db::Database& database, Totals& totals, PlanActions& plan,
+                 std::function<QDate()> today)
+    : m_form(form), m_database(database), m_totals(totals), m_plan(plan), m_today(std::move(today))
+{
+}
+
+QDate Periods::shownDate() const
+{
+    const int day = m_form.CbJour.listIndex();
+    return day < 0 ? m_form.DTPicker1.value() : m_CurrentDate.addDays(day);
+}
+
+void Periods::chooseByIdent(std::int32_t ident)
+{
+    m_form.Label11.caption = QString::number(ident);
+    const db::Recordset found = m_database.Db().open(
+        QStringLiteral("select * from tranche where ident=") + m_form.Label11.caption);
+    if (!found.isEmpty()) {
+        m_form.CbTranche.selectText(found.first().field(kName).toJoinedText());
+    }
+    readPeriodDates();
+}
+
+void Periods::showCurrentWeek()
+{
+    m_form.DTPicker1.setValue(MondayOnOrBefore(m_today()));
+    m_CurrentDate = m_form.DTPicker1.value();
+}
+
+db::Recordset Periods::periodRow()
+{
+    const QString name = runtime::trimBlanks(m_form.CbTranche.text());
+    return runtime::during(QStringLiteral("Lecture de la période « %1 »").arg(name), [&] {
+        return m_database.Db().open(
+            QStringLiteral("select * from tranche where Tranche='%1'").arg(name));
+    });
+}
+
+void Periods::setTrancheIdent(const db::Value& ident)
+{
+    m_TrancheIdent = ident.toInt32();
+    m_form.Label11.caption = QString::number(m_TrancheIdent);
+}
+
+void Periods::readPeriodDates()
+{
+    const db::Recordset found = periodRow();
+    if (found.isEmpty()) {
+        return;
+    }
+    const db::Row& period = found.first();
+    runtime::during(
+        QStringLiteral("Lecture des dates de la période « %1 »").arg(m_form.CbTranche.text()), [&] {
+            m_form.Label4[1].caption = dateCaption(period.field(kFirstDay));
+            m_form.Label4[3].caption = dateCaption(period.field(kLastDay));
+            setTrancheIdent(period.field(kIdent));
+        });
+}
+
+void Periods::LoadExamWeeks()
+{
+    runtime::during(QStringLiteral("Lecture des semaines d’examen de la période « %1 »")
+                        .arg(m_form.Label11.caption),
+                    [&] {
+                        const db::Recordset exams = m_database.Db().open(
+                            QStringLiteral("select * from dat_exam where Tranche=") +
+                            m_form.Label11.caption);
+                        if (!exams.isEmpty()) {
+                            const db::Row& weeks = exams.first();
+                            m_ExamWeek1Start = weeks.field(kExamWeek1).toDate();
+                            m_ExamWeek2Start = weeks.field(kExamWeek2).toDate();
+                            m_ControlWeekStart = weeks.field(kControlWeek).toDate();
+                            setTrancheIdent(weeks.field(kIdent));
+                            return;
+                        }
+                        const db::Recordset found = periodRow();
+                        if (!found.isEmpty()) {
+                            const db::Row& period = found.first();
+                            m_ExamWeek1Start = NextMondayAfter(period.field(kLastDay).toDate());
+                            m_ExamWeek2Start = PlusOneWeek(m_ExamWeek1Start);
+                            // Controls are held early in the period, so their week is counted from
+                            // its first day, the exams from its last.
+                            m_ControlWeekStart =
+                                NextMondayAfter(PlusFourWeeks(period.field(kFirstDay).toDate()));
+                            setTrancheIdent(period.field(kIdent));
+                        }
+                    });
+}
+
+void Periods::Afficher_Dates()
+{
+    if (m_form.OpEns.isSelected()) {
+        return;
+    }
+    QDate weekStart;
+    switch (runtime::nearestInteger(runtime::leadingNumber(m_form.Semn.caption))) {
+    case 1:
+        weekStart = m_ExamWeek1Start;
+        break;
+    case 2:
+        weekStart = m_ExamWeek2Start;
+        break;
+    case 3:
+        weekStart = m_ControlWeekStart;
+        break;
+    default:
+        break;
+    }
+    if (!weekStart.isValid()) {
+        return; // no period, so no exam week: the labels and the week stay as they are
+    }
+    m_form.Label4[1].caption = runtime::frenchLongDate(weekStart);
+    m_form.Label4[3].caption = runtime::frenchLongDate(PlusFiveDays(weekStart));
+    m_CurrentDate = runtime::fromFrenchLongDate(m_form.Label4[1].caption);
+    if (m_form.visible && !m_PickerChangeBusy) {
+        // One day further than the day list's own rule: an exam week opens on its second day.
+        m_form.DTPicker1.setValue(m_CurrentDate.addDays(m_form.CbJour.listIndex() + 1));
+    }
+}
+
+void Periods::yieldTo(const std::function<void()>& events)
+{
+    const bool dayChangeBusy = std::exchange(m_DayChangeBusy, false);
+    const bool pickerChangeBusy = std::exchange(m_PickerChangeBusy, false);
+    events();
+    m_DayChangeBusy = dayChangeBusy;
+    m_PickerChangeBusy = pickerChangeBusy;
+}
+
+void Periods::CbTranche_Click()
+{
+    readPeriodDates();
+    if (m_form.visible && m_form.OpExam.isSelected()) {
+        LoadExamWeeks();
+        Afficher_Dates();
+    }
+    ResetTotals(m_form, m_totals);
+    m_plan.RefreshPlan();
+}
+
+void Periods::CbJour_Click()
+{
+    m_DayChangeBusy = true;
+    if (m_form.visible && !m_PickerChangeBusy) {
+        m_form.DTPicker1.setValue(m_CurrentDate.addDays(m_form.CbJour.listIndex()));
+    }
+    ResetTotals(m_form, m_totals);
+    m_plan.RefreshPlan();
+    m_DayChangeBusy = false;
+}
+
+void Periods::DTPicker1_Change()
+{
+    if (m_DayChangeBusy) {
+        return;
+    }
+    m_PickerChangeBusy = true;
+    if (m_form.DTPicker1.visible) {
+        m_form.CbJour.setListIndex(dayListIndex(m_form.DTPicker1.value()));
+    }
+    m_PickerChangeBusy = false;
+    m_CurrentDate = MondayOnOrBefore(m_form.DTPicker1.value());
+}
+
+void Periods::Check2_Click()
+{
+    m_form.DTPicker1.visible = m_form.Check2.isChecked();
+}
+
+void Periods::Combo10_Click()
+{
+    if (!m_form.Combo10.visible) {
+        return;
+    }
+    m_form.Semn.caption = QString::number(m_form.Combo10.listIndex() + 1);
+    Afficher_Dates();
+    m_plan.RefreshPlan();
+}
+
+void Periods::OpEns_Click()
+{
+    if (!m_form.OpEns.isSelected()) {
+        return;
+    }
+    m_form.Combo10.visible = false;
+    m_form.xOpExam.visible = false;
+    m_form.XOpEns.caption = QStringLiteral("Enseignant");
+    m_form.Chk_Type.visible = true;
+    m_form.DTPicker1.setValue(MondayOnOrBefore(m_today()));
+    readPeriodDates();
+    m_plan.RefreshPlan();
+}
+
+void Periods::OpExam_Click()
+{
+    if (!m_form.OpExam.isSelected()) {
+        return;
+    }
+    m_form.Combo10.visible = true;
+    m_form.xOpExam.visible = true;
+    m_form.Chk_Type.visible = false;
+    m_form.XOpEns.caption = QStringLiteral("Surveillant");
+    LoadExamWeeks();
+    Afficher_Dates();
+    m_plan.RefreshPlan();
+}
+
+} // namespace context

@@ -1,0 +1,138 @@
+#include "context/RoomSet.h"
+
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+namespace context
+{
+namespace
+{
+
+void setVisible(form::PlanForm& form, int row, bool visible)
+{
+    if (row >= 0 && row < form::PlanForm::kRows) {
+        form.Salle[static_cast<std::size_t>(row)].visible = visible;
+        form.Cap[static_cast<std::size_t>(row)].visible = visible;
+    }
+}
+
+} // namespace
+
+RoomSet::RoomSet(form::PlanForm& form, db::Database& database, RoomPage& page, PlanActions& plan)
+    : m_form(form), m_database(database), m_page(page), m_plan(plan)
+{
+}
+
+QString RoomSet::departmentCondition() const
+{
+    if (!m_form.ElemDep.isChecked()) {
+        return {};
+    }
+    const QString department = runtime::trimBlanks(m_form.Combo1.text());
+    return QStringLiteral("  ( Département='") + department + u'\'' +
+           (m_form.Chk_Neutre.isChecked() ? QStringLiteral(" or  ISNULL(Département)) ")
+                                          : QStringLiteral(")"));
+}
+
+QString RoomSet::roomQuery() const
+{
+    const QString zone = m_form.cb_Locaux.text();
+    const QString department = departmentCondition();
+    if (zone != u"0") {
+        // The department's rooms are added to the zone's, not intersected with them.
+        const QString part =
+            department.isEmpty() ? QString() : QStringLiteral(" or (") + department + u')';
+        return QStringLiteral("select * from Salle where ( Zone=") + zone + QStringLiteral(" )  ") +
+               part + QStringLiteral(" order by nom");
+    }
+    const QString part =
+        department.isEmpty() ? QString() : QStringLiteral(" where ( ") + department + u')';
+    return QStringLiteral("select * from Salle ") + part + QStringLiteral(" order by nom");
+}
+
+void RoomSet::FillRoomPage()
+{
+    const db::Recordset rooms = runtime::during(QStringLiteral("Lecture des salles"),
+                                                [&] { return m_database.Db().open(roomQuery()); });
+    fillRows(rooms);
+    showRows();
+}
+
+void RoomSet::fillRows(const db::Recordset& rooms)
+{
+    const double lines = runtime::leadingNumber(m_form.Total_L_P.text());
+    // Later pages skip one room more than their start says: it is the page buttons' extra step
+    // (0, P, 2P + 1, ...) that they make up for.
+    const qsizetype skipped = m_page.PageOffset != 0 ? m_page.PageOffset + 1 : 0;
+    int filled = 0;
+    // Row 0 is filled too: it holds the room just before the first drawn one.
+    while (filled <= lines && filled < form::PlanForm::kRows &&
+           skipped + filled < rooms.recordCount()) {
+        const db::Row& room = rooms.rows()[static_cast<std::size_t>(skipped + filled)];
+        const auto row = static_cast<std::size_t>(filled);
+        const bool read = runtime::skipOnError([&] {
+            m_form.Salle[row].caption = room.field(QStringLiteral("Nom")).toJoinedText();
+            m_form.Cap[row].caption = room.field(QStringLiteral("places")).toJoinedText();
+        });
+        if (!read) {
+            break;
+        }
+        ++filled;
+    }
+    m_page.RowsShown = static_cast<std::int16_t>(filled - 1);
+    if (lines < m_page.RowsShown) {
+        m_page.RowsShown = runtime::toInt16(m_form.Total_L_P.text());
+    }
+}
+
+void RoomSet::showRows()
+{
+    const double lines = runtime::leadingNumber(m_form.Total_L_P.text());
+    int row = 0;
+    for (; row <= lines; ++row) {
+        setVisible(m_form, row, true);
+    }
+    const int firstHidden = m_page.RowsShown + 1;
+    const bool lastPage = row == m_page.RoomTotal || m_page.RoomTotal - lines <= m_page.PageOffset;
+    if (lastPage && firstHidden < form::PlanForm::kRows) {
+        m_form.Salle[static_cast<std::size_t>(firstHidden)].caption.clear();
+    }
+    for (int hidden = firstHidden; hidden <= lines; ++hidden) {
+        setVisible(m_form, hidden, false);
+    }
+}
+
+void RoomSet::cb_Locaux_Click()
+{
+    if (m_page.PageOffset > m_page.RoomTotal) {
+        m_page.PageOffset = m_page.RoomTotal - 1;
+        m_page.PageStart = m_page.RoomTotal - 1;
+        // The lines-per-page box takes the offset: the page then reaches back over the new set.
+        m_form.Total_L_P.setText(QString::number(m_page.PageOffset));
+    }
+    m_plan.PlaceRoomRows();
+    FillRoomPage();
+    // Back, forth and back again: the buttons' state and the page position agree with the new set.
+    m_plan.Command2_Click();
+    m_plan.Command3_Click();
+    m_plan.Command2_Click();
+    m_plan.RefreshPlan();
+}
+
+void RoomSet::ElemDep_Click()
+{
+    m_form.Chk_Neutre.visible = m_form.ElemDep.isChecked();
+    cb_Locaux_Click();
+}
+
+void RoomSet::Combo1_Click()
+{
+    cb_Locaux_Click();
+}
+
+void RoomSet::Chk_Neutre_Click()
+{
+    cb_Locaux_Click();
+}
+
+} // namespace context

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "context/PlanActions.h"
+#include "context/RoomPage.h"
+#include "db/Database.h"
+#include "form/PlanForm.h"
+
+#include <QString>
+
+namespace context
+{
+
+/// Which rooms make up the plan: those of a zone, optionally widened by the rooms of one
+/// department and by the rooms that belong to none. Writes the rooms of the current page into the
+/// row labels.
+class RoomSet
+{
+public:
+    RoomSet(form::PlanForm& form, db::Database& database, RoomPage& page, PlanActions& plan);
+
+    /// The query for the room set that the filter controls describe.
+    [[nodiscard]] QString roomQuery() const;
+
+    /// Writes the rooms of the current page into `Salle` and `Cap` and sets `RowsShown` and the
+    /// rows' visibility. Reaching the end of the rooms ends the page early.
+    /// Error: any database error of the query itself.
+    void FillRoomPage();
+
+    void cb_Locaux_Click();
+    void ElemDep_Click();
+    void Combo1_Click();
+    void Chk_Neutre_Click();
+
+private:
+    [[nodiscard]] QString departmentCondition() const;
+    void fillRows(const db::Recordset& rooms);
+    void showRows();
+
+    form::PlanForm& m_form;
+    db::Database& m_database;
+    RoomPage& m_page;
+    PlanActions& m_plan;
+};
+
+} // namespace context

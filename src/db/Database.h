@@ -1,0 +1,40 @@
+#pragma once
+
+#include "db/Connection.h"
+#include "db/SqlDialect.h"
+#include "runtime/RunTimeError.h"
+
+#include <optional>
+#include <utility>
+
+namespace db
+{
+
+/// The connection that the whole program shares, together with the dialect that goes with it.
+/// Open from the reading of the establishment header until the window closes.
+class Database
+{
+public:
+    /// `useMySql` is the setting "Mysql".
+    explicit Database(bool useMySql) : m_dialect(useMySql) {}
+
+    void open(const QString& connectString) { m_connection.emplace(connectString); }
+    void close() { m_connection.reset(); }
+
+    [[nodiscard]] const SqlDialect& dialect() const { return m_dialect; }
+    /// Error: DatabaseFailure when the connection is not open.
+    [[nodiscard]] Connection& Db()
+    {
+        if (!m_connection) {
+            throw runtime::RunTimeError(runtime::ErrorNumber::DatabaseFailure,
+                                        QStringLiteral("The connection is closed."));
+        }
+        return *m_connection;
+    }
+
+private:
+    SqlDialect m_dialect;
+    std::optional<Connection> m_connection;
+};
+
+} // namespace db

@@ -1,0 +1,104 @@
+#include "form/PlanForm.h"
+
+#include "runtime/FrenchDate.h"
+
+namespace form
+{
+namespace
+{
+
+// Places of the design, in twips. The time axis leaves room for the row labels on its left.
+constexpr int kAxisLeft = 1620;
+constexpr int kHeaderHeight = 300;
+constexpr int kRowTop = 345;
+constexpr int kRowHeight = 300;
+constexpr int kRoomWidth = 1500;
+constexpr int kPlacesWidth = 540;
+constexpr int kTotalHeight = 285;
+constexpr int kTickWidth = 600;
+constexpr int kFirstHour = 8;
+
+QStringList zones()
+{
+    QStringList items;
+    for (int zone = 0; zone <= 9; ++zone) {
+        items.append(QString::number(zone));
+    }
+    return items;
+}
+
+QStringList dayNames()
+{
+    const auto& names = runtime::frenchDayNames();
+    return {names.begin(), names.end()};
+}
+
+void designPlan(PlanForm& form)
+{
+    for (std::size_t tick = 0; tick < form.Label1.size(); ++tick) {
+        Label& label = form.Label1.at(tick);
+        label.caption = QStringLiteral("%1h00").arg(kFirstHour + static_cast<int>(tick));
+        label.place = {kAxisLeft, 0, kTickWidth, kHeaderHeight};
+    }
+    form.Salle.resize(PlanForm::kRows);
+    form.Cap.resize(PlanForm::kRows);
+    for (Label& room : form.Salle) {
+        room.place = {0, kRowTop, kRoomWidth, kRowHeight};
+        room.visible = false;
+    }
+    for (Label& places : form.Cap) {
+        places.place = {0, kRowTop, kPlacesWidth, kRowHeight};
+        places.visible = false;
+    }
+    for (Label& total : form.Tot) {
+        total.place.height = kTotalHeight;
+        total.visible = false;
+    }
+}
+
+} // namespace
+
+PlanForm::PlanForm()
+    : caption(QStringLiteral("Planning des Classes")), backColor(Colour::fromRgb(240, 240, 240)),
+      Check2(QStringLiteral("Date")), OpEns(mode, 0, QStringLiteral("Enseignement")),
+      OpExam(mode, 1, QStringLiteral("Examen")), OptFixe(week, 0, QStringLiteral("Toute Semaine")),
+      OptA(week, 1, QStringLiteral("Semaine A")), OptB(week, 2, QStringLiteral("Semaine B")),
+      XOpCl(QStringLiteral("Classe")), XOpEns(QStringLiteral("Enseignant")),
+      XpMat(QStringLiteral("Matière")), Chk_Type(QStringLiteral("Type de S.")),
+      xOpExam(QStringLiteral("Responsable")), Check1(QStringLiteral("Selon la Matière:")),
+      ElemDep(QStringLiteral("Eléments du département ")),
+      Chk_Neutre(QStringLiteral("+ Eléments Neutres")), Command2(QStringLiteral("Page Précédente")),
+      Command3(QStringLiteral("Page Suivante")), Colorer(QStringLiteral("Colorer"), true),
+      ChkGrille(QStringLiteral("Grille")), Check3(QStringLiteral("S. Groupées"), true),
+      Chk_Compt(QStringLiteral("Comptage")), Command4(QStringLiteral("Changer de Palette")),
+      Command1(QStringLiteral("Imprimer")), Opt_Cap(QStringLiteral("Imprimer Capacité"))
+{
+    XSalle.caption = QStringLiteral("Occupation des Salles du");
+    Label4[0].caption = QStringLiteral("Du");
+    Label4[2].caption = QStringLiteral("au");
+    Label5.caption = QStringLiteral("Défaut");
+    Label20.caption = QStringLiteral("Police");
+    Frame1.caption = QStringLiteral("Palette : ");
+    Semn.caption = QStringLiteral("1");
+    ImgSql.visible = false;
+    ImgAccess.visible = false;
+    xOpExam.visible = false;
+    Combo10.visible = false;
+    Cb_Mat.visible = false;
+    Chk_Neutre.visible = false;
+    CbJour.design(dayNames(), 0);
+    cb_Locaux.design(zones(), 0);
+    Command2.enabled = false;
+    Command3.enabled = false;
+    designPlan(*this);
+}
+
+QString PlanForm::title() const
+{
+    const QString when = DTPicker1.visible
+                             ? DTPicker1.value().toString(QStringLiteral("dd/MM/yy")).toUpper()
+                             : CbJour.text();
+    return XSalle.caption + u' ' + when;
+}
+
+} // namespace form

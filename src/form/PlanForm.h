@@ -1,0 +1,100 @@
+#pragma once
+
+#include "form/Controls.h"
+
+#include <QString>
+#include <array>
+#include <vector>
+
+namespace form
+{
+
+/// The window `PlClasse` without a screen: all its controls under the names they have in the
+/// window. The subsystems read and set them; whoever shows them copies them.
+class PlanForm
+{
+public:
+    /// Rows a page can hold at most, row 0 included: the rooms-per-page box is capped at 29.
+    static constexpr int kRows = 30;
+    static constexpr int kTicks = 12;      ///< hour ticks of the time axis, 8h00 to 19h00
+    static constexpr int kSlotLabels = 11; ///< totals under the plan, one per slot of the day
+
+    /// The controls as the window's design leaves them.
+    PlanForm();
+    PlanForm(const PlanForm&) = delete; // option buttons and events point into it
+    PlanForm& operator=(const PlanForm&) = delete;
+
+    // The window itself. Sizes are the inner ones, in twips.
+    QString caption;
+    bool visible = false;
+    int scaleWidth = 0;
+    int scaleHeight = 0;
+    Colour backColor;
+    /// Counts how often `MatchControlBackgrounds` asked for the focus to go to `Colorer`.
+    int colorerFocusRequests = 0;
+
+    // Header
+    Label XSalle; ///< "Occupation des Salles du"
+    std::array<Label, 5> Label4;
+    Label Label11; ///< period number
+    Label Lab_Ver;
+    Label Label20; ///< its font is the printer's
+    Frame ImgSql;
+    Frame ImgAccess;
+
+    // Period, mode, day
+    List CbTranche;
+    List CbJour;
+    DatePicker DTPicker1;
+    CheckBox Check2;
+    OptionGroup mode;
+    OptionButton OpEns;
+    OptionButton OpExam;
+    List Combo10;
+    Label Semn;
+    OptionGroup week;
+    OptionButton OptFixe;
+    OptionButton OptA;
+    OptionButton OptB;
+
+    // What a box shows
+    CheckBox XOpCl;
+    CheckBox XOpEns;
+    CheckBox XpMat;
+    CheckBox Chk_Type;
+    CheckBox xOpExam;
+    CheckBox Check1;
+    List Cb_Mat;
+
+    // Rooms and pages
+    List cb_Locaux;
+    CheckBox ElemDep;
+    List Combo1;
+    CheckBox Chk_Neutre;
+    TextBox Total_L_P;
+    Button Command2;
+    Button Command3;
+
+    // Appearance, counting and printing
+    CheckBox Colorer;
+    CheckBox ChkGrille;
+    CheckBox Check3;
+    CheckBox Chk_Compt;
+    Frame Frame1;
+    Button Command4;
+    Label Label5;
+    Button Command1;
+    CheckBox Opt_Cap;
+
+    // The plan
+    std::array<Label, kTicks> Label1;
+    std::vector<Label> Salle;
+    std::vector<Label> Cap;
+    std::array<Label, kSlotLabels> Tot;
+
+    /// The title as shown and printed: `XSalle` and the picked date while the picker is in use
+    /// ("dd/MM/YY"), else the day.
+    [[nodiscard]] QString title() const;
+};
+
+} // namespace form

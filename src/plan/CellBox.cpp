@@ -1,0 +1,98 @@
+#include "plan/CellBox.h"
+
+#include "plan/BoxText.h"
+#include "runtime/Numbers.h"
+
+#include <QColor>
+#include <algorithm>
+#include <cmath>
+
+namespace plan
+{
+namespace
+{
+
+using runtime::nearestInteger;
+
+QColor toColor(form::Colour color)
+{
+    return {color.red(), color.green(), color.blue()};
+}
+
+/// Relative luminance, 0 for black to 1 for white.
+double luminance(form::Colour color)
+{
+    const auto linear = [](int component) {
+        const double share = component / 255.0;
+        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
+           0.0722 * linear(color.blue());
+}
+
+} // namespace
+
+QString SanitizeCellText(const QString& text)
+{
+    QString sanitized = text;
+    for (const char16_t character : {u'[', u']', u'&'}) {
+        sanitized.replace(character, u' ');
+    }
+    return sanitized;
+}
+
+double contrastRatio(form::Colour first, form::Colour second)
+{
+    const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+form::Colour readableOn(form::Colour background)
+{
+    constexpr form::Colour black = form::Colour::fromRgb(0, 0, 0);
+    constexpr form::Colour white = form::Colour::fromRgb(255, 255, 255);
+    return contrastRatio(background, black) >= contrastRatio(background, white) ? black : white;
+}
+
+QRect boxRectangle(const DrawingTarget& target, double x, double y, double minutes, int rowHeight)
+{
+    const double height = target.toPixelsY(rowHeight);
+    const double width =
+        target.toPixelsX(target.SlotWidth * minutes / context::TimeAxis::kSlotMinutes);
+    const int left = nearestInteger(x + target.TargetXOffset);
+    const int top = nearestInteger(y);
+    return {left, top, nearestInteger(x + target.TargetXOffset + width) - left,
+            nearestInteger(y + height) - top};
+}
+
+void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& style, double x,
+                 double y, int minutes, const QString& text)
+{
+    const QRect box = boxRectangle(target, x, y, minutes, style.rowHeight);
+    if (box.width() <= 0 || box.height() <= 0) {
+        return;
+    }
+    surface.save();
+    surface.setRenderHint(QPainter::Antialiasing, false);
+    const QColor fill = toColor(style.fill);
+    const QColor ink = toColor(readableOn(style.fill));
+    surface.setPen(Qt::NoPen);
+    surface.setBrush(fill);
+    surface.drawRect(box);
+    if (style.hatched) {
+        // Light enough for the text to stay readable over it.
+        QColor hatch = ink;
+        hatch.setAlpha(64);
+        surface.setBrush(QBrush(hatch, Qt::DiagCrossPattern));
+        surface.drawRect(box);
+    }
+    surface.setBrush(Qt::NoBrush);
+    surface.setPen(QPen(QColor(60, 60, 60), 0));
+    surface.drawRect(box.adjusted(0, 0, -1, -1));
+    surface.setPen(ink);
+    const QRectF inner = QRectF(box).marginsRemoved(style.reserved + QMarginsF(3, 1, 3, 1));
+    drawBoxText(surface, inner, SanitizeCellText(text), style.textFormat);
+    surface.restore();
+}
+
+} // namespace plan

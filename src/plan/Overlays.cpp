@@ -1,0 +1,82 @@
+#include "plan/Overlays.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+
+namespace plan
+{
+namespace
+{
+
+// Design size of the absence pictures in twips; lower rows make them as high as the row.
+constexpr int kPictureSize = 480;
+// The two pictures of a box overlap a little: the left one starts 1.7 widths from the edge.
+constexpr double kClassPictureStep = 1.7;
+constexpr int kOverlayFontPixels = 10;
+// Rows lower than this hold one line, so labels stand beside the text instead of below it.
+constexpr double kOneLinePixels = 26;
+
+} // namespace
+
+QFont overlayFont()
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(kOverlayFontPixels);
+    font.setBold(true);
+    return font;
+}
+
+OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& target, int row,
+                            const PlanBox& box)
+{
+    const form::Place& room = form.Salle.at(static_cast<std::size_t>(row)).place;
+    const int rowHeight = form.Salle.front().place.height;
+    const int size = std::min(rowHeight, kPictureSize);
+    const double right = box.x + box.width;
+    const auto picture = [&](double left, double width, double height) {
+        return QRectF(target.toPixelsX(left), target.toPixelsY(room.top), target.toPixelsX(width),
+                      target.toPixelsY(height));
+    };
+    OverlayPlaces places;
+    places.YAbs = picture(right - size, size, size);
+    places.XAbs = picture(right - kClassPictureStep * size, size, size);
+    places.ZAbs = picture(box.x, box.width, rowHeight);
+    if (box.group) {
+        const QFontMetricsF metrics(overlayFont());
+        const double height = std::min(metrics.height(), places.ZAbs.height());
+        const double counter = metrics.horizontalAdvance(box.group->counter) + 6;
+        const double size2 =
+            std::min(metrics.horizontalAdvance(box.group->sizeLabel) + 6, places.ZAbs.width());
+        const double left = box.group->atRight ? places.ZAbs.right() - counter : places.ZAbs.left();
+        places.Label2 = QRectF(left, places.ZAbs.top(), counter, height);
+        places.Labelz =
+            QRectF(places.ZAbs.right() - size2, places.ZAbs.bottom() - height, size2, height);
+    }
+    return places;
+}
+
+QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& places,
+                             const PlanBox& box)
+{
+    QMarginsF reserved;
+    if (box.studentAbsent) {
+        reserved.setRight(places.YAbs.width());
+    }
+    if (box.classAbsent) {
+        reserved.setRight(places.ZAbs.right() - places.XAbs.left());
+    }
+    if (box.group && form.Check3.isChecked()) {
+        if (places.ZAbs.height() < kOneLinePixels) {
+            reserved.setLeft(box.group->atRight ? 0 : places.Label2.width());
+            reserved.setRight(std::max(reserved.right(), places.Labelz.width()));
+        } else {
+            reserved.setBottom(places.Labelz.height());
+            reserved.setLeft(box.group->atRight ? 0 : places.Label2.width());
+            reserved.setRight(
+                std::max(reserved.right(), box.group->atRight ? places.Label2.width() : 0));
+        }
+    }
+    return reserved;
+}
+
+} // namespace plan

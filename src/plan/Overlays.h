@@ -1,0 +1,36 @@
+#pragma once
+
+#include "form/PlanForm.h"
+#include "plan/DrawingTarget.h"
+#include "plan/PlanContent.h"
+
+#include <QFont>
+#include <QMarginsF>
+#include <QRectF>
+#include <QString>
+
+namespace plan
+{
+
+/// Where the small pictures and labels over one box lie, in device pixels of a target.
+struct OverlayPlaces {
+    QRectF XAbs;   ///< class-absence picture
+    QRectF YAbs;   ///< student-absence picture
+    QRectF ZAbs;   ///< click band over the whole box
+    QRectF Label2; ///< group counter; empty without one
+    QRectF Labelz; ///< number of students, or the overflow; empty without one
+};
+
+/// `row` is the row of the page the box stands in. The labels have a place whether or not
+/// "S. Groupées" shows them.
+[[nodiscard]] OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& target,
+                                          int row, const PlanBox& box);
+
+/// What the overlays that show something take from the box's text, in device pixels.
+[[nodiscard]] QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& places,
+                                           const PlanBox& box);
+
+/// The font of the two small labels.
+[[nodiscard]] QFont overlayFont();
+
+} // namespace plan

@@ -1,0 +1,62 @@
+#include "plan/PlanGrid.h"
+
+#include "plan/RoomRows.h"
+
+#include <QColor>
+
+namespace plan
+{
+namespace
+{
+
+constexpr form::Colour kSlotLine = form::Colour::fromRgb(0, 0, 180);
+constexpr form::Colour kQuarterLine = form::Colour::fromRgb(0, 180, 0);
+constexpr form::Colour kRowLine = form::Colour::fromRgb(125, 125, 125);
+
+} // namespace
+
+std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown, bool targetIsPrinter)
+{
+    if (!form.ChkGrille.isChecked() || rowsShown < 0 || rowsShown >= form::PlanForm::kRows) {
+        return {};
+    }
+    const form::Place& origin = form.Label1[0].place;
+    const int step = form.Label1[1].place.left - origin.left;
+    const form::Place& last = form.Salle[static_cast<std::size_t>(rowsShown)].place;
+    const int top = origin.top + origin.height;
+    const int bottom = last.top + last.height;
+    std::vector<GridLine> lines;
+    for (int hour = 0; hour < form::PlanForm::kTicks; ++hour) {
+        const int left = origin.left + hour * step;
+        lines.push_back({left, top, left, bottom, kSlotLine});
+        for (int quarter = 1; quarter <= 3; ++quarter) {
+            const int x = left + quarter * step / 4;
+            lines.push_back({x, top, x, bottom, kQuarterLine});
+        }
+    }
+    if (!targetIsPrinter) {
+        const int right = origin.left + form::PlanForm::kTicks * step;
+        for (int row = 0; row <= rowsShown; ++row) {
+            const form::Place& place = form.Salle[static_cast<std::size_t>(row)].place;
+            const int y = place.top + place.height + kRowGap / 2;
+            lines.push_back({origin.left, y, right, y, kRowLine});
+        }
+    }
+    return lines;
+}
+
+void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,
+                  const std::vector<GridLine>& lines)
+{
+    surface.save();
+    surface.setRenderHint(QPainter::Antialiasing, false);
+    for (const GridLine& line : lines) {
+        surface.setPen(QColor(line.color.red(), line.color.green(), line.color.blue()));
+        surface.drawLine(
+            QPointF(target.toPixelsX(line.x1) + target.TargetXOffset, target.toPixelsY(line.y1)),
+            QPointF(target.toPixelsX(line.x2) + target.TargetXOffset, target.toPixelsY(line.y2)));
+    }
+    surface.restore();
+}
+
+} // namespace plan

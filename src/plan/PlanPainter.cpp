@@ -1,0 +1,188 @@
+#include "plan/PlanPainter.h"
+
+#include "plan/AbsencePictures.h"
+#include "plan/CellBox.h"
+#include "plan/Overlays.h"
+#include "plan/PlanGrid.h"
+
+#include <QColor>
+#include <QFontMetricsF>
+#include <algorithm>
+
+namespace plan
+{
+namespace
+{
+
+constexpr int kTextPixels = 13;
+constexpr QColor kHeaderInk(40, 50, 70);
+constexpr QColor kGreyedInk(130, 130, 130);
+constexpr QColor kGreyedFill(236, 236, 236);
+constexpr QColor kOverfullFill(178, 24, 32);
+constexpr QColor kCounterFill(30, 45, 75);
+
+QColor toColor(form::Colour color)
+{
+    return {color.red(), color.green(), color.blue()};
+}
+
+} // namespace
+
+PlanPainter::PlanPainter(QPainter& surface, const PlanScene& scene)
+    : m_surface(surface), m_scene(scene)
+{
+}
+
+QFont PlanPainter::textFont(int pixels, bool bold) const
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+double PlanPainter::rowsBottom(const PlanScene& scene)
+{
+    const int last = std::clamp(scene.rowsShown, 0, form::PlanForm::kRows - 1);
+    const form::Place& place = scene.form.Salle[static_cast<std::size_t>(last)].place;
+    return scene.target.toPixelsY(place.top + place.height);
+}
+
+void PlanPainter::paintTicks()
+{
+    m_surface.save();
+    m_surface.setPen(kHeaderInk);
+    m_surface.setFont(textFont(kTextPixels, true));
+    for (const form::Label& tick : m_scene.form.Label1) {
+        const double x = m_scene.target.toPixelsX(tick.place.left);
+        const double bottom = m_scene.target.toPixelsY(tick.place.top + tick.place.height);
+        m_surface.drawLine(QPointF(x, bottom - 4), QPointF(x, bottom));
+        m_surface.drawText(QRectF(x + 2, m_scene.target.toPixelsY(tick.place.top),
+                                  m_scene.target.toPixelsX(tick.place.width), bottom),
+                           Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, tick.caption);
+    }
+    m_surface.restore();
+}
+
+void PlanPainter::paintGrid()
+{
+    DrawPlanGrid(m_surface, m_scene.target,
+                 planGridLines(m_scene.form, m_scene.rowsShown, m_scene.target.TargetIsPrinter));
+}
+
+void PlanPainter::paintBoxes()
+{
+    m_surface.save();
+    m_surface.setFont(textFont(kTextPixels));
+    for (const PlanRow& row : m_scene.content.rows) {
+        // A row that the page has no room for stays out of sight with its label.
+        if (m_scene.form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
+            for (const PlanBox& box : row.boxes) {
+                paintBox(row, box);
+            }
+        }
+    }
+    m_surface.restore();
+}
+
+void PlanPainter::paintBox(const PlanRow& row, const PlanBox& box)
+{
+    const form::Place& room = m_scene.form.Salle[static_cast<std::size_t>(row.index)].place;
+    const OverlayPlaces places = overlayPlaces(m_scene.form, m_scene.target, row.index, box);
+    BoxStyle style;
+    style.fill = row.color;
+    style.hatched = box.makeUp;
+    style.rowHeight = m_scene.form.Salle.front().place.height;
+    style.textFormat = m_scene.layout.CellTextFormat;
+    style.reserved = reservedByOverlays(m_scene.form, places, box);
+    DrawCellBox(m_surface, m_scene.target, style, m_scene.target.toPixelsX(box.x),
+                m_scene.target.toPixelsY(room.top), box.minutes, box.cell.CellText);
+    paintOverlays(row.index, box);
+}
+
+void PlanPainter::paintOverlays(int row, const PlanBox& box)
+{
+    const OverlayPlaces places = overlayPlaces(m_scene.form, m_scene.target, row, box);
+    if (box.classAbsent) {
+        paintClassAbsent(m_surface, places.XAbs);
+    }
+    if (box.studentAbsent) {
+        paintStudentAbsent(m_surface, places.YAbs);
+    }
+    if (!box.group || !m_scene.form.Check3.isChecked()) {
+        return;
+    }
+    m_surface.save();
+    m_surface.setFont(overlayFont());
+    const auto label = [this](const QRectF& place, const QColor& fill, const QString& text) {
+        m_surface.fillRect(place, fill);
+        m_surface.setPen(Qt::white);
+        const QFontMetricsF metrics(m_surface.font());
+        m_surface.drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
+                           metrics.elidedText(text, Qt::ElideRight, place.width()));
+    };
+    label(places.Label2, kCounterFill, box.group->counter);
+    label(places.Labelz, box.group->overfull ? kOverfullFill : kCounterFill, box.group->sizeLabel);
+    m_surface.restore();
+}
+
+void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::Alignment alignment)
+{
+    const QRectF place(
+        m_scene.target.toPixelsX(label.place.left), m_scene.target.toPixelsY(label.place.top),
+        m_scene.target.toPixelsX(label.place.width), m_scene.target.toPixelsY(label.place.height));
+    // Row 0 is the room before the first drawn one: greyed, so that nobody takes it for free.
+    m_surface.fillRect(place, isRowZero ? kGreyedFill : toColor(label.backColor));
+    m_surface.setPen(isRowZero ? kGreyedInk : toColor(readableOn(label.backColor)));
+    QFont font = textFont(std::clamp(static_cast<int>(place.height()) - 1, 9, kTextPixels));
+    font.setItalic(isRowZero);
+    font.setBold(!isRowZero);
+    m_surface.setFont(font);
+    const QRectF inner = place.marginsRemoved(QMarginsF(5, 0, 5, 0));
+    m_surface.drawText(
+        inner, alignment | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+        QFontMetricsF(font).elidedText(label.caption, Qt::ElideRight, inner.width()));
+}
+
+void PlanPainter::paintRoomLabels()
+{
+    m_surface.save();
+    for (std::size_t row = 0; row < m_scene.form.Salle.size(); ++row) {
+        if (m_scene.form.Salle[row].visible) {
+            paintRowLabel(m_scene.form.Salle[row], row == 0, Qt::AlignLeft);
+        }
+    }
+    m_surface.restore();
+}
+
+void PlanPainter::paintPlaces()
+{
+    m_surface.save();
+    for (std::size_t row = 0; row < m_scene.form.Cap.size(); ++row) {
+        if (m_scene.form.Cap[row].visible) {
+            paintRowLabel(m_scene.form.Cap[row], row == 0, Qt::AlignRight);
+        }
+    }
+    m_surface.restore();
+}
+
+void PlanPainter::paintTotals()
+{
+    m_surface.save();
+    m_surface.setFont(textFont(kTextPixels, true));
+    for (const form::Label& total : m_scene.form.Tot) {
+        if (total.visible) {
+            const QRectF place(m_scene.target.toPixelsX(total.place.left), 0,
+                               m_scene.target.toPixelsX(total.place.width),
+                               m_scene.target.toPixelsY(total.place.height));
+            m_surface.setPen(QPen(kHeaderInk, 0));
+            m_surface.setBrush(Qt::white);
+            m_surface.drawRect(place.adjusted(0.5, 0.5, -1.5, -0.5));
+            m_surface.drawText(place, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                               total.caption);
+        }
+    }
+    m_surface.restore();
+}
+
+} // namespace plan

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "form/PlanForm.h"
+#include "plan/DrawingTarget.h"
+#include "plan/PlanContent.h"
+#include "plan/RoomOccupancy.h"
+
+#include <QFont>
+#include <QPainter>
+
+namespace plan
+{
+
+/// What is drawn, and how twips turn into pixels on the way.
+struct PlanScene {
+    const form::PlanForm& form;
+    const PlanContent& content;
+    const CellLayout& layout;
+    DrawingTarget target;
+    int rowsShown = 0;
+    int axisEnd = 0; ///< twips from the window's left edge to the end of the time axis
+};
+
+/// Draws the plan, band by band, in device pixels from the window's inner top left corner. A
+/// scrolling view moves and clips the painter; nothing here loads, waits or remembers.
+class PlanPainter
+{
+public:
+    PlanPainter(QPainter& surface, const PlanScene& scene);
+
+    void paintTicks();
+    void paintGrid();
+    void paintBoxes();
+    void paintRoomLabels();
+    void paintPlaces();
+    void paintTotals();
+
+    /// Bottom of the last row that is shown, in device pixels.
+    [[nodiscard]] static double rowsBottom(const PlanScene& scene);
+
+private:
+    void paintBox(const PlanRow& row, const PlanBox& box);
+    void paintOverlays(int row, const PlanBox& box);
+    void paintRowLabel(const form::Label& label, bool isRowZero, Qt::Alignment alignment);
+    [[nodiscard]] QFont textFont(int pixels, bool bold = false) const;
+
+    QPainter& m_surface;
+    const PlanScene& m_scene;
+};
+
+} // namespace plan

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "db/SqlDialect.h"
+
+#include <QDate>
+#include <QString>
+
+namespace plan
+{
+
+/// "What occupies this room in this slot?", as one query on one of the three timetable tables.
+struct RoomQuestion {
+    enum class Table {
+        emplois, ///< the weekly timetable
+        ratrap,  ///< make-up classes of a date
+        examen,  ///< exams of an exam week
+    };
+
+    Table table = Table::emplois;
+    QString room;
+    QString seanceKey;
+    QString tranche;  ///< period number
+    QString examWeek; ///< number of the exam week, exams only
+    QDate date;       ///< make-ups only
+
+    /// The condition on the room. A course can hold six rooms, an exam only `Salle`; without a
+    /// room name the short form serves everywhere.
+    [[nodiscard]] QString roomCondition() const;
+    /// The whole statement. No order is asked for: the database's first row decides the box.
+    [[nodiscard]] QString sql(const db::SqlDialect& dialect) const;
+};
+
+} // namespace plan

@@ -1,0 +1,28 @@
+#include "plan/RoomRows.h"
+
+namespace plan
+{
+namespace
+{
+
+// Twips between the places and the window's right inner edge.
+constexpr int kPlacesMargin = 250;
+
+} // namespace
+
+void PlaceRoomRows(form::PlanForm& form)
+{
+    const form::Place model = form.Salle.front().place;
+    for (std::size_t row = 0; row < form.Salle.size(); ++row) {
+        form::Place& room = form.Salle[row].place;
+        room.top = model.top + static_cast<int>(row) * (model.height + kRowGap);
+        room.left = model.left;
+        room.height = model.height;
+        form::Place& places = form.Cap[row].place;
+        places.top = room.top;
+        places.left = form.scaleWidth - places.width - kPlacesMargin;
+        places.height = room.height;
+    }
+}
+
+} // namespace plan

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "db/Recordset.h"
+#include "plan/RoomQuestion.h"
+
+#include <QString>
+
+namespace plan
+{
+
+/// Who answers the plan's questions about timetable rows and class sizes. Which rows match is
+/// always left to the database.
+class RowSource
+{
+public:
+    virtual ~RowSource() = default;
+
+    /// The timetable rows of a room in a slot, in the database's own order.
+    /// Error: any database error.
+    [[nodiscard]] virtual db::Recordset timetableRows(const RoomQuestion& question) = 0;
+    /// How many students are registered in the class. Error: any database error.
+    [[nodiscard]] virtual int studentRows(const QString& className) = 0;
+    /// The rows that describe the class. Error: any database error.
+    [[nodiscard]] virtual db::Recordset classRows(const QString& className) = 0;
+};
+
+} // namespace plan
