@@ -1,0 +1,165 @@
+#include "absences/AbsenceRecords.h"
+
+#include "runtime/RunTimeError.h"
+#include "runtime/TimeOfDay.h"
+
+#include <cstdint>
+
+namespace absences
+{
+namespace
+{
+
+using db::Value;
+using plan::Marqueur;
+
+// Students are identified by at most this many characters of their name.
+constexpr int kIdentLength = 15;
+
+Value number(std::int64_t value)
+{
+    return Value(value);
+}
+
+/// Which record is at fault, for the user.
+QString recordName(const QString& kind, const Marqueur& marker, const QString& className)
+{
+    return kind + QStringLiteral(" de la classe « ") + className + QStringLiteral(" » (") +
+           marker.Jour.toString(QStringLiteral("dd/MM/yyyy")) + QStringLiteral(", ") +
+           marker.Debut + QStringLiteral(", salle ") + marker.Salle + u')';
+}
+
+QString classRecordName(const Marqueur& marker, const QString& className)
+{
+    return recordName(QStringLiteral("l’absence"), marker, className);
+}
+
+QString studentRecordName(const Marqueur& marker, const QString& className)
+{
+    return recordName(QStringLiteral("l’absence d’étudiants"), marker, className);
+}
+
+/// What was being done when a search or a removal failed: the two are one step.
+QString removal(const QString& record)
+{
+    return QStringLiteral("Recherche ou retrait de ") + record;
+}
+
+QString addition(const QString& record)
+{
+    return QStringLiteral("Enregistrement de ") + record;
+}
+
+} // namespace
+
+QString endTime(const QString& start, int minutes)
+{
+    constexpr int kMinutesOfDay = 24 * 60;
+    const int startMinutes = runtime::secondsOfDay(runtime::normaliseTimeText(start)) / 60;
+    // Added twice: the remainder of a negative number is negative.
+    const int end = ((startMinutes + minutes) % kMinutesOfDay + kMinutesOfDay) % kMinutesOfDay;
+    return QStringLiteral("%1:%2")
+        .arg(end / 60, 2, 10, QChar(u'0'))
+        .arg(end % 60, 2, 10, QChar(u'0'));
+}
+
+QString AbsenceRecords::classSearch(const Marqueur& marker, const QString& className) const
+{
+    return QStringLiteral(" Select * from abscence Where Classe='") + className +
+           QStringLiteral("' and Datex=") + m_database.dialect().dateLiteral(marker.Jour) +
+           QStringLiteral(" and Debut='") + marker.Debut + u'\'';
+}
+
+QString AbsenceRecords::studentSearch(const Marqueur& marker, const QString& className,
+                                      const QString& nameCondition) const
+{
+    return QStringLiteral(" Select * from etud_abs Where Classe='") + className + nameCondition +
+           QStringLiteral("' and Jour=") + m_database.dialect().dateLiteral(marker.Jour) +
+           QStringLiteral(" and HeureD='") + marker.Debut + u'\'';
+}
+
+bool AbsenceRecords::exists(const QString& search)
+{
+    return !m_database.Db().open(search).isEmpty();
+}
+
+bool AbsenceRecords::Existe_AbsClasse(const Marqueur& marker, const QString& className)
+{
+    return exists(classSearch(marker, className));
+}
+
+bool AbsenceRecords::Existe_AbsEtud(const Marqueur& marker, const QString& className,
+                                    const QString& name)
+{
+    return exists(studentSearch(marker, className, QStringLiteral("' and Nom='") + name));
+}
+
+void AbsenceRecords::Basculer_AbsClasse(Marqueur& marker, const QString& className)
+{
+    const QString record = classRecordName(marker, className);
+    const bool removed = runtime::during(removal(record), [&] {
+        return m_database.Db().deleteFirst(classSearch(marker, className));
+    });
+    if (!removed) {
+        runtime::during(addition(record), [&] { addClass(marker, className); });
+    }
+    marker.AbsClasse = !removed;
+}
+
+void AbsenceRecords::addClass(const Marqueur& marker, const QString& className)
+{
+    // The séance types that the lookup does not keep are 0.
+    m_database.Db().insert(
+        QStringLiteral("abscence"),
+        {{QStringLiteral("Classe"), Value(className)},
+         {QStringLiteral("Seance"), Value(marker.Seance)},
+         {QStringLiteral("Tranche"), number(marker.Tranche)},
+         {QStringLiteral("matière"), Value(marker.Matiere)},
+         {QStringLiteral("Salle"), Value(marker.Salle)},
+         {QStringLiteral("Enseignant1"), Value(marker.Enseignant1)},
+         {QStringLiteral("newnature"), Value(marker.newnature)},
+         {QStringLiteral("TypeS1"), number(marker.TypeS1)},
+         {QStringLiteral("TypeS2"), number(0)},
+         {QStringLiteral("TypeS3"), number(0)},
+         {QStringLiteral("TypeS1B"), number(0)},
+         {QStringLiteral("TypeS2B"), number(0)},
+         {QStringLiteral("TypeS3B"), number(marker.TypeS3B)},
+         {QStringLiteral("Durée"), number(marker.Duree)},
+         {QStringLiteral("Commune"), Value(marker.Commune)},
+         {QStringLiteral("Debut"), Value(marker.Debut)},
+         {QStringLiteral("Datex"), Value(m_database.dialect().dateText(marker.Jour))},
+         {QStringLiteral("Choix"), number(marker.Choix)}});
+}
+
+void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className,
+                                      const QString& name)
+{
+    const QString record = studentRecordName(marker, className);
+    const bool removed = runtime::during(removal(record), [&] {
+        // Two blanks before "and", where the test has one: both find the same rows.
+        return m_database.Db().deleteFirst(
+            studentSearch(marker, className, QStringLiteral("'  and Nom='") + name));
+    });
+    if (!removed) {
+        runtime::during(addition(record), [&] { addStudent(marker, className, name); });
+    }
+    marker.AbsEtud = !removed;
+}
+
+void AbsenceRecords::addStudent(const Marqueur& marker, const QString& className,
+                                const QString& name)
+{
+    m_database.Db().insert(
+        QStringLiteral("etud_abs"),
+        {{QStringLiteral("Classe"), Value(className)},
+         {QStringLiteral("Nom"), Value(name)},
+         {QStringLiteral("Seance"), Value(marker.Seance)},
+         {QStringLiteral("Tranche"), number(marker.Tranche)},
+         {QStringLiteral("matière"), Value(marker.Matiere)},
+         {QStringLiteral("HeureD"), Value(marker.Debut)},
+         {QStringLiteral("HeureF"), Value(endTime(marker.Debut, marker.Duree))},
+         {QStringLiteral("Jour"), Value(m_database.dialect().dateText(marker.Jour))},
+         {QStringLiteral("Ident"), Value(name.left(kIdentLength))}});
+}
+
+} // namespace absences

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "db/Database.h"
+#include "plan/AbsenceTests.h"
+#include "plan/Marqueur.h"
+
+#include <QString>
+
+namespace absences
+{
+
+/// The two tables of absences, the only ones that the program writes: `abscence` holds the classes
+/// that were absent, `etud_abs` the students. A record is about one séance, found again by class,
+/// date and start time (and by name in `etud_abs`).
+///
+/// Values stand between single quotes as they are: a class name that holds an apostrophe is refused
+/// by the database, and nothing is written.
+class AbsenceRecords : public plan::AbsenceTests
+{
+public:
+    /// `database` outlives the records.
+    explicit AbsenceRecords(db::Database& database) : m_database(database) {}
+
+    [[nodiscard]] bool Existe_AbsClasse(const plan::Marqueur& marker,
+                                        const QString& className) override;
+    [[nodiscard]] bool Existe_AbsEtud(const plan::Marqueur& marker, const QString& className,
+                                      const QString& name) override;
+
+    /// Removes the class's record of this séance, or adds one when there is none, and notes in
+    /// `marker.AbsClasse` whether it added one. Of several records the first found is removed.
+    /// Error: any database error; then the table holds the whole record or nothing of it.
+    void Basculer_AbsClasse(plan::Marqueur& marker, const QString& className);
+
+    /// The same in the table of students, noted in `marker.AbsEtud`.
+    /// Errors: TypeMismatch for a record to be added when the séance's start is no time of day,
+    /// with nothing written; any database error as above.
+    void Basculer_AbsEtud(plan::Marqueur& marker, const QString& className, const QString& name);
+
+private:
+    [[nodiscard]] bool exists(const QString& search);
+    [[nodiscard]] QString classSearch(const plan::Marqueur& marker, const QString& className) const;
+    [[nodiscard]] QString studentSearch(const plan::Marqueur& marker, const QString& className,
+                                        const QString& nameCondition) const;
+    void addClass(const plan::Marqueur& marker, const QString& className);
+    void addStudent(const plan::Marqueur& marker, const QString& className, const QString& name);
+
+    db::Database& m_database;
+};
+
+/// Time of day at which a séance ends, as "hh:mm"; past midnight it starts from 00:00 again.
+/// Error: TypeMismatch when `start` is no time of day.
+[[nodiscard]] QString endTime(const QString& start, int minutes);
+
+} // namespace absences
