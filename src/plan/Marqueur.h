@@ -32,4 +32,7 @@ struct Marqueur {
 /// The class that decides a box's markers: the first of the list, trimmed.
 [[nodiscard]] QString firstClass(const QString& classes);
 
+/// The tooltip of `YAbs` over a box whose student absence is recorded.
+[[nodiscard]] QString studentAbsentToolTip(const Marqueur& marker);
+
 } // namespace plan

@@ -37,6 +37,11 @@ QString firstClass(const QString& classes)
     return runtime::trimBlanks(classes.left(classes.indexOf(u'\t')));
 }
 
+QString studentAbsentToolTip(const Marqueur& marker)
+{
+    return marker.Classes + QStringLiteral(" Absent");
+}
+
 PlanRefresh::PlanRefresh(RefreshContext context, std::function<void()> yield)
     : m_c(context), m_yield(std::move(yield))
 {
@@ -191,7 +196,7 @@ void PlanRefresh::testAbsences(PlanBox& box)
     runtime::skipOnError(
         [&] { box.studentAbsent = m_c.absences.Existe_AbsEtud(record, className, className); });
     if (box.studentAbsent) {
-        box.absentToolTip = record.Classes + QStringLiteral(" Absent");
+        box.absentToolTip = studentAbsentToolTip(record);
     }
 }
 

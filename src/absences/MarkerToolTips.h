@@ -1,0 +1,18 @@
+#pragma once
+
+#include "plan/PlanContent.h"
+
+#include <QString>
+
+namespace absences
+{
+
+/// Tooltip of `XAbs`, the class-absence picture: whether the class is absent, then the gestures.
+/// Plain text of several lines, like that of the band.
+[[nodiscard]] QString XAbsToolTip(const plan::PlanBox& box);
+
+/// Tooltip of `ZAbs`, the band over the whole box: what a click with Shift or Ctrl does there. With
+/// several classes each is toggled by itself, so only the key is told and not the outcome.
+[[nodiscard]] QString ZAbsToolTip(const plan::PlanBox& box);
+
+} // namespace absences
