@@ -16,8 +16,11 @@ class Database
 {
 public:
     /// `useMySql` is the setting "Mysql".
-    explicit Database(bool useMySql) : m_dialect(useMySql) {}
+    explicit Database(bool useMySql = false) : m_dialect(useMySql) {}
 
+    /// Chooses the database kind, before the connection is opened.
+    void setUseMySql(bool useMySql) { m_dialect = SqlDialect(useMySql); }
+    /// Error: DatabaseFailure.
     void open(const QString& connectString) { m_connection.emplace(connectString); }
     void close() { m_connection.reset(); }
 

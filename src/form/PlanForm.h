@@ -32,6 +32,8 @@ public:
     Colour backColor;
     /// Counts how often `MatchControlBackgrounds` asked for the focus to go to `Colorer`.
     int colorerFocusRequests = 0;
+    /// Counts how often all controls were asked to take the font of `Label20`.
+    int fontRequests = 0;
 
     // Header
     Label XSalle; ///< "Occupation des Salles du"

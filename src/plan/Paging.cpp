@@ -47,9 +47,11 @@ void Paging::Total_L_P_Change()
 void Paging::recomputePages()
 {
     PlaceRoomRows(m_form);
-    // One step forward and one step back.
-    Command3_Click();
-    Command2_Click();
+    if (m_form.visible) { // before that there are neither rooms nor pages
+        // One step forward and one step back.
+        Command3_Click();
+        Command2_Click();
+    }
 }
 
 void Paging::Command3_Click()

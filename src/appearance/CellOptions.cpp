@@ -1,0 +1,104 @@
+#include "appearance/CellOptions.h"
+
+#include "runtime/Numbers.h"
+
+namespace appearance
+{
+namespace
+{
+
+// Pages of fewer rooms than this have rows high enough for several lines.
+constexpr double kManyRooms = 20;
+constexpr double kMostRooms = 29;
+// From this many rooms on a box text is centred, whatever it shows.
+constexpr double kCentredFrom = 19;
+
+// Row heights in twips: for one, two and three parts in a box, and on pages of many rooms.
+constexpr int kOneLineHeight = 300;
+constexpr int kTwoLinesHeight = 400;
+constexpr int kThreeLinesHeight = 700;
+constexpr int kManyRoomsHeight = 200;
+
+double roomsPerPage(const form::PlanForm& form)
+{
+    return runtime::leadingNumber(form.Total_L_P.text());
+}
+
+int heightFor(int lines)
+{
+    switch (lines) {
+    case 3:
+        return kThreeLinesHeight;
+    case 2:
+        return kTwoLinesHeight;
+    default:
+        return kOneLineHeight;
+    }
+}
+
+void hideRowsBeyond(form::PlanForm& form, double lastRow)
+{
+    for (std::size_t row = 0; row < form.Salle.size(); ++row) {
+        if (static_cast<double>(row) > lastRow) {
+            form.Salle[row].visible = false;
+            form.Cap[row].visible = false;
+        }
+    }
+}
+
+} // namespace
+
+void Adapter_Cellules(form::PlanForm& form, plan::CellLayout& layout)
+{
+    layout.displayStyle = (form.XpMat.isChecked() ? 1 : 0) + (form.XOpEns.isChecked() ? 1 : 0) +
+                          (form.XOpCl.isChecked() ? 1 : 0);
+    if (roomsPerPage(form) < kManyRooms) {
+        form.Salle.front().place.height = heightFor(layout.displayStyle);
+        layout.CellSeparator = QStringLiteral("\r\n");
+    } else {
+        if (roomsPerPage(form) > kMostRooms) {
+            form.Total_L_P.setText(QStringLiteral("29"));
+        }
+        form.Salle.front().place.height = kManyRoomsHeight;
+        layout.CellSeparator.clear();
+    }
+    layout.CellTextFormat = layout.displayStyle >= 2 && roomsPerPage(form) < kCentredFrom
+                                ? plan::CellLayout::kWordBreak
+                                : plan::CellLayout::kCentredLines;
+    hideRowsBeyond(form, roomsPerPage(form));
+}
+
+CellOptions::CellOptions(form::PlanForm& form, plan::CellLayout& layout, plan::Paging& paging,
+                         plan::PlanRefresh& refresh)
+    : m_form(form), m_layout(layout), m_paging(paging), m_refresh(refresh)
+{
+}
+
+void CellOptions::Appliquer_Options()
+{
+    Adapter_Cellules(m_form, m_layout);
+    m_paging.recomputePages();
+}
+
+void CellOptions::applyAndRefresh()
+{
+    Appliquer_Options();
+    m_refresh.RefreshPlan();
+}
+
+void CellOptions::XOpCl_Click()
+{
+    applyAndRefresh();
+}
+
+void CellOptions::XOpEns_Click()
+{
+    applyAndRefresh();
+}
+
+void CellOptions::XpMat_Click()
+{
+    applyAndRefresh();
+}
+
+} // namespace appearance

@@ -1,0 +1,250 @@
+#include "shell/CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <vector>
+
+namespace shell
+{
+namespace
+{
+
+/// One option as the parser and --help know it.
+struct OptionText {
+    const char* name;
+    const char* value;   ///< what it accepts; null for a switch
+    const char* meaning; ///< in French
+};
+
+const std::vector<OptionText>& optionTexts()
+{
+    static const std::vector<OptionText> texts = {
+        {"export", "FICHIER.json|FICHIER.png", "écrit le plan dans un fichier, sans fenêtre"},
+        {"settings", "FICHIER.ini", "remplace les paramètres de l’utilisateur pour cette fois"},
+        {"tranche", "NOM", "période affichée"},
+        {"mode", "teaching|exam", "enseignement ou examens"},
+        {"exam-week", "1|2|3", "semaine d’examen (avec --mode exam)"},
+        {"week", "all|A|B", "toute semaine, semaine A ou semaine B"},
+        {"zone", "0..9", "zone des salles ; 0 pour toutes"},
+        {"department", "ID", "ajoute les salles de ce département"},
+        {"neutral", nullptr, "ajoute les salles sans département (avec --department)"},
+        {"rooms-per-page", "N", "salles par page, 1 à 29"},
+        {"show", "class,teacher,subject,type,invigilator", "ce que montrent les cases, exactement"},
+        {"subject", "NOM", "ne montre que cette matière"},
+        {"makeup", nullptr, "coche « Date » : montre aussi les rattrapages"},
+        {"counting", nullptr, "coche « Comptage »"},
+        {"day", "0..5", "jour de la semaine ; 0 pour lundi"},
+        {"date", "AAAA-MM-JJ", "date affichée"},
+        {"page", "N", "page affichée, à partir de 1"},
+        {"seed", "N", "fixe les couleurs tirées au hasard"},
+        {"help", nullptr, "affiche cette aide"},
+        {"version", nullptr, "affiche la version"},
+    };
+    return texts;
+}
+
+[[noreturn]] void fail(const QString& option, const QString& problem)
+{
+    for (const OptionText& text : optionTexts()) {
+        if (text.value != nullptr && option == QLatin1String(text.name)) {
+            throw UsageError(QStringLiteral("--%1 : %2 ; valeurs acceptées : %3")
+                                 .arg(option, problem, QString::fromUtf8(text.value)));
+        }
+    }
+    throw UsageError(QStringLiteral("--%1 : %2").arg(option, problem));
+}
+
+/// The parser's own complaint in one line that names the option and what it accepts.
+[[noreturn]] void failToParse(const QCommandLineParser& parser, const QStringList& arguments)
+{
+    if (!parser.unknownOptionNames().isEmpty()) {
+        throw UsageError(QStringLiteral("Option inconnue : --%1 ; options acceptées : voir --help")
+                             .arg(parser.unknownOptionNames().constFirst()));
+    }
+    QString last = arguments.constLast();
+    if (last.startsWith(u"--")) {
+        fail(last.mid(2), QStringLiteral("il manque une valeur"));
+    }
+    const QString name = last.section(u'=', 0, 0).remove(u'-');
+    throw UsageError(QStringLiteral("Arguments incorrects (%1) ; voir --help")
+                         .arg(name.isEmpty() ? parser.errorText() : last));
+}
+
+class Reader
+{
+public:
+    explicit Reader(const QStringList& arguments)
+    {
+        m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+        for (const OptionText& text : optionTexts()) {
+            QCommandLineOption option(QString::fromLatin1(text.name));
+            if (text.value != nullptr) {
+                option.setValueName(QString::fromUtf8(text.value));
+            }
+            m_parser.addOption(option);
+        }
+        if (!m_parser.parse(arguments)) {
+            failToParse(m_parser, arguments);
+        }
+        if (!m_parser.positionalArguments().isEmpty()) {
+            throw UsageError(QStringLiteral("Argument inattendu : « %1 » ; voir --help")
+                                 .arg(m_parser.positionalArguments().constFirst()));
+        }
+    }
+
+    [[nodiscard]] bool has(const char* name) const
+    {
+        return m_parser.isSet(QString::fromLatin1(name));
+    }
+    [[nodiscard]] QString text(const char* name) const
+    {
+        return m_parser.value(QString::fromLatin1(name));
+    }
+    [[nodiscard]] std::optional<QString> optionalText(const char* name) const
+    {
+        return has(name) ? std::optional(text(name)) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<int> number(const char* name, int least, int most) const
+    {
+        if (!has(name)) {
+            return std::nullopt;
+        }
+        bool ok = false;
+        const int value = text(name).toInt(&ok);
+        if (!ok || value < least || value > most) {
+            failWithValue(name);
+        }
+        return value;
+    }
+    /// Position of the value in the list of words that the option accepts.
+    [[nodiscard]] std::optional<int> word(const char* name, const QStringList& words) const
+    {
+        if (!has(name)) {
+            return std::nullopt;
+        }
+        const auto index = static_cast<int>(words.indexOf(text(name)));
+        if (index < 0) {
+            failWithValue(name);
+        }
+        return index;
+    }
+    [[noreturn]] void failWithValue(const char* name) const
+    {
+        fail(QString::fromLatin1(name), QStringLiteral("valeur « %1 » refusée").arg(text(name)));
+    }
+
+private:
+    QCommandLineParser m_parser;
+};
+
+std::optional<CommandLine::Shown> readShown(const Reader& reader)
+{
+    if (!reader.has("show")) {
+        return std::nullopt;
+    }
+    CommandLine::Shown shown;
+    for (const QString& word : reader.text("show").split(u',', Qt::SkipEmptyParts)) {
+        if (word == u"class") {
+            shown.cls = true;
+        } else if (word == u"teacher") {
+            shown.teacher = true;
+        } else if (word == u"subject") {
+            shown.subject = true;
+        } else if (word == u"type") {
+            shown.type = true;
+        } else if (word == u"invigilator") {
+            shown.invigilator = true;
+        } else {
+            reader.failWithValue("show");
+        }
+    }
+    return shown;
+}
+
+void readFiles(const Reader& reader, CommandLine& line)
+{
+    line.exportFile = reader.text("export");
+    if (reader.has("export")) {
+        const QString suffix = QFileInfo(line.exportFile).suffix().toLower();
+        if (suffix != u"json" && suffix != u"png") {
+            reader.failWithValue("export");
+        }
+    }
+    line.settingsFile = reader.text("settings");
+    if (reader.has("settings") && !QFileInfo(line.settingsFile).isFile()) {
+        fail(QStringLiteral("settings"),
+             QStringLiteral("le fichier « %1 » n’existe pas").arg(line.settingsFile));
+    }
+}
+
+void readDay(const Reader& reader, CommandLine& line)
+{
+    line.day = reader.number("day", 0, 5);
+    if (reader.has("date")) {
+        line.date = QDate::fromString(reader.text("date"), Qt::ISODate);
+        if (!line.date->isValid()) {
+            reader.failWithValue("date");
+        }
+        if (line.day) {
+            fail(QStringLiteral("date"), QStringLiteral("ne va pas avec --day"));
+        }
+    }
+}
+
+} // namespace
+
+CommandLine CommandLine::parse(const QStringList& arguments)
+{
+    const Reader reader(arguments);
+    CommandLine line;
+    line.help = reader.has("help");
+    line.version = reader.has("version");
+    readFiles(reader, line);
+    line.tranche = reader.optionalText("tranche");
+    if (const auto mode =
+            reader.word("mode", {QStringLiteral("teaching"), QStringLiteral("exam")})) {
+        line.mode = static_cast<Mode>(*mode);
+    }
+    line.examWeek = reader.number("exam-week", 1, 3);
+    if (line.examWeek && line.mode != Mode::Exam) {
+        fail(QStringLiteral("exam-week"), QStringLiteral("demande --mode exam"));
+    }
+    if (const auto week = reader.word(
+            "week", {QStringLiteral("all"), QStringLiteral("A"), QStringLiteral("B")})) {
+        line.week = static_cast<Week>(*week);
+    }
+    line.zone = reader.number("zone", 0, 9);
+    line.department = reader.optionalText("department");
+    line.neutral = reader.has("neutral");
+    if (line.neutral && !line.department) {
+        fail(QStringLiteral("neutral"), QStringLiteral("demande --department"));
+    }
+    line.roomsPerPage = reader.number("rooms-per-page", 1, 29);
+    line.show = readShown(reader);
+    line.subject = reader.optionalText("subject");
+    line.makeup = reader.has("makeup");
+    line.counting = reader.has("counting");
+    readDay(reader, line);
+    line.page = reader.number("page", 1, 9999).value_or(1);
+    if (const auto seed = reader.number("seed", 0, std::numeric_limits<int>::max())) {
+        line.seed = static_cast<std::uint32_t>(*seed);
+    }
+    return line;
+}
+
+QString CommandLine::helpText()
+{
+    QString text = QStringLiteral("Usage : tempora [options]\n"
+                                  "Planning des classes : quelle salle est prise, par qui.\n"
+                                  "Sans --export, les options s’appliquent à la fenêtre.\n\n");
+    for (const OptionText& option : optionTexts()) {
+        QString left = QStringLiteral("  --") + QString::fromLatin1(option.name);
+        if (option.value != nullptr) {
+            left += u' ' + QString::fromUtf8(option.value);
+        }
+        text += left.leftJustified(48) + u' ' + QString::fromUtf8(option.meaning) + u'\n';
+    }
+    return text;
+}
+
+} // namespace shell

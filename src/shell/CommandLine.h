@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+
+namespace shell
+{
+
+/// A mistake on the command line: one line, in French, that names the option and what it accepts.
+class UsageError : public std::runtime_error
+{
+public:
+    explicit UsageError(const QString& message) : std::runtime_error(message.toStdString()) {}
+};
+
+/// What the command line asks for. An option that was not given is nothing and plays no event.
+struct CommandLine {
+    enum class Mode { Teaching, Exam };
+    enum class Week { All, A, B };
+
+    /// The display options that are ticked, exactly.
+    struct Shown {
+        bool cls = false;
+        bool teacher = false;
+        bool subject = false;
+        bool type = false;
+        bool invigilator = false;
+    };
+
+    bool help = false;
+    bool version = false;
+    QString exportFile;
+    QString settingsFile;
+    std::optional<std::uint32_t> seed;
+    std::optional<QString> tranche;
+    std::optional<Mode> mode;
+    std::optional<int> examWeek; ///< 1 to 3
+    std::optional<Week> week;
+    std::optional<int> zone; ///< 0 to 9
+    std::optional<QString> department;
+    bool neutral = false;
+    std::optional<int> roomsPerPage;
+    std::optional<Shown> show;
+    std::optional<QString> subject;
+    bool makeup = false;
+    bool counting = false;
+    std::optional<int> day; ///< 0 for Monday to 5 for Saturday
+    std::optional<QDate> date;
+    int page = 1;
+
+    /// `arguments` starts with the program's name. Error: UsageError.
+    [[nodiscard]] static CommandLine parse(const QStringList& arguments);
+    /// The text of --help.
+    [[nodiscard]] static QString helpText();
+};
+
+} // namespace shell

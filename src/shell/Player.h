@@ -1,0 +1,16 @@
+#pragma once
+
+#include "shell/CommandLine.h"
+#include "shell/Shell.h"
+
+namespace shell
+{
+
+/// Plays on the started program the events of a user who makes the choices of the command line:
+/// period, mode, exam week, display options, week kind, make-up, subject filter, rooms per page,
+/// room filter, counting, day or date, pages.
+/// Errors: UsageError for a period, department or subject that the database does not have;
+/// runtime::RunTimeError of the handlers.
+void play(Shell& shell, const CommandLine& line);
+
+} // namespace shell

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "absences/AbsenceRecords.h"
+#include "appearance/CellOptions.h"
+#include "context/Establishment.h"
+#include "context/Periods.h"
+#include "context/PlanActions.h"
+#include "context/RoomSet.h"
+#include "context/TimeSlots.h"
+#include "db/Database.h"
+#include "form/PlanForm.h"
+#include "plan/Paging.h"
+#include "plan/PlainRowSource.h"
+#include "plan/PlanOptions.h"
+#include "plan/PlanPainter.h"
+#include "plan/PlanRefresh.h"
+#include "plan/SubjectFilter.h"
+#include "runtime/RandomSource.h"
+#include "shell/Settings.h"
+
+#include <QDate>
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace shell
+{
+
+/// What the program finds around it. Tests and the command line give their own.
+struct Environment {
+    /// Folder that holds the executable, `app_data` and `Styles`.
+    QString applicationFolder;
+    std::function<QDate()> today = [] { return QDate::currentDate(); };
+    /// Fixes the random row colours.
+    std::optional<std::uint32_t> seed;
+    /// Lets waiting events run in the middle of a refresh.
+    std::function<void()> processEvents = [] {};
+    /// Shows a message box with an OK button.
+    std::function<void(const QString& title, const QString& text)> showMessage =
+        [](const QString&, const QString&) {};
+};
+
+/// The program without its window: builds all the parts, ties the controls' events to their
+/// handlers, starts up and shuts down.
+class Shell : private context::PlanActions
+{
+public:
+    Shell(Settings settings, Environment environment);
+    ~Shell() override;
+
+    /// Start-up, in a fixed order: settings, database, header, slots, rooms, date. Errors: a
+    /// setting that does not convert (TypeMismatch, Overflow), any database error.
+    void Form_Load();
+    /// The window has been shown: the first drawing.
+    void Form_Activate();
+    /// Inner size of the window's plan in twips.
+    void Form_Resize(int scaleWidth, int scaleHeight);
+    /// F2 (key code 113) switches pale colours; other keys do nothing.
+    void Form_KeyDown(int keyCode);
+    /// Closes the database and writes back the settings that changed. Closing twice does nothing.
+    void Form_Unload();
+    /// Gives every control the font of `Label20` and redraws.
+    void Label20_Click();
+    /// The option controls take the window's background colour, the focus goes to `Colorer`.
+    void MatchControlBackgrounds();
+
+    [[nodiscard]] form::PlanForm& form() { return m_form; }
+    [[nodiscard]] const form::PlanForm& form() const { return m_form; }
+    [[nodiscard]] context::Periods& periods() { return m_periods; }
+    [[nodiscard]] const context::Periods& periods() const { return m_periods; }
+    [[nodiscard]] const context::TimeSlots& slots() const { return m_slots; }
+    [[nodiscard]] const context::RoomPage& page() const { return m_page; }
+    [[nodiscard]] const context::EstablishmentHeader& establishment() const
+    {
+        return m_establishment;
+    }
+    [[nodiscard]] plan::PlanRefresh& refresh() { return m_refresh; }
+    [[nodiscard]] const plan::PlanRefresh& refresh() const { return m_refresh; }
+    [[nodiscard]] plan::PlanOptions& options() { return m_options; }
+    [[nodiscard]] db::Database& database() { return m_database; }
+    [[nodiscard]] const plan::CellLayout& cellLayout() const { return m_layout; }
+    /// Everything needed to draw the plan on the target.
+    [[nodiscard]] plan::PlanScene scene(const plan::DrawingTarget& target) const;
+
+private:
+    void RefreshPlan() override { m_refresh.RefreshPlan(); }
+    void PlaceRoomRows() override;
+    void Command2_Click() override { m_paging.Command2_Click(); }
+    void Command3_Click() override { m_paging.Command3_Click(); }
+
+    void connectEvents();
+    void chooseDatabase();
+    void readDisplayOptions();
+    void readSeanceTypes();
+    void listDepartments();
+    void saveCheckBox(const QString& key, const form::CheckBox& box, std::int16_t atStart);
+    [[nodiscard]] QString setting(const QString& key, const QString& fallback) const;
+
+    Settings m_settings;
+    Environment m_environment;
+
+    // In the order in which they build on one another.
+    form::PlanForm m_form;
+    db::Database m_database;
+    runtime::RandomSource m_random;
+    context::Totals m_totals;
+    context::RoomPage m_page;
+    context::Periods m_periods;
+    context::TimeSlots m_slots;
+    context::RoomSet m_rooms;
+    context::EstablishmentHeader m_establishment;
+    plan::CellLayout m_layout;
+    plan::SeanceTypeShortNames m_SeanceTypeShortNames;
+    plan::RowColors m_colors;
+    plan::PlainRowSource m_rows;
+    plan::OccupancyLookup m_lookup;
+    absences::AbsenceRecords m_absences;
+    plan::PlanRefresh m_refresh;
+    plan::Paging m_paging;
+    plan::SubjectFilter m_subjectFilter;
+    plan::PlanOptions m_options;
+    appearance::CellOptions m_cellOptions;
+
+    QString m_ConnectString;
+    // Kept as they are for that shape of the state; nothing reads them.
+    QString m_DsnString;
+    QString m_DbPath;
+    bool m_SkinOn = false;
+
+    QString m_PaletteAtStart;
+    std::int16_t m_ShowTeacherAtStart = 1;
+    std::int16_t m_ShowClassAtStart = 1;
+    std::int16_t m_ShowSubjectAtStart = 1;
+    std::int16_t m_RoomsPerPage = 0;
+    bool m_loaded = false;
+};
+
+} // namespace shell
