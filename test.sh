@@ -1,0 +1,88 @@
+#!/usr/bin/env bash
+# Builds and runs every test. Installs what is missing first.
+#
+#   ./test.sh [--sanitize] [--clang] [options of ctest]
+#   ./test.sh --tidy | --format
+#
+# --sanitize  with the address and undefined-behaviour sanitizers
+# --clang     with clang instead of gcc
+# --tidy      no test: clang-tidy over every source file
+# --format    no test: what clang-format would change
+#
+# Each kind of build has a folder of its own (build-test, build-test-clang, ...). Anything else is
+# handed to ctest: ./test.sh -R layering runs the cases whose name holds "layering".
+set -euo pipefail
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
+# shellcheck source=scripts/common.sh
+source "$project/scripts/common.sh"
+
+sanitize=false
+clang=false
+task="test"
+ctest_options=()
+for option in "$@"; do
+    case $option in
+        --sanitize) sanitize=true ;;
+        --clang) clang=true ;;
+        --tidy) task=tidy ;;
+        --format) task=format ;;
+        *) ctest_options+=("$option") ;;
+    esac
+done
+
+cd "$project"
+
+# Every source file of ours with one of the given endings, each name ended by a null character.
+sources() {
+    local folder ending
+    for folder in src demo tests bench; do
+        for ending in "$@"; do
+            [[ ! -d $folder ]] || find "$folder" -name "*.$ending" -print0
+        done
+    done
+}
+
+check_format() {
+    ensure_packages clang-format
+    sources cpp h | xargs -0 clang-format --dry-run --Werror
+    say "Every file is formatted."
+}
+
+check_tidy() {
+    ensure_packages "${packages[@]}" clang clang-tidy
+    configure "$folder" "${settings[@]}"
+    build "$folder" # headers that the build makes are included, too
+    sources cpp | xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet --warnings-as-errors='*' -p "$folder"
+    say "clang-tidy has nothing to say."
+}
+
+run_tests() {
+    ensure_packages "${packages[@]}"
+    configure "$folder" "${settings[@]}"
+    build "$folder"
+    use_private_folders "$folder/home" # whatever a test writes, it is not the user's
+    export UBSAN_OPTIONS=print_stacktrace=1
+    ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "${ctest_options[@]}"
+}
+
+# mariadb-server would bring a system service that starts at once; the tests start servers of their
+# own and need only the programs, which lie in the two core packages.
+packages=("${build_packages[@]}" ccache libgtest-dev mariadb-client-core mariadb-server-core openbox
+    poppler-utils xdotool xvfb)
+folder=$project/build-test
+settings=(-D CMAKE_BUILD_TYPE=Debug -D TEMPORA_WERROR=ON -D CMAKE_CXX_COMPILER_LAUNCHER=ccache)
+if $clang; then
+    packages+=(clang)
+    folder+=-clang
+    settings+=(-D CMAKE_CXX_COMPILER=clang++)
+fi
+if $sanitize; then
+    folder+=-sanitize
+    settings+=(-D TEMPORA_SANITIZE=ON)
+fi
+
+case $task in
+    test) run_tests ;;
+    tidy) check_tidy ;;
+    format) check_format ;;
+esac
