@@ -14,6 +14,9 @@ namespace
 constexpr int kKeyF2 = 113;
 // Twips between the totals line and the window's inner bottom once the window is active.
 constexpr int kTotalsMargin = 470;
+// Twips around the places in a picture of the plan: before them, and at the picture's edge.
+constexpr int kAfterAxis = 60;
+constexpr int kAfterPlaces = 250;
 
 } // namespace
 
@@ -94,6 +97,12 @@ void Shell::Form_Resize(int scaleWidth, int scaleHeight)
     m_slots.placeTotals(kTotalsMargin);
     PlaceRoomRows();
     MatchControlBackgrounds();
+}
+
+void Shell::fitPicture()
+{
+    const form::Place& places = m_form.Cap.front().place;
+    Form_Resize(m_slots.axisEnd() + kAfterAxis + places.width + kAfterPlaces, m_form.scaleHeight);
 }
 
 void Shell::Form_KeyDown(int keyCode)

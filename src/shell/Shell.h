@@ -56,6 +56,8 @@ public:
     void Form_Activate();
     /// Inner size of the window's plan in twips.
     void Form_Resize(int scaleWidth, int scaleHeight);
+    /// Sizes the plan for a picture that holds all of it.
+    void fitPicture();
     /// F2 (key code 113) switches pale colours; other keys do nothing.
     void Form_KeyDown(int keyCode);
     /// Closes the database and writes back the settings that changed. Closing twice does nothing.
@@ -78,6 +80,7 @@ public:
     [[nodiscard]] plan::PlanRefresh& refresh() { return m_refresh; }
     [[nodiscard]] const plan::PlanRefresh& refresh() const { return m_refresh; }
     [[nodiscard]] plan::PlanOptions& options() { return m_options; }
+    [[nodiscard]] absences::AbsenceRecords& absences() { return m_absences; }
     [[nodiscard]] db::Database& database() { return m_database; }
     [[nodiscard]] const plan::CellLayout& cellLayout() const { return m_layout; }
     /// Everything needed to draw the plan on the target.

@@ -1,0 +1,44 @@
+#include "app/ErrorReport.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <cstdio>
+
+namespace app
+{
+namespace
+{
+
+void write(std::FILE* stream, const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+} // namespace
+
+void writeOutput(const QString& text)
+{
+    write(stdout, text);
+}
+
+void writeError(const QString& text)
+{
+    write(stderr, text + u'\n');
+}
+
+void reportRunTimeError(QWidget* parent, const runtime::RunTimeError& error)
+{
+    writeError(error.message());
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr &&
+        QGuiApplication::platformName() != u"offscreen") {
+        QMessageBox box(QMessageBox::Critical, QStringLiteral("Tempora"), error.message(),
+                        QMessageBox::Ok, parent);
+        box.setTextFormat(Qt::PlainText); // the text may quote data
+        box.setObjectName(QStringLiteral("RunTimeError"));
+        box.exec();
+    }
+}
+
+} // namespace app

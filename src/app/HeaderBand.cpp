@@ -1,0 +1,79 @@
+#include "app/HeaderBand.h"
+
+#include "app/FormMirror.h"
+#include "shell/Shell.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace app
+{
+namespace
+{
+
+QLabel* label(const QString& name, const QString& role)
+{
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setProperty("role", role);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+HeaderBand::HeaderBand(shell::Shell& shell, FormMirror& mirror)
+{
+    setObjectName(QStringLiteral("HeaderBand"));
+    setAttribute(Qt::WA_StyledBackground);
+    form::PlanForm& form = shell.form();
+
+    auto* names = new QVBoxLayout;
+    names->setSpacing(0);
+    auto* establishment = label(QStringLiteral("Label4_4"), QStringLiteral("name"));
+    mirror.bind(establishment, form.Label4[4]);
+    auto* university = label(QStringLiteral("University"), QStringLiteral("note"));
+    mirror.follow([university, &shell] {
+        const auto& header = shell.establishment();
+        university->setText(header.UniversityName +
+                            (header.AcademicYear != 0
+                                 ? QStringLiteral(" · ") + QString::number(header.AcademicYear)
+                                 : QString()));
+    });
+    names->addWidget(establishment);
+    names->addWidget(university);
+
+    auto* title = label(QStringLiteral("XSalle"), QStringLiteral("title"));
+    mirror.follow([title, &form] { title->setText(form.title()); });
+
+    auto* dates = new QHBoxLayout;
+    dates->setSpacing(6);
+    for (int index = 0; index < 4; ++index) {
+        auto* date = label(QStringLiteral("Label4_%1").arg(index),
+                           index % 2 == 1 ? QStringLiteral("date") : QStringLiteral("note"));
+        mirror.bind(date, form.Label4.at(static_cast<std::size_t>(index)));
+        dates->addWidget(date);
+    }
+    auto* period = label(QStringLiteral("PeriodName"), QStringLiteral("name"));
+    mirror.follow([period, &form] {
+        period->setText(form.OpExam.isSelected()
+                            ? form.CbTranche.text() + QStringLiteral(" – ") + form.Combo10.text()
+                            : form.CbTranche.text());
+    });
+    auto* when = new QVBoxLayout;
+    when->setSpacing(0);
+    when->addWidget(period, 0, Qt::AlignRight);
+    when->addLayout(dates);
+
+    auto* band = new QHBoxLayout(this);
+    band->setContentsMargins(14, 4, 14, 4);
+    band->addLayout(names, 1);
+    band->addWidget(title, 0, Qt::AlignCenter);
+    auto* right = new QHBoxLayout;
+    right->addStretch();
+    right->addLayout(when);
+    band->addLayout(right, 1);
+}
+
+} // namespace app

@@ -1,0 +1,255 @@
+#include "app/OptionPanels.h"
+
+#include "app/FormMirror.h"
+#include "shell/Shell.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace app
+{
+namespace
+{
+
+/// Makes the widgets of the panels: each has its control's name and is bound to it.
+class PanelBuilder
+{
+public:
+    explicit PanelBuilder(FormMirror& mirror) : m_mirror(mirror) {}
+
+    template <typename Widget, typename Control>
+    Widget* add(const char* name, Control& control, const QString& toolTip = {})
+    {
+        auto* widget = new Widget;
+        widget->setObjectName(QString::fromLatin1(name));
+        widget->setToolTip(toolTip);
+        m_mirror.bind(widget, control);
+        return widget;
+    }
+
+    QCheckBox* check(const char* name, form::CheckBox& control, const QString& toolTip = {})
+    {
+        return add<QCheckBox>(name, control, toolTip);
+    }
+    QRadioButton* radio(const char* name, form::OptionButton& control, const QString& toolTip = {})
+    {
+        return add<QRadioButton>(name, control, toolTip);
+    }
+    QComboBox* list(const char* name, form::List& control, const QString& accessibleName,
+                    int minimumCharacters)
+    {
+        auto* widget = add<QComboBox>(name, control, accessibleName);
+        widget->setAccessibleName(accessibleName);
+        widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        widget->setMinimumContentsLength(minimumCharacters);
+        return widget;
+    }
+    QPushButton* button(const char* name, form::Button& control, const QString& toolTip)
+    {
+        return add<QPushButton>(name, control, toolTip);
+    }
+
+private:
+    FormMirror& m_mirror;
+};
+
+/// A titled panel whose rows are filled from the top.
+QGridLayout* addPanel(QHBoxLayout* band, const QString& title, int stretch = 0)
+{
+    auto* panel = new QGroupBox(title);
+    auto* grid = new QGridLayout(panel);
+    grid->setContentsMargins(8, 2, 8, 4);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(1);
+    grid->setRowStretch(3, 1);
+    band->addWidget(panel, stretch);
+    return grid;
+}
+
+void addPeriodPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+{
+    QGridLayout* grid = addPanel(band, QStringLiteral("Période"), 2);
+    grid->addWidget(make.list("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 14),
+                    0, 0, 1, 2);
+    grid->addWidget(make.radio("OpEns", form.OpEns, QStringLiteral("Emploi du temps hebdomadaire")),
+                    1, 0);
+    grid->addWidget(make.radio("OpExam", form.OpExam, QStringLiteral("Semaines d’examen")), 1, 1);
+    auto* week = make.list("Combo10", form.Combo10, QStringLiteral("Semaine d’examen"), 14);
+    QSizePolicy keep = week->sizePolicy();
+    keep.setRetainSizeWhenHidden(true);
+    week->setSizePolicy(keep);
+    grid->addWidget(week, 2, 0, 1, 2);
+}
+
+void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+{
+    QGridLayout* grid = addPanel(band, QStringLiteral("Jour"));
+    grid->addWidget(make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 9), 0, 0);
+    grid->addWidget(make.check("Check2", form.Check2,
+                               QStringLiteral("Choisir une date et montrer ses rattrapages, "
+                                              "hachurés")),
+                    1, 0);
+    auto* picker =
+        make.add<QDateEdit>("DTPicker1", form.DTPicker1, QStringLiteral("Date affichée"));
+    picker->setAccessibleName(QStringLiteral("Date affichée"));
+    picker->setLocale(QLocale(QLocale::French, QLocale::France));
+    picker->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    picker->setCalendarPopup(true);
+    QSizePolicy keep = picker->sizePolicy();
+    keep.setRetainSizeWhenHidden(true);
+    picker->setSizePolicy(keep);
+    grid->addWidget(picker, 2, 0);
+}
+
+void addWeekPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+{
+    QGridLayout* grid = addPanel(band, QStringLiteral("Semaine"));
+    grid->addWidget(
+        make.radio("OptFixe", form.OptFixe, QStringLiteral("Les deux semaines ensemble")), 0, 0);
+    grid->addWidget(make.radio("OptA", form.OptA), 1, 0);
+    grid->addWidget(make.radio("OptB", form.OptB), 2, 0);
+}
+
+void addBoxPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+{
+    QGridLayout* grid = addPanel(band, QStringLiteral("Dans les cases"));
+    grid->addWidget(make.check("XOpCl", form.XOpCl), 0, 0);
+    grid->addWidget(make.check("XOpEns", form.XOpEns), 1, 0);
+    grid->addWidget(make.check("XpMat", form.XpMat), 2, 0);
+    grid->addWidget(make.check("Chk_Type", form.Chk_Type, QStringLiteral("Type de séance")), 0, 1);
+    grid->addWidget(make.check("xOpExam", form.xOpExam, QStringLiteral("Responsables de l’examen")),
+                    1, 1);
+    grid->setColumnMinimumWidth(1, 100);
+}
+
+void addRoomPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+{
+    QGridLayout* grid = addPanel(band, QStringLiteral("Salles"), 1);
+    grid->addWidget(new QLabel(QStringLiteral("Zone")), 0, 0);
+    grid->addWidget(make.list("cb_Locaux", form.cb_Locaux,
+                              QStringLiteral("Zone des salles ; 0 pour toutes"), 3),
+                    0, 1);
+    grid->addWidget(
+        make.check("ElemDep", form.ElemDep, QStringLiteral("Ajouter les salles d’un département")),
+        1, 0, 1, 2);
+    grid->addWidget(make.list("Combo1", form.Combo1, QStringLiteral("Département"), 7), 2, 0, 1, 1);
+    auto* neutral = make.check("Chk_Neutre", form.Chk_Neutre,
+                               QStringLiteral("Ajouter les salles sans département"));
+    QSizePolicy keep = neutral->sizePolicy();
+    keep.setRetainSizeWhenHidden(true);
+    neutral->setSizePolicy(keep);
+    grid->addWidget(neutral, 2, 1);
+    grid->setColumnStretch(1, 1);
+}
+
+void addPagePanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+{
+    QGridLayout* grid = addPanel(band, QStringLiteral("Page"));
+    auto* caption = new QLabel(QStringLiteral("Lignes/Page : "));
+    auto* lines = make.add<QSpinBox>("Total_L_P", form.Total_L_P,
+                                     QStringLiteral("Nombre de salles par page, 29 au plus"));
+    lines->setRange(1, 99);
+    lines->setAccessibleName(QStringLiteral("Lignes par page"));
+    caption->setBuddy(lines);
+    grid->addWidget(caption, 0, 0);
+    grid->addWidget(lines, 0, 1);
+    grid->addWidget(make.button("Command3", form.Command3, QStringLiteral("Salles suivantes")), 1,
+                    0, 1, 2);
+    grid->addWidget(make.button("Command2", form.Command2, QStringLiteral("Salles précédentes")), 2,
+                    0, 1, 2);
+}
+
+QCheckBox* addViewPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+{
+    QGridLayout* grid = addPanel(band, QStringLiteral("Affichage"));
+    auto* colorer = make.check("Colorer", form.Colorer, QStringLiteral("Une couleur par salle"));
+    grid->addWidget(colorer, 0, 0);
+    grid->addWidget(make.check("ChkGrille", form.ChkGrille,
+                               QStringLiteral("Lignes des heures et des quarts d’heure")),
+                    1, 0);
+    grid->addWidget(make.check("Check3", form.Check3,
+                               QStringLiteral("Compteurs des classes groupées et des "
+                                              "dépassements")),
+                    0, 1);
+    grid->addWidget(make.check("Chk_Compt", form.Chk_Compt,
+                               QStringLiteral("Compter les places occupées par séance, à partir "
+                                              "du prochain affichage")),
+                    1, 1);
+    return colorer;
+}
+
+void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror, shell::Shell& shell)
+{
+    form::PlanForm& form = shell.form();
+    QGridLayout* grid = addPanel(band, QStringLiteral("Matière et couleurs"), 2);
+    grid->addWidget(make.check("Check1", form.Check1,
+                               QStringLiteral("Ne montrer que les séances d’une matière")),
+                    0, 0);
+    grid->addWidget(make.list("Cb_Mat", form.Cb_Mat, QStringLiteral("Matière montrée"), 14), 1, 0);
+    auto* frame = new QWidget;
+    frame->setObjectName(QStringLiteral("Frame1"));
+    mirror.bindVisible(frame, form.Frame1.visible);
+    auto* row = new QGridLayout(frame);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setVerticalSpacing(1);
+    row->addWidget(new QLabel(form.Frame1.caption), 0, 0);
+    auto* name = new QLabel;
+    name->setObjectName(QStringLiteral("Label5"));
+    name->setProperty("role", QStringLiteral("strong"));
+    mirror.bind(name, form.Label5);
+    row->addWidget(name, 0, 1, Qt::AlignLeft);
+    row->setColumnStretch(1, 1);
+    row->addWidget(
+        make.button("Command4", form.Command4, QStringLiteral("Choisir une palette de couleurs")),
+        1, 0, 1, 2);
+    grid->addWidget(frame, 1, 0, 2, 1);
+}
+
+void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, shell::Shell& shell)
+{
+    form::PlanForm& form = shell.form();
+    QGridLayout* grid = addPanel(band, QStringLiteral("Impression"));
+    grid->addWidget(
+        make.button("Command1", form.Command1, QStringLiteral("Imprimer la page affichée")), 0, 0);
+    grid->addWidget(make.check("Opt_Cap", form.Opt_Cap,
+                               QStringLiteral("Imprimer l’effectif et les places de chaque case")),
+                    1, 0);
+}
+
+} // namespace
+
+OptionPanels::OptionPanels(shell::Shell& shell, FormMirror& mirror)
+{
+    setObjectName(QStringLiteral("Picture1"));
+    auto* band = new QHBoxLayout(this);
+    band->setContentsMargins(8, 4, 8, 4);
+    band->setSpacing(6);
+    PanelBuilder make(mirror);
+    form::PlanForm& form = shell.form();
+    addPeriodPanel(band, make, form);
+    addDayPanel(band, make, form);
+    addWeekPanel(band, make, form);
+    addBoxPanel(band, make, form);
+    addRoomPanel(band, make, form);
+    addPagePanel(band, make, form);
+    m_colorer = addViewPanel(band, make, form);
+    addSubjectPanel(band, make, mirror, shell);
+    addPrintPanel(band, make, shell);
+}
+
+void OptionPanels::focusColorer()
+{
+    m_colorer->setFocus();
+}
+
+} // namespace app

@@ -1,0 +1,196 @@
+#include "app/PlClasse.h"
+
+#include "app/ErrorReport.h"
+#include "app/HeaderBand.h"
+#include "app/OptionPanels.h"
+#include "app/PlanView.h"
+#include "app/WindowStyle.h"
+#include "shell/Player.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace app
+{
+namespace
+{
+
+// Key code by which the form knows F2.
+constexpr int kFormKeyF2 = 113;
+
+} // namespace
+
+PlClasse::PlClasse(shell::Settings settings, shell::Environment environment)
+    : m_shell(std::move(settings), tieToWindow(std::move(environment))), m_keys(makeKeyState()),
+      m_marking(m_shell.refresh(), m_shell.absences(), *m_keys),
+      m_mirror([this](const std::function<void()>& action) { forward(action); })
+{
+    setObjectName(QStringLiteral("PlClasse"));
+    setWindowTitle(m_shell.form().caption);
+    setStyleSheet(windowStyleSheet());
+    buildContent();
+    buildStatusBar();
+}
+
+PlClasse::~PlClasse() = default;
+
+shell::Environment PlClasse::tieToWindow(shell::Environment environment)
+{
+    environment.processEvents = [this] { processEvents(); };
+    environment.showMessage = [this](const QString& title, const QString& text) {
+        QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, this);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+    };
+    return environment;
+}
+
+void PlClasse::buildContent()
+{
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new HeaderBand(m_shell, m_mirror));
+    m_options = new OptionPanels(m_shell, m_mirror);
+    column->addWidget(m_options);
+    m_view = new PlanView(
+        m_shell, [this](const std::function<void()>& action) { forward(action); },
+        [this](int marker) { clickMarker(marker); });
+    column->addWidget(m_view, 1);
+    setCentralWidget(content);
+}
+
+void PlClasse::buildStatusBar()
+{
+    const auto add = [this](const QString& name, const QString& text) {
+        auto* label = new QLabel(text);
+        label->setObjectName(name);
+        statusBar()->addPermanentWidget(label);
+        return label;
+    };
+    form::PlanForm& form = m_shell.form();
+    auto* rooms = new QLabel;
+    rooms->setObjectName(QStringLiteral("PageInfo"));
+    statusBar()->addWidget(rooms);
+    m_mirror.follow([this, rooms] {
+        const context::RoomPage& page = m_shell.page();
+        rooms->setText(QStringLiteral("Salles %1 à %2 sur %3")
+                           .arg(page.PageOffset + 1)
+                           .arg(page.PageOffset + page.RowsShown)
+                           .arg(page.RoomTotal));
+    });
+    add(QStringLiteral("PeriodCaption"), QStringLiteral("Période n°"));
+    m_mirror.bind(add(QStringLiteral("Label11"), QString()), form.Label11);
+    auto* week = add(QStringLiteral("Semn"), QString());
+    m_mirror.follow([week, &form] {
+        week->setVisible(form.OpExam.isSelected());
+        week->setText(QStringLiteral("Semaine d’examen ") + form.Semn.caption);
+    });
+    m_mirror.bindVisible(add(QStringLiteral("ImgAccess"), QStringLiteral("Base locale (ODBC)")),
+                         form.ImgAccess.visible);
+    m_mirror.bindVisible(add(QStringLiteral("ImgSql"), QStringLiteral("Serveur MySQL")),
+                         form.ImgSql.visible);
+    auto* font = new QToolButton;
+    font->setObjectName(QStringLiteral("Label20"));
+    font->setText(form.Label20.caption);
+    font->setToolTip(QStringLiteral("Donner la police d’impression à toute la fenêtre"));
+    font->setAutoRaise(true);
+    connect(font, &QToolButton::clicked, this,
+            [this] { forward([this] { m_shell.Label20_Click(); }); });
+    statusBar()->addPermanentWidget(font);
+    m_mirror.bind(add(QStringLiteral("Lab_Ver"), QString()), form.Lab_Ver);
+}
+
+void PlClasse::load()
+{
+    m_shell.Form_Load();
+    m_view->fit();
+    syncWidgets();
+}
+
+void PlClasse::activate()
+{
+    forward([this] {
+        m_view->fit();
+        m_shell.Form_Activate();
+    });
+}
+
+void PlClasse::play(const shell::CommandLine& line)
+{
+    forward([&] { shell::play(m_shell, line); });
+}
+
+void PlClasse::forward(const std::function<void()>& action)
+{
+    if (m_failed) {
+        return;
+    }
+    try {
+        action();
+    } catch (const runtime::RunTimeError& error) {
+        fail(error);
+        return;
+    }
+    syncWidgets();
+    m_view->showAll();
+}
+
+void PlClasse::fail(const runtime::RunTimeError& error)
+{
+    m_failed = true;
+    m_shell.refresh().abandon();
+    reportRunTimeError(this, error);
+    QCoreApplication::exit(1);
+}
+
+void PlClasse::syncWidgets()
+{
+    m_mirror.sync();
+    const form::PlanForm& form = m_shell.form();
+    if (form.colorerFocusRequests != m_focusRequests) {
+        m_focusRequests = form.colorerFocusRequests;
+        m_options->focusColorer();
+    }
+    if (form.fontRequests != m_fontRequests) {
+        m_fontRequests = form.fontRequests;
+        setStyleSheet(windowStyleSheet() + QStringLiteral("* { font-family: Arial; }"));
+    }
+}
+
+void PlClasse::processEvents()
+{
+    m_view->showProgress();
+    QCoreApplication::processEvents();
+}
+
+void PlClasse::clickMarker(int marker)
+{
+    Q_UNUSED(marker)
+}
+
+void PlClasse::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F2) {
+        forward([this] { m_shell.Form_KeyDown(kFormKeyF2); });
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
+void PlClasse::closeEvent(QCloseEvent* event)
+{
+    if (!m_failed) {
+        forward([this] { m_shell.Form_Unload(); });
+    }
+    QMainWindow::closeEvent(event);
+}
+
+} // namespace app

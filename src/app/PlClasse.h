@@ -1,0 +1,65 @@
+#pragma once
+
+#include "absences/Marking.h"
+#include "app/FormMirror.h"
+#include "app/KeyState.h"
+#include "shell/CommandLine.h"
+#include "shell/Shell.h"
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+namespace app
+{
+
+class OptionPanels;
+class PlanView;
+
+/// The one window of the program, "Planning des Classes": mirrors the form's controls and passes
+/// the user's actions on to them.
+class PlClasse : public QMainWindow
+{
+public:
+    /// `applicationFolder` holds `app_data` and `Styles`.
+    PlClasse(shell::Settings settings, shell::Environment environment);
+    ~PlClasse() override;
+
+    /// Starts the program up. Error: runtime::RunTimeError; nothing is saved then.
+    void load();
+    /// Draws the plan for the first time, once the window is shown.
+    void activate();
+    /// Plays the choices of the command line. Error: shell::UsageError.
+    void play(const shell::CommandLine& line);
+    /// Runs an action of the user; an untrapped fault in it ends the program with exit code 1.
+    void forward(const std::function<void()>& action);
+
+    [[nodiscard]] shell::Shell& shell() { return m_shell; }
+    /// Whether a fault has ended the program.
+    [[nodiscard]] bool failed() const { return m_failed; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    [[nodiscard]] shell::Environment tieToWindow(shell::Environment environment);
+    void buildContent();
+    void buildStatusBar();
+    void syncWidgets();
+    void processEvents();
+    void fail(const runtime::RunTimeError& error);
+    void clickMarker(int marker);
+
+    shell::Shell m_shell;
+    std::unique_ptr<absences::AsyncKeyState> m_keys;
+    absences::Marking m_marking;
+    FormMirror m_mirror;
+    OptionPanels* m_options = nullptr;
+    PlanView* m_view = nullptr;
+    int m_focusRequests = 0;
+    int m_fontRequests = 0;
+    bool m_failed = false;
+};
+
+} // namespace app

@@ -1,0 +1,49 @@
+#include "app/PlanHit.h"
+
+#include "form/PlanForm.h"
+#include "plan/Overlays.h"
+
+namespace app
+{
+namespace
+{
+
+PlanHit::Part partAt(const plan::OverlayPlaces& places, bool labelsShown, QPointF point)
+{
+    if (labelsShown && places.Label2.contains(point)) {
+        return PlanHit::Part::Counter;
+    }
+    if (labelsShown && places.Labelz.contains(point)) {
+        return PlanHit::Part::Size;
+    }
+    if (places.YAbs.contains(point)) {
+        return PlanHit::Part::YAbs;
+    }
+    if (places.XAbs.contains(point)) {
+        return PlanHit::Part::XAbs;
+    }
+    return places.ZAbs.contains(point) ? PlanHit::Part::Box : PlanHit::Part::Nothing;
+}
+
+} // namespace
+
+PlanHit hitPlan(const form::PlanForm& form, const plan::PlanContent& content,
+                const plan::DrawingTarget& target, QPointF point)
+{
+    PlanHit found;
+    for (const plan::PlanRow& row : content.rows) {
+        if (!form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
+            continue;
+        }
+        for (const plan::PlanBox& box : row.boxes) {
+            const auto places = plan::overlayPlaces(form, target, row.index, box);
+            const auto part = partAt(places, box.group && form.Check3.isChecked(), point);
+            if (part != PlanHit::Part::Nothing) {
+                found = {part, &row, &box}; // boxes drawn later lie over earlier ones
+            }
+        }
+    }
+    return found;
+}
+
+} // namespace app

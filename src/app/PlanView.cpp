@@ -1,0 +1,249 @@
+#include "app/PlanView.h"
+
+#include "app/PlanHit.h"
+#include "app/ViewScale.h"
+#include "shell/Shell.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QToolTip>
+#include <algorithm>
+#include <cmath>
+
+namespace app
+{
+namespace
+{
+
+constexpr QColor kBandFill(246, 247, 250);
+constexpr QColor kPlanFill(255, 255, 255);
+constexpr QColor kBandEdge(190, 196, 208);
+constexpr int kTotalsHeight = 26;
+
+QString boxToolTip(const plan::PlanRow& row, const plan::PlanBox& box)
+{
+    const plan::RoomCell& cell = box.cell;
+    QStringList lines;
+    lines << QStringLiteral("%1 – %2, %3 min").arg(row.room, cell.CellStart, cell.CellDuration);
+    for (const QString& line : cell.CellText.split(QStringLiteral("\r\n"), Qt::SkipEmptyParts)) {
+        lines << line.simplified();
+    }
+    if (box.makeUp) {
+        lines << QStringLiteral("Rattrapage");
+    }
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+PlanView::PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick)
+    : m_shell(shell), m_forward(std::move(forward)), m_markerClick(std::move(markerClick))
+{
+    setObjectName(QStringLiteral("PlanView"));
+    setAccessibleName(QStringLiteral("Plan des salles"));
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setMouseTracking(true);
+    setMinimumHeight(160);
+}
+
+plan::PlanScene PlanView::scene() const
+{
+    return m_shell.scene(m_target);
+}
+
+PlanView::Bands PlanView::bands() const
+{
+    const form::PlanForm& form = m_shell.form();
+    const int width = viewport()->width();
+    const int height = viewport()->height();
+    const int top = static_cast<int>(m_target.toPixelsY(form.Salle.front().place.top)) - 1;
+    const int left = static_cast<int>(m_target.toPixelsX(form.Label1.front().place.left)) - 4;
+    const int right = static_cast<int>(m_target.toPixelsX(form.Cap.front().place.left)) - 3;
+    const int bottom = height - kTotalsHeight;
+    return {QRect(left, 0, right - left, top), QRect(0, top, left, bottom - top),
+            QRect(left, top, right - left, bottom - top),
+            QRect(right, top, width - right, bottom - top),
+            QRect(left, bottom, right - left, kTotalsHeight)};
+}
+
+void PlanView::fit()
+{
+    const form::PlanForm& form = m_shell.form();
+    m_lastRowHeight = form.Salle.front().place.height;
+    m_lastRows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
+    const QSize room(viewport()->width(), viewport()->height() - kTotalsHeight);
+    m_target = fitPlan(form, m_shell.slots().axisEnd(), m_lastRows, room);
+    m_shell.Form_Resize(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
+                        viewport()->height() * m_target.TargetTwipsPerPixelY);
+    updateScrollBars();
+    viewport()->update();
+}
+
+void PlanView::updateScrollBars()
+{
+    const Bands view = bands();
+    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 4;
+    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(m_shell.slots().axisEnd())));
+    verticalScrollBar()->setRange(0, std::max(0, bottom - (view.boxes.y() + view.boxes.height())));
+    verticalScrollBar()->setPageStep(view.boxes.height());
+    verticalScrollBar()->setSingleStep(static_cast<int>(m_target.toPixelsY(m_lastRowHeight + 68)));
+    horizontalScrollBar()->setRange(0, std::max(0, end - (view.boxes.x() + view.boxes.width())));
+    horizontalScrollBar()->setPageStep(view.boxes.width());
+}
+
+void PlanView::showProgress()
+{
+    const auto& rows = m_shell.refresh().content().rows;
+    if (rows.empty()) {
+        return;
+    }
+    const form::Place& place =
+        m_shell.form().Salle.at(static_cast<std::size_t>(rows.back().index)).place;
+    const int top = static_cast<int>(m_target.toPixelsY(place.top)) - verticalScrollBar()->value();
+    const int height = static_cast<int>(m_target.toPixelsY(place.height)) + 2;
+    viewport()->update(0, top - 1, viewport()->width(), height + 2);
+    viewport()->update(bands().totals);
+}
+
+void PlanView::showAll()
+{
+    const int rows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
+    if (rows != m_lastRows || m_shell.form().Salle.front().place.height != m_lastRowHeight) {
+        fit();
+    }
+    viewport()->update();
+}
+
+QPointF PlanView::toViewport(QPointF planPoint) const
+{
+    return planPoint - QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
+}
+
+QPointF PlanView::toPlan(QPoint viewportPoint) const
+{
+    return QPointF(viewportPoint) +
+           QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
+}
+
+void PlanView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(viewport());
+    painter.setClipRegion(event->region());
+    painter.fillRect(viewport()->rect(), kBandFill);
+    paintBands(painter);
+}
+
+void PlanView::paintBands(QPainter& painter)
+{
+    const Bands view = bands();
+    const plan::PlanScene planScene = scene();
+    const int scrollX = horizontalScrollBar()->value();
+    const int scrollY = verticalScrollBar()->value();
+    const auto band = [&](const QRect& place, int dx, int dy, const auto& paint) {
+        painter.save();
+        painter.setClipRect(place, Qt::IntersectClip);
+        painter.translate(-dx, -dy);
+        plan::PlanPainter plan(painter, planScene);
+        paint(plan);
+        painter.restore();
+    };
+    painter.fillRect(view.boxes, kPlanFill);
+    band(view.boxes, scrollX, scrollY, [](plan::PlanPainter& plan) {
+        plan.paintGrid();
+        plan.paintBoxes();
+    });
+    band(view.names, 0, scrollY, [](plan::PlanPainter& plan) { plan.paintRoomLabels(); });
+    band(view.places, 0, scrollY, [](plan::PlanPainter& plan) { plan.paintPlaces(); });
+    band(view.ticks.adjusted(0, 0, 24, 0), scrollX, 0,
+         [](plan::PlanPainter& plan) { plan.paintTicks(); });
+    band(view.totals, scrollX, -view.totals.top() - 2,
+         [](plan::PlanPainter& plan) { plan.paintTotals(); });
+    painter.setPen(kBandEdge);
+    painter.drawLine(view.boxes.left() - 1, view.boxes.top(), view.boxes.left() - 1,
+                     view.boxes.top() + view.boxes.height());
+    painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
+}
+
+void PlanView::resizeEvent(QResizeEvent* event)
+{
+    QAbstractScrollArea::resizeEvent(event);
+    fit();
+}
+
+void PlanView::scrollContentsBy(int dx, int dy)
+{
+    Q_UNUSED(dx)
+    Q_UNUSED(dy)
+    viewport()->update();
+}
+
+void PlanView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !bands().boxes.contains(event->position().toPoint())) {
+        return;
+    }
+    const PlanHit hit = hitPlan(m_shell.form(), m_shell.refresh().content(), m_target,
+                                toPlan(event->position().toPoint()));
+    if (hit.part == PlanHit::Part::Counter) {
+        const plan::GroupCounter group = *hit.box->group;
+        m_forward([this, group] { m_shell.options().Label2_Click(group); });
+    } else if (hit.box != nullptr && hit.part != PlanHit::Part::Size) {
+        m_markerClick(hit.box->marker);
+    }
+}
+
+QString PlanView::toolTipAt(QPoint point) const
+{
+    const Bands view = bands();
+    const form::PlanForm& form = m_shell.form();
+    if (view.names.contains(point) || view.places.contains(point)) {
+        const form::Place& zero = form.Salle.front().place;
+        const double y = m_target.TargetTwipsPerPixelY * toPlan(point).y();
+        return form.Salle.front().visible && y >= zero.top && y < zero.top + zero.height
+                   ? QStringLiteral("Salle placée juste avant la première ligne du plan : ses "
+                                    "séances ne sont pas dessinées ici")
+                   : QString();
+    }
+    if (!view.boxes.contains(point)) {
+        return {};
+    }
+    const PlanHit hit = hitPlan(form, m_shell.refresh().content(), m_target, toPlan(point));
+    switch (hit.part) {
+    case PlanHit::Part::Nothing:
+        return {};
+    case PlanHit::Part::Counter:
+        return QStringLiteral("Cliquez Pour Plus de Détails");
+    case PlanHit::Part::Size:
+        return QStringLiteral("Nombre d'étudiants");
+    case PlanHit::Part::YAbs:
+        if (!hit.box->absentToolTip.isEmpty()) {
+            return hit.box->absentToolTip;
+        }
+        break;
+    case PlanHit::Part::XAbs:
+    case PlanHit::Part::Box:
+        break;
+    }
+    return boxToolTip(*hit.row, *hit.box);
+}
+
+bool PlanView::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = toolTipAt(help->pos());
+        if (text.isEmpty()) {
+            QToolTip::hideText();
+        } else {
+            QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(text), viewport());
+        }
+        return true;
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+} // namespace app

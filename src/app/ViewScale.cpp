@@ -1,0 +1,50 @@
+#include "app/ViewScale.h"
+
+#include "plan/RoomRows.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace app
+{
+namespace
+{
+
+// Twips between the end of the time axis and the places, and between those and the edge.
+constexpr int kAfterAxis = 60;
+constexpr int kAfterPlaces = 250;
+
+constexpr double kMostTwipsAcross = 18.0;
+constexpr double kFewestTwipsAcross = 8.0;
+constexpr int kFewestTwipsDown = 9;
+
+/// How many twips a pixel may stand for so that the rows' text stays legible: a row of three lines
+/// needs 38 pixels, one of two 27, one of a single line 13.
+int mostTwipsDown(int rowHeight)
+{
+    if (rowHeight >= 700) {
+        return rowHeight / 38;
+    }
+    if (rowHeight >= 400) {
+        return rowHeight / 27;
+    }
+    return rowHeight >= 300 ? rowHeight / 17 : rowHeight / 13;
+}
+
+} // namespace
+
+plan::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows, QSize view)
+{
+    plan::DrawingTarget target;
+    const double across = axisEnd + kAfterAxis + form.Cap.front().place.width + kAfterPlaces;
+    target.TargetTwipsPerPixelX =
+        std::clamp(across / std::max(1, view.width()), kFewestTwipsAcross, kMostTwipsAcross);
+    const form::Place& model = form.Salle.front().place;
+    const int down = model.top + rows * (model.height + plan::kRowGap);
+    const int wanted =
+        static_cast<int>(std::ceil(static_cast<double>(down) / std::max(1, view.height())));
+    target.TargetTwipsPerPixelY = std::clamp(wanted, kFewestTwipsDown, mostTwipsDown(model.height));
+    return target;
+}
+
+} // namespace app

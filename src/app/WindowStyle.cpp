@@ -1,0 +1,29 @@
+#include "app/WindowStyle.h"
+
+namespace app
+{
+
+QString windowStyleSheet()
+{
+    return QStringLiteral(R"(
+* { font-family: "Segoe UI", "Liberation Sans", Arial, sans-serif; font-size: 12px; }
+QMainWindow { background: #f6f7fa; }
+#HeaderBand { background: #1f3a5f; }
+#HeaderBand QLabel { color: #ffffff; }
+#HeaderBand QLabel[role="title"] { font-size: 20px; font-weight: bold; }
+#HeaderBand QLabel[role="name"] { font-size: 14px; font-weight: bold; }
+#HeaderBand QLabel[role="note"] { color: #c9d6e8; }
+#Picture1 { background: #eef1f6; }
+QLabel[role="strong"] { font-weight: bold; }
+QGroupBox { border: 1px solid #cfd6e2; border-radius: 4px; margin-top: 9px;
+            background: #fafbfd; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 8px;
+                   padding: 0 3px; color: #48597a; background: #fafbfd; }
+QStatusBar { background: #eef1f6; color: #48597a; }
+QStatusBar QLabel { color: #48597a; padding: 0 6px; }
+QStatusBar::item { border: none; }
+QToolTip { font-size: 12px; }
+)");
+}
+
+} // namespace app

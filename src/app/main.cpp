@@ -1,0 +1,123 @@
+#include "app/ErrorReport.h"
+#include "app/PlClasse.h"
+#include "shell/CommandLine.h"
+#include "shell/Export.h"
+#include "shell/Player.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+namespace
+{
+
+enum ExitCode : int { kDone = 0, kFailed = 1, kUsage = 2 };
+
+bool hasDisplay()
+{
+#ifdef Q_OS_WIN
+    return true;
+#else
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#endif
+}
+
+/// An export draws in memory, with the same fonts whether or not there is a display.
+void chooseOffscreenPlatform(int argc, char* argv[])
+{
+    bool exporting = false;
+    for (int argument = 1; argument < argc; ++argument) {
+        exporting = exporting || QByteArray(argv[argument]).startsWith("--export");
+    }
+    if ((exporting || !hasDisplay()) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+shell::Settings openSettings(const shell::CommandLine& line)
+{
+    return line.settingsFile.isEmpty() ? shell::Settings::perUser()
+                                       : shell::Settings::fromFile(line.settingsFile);
+}
+
+shell::Environment environmentFor(const shell::CommandLine& line)
+{
+    shell::Environment environment;
+    environment.applicationFolder = QCoreApplication::applicationDirPath();
+    environment.seed = line.seed;
+    return environment;
+}
+
+/// An export plays on a program of its own: it saves no settings.
+void exportWithoutWindow(const shell::CommandLine& line)
+{
+    shell::Shell shell(openSettings(line), environmentFor(line));
+    shell.Form_Load();
+    shell.fitPicture();
+    shell.Form_Activate();
+    shell::play(shell, line);
+    shell::exportPlan(shell, line.exportFile);
+}
+
+int runWindow(const shell::CommandLine& line)
+{
+    app::PlClasse window(openSettings(line), environmentFor(line));
+    window.load();
+    window.resize(1280, 720);
+    window.showMaximized();
+    window.activate();
+    window.play(line);
+    return window.failed() ? kFailed : QApplication::exec();
+}
+
+int runWithLine(const shell::CommandLine& line, bool display)
+{
+    if (line.help) {
+        app::writeOutput(shell::CommandLine::helpText());
+        return kDone;
+    }
+    if (line.version) {
+        app::writeOutput(QStringLiteral("Tempora " TEMPORA_VERSION "\n"));
+        return kDone;
+    }
+    if (!line.exportFile.isEmpty()) {
+        exportWithoutWindow(line);
+        return kDone;
+    }
+    if (!display) {
+        app::writeError(QStringLiteral("Pas d’écran : la fenêtre ne peut pas s’ouvrir. Le plan "
+                                       "s’écrit dans un fichier avec --export (voir --help)."));
+        return kFailed;
+    }
+    return runWindow(line);
+}
+
+int run(bool display)
+{
+    try {
+        return runWithLine(shell::CommandLine::parse(QCoreApplication::arguments()), display);
+    } catch (const runtime::RunTimeError& error) {
+        app::reportRunTimeError(nullptr, error);
+        return kFailed;
+    } catch (const shell::ExportError& error) {
+        app::writeError(QString::fromUtf8(error.what()));
+        return kFailed;
+    } catch (const shell::UsageError& error) {
+        app::writeError(QString::fromUtf8(error.what()));
+        return kUsage;
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const bool display = hasDisplay();
+    chooseOffscreenPlatform(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tempora"));
+    QApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));
+    return run(display);
+}
