@@ -19,7 +19,7 @@ struct PhpConfiguration {
 /// start of the line, a fixed number of characters dropped there, the last two dropped at the end.
 /// Spaces around "=" or a trailing comment therefore give a wrong value without any error, which
 /// is wanted: the web application writes the file in exactly one form.
-/// Error: FileNotFound.
+/// Errors: FileNotFound; InvalidProcedureCall for a line shorter than what is dropped from it.
 [[nodiscard]] PhpConfiguration readPhpConfiguration(const QString& path);
 
 /// The connection strings that the program builds once at start-up.
@@ -30,7 +30,7 @@ struct ConnectStrings {
 
 /// Access: the data source named `baseName`. MySQL: the server named in
 /// `applicationFolder`/app_data/`baseName`.php.
-/// Error: FileNotFound when the PHP file is missing.
+/// Errors: those of `readPhpConfiguration`.
 [[nodiscard]] ConnectStrings BuildConnectString(const QString& baseName, bool useMySql,
                                                 const QString& applicationFolder);
 

@@ -52,6 +52,8 @@ public:
 
 private:
     class Session;
+    [[nodiscard]] Session& session() const;
+
     std::unique_ptr<Session> m_session;
 };
 

@@ -55,6 +55,8 @@ public:
     [[nodiscard]] const std::vector<Row>& rows() const { return m_rows; }
     /// Requires: not empty.
     [[nodiscard]] const Row& first() const { return m_rows.front(); }
+    /// Null when there are no rows: the columns of an empty result are not asked for, which most
+    /// lookups of a refresh would pay for in vain.
     [[nodiscard]] const std::shared_ptr<const Columns>& columns() const { return m_columns; }
 
 private:

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QString>
 #include <cstdint>
+#include <utility>
 #include <variant>
 
 namespace db
@@ -13,6 +14,9 @@ namespace db
 class Value
 {
 public:
+    /// What a value can be; the first is null.
+    using Variant = std::variant<std::monostate, bool, std::int64_t, double, QString, QDate>;
+
     Value() = default; ///< Null
     explicit Value(bool value) : m_value(value) {}
     explicit Value(std::int64_t value) : m_value(value) {}
@@ -27,20 +31,26 @@ public:
     [[nodiscard]] QString toText() const;
     /// `toText`, but a null adds nothing: the rule for joined texts.
     [[nodiscard]] QString toJoinedText() const;
+    /// The nearest integer, halves to even; True is -1.
     /// Errors: InvalidUseOfNull, TypeMismatch, Overflow.
     [[nodiscard]] std::int16_t toInt16() const;
-    /// Errors: InvalidUseOfNull, TypeMismatch, Overflow.
+    /// The same in 32 bits. Errors: InvalidUseOfNull, TypeMismatch, Overflow.
     [[nodiscard]] std::int32_t toInt32() const;
-    /// Errors: InvalidUseOfNull, TypeMismatch.
+    /// Only 0, False and Faux are false. Errors: InvalidUseOfNull, TypeMismatch.
     [[nodiscard]] bool toBoolean() const;
     /// A date, or a text that begins with yyyy-mm-dd or yyyy/mm/dd.
     /// Errors: InvalidUseOfNull, TypeMismatch.
     [[nodiscard]] QDate toDate() const;
 
+    /// The value with its type, for whoever must tell the types apart.
+    [[nodiscard]] const Variant& variant() const { return m_value; }
+
     friend bool operator==(const Value&, const Value&) = default;
 
 private:
-    std::variant<std::monostate, bool, std::int64_t, double, QString, QDate> m_value;
+    [[nodiscard]] double toNumber() const;
+
+    Variant m_value;
 };
 
 } // namespace db

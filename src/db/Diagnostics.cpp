@@ -1,0 +1,104 @@
+#include "db/OdbcHandles.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+
+namespace db
+{
+namespace
+{
+
+using runtime::ErrorNumber;
+
+/// SQLite's driver reports every failure as HY000 with SQLite's own result code.
+ErrorNumber sqliteErrorNumber(const Diagnostics& diagnostics)
+{
+    constexpr int genericError = 1;
+    constexpr int tooBig = 18;
+    constexpr int constraint = 19;
+    constexpr int mismatch = 20;
+    constexpr int range = 25;
+    switch (diagnostics.nativeCode) {
+    case genericError:
+        return diagnostics.text.contains(QStringLiteral("no such table"))
+                   ? ErrorNumber::TableMissing
+                   : ErrorNumber::StatementRefused;
+    case tooBig:
+    case constraint:
+    case mismatch:
+    case range:
+        return ErrorNumber::StatementRefused;
+    default: // locked, read-only, full disk, damaged file, …
+        return ErrorNumber::DatabaseFailure;
+    }
+}
+
+/// Codes by which MariaDB and MySQL report that the connection is gone, whatever the SQLSTATE.
+bool isConnectionLost(int nativeCode)
+{
+    constexpr int firstClientError = 2000;
+    constexpr int lastClientError = 2060;
+    constexpr int serverShutdown = 1053;
+    constexpr int connectionKilled = 1927;
+    return (nativeCode >= firstClientError && nativeCode <= lastClientError) ||
+           nativeCode == serverShutdown || nativeCode == connectionKilled;
+}
+
+} // namespace
+
+ErrorNumber errorNumberOf(const Diagnostics& diagnostics, Product product, bool opening)
+{
+    constexpr int mariaDbNoSuchTable = 1146;
+    const QString& state = diagnostics.state;
+    if (opening || state.startsWith(QStringLiteral("08")) || state == QStringLiteral("HYT00") ||
+        state == QStringLiteral("HYT01") || state.startsWith(QStringLiteral("IM0"))) {
+        return ErrorNumber::DatabaseFailure;
+    }
+    if (product == Product::Sqlite && diagnostics.nativeCode != 0) {
+        return sqliteErrorNumber(diagnostics);
+    }
+    if (product == Product::MySql && isConnectionLost(diagnostics.nativeCode)) {
+        return ErrorNumber::DatabaseFailure;
+    }
+    if (state == QStringLiteral("42S02") ||
+        (product == Product::MySql && diagnostics.nativeCode == mariaDbNoSuchTable)) {
+        return ErrorNumber::TableMissing;
+    }
+    return ErrorNumber::StatementRefused;
+}
+
+QStringList passwordsIn(const QString& connectString)
+{
+    // A password may itself hold a semicolon, which the driver takes for the end of the value:
+    // neither what the driver saw nor what the user wrote may show.
+    static const QRegularExpression form(
+        QStringLiteral("(?:^|;)\\s*(?:PASSWORD|PWD)\\s*=\\s*"
+                       "(?=(\\{[^}]*\\}|[^;]*))(.*?)(?=;\\s*[A-Za-z][A-Za-z0-9_ ]*=|;?$)"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    QStringList passwords;
+    auto matches = form.globalMatch(connectString);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        for (QString password : {match.captured(1), match.captured(2)}) {
+            passwords << password;
+            if (password.startsWith(u'{') && password.endsWith(u'}')) {
+                passwords << password.mid(1, password.size() - 2);
+            }
+        }
+    }
+    passwords.removeAll(QString());
+    passwords.removeDuplicates();
+    std::sort(passwords.begin(), passwords.end(),
+              [](const QString& left, const QString& right) { return left.size() > right.size(); });
+    return passwords;
+}
+
+QString withoutPasswords(QString text, const QStringList& passwords)
+{
+    for (const QString& password : passwords) {
+        text.replace(password, QStringLiteral("***"));
+    }
+    return text;
+}
+
+} // namespace db

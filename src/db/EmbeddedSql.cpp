@@ -1,0 +1,134 @@
+#include "db/EmbeddedSql.h"
+
+#include <QRegularExpression>
+
+namespace db
+{
+namespace
+{
+
+/// Position behind the quoted text or name that starts at `start`; behind a single character when
+/// none starts there. An unclosed quote reaches to the end. A doubled quote within a text reads
+/// as two texts side by side, which comes to the same.
+qsizetype behindQuoted(const QString& sql, qsizetype start)
+{
+    const QChar open = sql[start];
+    if (open != u'\'' && open != u'"' && open != u'`' && open != u'[') {
+        return start + 1;
+    }
+    const qsizetype close = sql.indexOf(open == u'[' ? QChar(u']') : open, start + 1);
+    return close < 0 ? sql.size() : close + 1;
+}
+
+/// Position of the parenthesis that closes the one at `open`, or -1.
+qsizetype closingParenthesis(const QString& sql, qsizetype open)
+{
+    int depth = 0;
+    for (qsizetype i = open; i < sql.size(); i = behindQuoted(sql, i)) {
+        if (sql[i] == u'(') {
+            ++depth;
+        } else if (sql[i] == u')' && --depth == 0) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+bool isNameCharacter(QChar character)
+{
+    return character.isLetterOrNumber() || character == u'_' || character == u'$';
+}
+
+/// Position behind the word `word`, in any case, that starts at `start`; -1 when it does not.
+qsizetype behindWord(const QString& sql, qsizetype start, QLatin1String word)
+{
+    const qsizetype end = start + word.size();
+    const bool found = QStringView(sql).mid(start).startsWith(word, Qt::CaseInsensitive) &&
+                       (start == 0 || !isNameCharacter(sql[start - 1])) &&
+                       (end >= sql.size() || !isNameCharacter(sql[end]));
+    return found ? end : -1;
+}
+
+qsizetype skipSpaces(const QString& sql, qsizetype start)
+{
+    while (start < sql.size() && sql[start].isSpace()) {
+        ++start;
+    }
+    return start;
+}
+
+/// Appends what the date literal at `start` becomes. Returns the position behind it, or -1.
+qsizetype adaptDate(const QString& sql, qsizetype start, QString& adapted)
+{
+    const qsizetype close = sql.indexOf(u'#', start + 1);
+    const std::optional<QDate> date =
+        close < 0 ? std::nullopt : dialectDate(sql.mid(start + 1, close - start - 1));
+    if (!date) {
+        return -1;
+    }
+    adapted += u'\'' + date->toString(Qt::ISODate) + u'\'';
+    return close + 1;
+}
+
+/// Appends what the call of ISNULL at `start` becomes. Returns the position behind it, or -1.
+qsizetype adaptIsNull(const QString& sql, qsizetype start, QString& adapted)
+{
+    const qsizetype word = behindWord(sql, start, QLatin1String("isnull"));
+    if (word < 0) {
+        return -1;
+    }
+    const qsizetype open = skipSpaces(sql, word);
+    const qsizetype close =
+        open < sql.size() && sql[open] == u'(' ? closingParenthesis(sql, open) : -1;
+    if (close < 0) {
+        return -1;
+    }
+    const QString argument = adaptToEmbedded(sql.mid(open + 1, close - open - 1)).trimmed();
+    adapted += u'(' + argument + QStringLiteral(" IS NULL)");
+    return close + 1;
+}
+
+} // namespace
+
+QString adaptToEmbedded(const QString& sql)
+{
+    QString adapted;
+    adapted.reserve(sql.size());
+    for (qsizetype i = 0; i < sql.size();) {
+        qsizetype behind = -1;
+        if (sql[i] == u'#') {
+            behind = adaptDate(sql, i, adapted);
+        } else if (sql[i] == u'i' || sql[i] == u'I') {
+            behind = adaptIsNull(sql, i, adapted);
+        }
+        if (behind < 0) {
+            behind = behindQuoted(sql, i);
+            adapted += QStringView(sql).mid(i, behind - i);
+        }
+        i = behind;
+    }
+    return adapted;
+}
+
+std::optional<QDate> dialectDate(const QString& text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^ *(?:(?<m>[0-9]{1,2})/(?<d>[0-9]{1,2})/(?<y>[0-9]{4}|[0-9]{2})|"
+                       "(?<y2>[0-9]{4})([-/])(?<m2>[0-9]{1,2})\\5(?<d2>[0-9]{1,2})) *$"));
+    constexpr int firstCentury = 2000;
+    constexpr int century = 100;
+    const QRegularExpressionMatch match = form.match(text);
+    const bool yearFirst = !match.captured(QStringLiteral("y2")).isEmpty();
+    const auto number = [&](const char* name) {
+        return match.captured(QLatin1String(name)).toInt();
+    };
+    int year = yearFirst ? number("y2") : number("y");
+    if (!yearFirst && year < century) {
+        year += firstCentury;
+    }
+    const QDate date(year, yearFirst ? number("m2") : number("m"),
+                     yearFirst ? number("d2") : number("d"));
+    return match.hasMatch() && date.isValid() ? std::optional(date) : std::nullopt;
+}
+
+} // namespace db

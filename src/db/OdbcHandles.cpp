@@ -1,0 +1,229 @@
+#include "db/OdbcHandles.h"
+
+#include <array>
+#include <vector>
+
+namespace db
+{
+namespace
+{
+
+using runtime::ErrorNumber;
+using runtime::RunTimeError;
+
+/// Nobody waits longer for a server that does not answer.
+constexpr SQLULEN loginTimeoutSeconds = 15;
+
+/// A longer wait for another program's lock would look like a hang.
+constexpr int sqliteLockTimeoutMilliseconds = 3000;
+
+SQLPOINTER numberArgument(SQLULEN value)
+{
+    return reinterpret_cast<SQLPOINTER>(value);
+}
+
+SQLWCHAR* wide(const QString& text)
+{
+    // The API takes its input without const; it does not write there.
+    return const_cast<SQLWCHAR*>(reinterpret_cast<const SQLWCHAR*>(text.utf16()));
+}
+
+SQLCHAR* narrow(const QByteArray& text)
+{
+    return const_cast<SQLCHAR*>(reinterpret_cast<const SQLCHAR*>(text.constData()));
+}
+
+/// One diagnostic record of a handle; false when there is no such record.
+bool readRecord(SQLSMALLINT type, SQLHANDLE handle, SQLSMALLINT index, TextForm form,
+                Diagnostics& record)
+{
+    constexpr std::size_t longestMessage = 2048;
+    constexpr int stateLength = 5;
+    SQLINTEGER native = 0;
+    SQLSMALLINT length = 0;
+    if (form == TextForm::Utf8) {
+        std::array<SQLCHAR, stateLength + 1> state{};
+        std::array<SQLCHAR, longestMessage> text{};
+        if (!SQL_SUCCEEDED(SQLGetDiagRec(type, handle, index, state.data(), &native, text.data(),
+                                         static_cast<SQLSMALLINT>(text.size()), &length))) {
+            return false;
+        }
+        record.state = QString::fromUtf8(reinterpret_cast<const char*>(state.data()));
+        record.text = QString::fromUtf8(reinterpret_cast<const char*>(text.data()));
+    } else {
+        std::array<SQLWCHAR, stateLength + 1> state{};
+        std::array<SQLWCHAR, longestMessage> text{};
+        if (!SQL_SUCCEEDED(SQLGetDiagRecW(type, handle, index, state.data(), &native, text.data(),
+                                          static_cast<SQLSMALLINT>(text.size()), &length))) {
+            return false;
+        }
+        record.state = QString::fromUtf16(reinterpret_cast<const char16_t*>(state.data()));
+        record.text = QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()));
+    }
+    record.nativeCode = native;
+    return true;
+}
+
+Diagnostics diagnosticsOf(SQLSMALLINT type, SQLHANDLE handle, TextForm form)
+{
+    constexpr SQLSMALLINT mostRecords = 20;
+    Diagnostics all;
+    QStringList texts;
+    Diagnostics record;
+    for (SQLSMALLINT i = 1; i <= mostRecords && readRecord(type, handle, i, form, record); ++i) {
+        if (i == 1) {
+            all = record;
+        }
+        texts << record.text;
+    }
+    texts.removeDuplicates();
+    all.text = texts.join(u'\n');
+    return all;
+}
+
+SQLHANDLE allocated(SQLSMALLINT type, SQLHANDLE parent)
+{
+    SQLHANDLE handle = nullptr;
+    if (!SQL_SUCCEEDED(SQLAllocHandle(type, parent, &handle))) {
+        throw RunTimeError(ErrorNumber::DatabaseFailure, QStringLiteral("ODBC is not available."));
+    }
+    return handle;
+}
+
+Product productNamed(const QString& name)
+{
+    if (name.contains(QStringLiteral("sqlite"), Qt::CaseInsensitive)) {
+        return Product::Sqlite;
+    }
+    if (name.contains(QStringLiteral("mysql"), Qt::CaseInsensitive) ||
+        name.contains(QStringLiteral("mariadb"), Qt::CaseInsensitive)) {
+        return Product::MySql;
+    }
+    return Product::Other;
+}
+
+/// SQLite's driver knows UTF-8 alone where there is no Windows. The driver manager would put texts
+/// into the process's character set for it, and cut every character outside the Basic Multilingual
+/// Plane down to single bytes; the narrow functions pass UTF-8 on untouched.
+TextForm textFormFor(Product product)
+{
+#ifdef _WIN32
+    static_cast<void>(product);
+    return TextForm::Utf16;
+#else
+    return product == Product::Sqlite ? TextForm::Utf8 : TextForm::Utf16;
+#endif
+}
+
+} // namespace
+
+EnvironmentHandle::EnvironmentHandle() : m_handle(allocated(SQL_HANDLE_ENV, SQL_NULL_HANDLE))
+{
+    SQLSetEnvAttr(get(), SQL_ATTR_ODBC_VERSION, numberArgument(SQL_OV_ODBC3), 0);
+}
+
+ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
+                                   const QString& connectString)
+    : m_passwords(passwordsIn(connectString)),
+      m_handle(allocated(SQL_HANDLE_DBC, environment.get()))
+{
+    // Drivers without a server have no login timeout and may say so.
+    SQLSetConnectAttr(get(), SQL_ATTR_LOGIN_TIMEOUT, numberArgument(loginTimeoutSeconds), 0);
+    const SQLRETURN result = SQLDriverConnectW(get(), nullptr, wide(connectString),
+                                               static_cast<SQLSMALLINT>(connectString.size()),
+                                               nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    if (!SQL_SUCCEEDED(result)) {
+        const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), m_textForm);
+        throw RunTimeError(errorNumberOf(diagnostics, m_product, true),
+                           withoutPasswords(diagnostics.text, m_passwords));
+    }
+    SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
+    m_product = productNamed(info(SQL_DBMS_NAME));
+    m_textForm = textFormFor(m_product);
+    m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);
+    if (m_product == Product::Sqlite) {
+        StatementHandle(*this).execute(
+            QStringLiteral("PRAGMA busy_timeout = %1").arg(sqliteLockTimeoutMilliseconds));
+    }
+}
+
+QString ConnectionHandle::info(SQLUSMALLINT what) const
+{
+    constexpr std::size_t longestInfo = 128;
+    std::array<SQLWCHAR, longestInfo> text{};
+    const SQLRETURN result =
+        SQLGetInfoW(get(), what, text.data(),
+                    static_cast<SQLSMALLINT>(text.size() * sizeof(SQLWCHAR)), nullptr);
+    return SQL_SUCCEEDED(result)
+               ? QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()))
+               : QString();
+}
+
+QString ConnectionHandle::quoted(const QString& identifier) const
+{
+    if (m_quote.trimmed().isEmpty()) { // a blank says that the driver quotes nothing
+        return identifier;
+    }
+    return m_quote + QString(identifier).replace(m_quote, m_quote + m_quote) + m_quote;
+}
+
+void ConnectionHandle::raise(SQLSMALLINT handleType, SQLHANDLE handle) const
+{
+    const Diagnostics diagnostics = diagnosticsOf(handleType, handle, m_textForm);
+    throw RunTimeError(errorNumberOf(diagnostics, m_product, false),
+                       withoutPasswords(diagnostics.text, m_passwords));
+}
+
+StatementHandle::StatementHandle(const ConnectionHandle& connection)
+    : m_connection(&connection), m_handle(nullptr)
+{
+    SQLHANDLE handle = nullptr;
+    if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_STMT, connection.get(), &handle))) {
+        connection.raise(SQL_HANDLE_DBC, connection.get());
+    }
+    m_handle = OdbcHandle<SQL_HANDLE_STMT>(handle);
+}
+
+void StatementHandle::setAttribute(SQLINTEGER attribute, SQLULEN value)
+{
+    check(SQLSetStmtAttr(get(), attribute, numberArgument(value), 0));
+}
+
+void StatementHandle::execute(const QString& sql)
+{
+    SQLRETURN result = SQL_SUCCESS;
+    if (m_connection->textForm() == TextForm::Utf8) {
+        const QByteArray text = sql.toUtf8();
+        result = SQLExecDirect(get(), narrow(text), static_cast<SQLINTEGER>(text.size()));
+    } else {
+        result = SQLExecDirectW(get(), wide(sql), static_cast<SQLINTEGER>(sql.size()));
+    }
+    if (result != SQL_NO_DATA) { // the answer to a deletion that found no row
+        check(result);
+    }
+}
+
+bool StatementHandle::fetch()
+{
+    const SQLRETURN result = SQLFetch(get());
+    if (result == SQL_NO_DATA) {
+        return false;
+    }
+    check(result);
+    return true;
+}
+
+SQLLEN StatementHandle::changedRows() const
+{
+    SQLLEN rows = -1;
+    return SQL_SUCCEEDED(SQLRowCount(get(), &rows)) ? rows : -1;
+}
+
+void StatementHandle::check(SQLRETURN result) const
+{
+    if (!SQL_SUCCEEDED(result)) {
+        m_connection->raise(SQL_HANDLE_STMT, get());
+    }
+}
+
+} // namespace db

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace test
+{
+
+/// This process's own ODBC configuration: the drivers under the names that the program uses, and
+/// the data sources that tests add. The system's configuration is neither read nor changed.
+class OdbcConfiguration
+{
+public:
+    /// The one configuration of the process, in force from the first call on.
+    [[nodiscard]] static OdbcConfiguration& instance();
+
+    /// Adds a data source over an SQLite file. The name must be new in this process: the driver
+    /// manager remembers what it has once read.
+    void addSqliteSource(const QString& name, const QString& file);
+    /// Adds a data source whose driver library does not exist.
+    void addBrokenSource(const QString& name);
+
+private:
+    OdbcConfiguration();
+    void addSource(const QString& name, const QString& entries);
+
+    QString m_sources;
+};
+
+} // namespace test

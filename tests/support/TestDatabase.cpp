@@ -1,0 +1,161 @@
+#include "support/TestDatabase.h"
+
+#include "support/ChildProgram.h"
+#include "support/MariaDbServer.h"
+#include "support/OdbcConfiguration.h"
+#include "support/TestFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <stdexcept>
+
+namespace test
+{
+namespace
+{
+
+const QString user = QStringLiteral("planning");
+const QString password = QStringLiteral("mot-de-passe");
+
+// Separators that no text of a test holds.
+constexpr QChar fieldEnd(0x1f);
+constexpr QChar rowEnd(0x1e);
+
+QString script(const QStringList& statements)
+{
+    return statements.join(QStringLiteral(";\n")) + QStringLiteral(";\n");
+}
+
+QByteArray runSqlite(const QString& file, const QStringList& options, const QString& statements)
+{
+    return runProgram(findProgram(QStringLiteral("sqlite3")),
+                      QStringList{QStringLiteral("-batch"), QStringLiteral("-bail")} + options +
+                          QStringList{file},
+                      statements.toUtf8());
+}
+
+/// Undoes what the MariaDB client does to a field so that it stays on its line.
+QString unescaped(const QString& field)
+{
+    QString text;
+    for (qsizetype i = 0; i < field.size(); ++i) {
+        if (field[i] != u'\\' || i + 1 == field.size()) {
+            text += field[i];
+            continue;
+        }
+        const QChar code = field[++i];
+        text += code == u't'   ? QChar(u'\t')
+                : code == u'n' ? QChar(u'\n')
+                : code == u'0' ? QChar(0)
+                               : code;
+    }
+    return text;
+}
+
+QList<QStringList> rowsOf(QString output, QChar betweenFields, QChar behindRow)
+{
+    QList<QStringList> rows;
+    if (output.endsWith(behindRow)) {
+        output.chop(1);
+    } else if (output.isEmpty()) {
+        return rows;
+    }
+    for (const QString& line : output.split(behindRow)) {
+        rows << line.split(betweenFields);
+    }
+    return rows;
+}
+
+} // namespace
+
+TestDatabase::TestDatabase(DatabaseKind kind) : m_kind(kind)
+{
+    static int counter = 0;
+    m_name = QStringLiteral("base%1").arg(++counter);
+    if (kind == DatabaseKind::Sqlite) {
+        createSqlite();
+    } else {
+        createMariaDb();
+    }
+}
+
+TestDatabase::~TestDatabase()
+{
+    if (m_kind == DatabaseKind::Sqlite) {
+        for (const char* suffix : {"", "-journal", "-wal", "-shm"}) {
+            QFile::remove(m_file + QLatin1String(suffix));
+        }
+    }
+    // A server's database goes with the server.
+}
+
+void TestDatabase::createSqlite()
+{
+    m_file = processFolder() + u'/' + m_name + QStringLiteral(".sqlite");
+    writeFile(m_file, QString());
+    OdbcConfiguration::instance().addSqliteSource(m_name, m_file);
+    m_connectString = QStringLiteral("DSN=") + m_name;
+}
+
+void TestDatabase::createMariaDb()
+{
+    const MariaDbServer& server = MariaDbServer::shared();
+    server.runScript(QStringLiteral("CREATE DATABASE %1;\n"
+                                    "CREATE USER IF NOT EXISTS %2@'%' IDENTIFIED BY '%3';\n"
+                                    "GRANT ALL ON %1.* TO %2@'%';\n")
+                         .arg(m_name, user, password));
+    m_connectString = server.connectString(m_name, user, password);
+}
+
+void TestDatabase::writePhpFile(const QString& applicationFolder) const
+{
+    if (!usesMySql()) {
+        return;
+    }
+    writeFile(applicationFolder + QStringLiteral("/app_data/") + m_name + QStringLiteral(".php"),
+              QStringLiteral("<?php\n$host=\"127.0.0.1\";\n$login=\"%1\";\n"
+                             "$mot_de_passe=\"%2\";\n$Base=\"%3\";\n$port=\"%4\";\n?>\n")
+                  .arg(user, password, m_name)
+                  .arg(MariaDbServer::shared().port()));
+}
+
+void TestDatabase::execute(const QStringList& statements)
+{
+    if (m_kind == DatabaseKind::Sqlite) {
+        runSqlite(m_file, {}, script(statements));
+    } else {
+        static_cast<void>(MariaDbServer::shared().runScript(script(statements), m_name));
+    }
+}
+
+QList<QStringList> TestDatabase::read(const QString& query) const
+{
+    if (m_kind == DatabaseKind::Sqlite) {
+        const QByteArray output = runSqlite(m_file,
+                                            {QStringLiteral("-nullvalue"), QStringLiteral("NULL"),
+                                             QStringLiteral("-separator"), QString(fieldEnd),
+                                             QStringLiteral("-newline"), QString(rowEnd)},
+                                            script({query}));
+        return rowsOf(QString::fromUtf8(output), fieldEnd, rowEnd);
+    }
+    const QByteArray output = MariaDbServer::shared().runScript(script({query}), m_name);
+    QList<QStringList> rows = rowsOf(QString::fromUtf8(output), u'\t', u'\n');
+    for (QStringList& row : rows) {
+        for (QString& field : row) {
+            field = unescaped(field);
+        }
+    }
+    return rows;
+}
+
+std::string kindName(const testing::TestParamInfo<DatabaseKind>& info)
+{
+    return info.param == DatabaseKind::Sqlite ? "sqlite" : "mariaDb";
+}
+
+void PrintTo(DatabaseKind kind, std::ostream* stream)
+{
+    *stream << (kind == DatabaseKind::Sqlite ? "SQLite" : "MariaDB");
+}
+
+} // namespace test

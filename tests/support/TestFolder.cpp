@@ -1,0 +1,74 @@
+#include "support/TestFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+#include <csignal>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace test
+{
+namespace
+{
+
+const QString prefix = QStringLiteral("process-");
+
+bool isAlive(const QString& processId)
+{
+    return kill(processId.toInt(), 0) == 0 || errno == EPERM;
+}
+
+void removeFoldersOfDeadProcesses()
+{
+    const QDir shared(sharedFolder());
+    for (const QString& name : shared.entryList({prefix + u'*'}, QDir::Dirs)) {
+        if (!isAlive(name.mid(prefix.size()))) {
+            QDir(shared.filePath(name)).removeRecursively();
+        }
+    }
+}
+
+/// Exists while the process does.
+class ProcessFolder
+{
+public:
+    ProcessFolder() : m_path(sharedFolder() + u'/' + prefix + QString::number(getpid()))
+    {
+        removeFoldersOfDeadProcesses();
+        QDir().mkpath(m_path);
+    }
+    ~ProcessFolder() { QDir(m_path).removeRecursively(); }
+    ProcessFolder(const ProcessFolder&) = delete;
+    ProcessFolder& operator=(const ProcessFolder&) = delete;
+
+    [[nodiscard]] const QString& path() const { return m_path; }
+
+private:
+    QString m_path;
+};
+
+} // namespace
+
+const QString& processFolder()
+{
+    static const ProcessFolder folder;
+    return folder.path();
+}
+
+QString sharedFolder()
+{
+    return QStringLiteral(TEMPORA_TEST_DATA);
+}
+
+void writeFile(const QString& path, const QString& text)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) {
+        throw std::runtime_error("cannot write " + path.toStdString());
+    }
+}
+
+} // namespace test
