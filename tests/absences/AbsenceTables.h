@@ -1,0 +1,36 @@
+#pragma once
+
+#include "plan/Marqueur.h"
+#include "support/TestDatabase.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace test
+{
+
+/// Creates the two tables of absences as the demo faculty has them, with a counted key, and the
+/// period that `lesson` belongs to.
+void createAbsenceTables(TestDatabase& database);
+/// Creates the two tables of absences without any key, so that rows can be identical.
+void createKeylessAbsenceTables(TestDatabase& database);
+
+/// The séance that the tests mark: an algebra class on Monday, 17 March 2025, at 10h15.
+[[nodiscard]] plan::Marqueur lesson(const QString& classes);
+
+/// All rows of `abscence`, the eighteen columns in the order in which the program sets them.
+[[nodiscard]] QList<QStringList> classAbsences(const TestDatabase& database);
+/// All rows of `etud_abs`, the nine columns in the order in which the program sets them.
+[[nodiscard]] QList<QStringList> studentAbsences(const TestDatabase& database);
+
+/// The row of `abscence` that records `lesson` for the class.
+[[nodiscard]] QStringList classAbsence(const QString& className);
+/// The row of `etud_abs` that records `lesson` for the class.
+[[nodiscard]] QStringList studentAbsence(const QString& className);
+
+/// The columns `Classe` of all rows, in alphabetical order.
+[[nodiscard]] QStringList absentClasses(const TestDatabase& database);
+[[nodiscard]] QStringList classesOfAbsentStudents(const TestDatabase& database);
+
+} // namespace test
