@@ -108,11 +108,13 @@ void PlClasse::buildStatusBar()
     m_mirror.bind(add(QStringLiteral("Lab_Ver"), QString()), form.Lab_Ver);
 }
 
-void PlClasse::load()
+bool PlClasse::load()
 {
-    m_shell.Form_Load();
-    m_view->fit();
-    syncWidgets();
+    forward([this] {
+        m_shell.Form_Load();
+        m_view->fit();
+    });
+    return !m_failed;
 }
 
 void PlClasse::activate()

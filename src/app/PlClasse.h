@@ -25,8 +25,8 @@ public:
     PlClasse(shell::Settings settings, shell::Environment environment);
     ~PlClasse() override;
 
-    /// Starts the program up. Error: runtime::RunTimeError; nothing is saved then.
-    void load();
+    /// Starts the program up. False after a fault, which has been shown; nothing is saved then.
+    [[nodiscard]] bool load();
     /// Draws the plan for the first time, once the window is shown.
     void activate();
     /// Plays the choices of the command line. Error: shell::UsageError.

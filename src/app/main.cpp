@@ -24,13 +24,9 @@ bool hasDisplay()
 }
 
 /// An export draws in memory, with the same fonts whether or not there is a display.
-void chooseOffscreenPlatform(int argc, char* argv[])
+void drawInMemory()
 {
-    bool exporting = false;
-    for (int argument = 1; argument < argc; ++argument) {
-        exporting = exporting || QByteArray(argv[argument]).startsWith("--export");
-    }
-    if ((exporting || !hasDisplay()) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
 }
@@ -63,7 +59,9 @@ void exportWithoutWindow(const shell::CommandLine& line)
 int runWindow(const shell::CommandLine& line)
 {
     app::PlClasse window(openSettings(line), environmentFor(line));
-    window.load();
+    if (!window.load()) {
+        return kFailed;
+    }
     window.resize(1280, 720);
     window.showMaximized();
     window.activate();
@@ -71,8 +69,17 @@ int runWindow(const shell::CommandLine& line)
     return window.failed() ? kFailed : QApplication::exec();
 }
 
-int runWithLine(const shell::CommandLine& line, bool display)
+/// The command line, read without a display: a mistake or --help needs none.
+shell::CommandLine readCommandLine(int argc, char* argv[])
 {
+    const QCoreApplication arguments(argc, argv);
+    return shell::CommandLine::parse(QCoreApplication::arguments());
+}
+
+int runProgram(int argc, char* argv[])
+{
+    const bool display = hasDisplay();
+    const shell::CommandLine line = readCommandLine(argc, argv);
     if (line.help) {
         app::writeOutput(shell::CommandLine::helpText());
         return kDone;
@@ -81,22 +88,32 @@ int runWithLine(const shell::CommandLine& line, bool display)
         app::writeOutput(QStringLiteral("Tempora " TEMPORA_VERSION "\n"));
         return kDone;
     }
-    if (!line.exportFile.isEmpty()) {
-        exportWithoutWindow(line);
-        return kDone;
-    }
-    if (!display) {
+    const bool exporting = !line.exportFile.isEmpty();
+    if (!exporting && !display) {
         app::writeError(QStringLiteral("Pas d’écran : la fenêtre ne peut pas s’ouvrir. Le plan "
                                        "s’écrit dans un fichier avec --export (voir --help)."));
         return kFailed;
     }
+    if (exporting) {
+        drawInMemory();
+    }
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QApplication application(argc, argv);
+    if (exporting) {
+        exportWithoutWindow(line);
+        return kDone;
+    }
     return runWindow(line);
 }
 
-int run(bool display)
+} // namespace
+
+int main(int argc, char* argv[])
 {
+    QCoreApplication::setApplicationName(QStringLiteral("Tempora"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));
     try {
-        return runWithLine(shell::CommandLine::parse(QCoreApplication::arguments()), display);
+        return runProgram(argc, argv);
     } catch (const runtime::RunTimeError& error) {
         app::reportRunTimeError(nullptr, error);
         return kFailed;
@@ -107,17 +124,4 @@ int run(bool display)
         app::writeError(QString::fromUtf8(error.what()));
         return kUsage;
     }
-}
-
-} // namespace
-
-int main(int argc, char* argv[])
-{
-    const bool display = hasDisplay();
-    chooseOffscreenPlatform(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Tempora"));
-    QApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));
-    return run(display);
 }

@@ -14,11 +14,13 @@ namespace
 // Twips between the slot labels and the window's inner bottom when the slots are read.
 constexpr int kLoadMargin = 450;
 
-/// Start and end of a slot are written with a lower-case "h": 8h30.
+/// Start and end of a slot are written with a lower-case "h", 8h30; one in upper case does as well.
 int TimeTextToTime(QString text)
 {
-    return runtime::during(QStringLiteral("Lecture de l’horaire « %1 » d’une séance").arg(text),
-                           [&] { return runtime::secondsOfDay(text.replace(u'h', u':')); });
+    return runtime::during(
+        QStringLiteral("Lecture de l’horaire « %1 » d’une séance").arg(text), [&] {
+            return runtime::secondsOfDay(runtime::normaliseTimeText(text.replace(u'h', u':')));
+        });
 }
 
 } // namespace

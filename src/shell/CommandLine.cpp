@@ -83,6 +83,9 @@ public:
             }
             m_parser.addOption(option);
         }
+        // Qt's own choice of platform plugin, for machines where the environment cannot make it.
+        m_parser.addOption(
+            QCommandLineOption(QStringLiteral("platform"), {}, {QStringLiteral("p")}));
         if (!m_parser.parse(arguments)) {
             failToParse(m_parser, arguments);
         }
