@@ -114,7 +114,7 @@ std::optional<QDate> dialectDate(const QString& text)
 {
     static const QRegularExpression form(
         QStringLiteral("^ *(?:(?<m>[0-9]{1,2})/(?<d>[0-9]{1,2})/(?<y>[0-9]{4}|[0-9]{2})|"
-                       "(?<y2>[0-9]{4})([-/])(?<m2>[0-9]{1,2})\\5(?<d2>[0-9]{1,2})) *$"));
+                       "(?<y2>[0-9]{4})([-/])(?<m2>[0-9]{1,2})\\5(?<d2>[0-9]{1,2})) *\\z"));
     constexpr int firstCentury = 2000;
     constexpr int century = 100;
     const QRegularExpressionMatch match = form.match(text);

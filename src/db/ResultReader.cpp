@@ -37,7 +37,7 @@ Value booleanOrText(const QString& text)
 Value dateOrText(const QString& text)
 {
     static const QRegularExpression form(
-        QStringLiteral("^([0-9]{4}-[0-9]{2}-[0-9]{2})(?: 00:00:00(?:\\.0*)?)?$"));
+        QStringLiteral("^([0-9]{4}-[0-9]{2}-[0-9]{2})(?: 00:00:00(?:\\.0*)?)?\\z"));
     const QRegularExpressionMatch match = form.match(text);
     const QDate date = QDate::fromString(match.captured(1), Qt::ISODate);
     return date.isValid() ? Value(date) : Value(text);

@@ -17,7 +17,7 @@ QString normaliseTimeText(const QString& text)
 int secondsOfDay(const QString& text)
 {
     static const QRegularExpression form(
-        QStringLiteral("^([0-9]{1,2}) *: *([0-9]{1,2})?(?: *: *([0-9]{1,2}))?$"));
+        QStringLiteral("^([0-9]{1,2}) *: *([0-9]{1,2})?(?: *: *([0-9]{1,2}))?\\z"));
     const QRegularExpressionMatch match = form.match(trimBlanks(text));
     const int hours = match.captured(1).toInt();
     const int minutes = match.captured(2).toInt();

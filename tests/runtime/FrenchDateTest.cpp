@@ -1,0 +1,46 @@
+#include "runtime/FrenchDate.h"
+
+#include "support/RuntimeMatchers.h"
+
+using namespace runtime;
+
+TEST(FrenchLongDate, writesTheMonthInUpperCaseWithItsAccents)
+{
+    EXPECT_EQ(frenchLongDate(QDate(2026, 9, 1)), QStringLiteral("01/SEPTEMBRE/2026"));
+    EXPECT_EQ(frenchLongDate(QDate(2027, 2, 28)), QStringLiteral("28/FÉVRIER/2027"));
+    EXPECT_EQ(frenchLongDate(QDate(2026, 8, 15)), QStringLiteral("15/AOÛT/2026"));
+    EXPECT_EQ(frenchLongDate(QDate(2026, 12, 31)), QStringLiteral("31/DÉCEMBRE/2026"));
+}
+
+TEST(FrenchLongDate, isEmptyForNoDate)
+{
+    EXPECT_EQ(frenchLongDate(QDate()), QString());
+}
+
+TEST(FrenchLongDate, isReadBackForEveryDayOfALeapYear)
+{
+    for (QDate day(2028, 1, 1); day.year() == 2028; day = day.addDays(1)) {
+        EXPECT_EQ(fromFrenchLongDate(frenchLongDate(day)), day);
+    }
+}
+
+TEST(FrenchLongDate, isReadInAnyCase)
+{
+    EXPECT_EQ(fromFrenchLongDate(QStringLiteral("01/février/2027")), QDate(2027, 2, 1));
+}
+
+TEST(FrenchLongDate, mismatchesForAnyOtherText)
+{
+    for (const char* text : {"", "01/09/2026", "01/SEPTEMBER/2026", "31/JUIN/2026", "MARS/2026",
+                             "01/MARS/2026/x", "x/MARS/2026", "29/MARS/"}) {
+        EXPECT_EQ(test::errorNumberOf([&] { return fromFrenchLongDate(QLatin1String(text)); }),
+                  ErrorNumber::TypeMismatch)
+            << text;
+    }
+}
+
+TEST(FrenchDayNames, beginWithMondayAndEndWithSaturday)
+{
+    EXPECT_EQ(frenchDayNames().front(), QStringLiteral("Lundi"));
+    EXPECT_EQ(frenchDayNames().back(), QStringLiteral("Samedi"));
+}

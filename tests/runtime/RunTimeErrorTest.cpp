@@ -1,0 +1,61 @@
+#include "runtime/RunTimeError.h"
+
+#include "support/RuntimeMatchers.h"
+
+using namespace runtime;
+
+TEST(ARunTimeError, showsItsNumberAnEmptyLineAndItsText)
+{
+    EXPECT_EQ(RunTimeError(ErrorNumber::TypeMismatch).message(),
+              QStringLiteral("Run-time error '13':\n\nType mismatch"));
+}
+
+TEST(ARunTimeError, carriesTheDriversText)
+{
+    const RunTimeError error(ErrorNumber::DatabaseFailure, QStringLiteral("Gone %1 away"));
+    EXPECT_EQ(error.message(), QStringLiteral("Run-time error '-2147467259':\n\nGone %1 away"));
+    EXPECT_STREQ(error.what(), "Gone %1 away");
+}
+
+TEST(ARunTimeError, keepsTheInnermostActivity)
+{
+    const auto error = test::errorOf([] {
+        during(QStringLiteral("Ouverture"), [] {
+            during(QStringLiteral("Lecture de « x »"),
+                   [] { throw RunTimeError(ErrorNumber::Overflow); });
+        });
+    });
+    EXPECT_EQ(error.message(),
+              QStringLiteral("Run-time error '6':\n\nOverflow\n\nLecture de « x »"));
+}
+
+TEST(ARunTimeError, hasThePlatformsTextForEveryNumberThatIsNotTheDatabases)
+{
+    EXPECT_EQ(platformErrorText(ErrorNumber::InvalidProcedureCall),
+              QStringLiteral("Invalid procedure call or argument"));
+    EXPECT_EQ(platformErrorText(ErrorNumber::SubscriptOutOfRange),
+              QStringLiteral("Subscript out of range"));
+    EXPECT_EQ(platformErrorText(ErrorNumber::FileNotFound), QStringLiteral("File not found"));
+    EXPECT_EQ(platformErrorText(ErrorNumber::InvalidUseOfNull),
+              QStringLiteral("Invalid use of Null"));
+    EXPECT_EQ(platformErrorText(ErrorNumber::ItemNotFound),
+              QStringLiteral("Item cannot be found in the collection corresponding to the "
+                             "requested name or ordinal."));
+    EXPECT_EQ(platformErrorText(ErrorNumber::StatementRefused), QString());
+}
+
+TEST(During, returnsWhatTheActionReturns)
+{
+    EXPECT_EQ(during(QStringLiteral("Calcul"), [] { return 7; }), 7);
+}
+
+TEST(SkipOnError, tellsWhetherTheStepSucceeded)
+{
+    EXPECT_TRUE(skipOnError([] {}));
+    EXPECT_FALSE(skipOnError([] { throw RunTimeError(ErrorNumber::Overflow); }));
+}
+
+TEST(SkipOnError, letsEveryOtherExceptionThrough)
+{
+    EXPECT_THROW(skipOnError([] { throw 1; }), int);
+}
