@@ -13,6 +13,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -20,6 +21,9 @@ namespace app
 {
 namespace
 {
+
+constexpr int kPanelRows = 4;
+constexpr int kRowPixels = 22;
 
 /// Makes the widgets of the panels: each has its control's name and is bound to it.
 class PanelBuilder
@@ -68,47 +72,56 @@ QGridLayout* addPanel(QHBoxLayout* band, const QString& title, int stretch = 0)
 {
     auto* panel = new QGroupBox(title);
     auto* grid = new QGridLayout(panel);
-    grid->setContentsMargins(8, 2, 8, 4);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(1);
-    grid->setRowStretch(3, 1);
+    grid->setContentsMargins(8, 2, 8, 3);
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(0);
+    for (int row = 0; row < kPanelRows; ++row) {
+        grid->setRowMinimumHeight(row, kRowPixels);
+    }
+    grid->setRowStretch(kPanelRows, 1);
     band->addWidget(panel, stretch);
     return grid;
+}
+
+/// The widget keeps its place while it is hidden, so that nothing around it moves.
+template <typename Widget>
+Widget* keepPlace(Widget* widget)
+{
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+    return widget;
 }
 
 void addPeriodPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Période"), 2);
-    grid->addWidget(make.list("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 14),
-                    0, 0, 1, 2);
+    grid->addWidget(make.list("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 12),
+                    0, 0);
     grid->addWidget(make.radio("OpEns", form.OpEns, QStringLiteral("Emploi du temps hebdomadaire")),
                     1, 0);
-    grid->addWidget(make.radio("OpExam", form.OpExam, QStringLiteral("Semaines d’examen")), 1, 1);
-    auto* week = make.list("Combo10", form.Combo10, QStringLiteral("Semaine d’examen"), 14);
-    QSizePolicy keep = week->sizePolicy();
-    keep.setRetainSizeWhenHidden(true);
-    week->setSizePolicy(keep);
-    grid->addWidget(week, 2, 0, 1, 2);
+    grid->addWidget(make.radio("OpExam", form.OpExam, QStringLiteral("Semaines d’examen")), 2, 0);
+    grid->addWidget(
+        keepPlace(make.list("Combo10", form.Combo10, QStringLiteral("Semaine d’examen"), 12)), 3,
+        0);
 }
 
 void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Jour"));
-    grid->addWidget(make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 9), 0, 0);
+    grid->addWidget(make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 8), 0, 0);
     grid->addWidget(make.check("Check2", form.Check2,
                                QStringLiteral("Choisir une date et montrer ses rattrapages, "
                                               "hachurés")),
                     1, 0);
     auto* picker =
         make.add<QDateEdit>("DTPicker1", form.DTPicker1, QStringLiteral("Date affichée"));
+    const QSignalBlocker quiet(picker);
     picker->setAccessibleName(QStringLiteral("Date affichée"));
     picker->setLocale(QLocale(QLocale::French, QLocale::France));
     picker->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
     picker->setCalendarPopup(true);
-    QSizePolicy keep = picker->sizePolicy();
-    keep.setRetainSizeWhenHidden(true);
-    picker->setSizePolicy(keep);
-    grid->addWidget(picker, 2, 0);
+    grid->addWidget(keepPlace(picker), 2, 0);
 }
 
 void addWeekPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
@@ -126,29 +139,29 @@ void addBoxPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     grid->addWidget(make.check("XOpCl", form.XOpCl), 0, 0);
     grid->addWidget(make.check("XOpEns", form.XOpEns), 1, 0);
     grid->addWidget(make.check("XpMat", form.XpMat), 2, 0);
-    grid->addWidget(make.check("Chk_Type", form.Chk_Type, QStringLiteral("Type de séance")), 0, 1);
+    // One belongs to teaching, the other to exams: they share a place.
+    grid->addWidget(make.check("Chk_Type", form.Chk_Type, QStringLiteral("Type de séance")), 3, 0);
     grid->addWidget(make.check("xOpExam", form.xOpExam, QStringLiteral("Responsables de l’examen")),
-                    1, 1);
-    grid->setColumnMinimumWidth(1, 100);
+                    3, 0);
+    grid->setColumnMinimumWidth(0, 92);
 }
 
 void addRoomPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Salles"), 1);
-    grid->addWidget(new QLabel(QStringLiteral("Zone")), 0, 0);
-    grid->addWidget(make.list("cb_Locaux", form.cb_Locaux,
-                              QStringLiteral("Zone des salles ; 0 pour toutes"), 3),
-                    0, 1);
+    auto* caption = new QLabel(QStringLiteral("Zone"));
+    auto* zone = make.list("cb_Locaux", form.cb_Locaux,
+                           QStringLiteral("Zone des salles ; 0 pour toutes"), 3);
+    caption->setBuddy(zone);
+    grid->addWidget(caption, 0, 0);
+    grid->addWidget(zone, 0, 1);
     grid->addWidget(
         make.check("ElemDep", form.ElemDep, QStringLiteral("Ajouter les salles d’un département")),
         1, 0, 1, 2);
-    grid->addWidget(make.list("Combo1", form.Combo1, QStringLiteral("Département"), 7), 2, 0, 1, 1);
-    auto* neutral = make.check("Chk_Neutre", form.Chk_Neutre,
-                               QStringLiteral("Ajouter les salles sans département"));
-    QSizePolicy keep = neutral->sizePolicy();
-    keep.setRetainSizeWhenHidden(true);
-    neutral->setSizePolicy(keep);
-    grid->addWidget(neutral, 2, 1);
+    grid->addWidget(make.list("Combo1", form.Combo1, QStringLiteral("Département"), 8), 2, 0, 1, 2);
+    grid->addWidget(keepPlace(make.check("Chk_Neutre", form.Chk_Neutre,
+                                         QStringLiteral("Ajouter les salles sans département"))),
+                    3, 0, 1, 2);
     grid->setColumnStretch(1, 1);
 }
 
@@ -158,6 +171,7 @@ void addPagePanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     auto* caption = new QLabel(QStringLiteral("Lignes/Page : "));
     auto* lines = make.add<QSpinBox>("Total_L_P", form.Total_L_P,
                                      QStringLiteral("Nombre de salles par page, 29 au plus"));
+    const QSignalBlocker quiet(lines);
     lines->setRange(1, 99);
     lines->setAccessibleName(QStringLiteral("Lignes par page"));
     caption->setBuddy(lines);
@@ -177,14 +191,14 @@ QCheckBox* addViewPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& f
     grid->addWidget(make.check("ChkGrille", form.ChkGrille,
                                QStringLiteral("Lignes des heures et des quarts d’heure")),
                     1, 0);
-    grid->addWidget(make.check("Check3", form.Check3,
-                               QStringLiteral("Compteurs des classes groupées et des "
-                                              "dépassements")),
-                    0, 1);
+    grid->addWidget(
+        make.check("Check3", form.Check3,
+                   QStringLiteral("Compteurs des classes groupées et des dépassements")),
+        2, 0);
     grid->addWidget(make.check("Chk_Compt", form.Chk_Compt,
                                QStringLiteral("Compter les places occupées par séance, à partir "
                                               "du prochain affichage")),
-                    1, 1);
+                    3, 0);
     return colorer;
 }
 
@@ -194,8 +208,9 @@ void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror, 
     QGridLayout* grid = addPanel(band, QStringLiteral("Matière et couleurs"), 2);
     grid->addWidget(make.check("Check1", form.Check1,
                                QStringLiteral("Ne montrer que les séances d’une matière")),
-                    0, 0);
-    grid->addWidget(make.list("Cb_Mat", form.Cb_Mat, QStringLiteral("Matière montrée"), 14), 1, 0);
+                    0, 0, 1, 2);
+    grid->addWidget(make.list("Cb_Mat", form.Cb_Mat, QStringLiteral("Matière montrée"), 14), 1, 0,
+                    1, 2);
     auto* frame = new QWidget;
     frame->setObjectName(QStringLiteral("Frame1"));
     mirror.bindVisible(frame, form.Frame1.visible);
@@ -212,7 +227,7 @@ void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror, 
     row->addWidget(
         make.button("Command4", form.Command4, QStringLiteral("Choisir une palette de couleurs")),
         1, 0, 1, 2);
-    grid->addWidget(frame, 1, 0, 2, 1);
+    grid->addWidget(frame, 1, 0, 2, 2);
 }
 
 void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, shell::Shell& shell)
@@ -232,8 +247,8 @@ OptionPanels::OptionPanels(shell::Shell& shell, FormMirror& mirror)
 {
     setObjectName(QStringLiteral("Picture1"));
     auto* band = new QHBoxLayout(this);
-    band->setContentsMargins(8, 4, 8, 4);
-    band->setSpacing(6);
+    band->setContentsMargins(6, 2, 6, 4);
+    band->setSpacing(5);
     PanelBuilder make(mirror);
     form::PlanForm& form = shell.form();
     addPeriodPanel(band, make, form);

@@ -1,5 +1,6 @@
 #include "app/PlanView.h"
 
+#include "absences/MarkerToolTips.h"
 #include "app/PlanHit.h"
 #include "app/ViewScale.h"
 #include "shell/Shell.h"
@@ -158,7 +159,7 @@ void PlanView::paintBands(QPainter& painter)
     });
     band(view.names, 0, scrollY, [](plan::PlanPainter& plan) { plan.paintRoomLabels(); });
     band(view.places, 0, scrollY, [](plan::PlanPainter& plan) { plan.paintPlaces(); });
-    band(view.ticks.adjusted(0, 0, 24, 0), scrollX, 0,
+    band(view.ticks.adjusted(0, 0, view.places.width(), 0), scrollX, 0,
          [](plan::PlanPainter& plan) { plan.paintTicks(); });
     band(view.totals, scrollX, -view.totals.top() - 2,
          [](plan::PlanPainter& plan) { plan.paintTotals(); });
@@ -225,10 +226,12 @@ QString PlanView::toolTipAt(QPoint point) const
         }
         break;
     case PlanHit::Part::XAbs:
+        return absences::XAbsToolTip(*hit.box);
     case PlanHit::Part::Box:
         break;
     }
-    return boxToolTip(*hit.row, *hit.box);
+    return boxToolTip(*hit.row, *hit.box) + QStringLiteral("\n\n") +
+           absences::ZAbsToolTip(*hit.box);
 }
 
 bool PlanView::viewportEvent(QEvent* event)

@@ -58,18 +58,27 @@ struct Setting {
     QStringList lines;
 };
 
-/// The largest font, down to the smallest legible one, with which all lines fit the area.
+bool fits(const Setting& setting, const QRectF& area)
+{
+    const QFontMetricsF metrics(setting.font);
+    return metrics.height() * static_cast<double>(setting.lines.size()) <= area.height() + 1 &&
+           widest(metrics, setting.lines) <= area.width();
+}
+
+/// The largest font, down to the smallest legible one, with which all lines fit the area: as they
+/// are written if possible, else broken between words.
 Setting fitText(QFont font, const QStringList& lines, const QRectF& area, bool wordBreak)
 {
-    const int start = std::max(font.pixelSize(), kSmallestText);
     Setting setting{font, lines};
-    for (int size = start; size >= kSmallestText; --size) {
+    for (int size = std::max(font.pixelSize(), kSmallestText); size >= kSmallestText; --size) {
         font.setPixelSize(size);
-        const QFontMetricsF metrics(font);
-        setting = {font, wordBreak ? brokenLines(lines, font, area.width()) : lines};
-        const double height = metrics.height() * static_cast<double>(setting.lines.size());
-        if (height <= area.height() + 1 && widest(metrics, setting.lines) <= area.width()) {
-            break;
+        setting = {font, lines};
+        if (!wordBreak && fits(setting, area)) {
+            return setting;
+        }
+        const Setting broken{font, brokenLines(lines, font, area.width())};
+        if (fits(broken, area)) {
+            return broken;
         }
     }
     return setting;

@@ -15,6 +15,8 @@ constexpr double kClassPictureStep = 1.7;
 constexpr int kOverlayFontPixels = 10;
 // Rows lower than this hold one line, so labels stand beside the text instead of below it.
 constexpr double kOneLinePixels = 26;
+// A label no wider than this share of its box stands beside the text as well.
+constexpr double kSideLabelShare = 0.3;
 
 } // namespace
 
@@ -66,14 +68,15 @@ QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& pl
         reserved.setRight(places.ZAbs.right() - places.XAbs.left());
     }
     if (box.group && form.Check3.isChecked()) {
-        if (places.ZAbs.height() < kOneLinePixels) {
-            reserved.setLeft(box.group->atRight ? 0 : places.Label2.width());
-            reserved.setRight(std::max(reserved.right(), places.Labelz.width()));
-        } else {
+        const bool besideText = places.ZAbs.height() < kOneLinePixels ||
+                                places.Labelz.width() < kSideLabelShare * places.ZAbs.width();
+        const double counterRight = box.group->atRight ? places.Label2.width() : 0;
+        reserved.setLeft(box.group->atRight ? 0 : places.Label2.width());
+        reserved.setRight(
+            std::max(reserved.right(),
+                     besideText ? std::max(counterRight, places.Labelz.width()) : counterRight));
+        if (!besideText) {
             reserved.setBottom(places.Labelz.height());
-            reserved.setLeft(box.group->atRight ? 0 : places.Label2.width());
-            reserved.setRight(
-                std::max(reserved.right(), box.group->atRight ? places.Label2.width() : 0));
         }
     }
     return reserved;
