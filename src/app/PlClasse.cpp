@@ -79,13 +79,7 @@ void PlClasse::buildStatusBar()
     auto* rooms = new QLabel;
     rooms->setObjectName(QStringLiteral("PageInfo"));
     statusBar()->addWidget(rooms);
-    m_mirror.follow([this, rooms] {
-        const context::RoomPage& page = m_shell.page();
-        rooms->setText(QStringLiteral("Salles %1 à %2 sur %3")
-                           .arg(page.PageOffset + 1)
-                           .arg(page.PageOffset + page.RowsShown)
-                           .arg(page.RoomTotal));
-    });
+    m_mirror.follow([this, rooms] { rooms->setText(roomsShown()); });
     add(QStringLiteral("PeriodCaption"), QStringLiteral("Période n°"));
     m_mirror.bind(add(QStringLiteral("Label11"), QString()), form.Label11);
     auto* week = add(QStringLiteral("Semn"), QString());
@@ -106,6 +100,18 @@ void PlClasse::buildStatusBar()
             [this] { forward([this] { m_shell.Label20_Click(); }); });
     statusBar()->addPermanentWidget(font);
     m_mirror.bind(add(QStringLiteral("Lab_Ver"), QString()), form.Lab_Ver);
+}
+
+QString PlClasse::roomsShown() const
+{
+    const int last = m_shell.page().RowsShown;
+    if (last < 1 || last >= form::PlanForm::kRows) {
+        return QStringLiteral("Aucune salle affichée");
+    }
+    const auto& rooms = m_shell.form().Salle;
+    return QStringLiteral("Salles affichées : %1, de « %2 » à « %3 »")
+        .arg(QString::number(last), rooms[1].caption,
+             rooms[static_cast<std::size_t>(last)].caption);
 }
 
 bool PlClasse::load()

@@ -46,6 +46,7 @@ private:
     [[nodiscard]] shell::Environment tieToWindow(shell::Environment environment);
     void buildContent();
     void buildStatusBar();
+    [[nodiscard]] QString roomsShown() const;
     void syncWidgets();
     void processEvents();
     void fail(const runtime::RunTimeError& error);

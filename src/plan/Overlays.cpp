@@ -13,6 +13,7 @@ constexpr int kPictureSize = 480;
 // The two pictures of a box overlap a little: the left one starts 1.7 widths from the edge.
 constexpr double kClassPictureStep = 1.7;
 constexpr int kOverlayFontPixels = 10;
+constexpr int kSmallestOverlayFont = 9;
 // Rows lower than this hold one line, so labels stand beside the text instead of below it.
 constexpr double kOneLinePixels = 26;
 // A label no wider than this share of its box stands beside the text as well.
@@ -20,11 +21,17 @@ constexpr double kSideLabelShare = 0.3;
 
 } // namespace
 
-QFont overlayFont()
+QFont overlayFont(const QString& text, double width)
 {
     QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(kOverlayFontPixels);
     font.setBold(true);
+    for (int pixels = kOverlayFontPixels; pixels >= kSmallestOverlayFont; --pixels) {
+        font.setPixelSize(pixels);
+        if (QFontMetricsF(font).horizontalAdvance(text) + 2 <= width) {
+            return font;
+        }
+    }
+    font.setBold(false);
     return font;
 }
 
@@ -44,7 +51,7 @@ OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& tar
     places.XAbs = picture(right - kClassPictureStep * size, size, size);
     places.ZAbs = picture(box.x, box.width, rowHeight);
     if (box.group) {
-        const QFontMetricsF metrics(overlayFont());
+        const QFontMetricsF metrics(overlayFont({}, places.ZAbs.width()));
         const double height = std::min(metrics.height(), places.ZAbs.height());
         const double counter = metrics.horizontalAdvance(box.group->counter) + 6;
         const double size2 =

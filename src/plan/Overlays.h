@@ -30,7 +30,7 @@ struct OverlayPlaces {
 [[nodiscard]] QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& places,
                                            const PlanBox& box);
 
-/// The font of the two small labels.
-[[nodiscard]] QFont overlayFont();
+/// The font of the two small labels: as large as the text's width (device pixels) allows.
+[[nodiscard]] QFont overlayFont(const QString& text, double width);
 
 } // namespace plan

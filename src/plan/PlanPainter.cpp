@@ -15,6 +15,7 @@ namespace
 {
 
 constexpr int kTextPixels = 13;
+constexpr int kTotalPixels = 20;
 constexpr QColor kHeaderInk(40, 50, 70);
 constexpr QColor kGreyedInk(130, 130, 130);
 constexpr QColor kGreyedFill(236, 236, 236);
@@ -113,10 +114,10 @@ void PlanPainter::paintOverlays(int row, const PlanBox& box)
         return;
     }
     m_surface.save();
-    m_surface.setFont(overlayFont());
     const auto label = [this](const QRectF& place, const QColor& fill, const QString& text) {
         m_surface.fillRect(place, fill);
         m_surface.setPen(Qt::white);
+        m_surface.setFont(overlayFont(text, place.width()));
         const QFontMetricsF metrics(m_surface.font());
         m_surface.drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
                            metrics.elidedText(text, Qt::ElideRight, place.width()));
@@ -173,8 +174,7 @@ void PlanPainter::paintTotals()
     for (const form::Label& total : m_scene.form.Tot) {
         if (total.visible) {
             const QRectF place(m_scene.target.toPixelsX(total.place.left), 0,
-                               m_scene.target.toPixelsX(total.place.width),
-                               m_scene.target.toPixelsY(total.place.height));
+                               m_scene.target.toPixelsX(total.place.width), kTotalPixels);
             m_surface.setPen(QPen(kHeaderInk, 0));
             m_surface.setBrush(Qt::white);
             m_surface.drawRect(place.adjusted(0.5, 0.5, -1.5, -0.5));
