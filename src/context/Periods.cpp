@@ -184,12 +184,14 @@ void Periods::DTPicker1_Change()
     if (m_DayChangeBusy) {
         return;
     }
+    // The week comes first: the day list's click redraws the plan, and whoever looks at the shown
+    // date or chooses another day in the middle of that means the picked week.
+    m_CurrentDate = MondayOnOrBefore(m_form.DTPicker1.value());
     m_PickerChangeBusy = true;
     if (m_form.DTPicker1.visible) {
         m_form.CbJour.setListIndex(dayListIndex(m_form.DTPicker1.value()));
     }
     m_PickerChangeBusy = false;
-    m_CurrentDate = MondayOnOrBefore(m_form.DTPicker1.value());
 }
 
 void Periods::Check2_Click()

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "context/Periods.h"
+#include "context/PlanActions.h"
+#include "context/RoomSet.h"
+#include "context/TimeSlots.h"
+#include "support/Timetable.h"
+
+#include <QStringList>
+#include <functional>
+
+namespace test
+{
+
+/// A plan that draws nothing: it records what it is asked for.
+class RecordingPlan : public context::PlanActions
+{
+public:
+    void RefreshPlan() override
+    {
+        calls.append("RefreshPlan");
+        if (onRefresh) {
+            onRefresh();
+        }
+    }
+    void PlaceRoomRows() override { calls.append("PlaceRoomRows"); }
+    void Command2_Click() override { calls.append("Command2_Click"); }
+    void Command3_Click() override { calls.append("Command3_Click"); }
+
+    [[nodiscard]] qsizetype redraws() const { return calls.count("RefreshPlan"); }
+
+    QStringList calls;
+    /// What a test looks at, or what a user does, in the middle of a redraw.
+    std::function<void()> onRefresh;
+};
+
+/// The viewing context around one form, its events wired as in the program, over a recording plan.
+/// Today is Wednesday, 14 October 2026.
+struct ContextDesk {
+    explicit ContextDesk(bool useMySql = false) : database(useMySql)
+    {
+        form.Combo10.design({"1ère Sem. d'Examen", "2ème Sem. d'Examen", "Sem. de Contrôle"}, 0);
+        form.scaleWidth = 21000;
+        form.scaleHeight = 10000;
+        form.CbTranche.click = [this] { periods.CbTranche_Click(); };
+        form.CbJour.click = [this] { periods.CbJour_Click(); };
+        form.DTPicker1.change = [this] { periods.DTPicker1_Change(); };
+        form.Check2.click = [this] { periods.Check2_Click(); };
+        form.Combo10.click = [this] { periods.Combo10_Click(); };
+        form.OpEns.click = [this] { periods.OpEns_Click(); };
+        form.OpExam.click = [this] { periods.OpExam_Click(); };
+        form.cb_Locaux.click = [this] { rooms.cb_Locaux_Click(); };
+        form.ElemDep.click = [this] { rooms.ElemDep_Click(); };
+        form.Combo1.click = [this] { rooms.Combo1_Click(); };
+        form.Chk_Neutre.click = [this] { rooms.Chk_Neutre_Click(); };
+    }
+    /// The same, with the database open.
+    explicit ContextDesk(const TestDatabase& base) : ContextDesk(base.usesMySql())
+    {
+        database.open(base.connectString());
+    }
+
+    form::PlanForm form;
+    db::Database database;
+    RecordingPlan plan;
+    context::Totals totals;
+    context::RoomPage page;
+    QDate today{2026, 10, 14};
+    context::Periods periods{form, database, totals, plan, [this] { return today; }};
+    context::TimeSlots slots{form, database};
+    context::RoomSet rooms{form, database, page, plan};
+};
+
+} // namespace test
