@@ -3,6 +3,8 @@
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 
+#include <algorithm>
+
 namespace context
 {
 namespace
@@ -63,7 +65,8 @@ void RoomSet::fillRows(const db::Recordset& rooms)
     const double lines = runtime::leadingNumber(m_form.Total_L_P.text());
     // Later pages skip one room more than their start says: it is the page buttons' extra step
     // (0, P, 2P + 1, ...) that they make up for.
-    const qsizetype skipped = m_page.PageOffset != 0 ? m_page.PageOffset + 1 : 0;
+    // A start before the list, which a negative number of lines leads to, skips nothing.
+    const qsizetype skipped = m_page.PageOffset != 0 ? std::max(m_page.PageOffset + 1, 0) : 0;
     int filled = 0;
     // Row 0 is filled too: it holds the room just before the first drawn one.
     while (filled <= lines && filled < form::PlanForm::kRows &&
@@ -94,7 +97,7 @@ void RoomSet::showRows()
     }
     const int firstHidden = m_page.RowsShown + 1;
     const bool lastPage = row == m_page.RoomTotal || m_page.RoomTotal - lines <= m_page.PageOffset;
-    if (lastPage && firstHidden < form::PlanForm::kRows) {
+    if (lastPage && firstHidden >= 0 && firstHidden < form::PlanForm::kRows) {
         m_form.Salle[static_cast<std::size_t>(firstHidden)].caption.clear();
     }
     for (int hidden = firstHidden; hidden <= lines; ++hidden) {
