@@ -140,8 +140,7 @@ bool TimeSlots::OverrunsIntoSlot(int slot, int minutes) const
     if (!before || !reached) {
         return false;
     }
-    const int end = before->startSeconds + minutes * 60;
-    return runtime::minutesBetween(reached->startSeconds, end) > 0;
+    return minutes > runtime::minutesBetween(before->startSeconds, reached->startSeconds);
 }
 
 } // namespace context

@@ -1,0 +1,259 @@
+#include "context/TimeSlots.h"
+
+#include "context/ContextDesk.h"
+#include "support/RuntimeMatchers.h"
+
+#include <limits>
+#include <optional>
+
+using namespace test;
+using runtime::ErrorNumber;
+
+namespace
+{
+
+/// Slots and rooms of the database. The time axis starts at 8h00, 1620 twips from the left.
+class TheSlots : public OnBothDatabases
+{
+protected:
+    void SetUp() override { m_timetable.emplace(database(), QStringList{"seances", "salle"}); }
+
+    void addSlot(const char* key, const char* start, const char* end)
+    {
+        m_timetable->row("seances", {{"Seance", key}, {"Horaire1", start}, {"Horaire2", end}});
+    }
+    void addRoom(int zone, const QString& name, int places)
+    {
+        m_timetable->row("salle", {{"Zone", zone}, {"Nom", name}, {"places", places}});
+    }
+    /// Four slots of 90 minutes, 8h00 to 15h30 with a gap from 11h00 to 12h30.
+    void addFourSlots()
+    {
+        addSlot("Lundi1", "8h00", "9h30");
+        addSlot("Lundi2", "9h30", "11h00");
+        addSlot("Lundi3", "12h30", "14h00");
+        addSlot("Lundi4", "14h00", "15h30");
+        addSlot("Mardi5", "15h30", "17h00"); // only Monday's slots count
+    }
+    context::TimeSlots& load()
+    {
+        m_timetable->load();
+        desk.emplace(database());
+        desk->slots.LoadSlots();
+        return desk->slots;
+    }
+    [[nodiscard]] const form::Label& total(std::size_t index) const
+    {
+        return desk->form.Tot.at(index);
+    }
+
+    std::optional<ContextDesk> desk;
+
+private:
+    std::optional<Timetable> m_timetable;
+};
+
+} // namespace
+
+TEST_P(TheSlots, areAsManyAsMondayHas)
+{
+    addFourSlots();
+    EXPECT_EQ(load().SlotCount(), 4);
+    EXPECT_TRUE(desk->slots.slot(4));
+    EXPECT_FALSE(desk->slots.slot(5));
+}
+
+TEST_P(TheSlots, stayAsManyWhenTheyAreReadAgain)
+{
+    addFourSlots();
+    load().LoadSlots();
+    EXPECT_EQ(desk->slots.SlotCount(), 4);
+}
+
+TEST_P(TheSlots, placeTheirTotalsAlongTheAxis)
+{
+    addFourSlots();
+    load();
+    EXPECT_EQ(total(0).place.left, 1620); // the origin itself
+    EXPECT_EQ(total(1).place.left, 4020); // 90 minutes further
+    EXPECT_EQ(total(2).place.left, 8820); // 270
+    EXPECT_EQ(total(3).place.left, 11220);
+    for (std::size_t slot = 0; slot < 4; ++slot) {
+        EXPECT_EQ(total(slot).place.width, 2400) << slot;
+        EXPECT_FALSE(total(slot).visible) << slot;
+    }
+}
+
+TEST_P(TheSlots, makeFortyFiveMinutesHalfAsWide)
+{
+    addSlot("Lundi1", "8h00", "8h45");
+    addSlot("Lundi2", "8h45", "9h35");
+    load();
+    EXPECT_EQ(total(0).place.width, 1200);
+    EXPECT_EQ(total(1).place.width, 1333); // 50 minutes: 1333.33
+}
+
+TEST_P(TheSlots, putAllElevenTotalsAtTheFootOfTheWindow)
+{
+    addFourSlots();
+    load();
+    for (const form::Label& label : desk->form.Tot) {
+        EXPECT_EQ(label.place.top, 10000 - label.place.height - 450);
+    }
+}
+
+TEST_P(TheSlots, hideAndEmptyTheTotalOfAMissingSlot)
+{
+    addFourSlots();
+    load();
+    EXPECT_EQ(total(4).caption, "");
+    EXPECT_FALSE(total(4).visible);
+}
+
+TEST_P(TheSlots, readTheEleventhSlot)
+{
+    addSlot("Lundi11", "17h30", "19h00");
+    EXPECT_EQ(load().SlotCount(), 1);
+    EXPECT_EQ(total(10).place.left, 1620 + 15200); // 570 minutes
+}
+
+TEST_P(TheSlots, placeTheHourTicks)
+{
+    load();
+    for (int hour = 0; hour < 12; ++hour) {
+        // 60 minutes are 1600 twips.
+        EXPECT_EQ(desk->form.Label1.at(static_cast<std::size_t>(hour)).place.left,
+                  1620 + 1600 * hour);
+    }
+}
+
+TEST_P(TheSlots, endTheAxisWhereTheLastTickOrSlotEnds)
+{
+    addFourSlots();
+    EXPECT_EQ(load().axisEnd(), 1620 + 11 * 1600); // the tick of 19h00
+    database().execute("INSERT INTO seances (Seance, Horaire1, Horaire2) "
+                       "VALUES ('Lundi5', '19h00', '20h30')");
+    desk->slots.LoadSlots();
+    EXPECT_EQ(desk->slots.axisEnd(), 1620 + 11 * 1600 + 2400);
+}
+
+TEST_P(TheSlots, refuseATimeThatIsNone)
+{
+    addSlot("Lundi1", "8h00", "midi");
+    const runtime::RunTimeError error = errorOf([&] { load(); });
+    EXPECT_EQ(error.number(), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(error.activity(), "Lecture de l’horaire « midi » d’une séance");
+}
+
+TEST_P(TheSlots, areReadWithAnUpperCaseHAsWell)
+{
+    addSlot("Lundi1", "8H00", "9:30");
+    load();
+    EXPECT_EQ(total(0).place.left, 1620);
+    EXPECT_EQ(total(0).place.width, 2400);
+}
+
+TEST_P(TheSlots, areNeededWithTheirTableAndColumns)
+{
+    load();
+    database().execute("ALTER TABLE seances RENAME COLUMN Horaire2 TO Fin");
+    EXPECT_EQ(desk->slots.SlotCount(), 0);
+    desk->slots.LoadSlots(); // without a row nothing asks for the column
+    database().execute("INSERT INTO seances (Seance, Horaire1) VALUES ('Lundi1', '8h00')");
+    EXPECT_EQ(errorNumberOf([&] { desk->slots.LoadSlots(); }), ErrorNumber::ItemNotFound);
+    database().execute("DROP TABLE seances");
+    EXPECT_EQ(errorNumberOf([&] { desk->slots.LoadSlots(); }), ErrorNumber::TableMissing);
+}
+
+TEST_P(TheSlots, giveTheRoomsPlacesByName)
+{
+    addRoom(2, "C1", 50);
+    addRoom(1, "A1", 30);
+    addRoom(2, "B1", 40);
+    load();
+    EXPECT_EQ(desk->slots.RoomPlaces(0), 30);
+    EXPECT_EQ(desk->slots.RoomPlaces(1), 40);
+    EXPECT_EQ(desk->slots.RoomPlaces(2), 50);
+    EXPECT_EQ(desk->slots.RoomPlaces(3), 0);
+}
+
+TEST_P(TheSlots, giveThePlacesOfTheZonesRoomsOnly)
+{
+    addRoom(2, "C1", 50);
+    addRoom(1, "A1", 30);
+    addRoom(2, "B1", 40);
+    load();
+    desk->form.cb_Locaux.design({"0", "1", "2"}, 2);
+    desk->slots.LoadSlots();
+    EXPECT_EQ(desk->slots.RoomPlaces(0), 40);
+    EXPECT_EQ(desk->slots.RoomPlaces(1), 50);
+}
+
+TEST_P(TheSlots, hold256RoomsAndNoMore)
+{
+    for (int room = 0; room < 256; ++room) {
+        addRoom(1, QString("R%1").arg(room, 3, 10, QChar('0')), room);
+    }
+    load();
+    EXPECT_EQ(desk->slots.RoomPlaces(255), 255);
+    database().execute("INSERT INTO salle (Zone, Nom, places) VALUES (1, 'R256', 1)");
+    const runtime::RunTimeError error = errorOf([&] { desk->slots.LoadSlots(); });
+    EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(error.activity(), "Lecture des places des salles");
+}
+
+TEST_P(TheSlots, refusePlacesBeyondSixteenBits)
+{
+    addRoom(1, "A1", 32768);
+    EXPECT_EQ(errorNumberOf([&] { load(); }), ErrorNumber::Overflow);
+}
+
+TEST_P(TheSlots, takeARoomWithoutPlacesForNone)
+{
+    addRoom(1, "A1", 30);
+    load();
+    database().execute("UPDATE salle SET places=NULL");
+    desk->slots.LoadSlots();
+    EXPECT_EQ(desk->slots.RoomPlaces(0), 0);
+}
+
+TEST_P(TheSlots, haveNoRoomBefore0OrFrom256On)
+{
+    load();
+    for (const int index : {-1, 256}) {
+        EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk->slots.RoomPlaces(index)); }),
+                  ErrorNumber::SubscriptOutOfRange);
+    }
+}
+
+TEST_P(TheSlots, areOverrunByALongerOccupation)
+{
+    addFourSlots();
+    load();
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(2, 90)); // ends as slot 2 starts
+    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(2, 91));
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(3, 180)); // 9h30 to 12h30: the gap is used up
+    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(3, 181));
+    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(4, 180));
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(4, 0));
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(4, -90));
+}
+
+TEST_P(TheSlots, areOverrunHoweverLongTheOccupation)
+{
+    addFourSlots();
+    load();
+    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(2, std::numeric_limits<int>::max()));
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(2, std::numeric_limits<int>::min()));
+}
+
+TEST_P(TheSlots, areNeverOverrunWhereTheDayHasNone)
+{
+    addFourSlots();
+    load();
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(5, 600));
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(6, 600));
+    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(11, 600));
+}
+
+TEMPORA_ON_BOTH_DATABASES(TheSlots);
