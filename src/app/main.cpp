@@ -42,6 +42,7 @@ shell::Environment environmentFor(const shell::CommandLine& line)
     shell::Environment environment;
     environment.applicationFolder = QCoreApplication::applicationDirPath();
     environment.seed = line.seed;
+    environment.plain = line.plain;
     return environment;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plan/Marqueur.h"
+#include "plan/PageQuestions.h"
 
 namespace plan
 {
@@ -10,6 +11,9 @@ class AbsenceTests
 {
 public:
     virtual ~AbsenceTests() = default;
+
+    /// Told of all questions of a page before the first is asked. Raises no error.
+    virtual void prepare(const AbsenceQuestions& /*questions*/) {}
 
     /// Whether a class absence is recorded for the class, the date and the start time.
     /// Error: any database error.

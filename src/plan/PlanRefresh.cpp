@@ -61,6 +61,7 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
     m_c.colors.reseed();
     m_nextRow = 1;
     m_lastRow = m_c.page.RowsShown;
+    prepareQuestions();
     while (m_nextRow <= m_lastRow) {
         drawRow(m_nextRow++);
         m_yield();
@@ -97,6 +98,34 @@ form::Colour PlanRefresh::rowColor(int row)
     return m_c.colors.at(row + kColorStep);
 }
 
+QString PlanRefresh::seanceKey(int slot) const
+{
+    return m_c.form.CbJour.text() + QString::number(slot);
+}
+
+/// Everything that the rows are going to ask is known before the first one is drawn.
+void PlanRefresh::prepareQuestions()
+{
+    QStringList rooms;
+    for (int row = 1; row <= m_lastRow && row < form::PlanForm::kRows; ++row) {
+        rooms << m_c.form.Salle[static_cast<std::size_t>(row)].caption;
+    }
+    QStringList keys;
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        keys << seanceKey(slot);
+    }
+    const PageFacts facts =
+        m_c.lookup.prepare(rooms, keys, QString::number(m_c.periods.TrancheIdent()));
+    AbsenceQuestions absences{m_c.form.DTPicker1.value(), {}, facts.starts};
+    for (const QString& className : facts.classNames) {
+        absences.classNames << firstClass(className);
+    }
+    for (const form::Label& tick : m_c.form.Label1) {
+        absences.starts << tick.caption; // stands in where a row has no start of its own
+    }
+    m_c.absences.prepare(absences);
+}
+
 void PlanRefresh::drawRow(int row)
 {
     if (row >= form::PlanForm::kRows) {
@@ -119,12 +148,11 @@ void PlanRefresh::drawRow(int row)
 void PlanRefresh::drawSlot(PlanRow& planRow, int slot)
 {
     const QString durationBefore = m_c.lookup.cell().CellDuration;
-    const QString seanceKey = m_c.form.CbJour.text() + QString::number(slot);
     const QString tranche = QString::number(m_c.periods.TrancheIdent());
-    QString text = m_c.lookup.RoomOccupancy(planRow.room, seanceKey, tranche, false);
+    QString text = m_c.lookup.RoomOccupancy(planRow.room, seanceKey(slot), tranche, false);
     bool makeUp = false;
     if (text.isEmpty() && m_c.form.Check2.isChecked()) {
-        text = m_c.lookup.RoomOccupancy(planRow.room, seanceKey, tranche, true);
+        text = m_c.lookup.RoomOccupancy(planRow.room, seanceKey(slot), tranche, true);
         makeUp = true;
     }
     const auto entry = static_cast<std::size_t>(slot - 1);

@@ -68,6 +68,8 @@ public:
     [[nodiscard]] PlanBox* box(int marker);
 
 private:
+    void prepareQuestions();
+    [[nodiscard]] QString seanceKey(int slot) const;
     void drawRow(int row);
     [[nodiscard]] form::Colour rowColor(int row);
     void drawSlot(PlanRow& planRow, int slot);

@@ -26,6 +26,23 @@ OccupancyLookup::OccupancyLookup(const form::PlanForm& form, RowSource& source,
 {
 }
 
+PageFacts OccupancyLookup::prepare(const QStringList& rooms, const QStringList& seanceKeys,
+                                   const QString& tranche)
+{
+    PageQuestions questions;
+    questions.rooms = rooms;
+    questions.seanceKeys = seanceKeys;
+    questions.tranche = tranche;
+    if (m_form.OpEns.isSelected()) {
+        questions.makeUps = m_form.Check2.isChecked();
+        questions.date = m_form.DTPicker1.value();
+    } else {
+        questions.table = RoomQuestion::Table::examen;
+        questions.examWeek = m_form.Semn.caption;
+    }
+    return m_source.prepare(questions);
+}
+
 QString OccupancyLookup::RoomOccupancy(const QString& Room, const QString& SeanceKey,
                                        const QString& Tranche, bool MakeUp)
 {

@@ -6,6 +6,7 @@
 #include "plan/RowSource.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace plan
 {
@@ -31,6 +32,10 @@ class OccupancyLookup
 public:
     OccupancyLookup(const form::PlanForm& form, RowSource& source, const CellLayout& layout,
                     const SeanceTypeShortNames& typeNames);
+
+    /// Tells the source what a page is going to ask.
+    PageFacts prepare(const QStringList& rooms, const QStringList& seanceKeys,
+                      const QString& tranche);
 
     /// The text of the room's box, empty when the room is free; the other facts are then in
     /// `cell` until the next lookup. `MakeUp` asks for the make-up classes of the picked date;

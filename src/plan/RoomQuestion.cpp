@@ -16,21 +16,43 @@ QString RoomQuestion::roomCondition() const
            QStringLiteral("' )");
 }
 
-QString RoomQuestion::sql(const db::SqlDialect& dialect) const
+QString RoomQuestion::tableName() const
 {
-    const QString slot = roomCondition() + QStringLiteral(" and Seance = '") + seanceKey +
-                         QStringLiteral("' and Tranche =") + tranche;
     switch (table) {
     case Table::examen:
-        return QStringLiteral("Select * from examen WHERE") + slot +
-               QStringLiteral(" and Semaine =") + examWeek;
+        return QStringLiteral("examen");
     case Table::ratrap:
-        return QStringLiteral("Select * from ratrap WHERE") + slot +
-               QStringLiteral(" and DateX =") + dialect.dateLiteral(date);
+        return QStringLiteral("ratrap");
     case Table::emplois:
         break;
     }
-    return QStringLiteral("Select * from emplois WHERE") + slot;
+    return QStringLiteral("emplois");
+}
+
+QString RoomQuestion::periodCondition(const db::SqlDialect& dialect) const
+{
+    const QString period = QStringLiteral(" and Tranche =") + tranche;
+    switch (table) {
+    case Table::examen:
+        return period + QStringLiteral(" and Semaine =") + examWeek;
+    case Table::ratrap:
+        return period + QStringLiteral(" and DateX =") + dialect.dateLiteral(date);
+    case Table::emplois:
+        break;
+    }
+    return period;
+}
+
+QString RoomQuestion::condition(const db::SqlDialect& dialect) const
+{
+    return roomCondition() + QStringLiteral(" and Seance = '") + seanceKey + u'\'' +
+           periodCondition(dialect);
+}
+
+QString RoomQuestion::sql(const db::SqlDialect& dialect) const
+{
+    return QStringLiteral("Select * from ") + tableName() + QStringLiteral(" WHERE") +
+           condition(dialect);
 }
 
 } // namespace plan

@@ -26,8 +26,15 @@ struct RoomQuestion {
     /// The condition on the room. A course can hold six rooms, an exam only `Salle`; without a
     /// room name the short form serves everywhere.
     [[nodiscard]] QString roomCondition() const;
+    [[nodiscard]] QString tableName() const;
+    /// The conditions that all questions of a page share; starts with " and".
+    [[nodiscard]] QString periodCondition(const db::SqlDialect& dialect) const;
+    /// All conditions, as they stand after "WHERE".
+    [[nodiscard]] QString condition(const db::SqlDialect& dialect) const;
     /// The whole statement. No order is asked for: the database's first row decides the box.
     [[nodiscard]] QString sql(const db::SqlDialect& dialect) const;
+
+    friend bool operator==(const RoomQuestion&, const RoomQuestion&) = default;
 };
 
 } // namespace plan

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Recordset.h"
+#include "plan/PageQuestions.h"
 #include "plan/RoomQuestion.h"
 
 #include <QString>
@@ -14,6 +15,10 @@ class RowSource
 {
 public:
     virtual ~RowSource() = default;
+
+    /// Told of all questions of a page before the first is asked: a source may fetch the answers
+    /// ahead. Whatever it could not fetch it is asked for all the same. Raises no error.
+    virtual PageFacts prepare(const PageQuestions& /*questions*/) { return {}; }
 
     /// The timetable rows of a room in a slot, in the database's own order.
     /// Error: any database error.

@@ -37,6 +37,7 @@ const std::vector<OptionText>& optionTexts()
         {"date", "AAAA-MM-JJ", "date affichée"},
         {"page", "N", "page affichée, à partir de 1"},
         {"seed", "N", "fixe les couleurs tirées au hasard"},
+        {"plain", nullptr, "pose chaque question à la base séparément (plus lent)"},
         {"help", nullptr, "affiche cette aide"},
         {"version", nullptr, "affiche la version"},
     };
@@ -202,6 +203,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     CommandLine line;
     line.help = reader.has("help");
     line.version = reader.has("version");
+    line.plain = reader.has("plain");
     readFiles(reader, line);
     line.tranche = reader.optionalText("tranche");
     if (const auto mode =

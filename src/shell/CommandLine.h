@@ -36,6 +36,7 @@ struct CommandLine {
     QString exportFile;
     QString settingsFile;
     std::optional<std::uint32_t> seed;
+    bool plain = false; ///< one statement per question
     std::optional<QString> tranche;
     std::optional<Mode> mode;
     std::optional<int> examWeek; ///< 1 to 3

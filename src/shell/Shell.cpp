@@ -25,10 +25,12 @@ Shell::Shell(Settings settings, Environment environment)
       m_random(m_environment.seed),
       m_periods(m_form, m_database, m_totals, *this, m_environment.today),
       m_slots(m_form, m_database), m_rooms(m_form, m_database, m_page, *this), m_colors(m_random),
-      m_rows(m_database), m_lookup(m_form, m_rows, m_layout, m_SeanceTypeShortNames),
-      m_absences(m_database), m_refresh({m_form, m_periods, m_slots, m_page, m_totals, m_lookup,
-                                         m_absences, m_colors, m_layout},
-                                        [this] { m_periods.yieldTo(m_environment.processEvents); }),
+      m_plainRows(m_database), m_pageRows(m_database, m_plainRows),
+      m_lookup(m_form, rowSource(), m_layout, m_SeanceTypeShortNames), m_absences(m_database),
+      m_pageAbsences(m_database, m_absences),
+      m_refresh({m_form, m_periods, m_slots, m_page, m_totals, m_lookup, absenceTests(), m_colors,
+                 m_layout},
+                [this] { m_periods.yieldTo(m_environment.processEvents); }),
       m_paging(m_form, m_page, m_totals, m_rooms, m_colors, m_refresh,
                [this] { appearance::Adapter_Cellules(m_form, m_layout); }),
       m_subjectFilter(m_form, m_database, *this),
@@ -39,6 +41,16 @@ Shell::Shell(Settings settings, Environment environment)
 }
 
 Shell::~Shell() = default;
+
+plan::RowSource& Shell::rowSource()
+{
+    return m_environment.plain ? static_cast<plan::RowSource&>(m_plainRows) : m_pageRows;
+}
+
+plan::AbsenceTests& Shell::absenceTests()
+{
+    return m_environment.plain ? static_cast<plan::AbsenceTests&>(m_absences) : m_pageAbsences;
+}
 
 void Shell::PlaceRoomRows()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "absences/AbsenceRecords.h"
+#include "absences/PageAbsences.h"
 #include "appearance/CellOptions.h"
 #include "context/Establishment.h"
 #include "context/Periods.h"
@@ -9,6 +10,7 @@
 #include "context/TimeSlots.h"
 #include "db/Database.h"
 #include "form/PlanForm.h"
+#include "plan/PageRowSource.h"
 #include "plan/Paging.h"
 #include "plan/PlainRowSource.h"
 #include "plan/PlanOptions.h"
@@ -34,6 +36,8 @@ struct Environment {
     std::function<QDate()> today = [] { return QDate::currentDate(); };
     /// Fixes the random row colours.
     std::optional<std::uint32_t> seed;
+    /// Sends one statement per question instead of a few per page.
+    bool plain = false;
     /// Lets waiting events run in the middle of a refresh.
     std::function<void()> processEvents = [] {};
     /// Shows a message box with an OK button.
@@ -92,6 +96,8 @@ private:
     void Command2_Click() override { m_paging.Command2_Click(); }
     void Command3_Click() override { m_paging.Command3_Click(); }
 
+    [[nodiscard]] plan::RowSource& rowSource();
+    [[nodiscard]] plan::AbsenceTests& absenceTests();
     void connectEvents();
     void chooseDatabase();
     void readDisplayOptions();
@@ -116,9 +122,11 @@ private:
     plan::CellLayout m_layout;
     plan::SeanceTypeShortNames m_SeanceTypeShortNames;
     plan::RowColors m_colors;
-    plan::PlainRowSource m_rows;
+    plan::PlainRowSource m_plainRows;
+    plan::PageRowSource m_pageRows;
     plan::OccupancyLookup m_lookup;
     absences::AbsenceRecords m_absences;
+    absences::PageAbsences m_pageAbsences;
     plan::PlanRefresh m_refresh;
     plan::Paging m_paging;
     plan::SubjectFilter m_subjectFilter;

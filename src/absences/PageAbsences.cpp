@@ -1,0 +1,111 @@
+#include "absences/PageAbsences.h"
+
+#include "runtime/RunTimeError.h"
+
+#include <algorithm>
+
+namespace absences
+{
+namespace
+{
+
+QStringList plainLiterals(QStringList texts)
+{
+    texts.removeIf([](const QString& text) { return !db::isPlainLiteral(text); });
+    texts.removeDuplicates();
+    return texts;
+}
+
+db::MatchMasks equalities(const QString& column, const QStringList& texts)
+{
+    QStringList conditions;
+    for (const QString& text : texts) {
+        conditions << column + QStringLiteral("='") + text + u'\'';
+    }
+    return db::MatchMasks(conditions);
+}
+
+} // namespace
+
+void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
+{
+    m_date = questions.date;
+    m_classNames = plainLiterals(questions.classNames);
+    m_starts = plainLiterals(questions.starts);
+    m_classes.reset();
+    m_students.reset();
+    if (!m_classNames.isEmpty() && !m_starts.isEmpty()) {
+        runtime::skipOnError([this] { fetchClasses(); });
+        runtime::skipOnError([this] { fetchStudents(); });
+    }
+}
+
+void PageAbsences::fetchClasses()
+{
+    const db::MatchMasks classes = equalities(QStringLiteral("Classe"), m_classNames);
+    const db::MatchMasks starts = equalities(QStringLiteral("Debut"), m_starts);
+    const db::Recordset found = m_database.Db().open(
+        QStringLiteral("Select ") + classes.selectList() + QStringLiteral(", ") +
+        starts.selectList() + QStringLiteral(" from abscence Where Datex=") +
+        m_database.dialect().dateLiteral(m_date) + QStringLiteral(" and ") + classes.anyOf());
+    Recorded recorded;
+    for (const db::Row& row : found.rows()) {
+        for (const int name : classes.matches(row, 0)) {
+            for (const int start : starts.matches(row, classes.columnCount())) {
+                recorded.insert({m_classNames[name], m_starts[start]});
+            }
+        }
+    }
+    m_classes = std::move(recorded);
+}
+
+void PageAbsences::fetchStudents()
+{
+    const db::MatchMasks classes = equalities(QStringLiteral("Classe"), m_classNames);
+    const db::MatchMasks names = equalities(QStringLiteral("Nom"), m_classNames);
+    const db::MatchMasks starts = equalities(QStringLiteral("HeureD"), m_starts);
+    const db::Recordset found = m_database.Db().open(
+        QStringLiteral("Select ") + classes.selectList() + QStringLiteral(", ") +
+        names.selectList() + QStringLiteral(", ") + starts.selectList() +
+        QStringLiteral(" from etud_abs Where Jour=") + m_database.dialect().dateLiteral(m_date) +
+        QStringLiteral(" and ") + classes.anyOf());
+    Recorded recorded;
+    for (const db::Row& row : found.rows()) {
+        const std::vector<int> named = names.matches(row, classes.columnCount());
+        for (const int name : classes.matches(row, 0)) {
+            if (std::find(named.begin(), named.end(), name) == named.end()) {
+                continue; // about a single student, not about the class
+            }
+            for (const int start :
+                 starts.matches(row, classes.columnCount() + names.columnCount())) {
+                recorded.insert({m_classNames[name], m_starts[start]});
+            }
+        }
+    }
+    m_students = std::move(recorded);
+}
+
+bool PageAbsences::isPrepared(const plan::Marqueur& marker, const QString& className) const
+{
+    return marker.Jour == m_date && m_classNames.contains(className) &&
+           m_starts.contains(marker.Debut);
+}
+
+bool PageAbsences::Existe_AbsClasse(const plan::Marqueur& marker, const QString& className)
+{
+    if (m_classes && isPrepared(marker, className)) {
+        return m_classes->contains({className, marker.Debut});
+    }
+    return m_plain.Existe_AbsClasse(marker, className);
+}
+
+bool PageAbsences::Existe_AbsEtud(const plan::Marqueur& marker, const QString& className,
+                                  const QString& name)
+{
+    if (m_students && className == name && isPrepared(marker, className)) {
+        return m_students->contains({className, marker.Debut});
+    }
+    return m_plain.Existe_AbsEtud(marker, className, name);
+}
+
+} // namespace absences

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "db/Database.h"
+#include "db/MatchMasks.h"
+#include "plan/AbsenceTests.h"
+
+#include <QDate>
+#include <QPair>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace absences
+{
+
+/// Answers a refresh's questions about absences from two statements for the whole page. The
+/// database itself says which record is about which class and time. What it could not fetch, or was
+/// not told of, it leaves to the plain tests.
+class PageAbsences : public plan::AbsenceTests
+{
+public:
+    /// Both outlive this one.
+    PageAbsences(db::Database& database, plan::AbsenceTests& plain)
+        : m_database(database), m_plain(plain)
+    {
+    }
+
+    void prepare(const plan::AbsenceQuestions& questions) override;
+    [[nodiscard]] bool Existe_AbsClasse(const plan::Marqueur& marker,
+                                        const QString& className) override;
+    [[nodiscard]] bool Existe_AbsEtud(const plan::Marqueur& marker, const QString& className,
+                                      const QString& name) override;
+
+private:
+    using Recorded = QSet<QPair<QString, QString>>; ///< class, start time
+
+    [[nodiscard]] bool isPrepared(const plan::Marqueur& marker, const QString& className) const;
+    void fetchClasses();
+    void fetchStudents();
+
+    db::Database& m_database;
+    plan::AbsenceTests& m_plain;
+    QDate m_date;
+    QStringList m_classNames;
+    QStringList m_starts;
+    std::optional<Recorded> m_classes;
+    std::optional<Recorded> m_students;
+};
+
+} // namespace absences
