@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
@@ -47,6 +48,11 @@ shell::Environment PlClasse::tieToWindow(shell::Environment environment)
         QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, this);
         box.setTextFormat(Qt::PlainText);
         box.exec();
+    };
+    environment.openFile = [this](const QString& startFolder, const QString& filter) {
+        return QFileDialog::getOpenFileName(
+            this, QStringLiteral("Choisir une palette"), startFolder,
+            QStringLiteral("Palettes (%1)").arg(filter.section(u'|', 1)));
     };
     return environment;
 }

@@ -19,14 +19,14 @@ constexpr double kFewestTwipsAcross = 8.0;
 constexpr int kFewestTwipsDown = 9;
 
 /// How many twips a pixel may stand for so that the rows' text stays legible: a row of three lines
-/// needs 38 pixels, one of two 27, one of a single line 13.
+/// needs 38 pixels, one of two 33 (an exam adds a line), one of a single line 13.
 int mostTwipsDown(int rowHeight)
 {
     if (rowHeight >= 700) {
         return rowHeight / 38;
     }
     if (rowHeight >= 400) {
-        return rowHeight / 27;
+        return rowHeight / 33;
     }
     return rowHeight >= 300 ? rowHeight / 17 : rowHeight / 13;
 }

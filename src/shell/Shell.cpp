@@ -25,6 +25,7 @@ Shell::Shell(Settings settings, Environment environment)
       m_random(m_environment.seed),
       m_periods(m_form, m_database, m_totals, *this, m_environment.today),
       m_slots(m_form, m_database), m_rooms(m_form, m_database, m_page, *this), m_colors(m_random),
+      m_palette(m_colors, m_form, *this, m_environment.applicationFolder, m_environment.openFile),
       m_plainRows(m_database), m_pageRows(m_database, m_plainRows),
       m_lookup(m_form, rowSource(), m_layout, m_SeanceTypeShortNames), m_absences(m_database),
       m_pageAbsences(m_database, m_absences),
@@ -91,6 +92,7 @@ void Shell::connectEvents()
     m_form.XOpCl.click = [this] { m_cellOptions.XOpCl_Click(); };
     m_form.XOpEns.click = [this] { m_cellOptions.XOpEns_Click(); };
     m_form.XpMat.click = [this] { m_cellOptions.XpMat_Click(); };
+    m_form.Command4.click = [this] { m_palette.Choisir_Palette(); };
     m_form.xOpExam.click = [this] { m_refresh.RefreshPlan(); };
 }
 

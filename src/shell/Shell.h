@@ -3,6 +3,7 @@
 #include "absences/AbsenceRecords.h"
 #include "absences/PageAbsences.h"
 #include "appearance/CellOptions.h"
+#include "appearance/Palette.h"
 #include "context/Establishment.h"
 #include "context/Periods.h"
 #include "context/PlanActions.h"
@@ -40,6 +41,10 @@ struct Environment {
     bool plain = false;
     /// Lets waiting events run in the middle of a refresh.
     std::function<void()> processEvents = [] {};
+    /// Lets the user choose a file to open; empty when the user cancels.
+    appearance::Palette::OpenFile openFile = [](const QString&, const QString&) {
+        return QString();
+    };
     /// Shows a message box with an OK button.
     std::function<void(const QString& title, const QString& text)> showMessage =
         [](const QString&, const QString&) {};
@@ -122,6 +127,7 @@ private:
     plan::CellLayout m_layout;
     plan::SeanceTypeShortNames m_SeanceTypeShortNames;
     plan::RowColors m_colors;
+    appearance::Palette m_palette;
     plan::PlainRowSource m_plainRows;
     plan::PageRowSource m_pageRows;
     plan::OccupancyLookup m_lookup;

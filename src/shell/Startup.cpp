@@ -47,6 +47,9 @@ void Shell::Form_Load()
     m_form.Lab_Ver.caption = QStringLiteral(TEMPORA_VERSION);
     m_colors.PaletteName = setting(QStringLiteral("Palette"), QString());
     m_PaletteAtStart = m_colors.PaletteName;
+    if (!m_colors.PaletteName.isEmpty()) {
+        m_palette.Charger_Palette(m_colors.PaletteName);
+    }
     readDisplayOptions();
     const QString lines = setting(QStringLiteral("Total_L_P"), QStringLiteral("19"));
     converted(QStringLiteral("Total_L_P"), lines, runtime::toInt16);
