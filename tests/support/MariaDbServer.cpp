@@ -22,22 +22,18 @@ const QString administrator = QStringLiteral("administrator");
 /// A server for a few small tables that nobody will miss.
 QStringList commonOptions(const QString& folder)
 {
-    QStringList options = {QStringLiteral("--no-defaults"),
-                           QStringLiteral("--datadir=") + folder,
-                           QStringLiteral("--lower-case-table-names=1"),
-                           QStringLiteral("--character-set-server=utf8mb4"),
-                           QStringLiteral("--innodb-log-file-size=4M"),
-                           QStringLiteral("--innodb-buffer-pool-size=16M"),
-                           QStringLiteral("--innodb-flush-log-at-trx-commit=0"),
-                           QStringLiteral("--innodb-doublewrite=0"),
-                           QStringLiteral("--innodb-use-native-aio=0"),
-                           QStringLiteral("--key-buffer-size=1M"),
-                           QStringLiteral("--aria-pagecache-buffer-size=8M"),
-                           QStringLiteral("--performance-schema=off")};
-    if (geteuid() == 0) { // the server wants to be told that this is meant
-        options << QStringLiteral("--user=root");
-    }
-    return options;
+    return {QStringLiteral("--no-defaults"),
+            QStringLiteral("--datadir=") + folder,
+            QStringLiteral("--lower-case-table-names=1"),
+            QStringLiteral("--character-set-server=utf8mb4"),
+            QStringLiteral("--innodb-log-file-size=4M"),
+            QStringLiteral("--innodb-buffer-pool-size=16M"),
+            QStringLiteral("--innodb-flush-log-at-trx-commit=0"),
+            QStringLiteral("--innodb-doublewrite=0"),
+            QStringLiteral("--innodb-use-native-aio=0"),
+            QStringLiteral("--key-buffer-size=1M"),
+            QStringLiteral("--aria-pagecache-buffer-size=8M"),
+            QStringLiteral("--performance-schema=off")};
 }
 
 /// A data folder with nothing but the server's own tables, made once per build tree.
@@ -54,6 +50,7 @@ QString templateFolder()
     if (!QDir(finished).exists()) {
         const QString unfinished = finished + QStringLiteral(".unfinished");
         QDir(unfinished).removeRecursively();
+        // Without --user: given one, the script hands it a folder of the installed server, too.
         runProgram(findProgram(QStringLiteral("mariadb-install-db")),
                    commonOptions(unfinished)
                        << QStringLiteral("--auth-root-authentication-method=normal")
@@ -116,14 +113,17 @@ bool MariaDbServer::start()
     constexpr int longestStartMilliseconds = 60000;
     m_port = freePort();
     dieWithParent(m_process);
-    m_process.start(findProgram(QStringLiteral("mariadbd")),
-                    commonOptions(m_folder)
-                        << QStringLiteral("--socket=server.sock") // in the data folder
-                        << QStringLiteral("--port=%1").arg(m_port)
-                        << QStringLiteral("--bind-address=127.0.0.1")
-                        << QStringLiteral("--skip-name-resolve")
-                        << QStringLiteral("--init-file=") + m_folder +
-                               QStringLiteral("/accounts.sql"));
+    QStringList options = commonOptions(m_folder)
+                          << QStringLiteral("--socket=server.sock") // in the data folder
+                          << QStringLiteral("--port=%1").arg(m_port)
+                          << QStringLiteral("--bind-address=127.0.0.1")
+                          << QStringLiteral("--skip-name-resolve")
+                          << QStringLiteral("--init-file=") + m_folder +
+                                 QStringLiteral("/accounts.sql");
+    if (geteuid() == 0) { // the server wants to be told that this is meant
+        options << QStringLiteral("--user=root");
+    }
+    m_process.start(findProgram(QStringLiteral("mariadbd")), options);
     m_process.setReadChannel(QProcess::StandardError);
     QByteArray log;
     while (m_process.state() != QProcess::NotRunning &&
