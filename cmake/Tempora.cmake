@@ -13,6 +13,10 @@ if(TEMPORA_SANITIZE)
   target_compile_options(tempora_options INTERFACE -fsanitize=address,undefined
     -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(tempora_options INTERFACE -fsanitize=address,undefined)
+  # The SQLite driver loads this library for every connection and unloads it again, and what the
+  # library caches is lost each time. It stays when the program itself holds it.
+  target_link_libraries(tempora_options INTERFACE
+    -Wl,--push-state,--no-as-needed -lodbcinst -Wl,--pop-state)
 endif()
 target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII
   QT_USE_QSTRINGBUILDER UNICODE _UNICODE)
