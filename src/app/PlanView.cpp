@@ -21,9 +21,8 @@ namespace
 {
 
 constexpr QColor kBandFill(246, 247, 250);
-constexpr QColor kPlanFill(255, 255, 255);
 constexpr QColor kBandEdge(190, 196, 208);
-constexpr int kTotalsHeight = 26;
+constexpr int kTotalsHeight = PlanPicture::kTotalsHeight;
 
 QString boxToolTip(const plan::PlanRow& row, const plan::PlanBox& box)
 {
@@ -81,7 +80,7 @@ void PlanView::fit()
     m_shell.Form_Resize(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
                         viewport()->height() * m_target.TargetTwipsPerPixelY);
     updateScrollBars();
-    viewport()->update();
+    drawPicture();
 }
 
 void PlanView::updateScrollBars()
@@ -102,6 +101,7 @@ void PlanView::showProgress()
     if (rows.empty()) {
         return;
     }
+    m_picture.drawLastRow(scene());
     const form::Place& place =
         m_shell.form().Salle.at(static_cast<std::size_t>(rows.back().index)).place;
     const int top = static_cast<int>(m_target.toPixelsY(place.top)) - verticalScrollBar()->value();
@@ -115,8 +115,9 @@ void PlanView::showAll()
     const int rows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
     if (rows != m_lastRows || m_shell.form().Salle.front().place.height != m_lastRowHeight) {
         fit();
+    } else {
+        drawPicture();
     }
-    viewport()->update();
 }
 
 QPointF PlanView::toViewport(QPointF planPoint) const
@@ -130,39 +131,40 @@ QPointF PlanView::toPlan(QPoint viewportPoint) const
            QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
 }
 
+QSize PlanView::planSize() const
+{
+    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 4;
+    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(m_shell.slots().axisEnd())));
+    return {std::max(viewport()->width(), end + 1),
+            std::max(viewport()->height() - kTotalsHeight, bottom)};
+}
+
+void PlanView::drawPicture()
+{
+    m_picture.draw(scene(), planSize(), devicePixelRatioF());
+    viewport()->update();
+}
+
 void PlanView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
     painter.setClipRegion(event->region());
     painter.fillRect(viewport()->rect(), kBandFill);
-    paintBands(painter);
-}
-
-void PlanView::paintBands(QPainter& painter)
-{
     const Bands view = bands();
-    const plan::PlanScene planScene = scene();
     const int scrollX = horizontalScrollBar()->value();
     const int scrollY = verticalScrollBar()->value();
-    const auto band = [&](const QRect& place, int dx, int dy, const auto& paint) {
-        painter.save();
-        painter.setClipRect(place, Qt::IntersectClip);
-        painter.translate(-dx, -dy);
-        plan::PlanPainter plan(painter, planScene);
-        paint(plan);
-        painter.restore();
+    const auto copy = [&painter](const QRect& place, const QPixmap& picture, QPoint from) {
+        const double ratio = picture.devicePixelRatio();
+        painter.drawPixmap(QRectF(place), picture,
+                           QRectF(QPointF(from) * ratio, QSizeF(place.size()) * ratio));
     };
-    painter.fillRect(view.boxes, kPlanFill);
-    band(view.boxes, scrollX, scrollY, [](plan::PlanPainter& plan) {
-        plan.paintGrid();
-        plan.paintBoxes();
-    });
-    band(view.names, 0, scrollY, [](plan::PlanPainter& plan) { plan.paintRoomLabels(); });
-    band(view.places, 0, scrollY, [](plan::PlanPainter& plan) { plan.paintPlaces(); });
-    band(view.ticks.adjusted(0, 0, view.places.width(), 0), scrollX, 0,
-         [](plan::PlanPainter& plan) { plan.paintTicks(); });
-    band(view.totals, scrollX, -view.totals.top() - 2,
-         [](plan::PlanPainter& plan) { plan.paintTotals(); });
+    const QPixmap& plan = m_picture.plan();
+    copy(view.boxes, plan, view.boxes.topLeft() + QPoint(scrollX, scrollY));
+    copy(view.names, plan, view.names.topLeft() + QPoint(0, scrollY));
+    copy(view.places, plan, view.places.topLeft() + QPoint(0, scrollY));
+    const QRect ticks = view.ticks.adjusted(0, 0, view.places.width(), 0);
+    copy(ticks, plan, ticks.topLeft() + QPoint(scrollX, 0));
+    copy(view.totals, m_picture.totals(), QPoint(view.totals.x() + scrollX, 0));
     painter.setPen(kBandEdge);
     painter.drawLine(view.boxes.left() - 1, view.boxes.top(), view.boxes.left() - 1,
                      view.boxes.top() + view.boxes.height());

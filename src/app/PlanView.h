@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/PlanPicture.h"
 #include "plan/PlanPainter.h"
 
 #include <QAbstractScrollArea>
@@ -59,12 +60,14 @@ private:
     [[nodiscard]] QPointF toPlan(QPoint viewportPoint) const;
     void updateScrollBars();
     [[nodiscard]] QString toolTipAt(QPoint point) const;
-    void paintBands(QPainter& painter);
+    [[nodiscard]] QSize planSize() const;
+    void drawPicture();
 
     shell::Shell& m_shell;
     Forward m_forward;
     MarkerClick m_markerClick;
     plan::DrawingTarget m_target;
+    PlanPicture m_picture;
     int m_lastRowHeight = 0;
     int m_lastRows = 0;
 };

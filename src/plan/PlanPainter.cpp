@@ -73,15 +73,21 @@ void PlanPainter::paintGrid()
 
 void PlanPainter::paintBoxes()
 {
+    for (const PlanRow& row : m_scene.content.rows) {
+        paintBoxesOf(row);
+    }
+}
+
+void PlanPainter::paintBoxesOf(const PlanRow& row)
+{
+    // A row that the page has no room for stays out of sight with its label.
+    if (!m_scene.form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
+        return;
+    }
     m_surface.save();
     m_surface.setFont(textFont(kTextPixels));
-    for (const PlanRow& row : m_scene.content.rows) {
-        // A row that the page has no room for stays out of sight with its label.
-        if (m_scene.form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
-            for (const PlanBox& box : row.boxes) {
-                paintBox(row, box);
-            }
-        }
+    for (const PlanBox& box : row.boxes) {
+        paintBox(row, box);
     }
     m_surface.restore();
 }

@@ -31,6 +31,8 @@ public:
     void paintTicks();
     void paintGrid();
     void paintBoxes();
+    /// The boxes of one row of the content.
+    void paintBoxesOf(const PlanRow& row);
     void paintRoomLabels();
     void paintPlaces();
     void paintTotals();
