@@ -33,15 +33,15 @@ ErrorNumber sqliteErrorNumber(const Diagnostics& diagnostics)
     }
 }
 
-/// Codes by which MariaDB and MySQL report that the connection is gone, whatever the SQLSTATE.
+/// Codes by which MariaDB and MySQL report that the connection is gone, whatever the SQLSTATE: the
+/// two ranges of errors found at this end of it, and two of the server's.
 bool isConnectionLost(int nativeCode)
 {
-    constexpr int firstClientError = 2000;
-    constexpr int lastClientError = 2060;
     constexpr int serverShutdown = 1053;
     constexpr int connectionKilled = 1927;
-    return (nativeCode >= firstClientError && nativeCode <= lastClientError) ||
-           nativeCode == serverShutdown || nativeCode == connectionKilled;
+    const int range = nativeCode / 1000;
+    return range == 2 || range == 5 || nativeCode == serverShutdown ||
+           nativeCode == connectionKilled;
 }
 
 } // namespace
@@ -50,8 +50,9 @@ ErrorNumber errorNumberOf(const Diagnostics& diagnostics, Product product, bool 
 {
     constexpr int mariaDbNoSuchTable = 1146;
     const QString& state = diagnostics.state;
-    if (opening || state.startsWith(QStringLiteral("08")) || state == QStringLiteral("HYT00") ||
-        state == QStringLiteral("HYT01") || state.startsWith(QStringLiteral("IM0"))) {
+    if (opening || state.isEmpty() || state.startsWith(QStringLiteral("08")) ||
+        state == QStringLiteral("HYT00") || state == QStringLiteral("HYT01") ||
+        state.startsWith(QStringLiteral("IM0"))) {
         return ErrorNumber::DatabaseFailure;
     }
     if (product == Product::Sqlite && diagnostics.nativeCode != 0) {

@@ -14,8 +14,9 @@ using runtime::RunTimeError;
 /// Nobody waits longer for a server that does not answer.
 constexpr SQLULEN loginTimeoutSeconds = 15;
 
-/// A longer wait for another program's lock would look like a hang.
-constexpr int sqliteLockTimeoutMilliseconds = 3000;
+/// What SQLite's driver is told in addition. Its own wait for another program's lock, 100 s, would
+/// look like a hang; it waits twice as many milliseconds as it is told.
+const QString sqliteOptions = QStringLiteral(";Timeout=1000");
 
 SQLPOINTER numberArgument(SQLULEN value)
 {
@@ -77,6 +78,9 @@ Diagnostics diagnosticsOf(SQLSMALLINT type, SQLHANDLE handle, TextForm form)
         texts << record.text;
     }
     texts.removeDuplicates();
+    if (texts.isEmpty()) {
+        texts << QStringLiteral("The driver gives no reason.");
+    }
     all.text = texts.join(u'\n');
     return all;
 }
@@ -129,21 +133,28 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
 {
     // Drivers without a server have no login timeout and may say so.
     SQLSetConnectAttr(get(), SQL_ATTR_LOGIN_TIMEOUT, numberArgument(loginTimeoutSeconds), 0);
+    connect(connectString);
+    m_product = productNamed(info(SQL_DBMS_NAME));
+    if (m_product == Product::Sqlite) {
+        // Only now is it known which driver stands behind a data source's name, and no other may
+        // be given words that it does not know.
+        SQLDisconnect(get());
+        connect(connectString + sqliteOptions);
+    }
+    m_textForm = textFormFor(m_product);
+    m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);
+    SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
+}
+
+void ConnectionHandle::connect(const QString& connectString)
+{
     const SQLRETURN result = SQLDriverConnectW(get(), nullptr, wide(connectString),
                                                static_cast<SQLSMALLINT>(connectString.size()),
                                                nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
     if (!SQL_SUCCEEDED(result)) {
-        const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), m_textForm);
+        const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), TextForm::Utf16);
         throw RunTimeError(errorNumberOf(diagnostics, m_product, true),
                            withoutPasswords(diagnostics.text, m_passwords));
-    }
-    SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
-    m_product = productNamed(info(SQL_DBMS_NAME));
-    m_textForm = textFormFor(m_product);
-    m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);
-    if (m_product == Product::Sqlite) {
-        StatementHandle(*this).execute(
-            QStringLiteral("PRAGMA busy_timeout = %1").arg(sqliteLockTimeoutMilliseconds));
     }
 }
 

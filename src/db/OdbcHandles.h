@@ -109,6 +109,7 @@ public:
     [[noreturn]] void raise(SQLSMALLINT handleType, SQLHANDLE handle) const;
 
 private:
+    void connect(const QString& connectString);
     [[nodiscard]] QString info(SQLUSMALLINT what) const;
 
     QStringList m_passwords;
