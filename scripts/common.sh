@@ -135,5 +135,5 @@ build() {
 
 # What building the program takes, and what it needs to run.
 # shellcheck disable=SC2034 # the sourcing script uses it
-build_packages=(cmake fonts-liberation g++ libsqliteodbc ninja-build odbc-mariadb qt6-base-dev
-    sqlite3 unixodbc-dev)
+build_packages=(cmake fonts-liberation g++ libsqlite3-dev libsqliteodbc ninja-build odbc-mariadb
+    qt6-base-dev sqlite3 unixodbc-dev)
