@@ -37,19 +37,29 @@ QStringList firstColumn(const TestDatabase& database, const QString& query)
 
 } // namespace
 
-void createAbsenceTables(TestDatabase& database)
+QStringList absenceTableStatements(DatabaseKind kind)
 {
-    const QStringList all = demo::schemaStatements(database.usesMySql() ? demo::Flavour::MariaDb
-                                                                        : demo::Flavour::Sqlite);
+    const demo::Flavour flavour =
+        kind == DatabaseKind::MariaDb ? demo::Flavour::MariaDb : demo::Flavour::Sqlite;
     QStringList statements;
-    for (std::size_t table = 0; table < demo::tables().size(); ++table) {
-        const QString& name = demo::tables()[table].name;
-        if (isOfAbsences(name) || name == u"tranche") {
-            statements << all.at(static_cast<qsizetype>(table));
+    for (const QString& statement :
+         demo::schemaStatements(flavour) + demo::indexStatements(flavour)) {
+        for (const char* table : {"abscence", "etud_abs", "tranche"}) {
+            // Behind "CREATE TABLE " or the "ON " of an index.
+            const QString name = demo::quotedName(QLatin1String(table), flavour);
+            if (statement.contains(QStringLiteral("TABLE ") + name) ||
+                statement.contains(QStringLiteral("ON ") + name)) {
+                statements << statement;
+            }
         }
     }
-    database.execute(statements << QStringLiteral("insert into tranche values (2, 'Semestre 2', "
-                                                  "'2025-01-06', '2025-06-29')"));
+    return statements << QStringLiteral("insert into tranche values (2, 'Semestre 2', "
+                                        "'2025-01-06', '2025-06-29')");
+}
+
+void createAbsenceTables(TestDatabase& database)
+{
+    database.execute(absenceTableStatements(database.kind()));
 }
 
 void createKeylessAbsenceTables(TestDatabase& database)
@@ -80,18 +90,28 @@ plan::Marqueur lesson(const QString& classes)
     return marker;
 }
 
-QList<QStringList> classAbsences(const TestDatabase& database)
+QString classAbsencesQuery()
 {
-    return database.read(QStringLiteral(
+    return QStringLiteral(
         "select Classe, Seance, Tranche, `matière`, Salle, Enseignant1, newnature, TypeS1, TypeS2, "
         "TypeS3, TypeS1B, TypeS2B, TypeS3B, `Durée`, Commune, Debut, Datex, Choix from abscence "
-        "order by Classe"));
+        "order by Classe");
+}
+
+QString studentAbsencesQuery()
+{
+    return QStringLiteral("select Classe, Nom, Seance, Tranche, `matière`, HeureD, HeureF, Jour, "
+                          "Ident from etud_abs order by Classe");
+}
+
+QList<QStringList> classAbsences(const TestDatabase& database)
+{
+    return database.read(classAbsencesQuery());
 }
 
 QList<QStringList> studentAbsences(const TestDatabase& database)
 {
-    return database.read(QStringLiteral("select Classe, Nom, Seance, Tranche, `matière`, HeureD, "
-                                        "HeureF, Jour, Ident from etud_abs order by Classe"));
+    return database.read(studentAbsencesQuery());
 }
 
 QStringList classAbsence(const QString& className)

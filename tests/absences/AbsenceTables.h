@@ -10,6 +10,8 @@
 namespace test
 {
 
+/// The statements of `createAbsenceTables`.
+[[nodiscard]] QStringList absenceTableStatements(DatabaseKind kind);
 /// Creates the two tables of absences as the demo faculty has them, with a counted key, and the
 /// period that `lesson` belongs to.
 void createAbsenceTables(TestDatabase& database);
@@ -18,6 +20,11 @@ void createKeylessAbsenceTables(TestDatabase& database);
 
 /// The séance that the tests mark: an algebra class on Monday, 17 March 2025, at 10h15.
 [[nodiscard]] plan::Marqueur lesson(const QString& classes);
+
+/// Queries for all rows of `abscence` and `etud_abs`, with the eighteen and the nine columns in the
+/// order in which the program sets them.
+[[nodiscard]] QString classAbsencesQuery();
+[[nodiscard]] QString studentAbsencesQuery();
 
 /// All rows of `abscence`, the eighteen columns in the order in which the program sets them.
 [[nodiscard]] QList<QStringList> classAbsences(const TestDatabase& database);

@@ -58,7 +58,8 @@ MarkedPlan::MarkedPlan(const TestDatabase& database, std::vector<QStringList> ro
 {
 }
 
-MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms)
+MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms,
+                       const QString& preparation)
     : m_database(useMySql),
       m_periods(m_form, m_database, m_totals, m_actions, [] { return QDate(2025, 3, 17); }),
       m_slots(m_form, m_database), m_lookup(m_form, m_rooms, m_layout, m_typeNames),
@@ -68,6 +69,9 @@ MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<
       m_marking(m_plan, m_records, m_keys)
 {
     m_database.open(connectString);
+    if (!preparation.isEmpty()) {
+        m_database.Db().execute(preparation);
+    }
     m_rooms.classes = std::move(rooms);
     m_page.RowsShown = static_cast<std::int16_t>(m_rooms.classes.size());
     for (std::size_t position = 0; position < m_rooms.classes.size(); ++position) {

@@ -18,8 +18,9 @@ class MarkedPlan
 public:
     /// `rooms`: the class names of each room, from row 1 on. A room without any is free.
     MarkedPlan(const TestDatabase& database, std::vector<QStringList> rooms);
-    /// The same for a program with a connection of its own making.
-    MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms);
+    /// The same with a connection of the test's own making; `preparation`, if any, is run on it.
+    MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms,
+               const QString& preparation = {});
 
     void refresh() { m_plan.RefreshPlan(); }
     /// A click on a box of which nothing but these answers of the keyboard is known.

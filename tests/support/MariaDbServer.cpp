@@ -79,7 +79,6 @@ quint16 freePort()
 
 MariaDbServer::MariaDbServer()
 {
-    constexpr int attempts = 5; // another process may take the port that was free
     static int counter = 0;
     m_folder = processFolder() + QStringLiteral("/mariadb-%1").arg(++counter);
     runProgram(QStringLiteral("cp"), {QStringLiteral("-r"), templateFolder(), m_folder});
@@ -87,6 +86,12 @@ MariaDbServer::MariaDbServer()
               QStringLiteral("CREATE OR REPLACE USER %1@'%';\n"
                              "GRANT ALL ON *.* TO %1@'%' WITH GRANT OPTION;\n")
                   .arg(administrator));
+    startSomewhere();
+}
+
+void MariaDbServer::startSomewhere()
+{
+    constexpr int attempts = 5; // another process may take the port that was free
     for (int i = 0; i < attempts; ++i) {
         if (start()) {
             return;
@@ -181,6 +186,12 @@ void MariaDbServer::kill()
         m_process.kill();
         m_process.waitForFinished();
     }
+}
+
+void MariaDbServer::restart()
+{
+    kill();
+    startSomewhere();
 }
 
 } // namespace test

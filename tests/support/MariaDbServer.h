@@ -40,8 +40,11 @@ public:
 
     /// Ends the server at once, as a crash would.
     void kill();
+    /// Ends the server at once and starts it again with the data it had, on another port.
+    void restart();
 
 private:
+    void startSomewhere();
     bool start();
 
     QString m_folder;

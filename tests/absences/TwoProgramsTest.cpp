@@ -1,0 +1,128 @@
+#include "AbsenceTables.h"
+#include "support/ChildProgram.h"
+
+#include <memory>
+#include <vector>
+
+using namespace test;
+
+namespace
+{
+
+const QString classA = QStringLiteral("L1-A");
+const QString classB = QStringLiteral("L1-B");
+
+/// What several programs were told about the absence that they all toggled.
+struct Log {
+    int toggles = 0;
+    int added = 0;
+    int removed = 0;
+};
+
+using Programs = std::vector<std::unique_ptr<QProcess>>;
+
+class ManyPrograms : public OnBothDatabases
+{
+protected:
+    void SetUp() override { createAbsenceTables(database()); }
+
+    /// Lets that many programs toggle the séance of class A at the same time.
+    Log toggleAtOnce(const QString& table, int programs, int toggles)
+    {
+        Programs running;
+        for (int i = 0; i < programs; ++i) {
+            running.push_back(
+                started(table, toggles / programs + (i < toggles % programs ? 1 : 0)));
+        }
+        for (const auto& program : running) {
+            program->write("go\n");
+        }
+        Log log;
+        for (const auto& program : running) {
+            addTo(log, *program);
+        }
+        return log;
+    }
+
+private:
+    [[nodiscard]] std::unique_ptr<QProcess> started(const QString& table, int toggles)
+    {
+        auto program = std::make_unique<QProcess>();
+        dieWithParent(*program);
+        program->start(QStringLiteral(TEMPORA_TOGGLER),
+                       {QString::fromStdString(kindName({GetParam(), 0})),
+                        database().connectString(), table, classA, QString::number(toggles)});
+        while (!program->canReadLine() && program->waitForReadyRead()) {
+        }
+        EXPECT_EQ(program->readLine(), QByteArray("ready\n"));
+        return program;
+    }
+
+    static void addTo(Log& log, QProcess& program)
+    {
+        constexpr int longestRunMilliseconds = 120000;
+        EXPECT_TRUE(program.waitForFinished(longestRunMilliseconds));
+        EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+        const QByteArray told = program.readAllStandardOutput();
+        log.added += static_cast<int>(told.count('+'));
+        log.removed += static_cast<int>(told.count('-'));
+        log.toggles += static_cast<int>(told.count('\n'));
+    }
+};
+
+class ManyProgramsOnOneServer : public ManyPrograms
+{
+};
+
+} // namespace
+
+// Two toggles at the same moment may both find nothing and add a row each, so the outcome of the
+// whole is open. But every toggle adds or removes exactly the one row that it says.
+
+TEST_P(ManyProgramsOnOneServer, loseNoClassAbsenceAndTouchNoOther)
+{
+    database().execute(
+        {QStringLiteral("insert into abscence (Classe, Datex, Debut) values "
+                        "('L1-B', '2025-03-17', '10h15'), ('L1-A', '2025-03-18', '10h15'), "
+                        "('L1-A', '2025-03-17', '11h45')")});
+    const QString others = QStringLiteral("select Classe, Datex, Debut from abscence "
+                                          "where Seance is null order by Num");
+    const QList<QStringList> before = database().read(others);
+    const Log log = toggleAtOnce(QStringLiteral("class"), 8, 500);
+    EXPECT_EQ(log.toggles, 500);
+    EXPECT_EQ(log.added + log.removed, 500);
+    EXPECT_EQ(database().read(others), before);
+    database().execute(QStringLiteral("delete from abscence where Seance is null"));
+    EXPECT_EQ(classAbsences(database()),
+              QList<QStringList>(log.added - log.removed, classAbsence(classA)));
+}
+
+TEST_P(ManyProgramsOnOneServer, loseNoStudentAbsenceAndTouchNoOther)
+{
+    database().execute({QStringLiteral("insert into etud_abs (Classe, Nom, Jour, HeureD) values "
+                                       "('L1-B', 'L1-B', '2025-03-17', '10h15'), "
+                                       "('L1-A', 'Dupont', '2025-03-17', '10h15')")});
+    const QString others = QStringLiteral("select Classe, Nom, Jour, HeureD from etud_abs "
+                                          "where Seance is null order by Num");
+    const QList<QStringList> before = database().read(others);
+    const Log log = toggleAtOnce(QStringLiteral("students"), 8, 500);
+    EXPECT_EQ(log.toggles, 500);
+    EXPECT_EQ(log.added + log.removed, 500);
+    EXPECT_EQ(database().read(others), before);
+    database().execute(QStringLiteral("delete from etud_abs where Seance is null"));
+    EXPECT_EQ(studentAbsences(database()),
+              QList<QStringList>(log.added - log.removed, studentAbsence(classA)));
+}
+
+INSTANTIATE_TEST_SUITE_P(On, ManyProgramsOnOneServer, testing::Values(DatabaseKind::MariaDb),
+                         kindName);
+
+TEST_P(ManyPrograms, reconcileWithTheRows)
+{
+    const Log log = toggleAtOnce(QStringLiteral("class"), 3, 45);
+    EXPECT_EQ(log.toggles, 45);
+    EXPECT_EQ(classAbsences(database()),
+              QList<QStringList>(log.added - log.removed, classAbsence(classA)));
+}
+
+TEMPORA_ON_BOTH_DATABASES(ManyPrograms);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "db/Connection.h"
+
+#include "support/RuntimeMatchers.h"
+#include "support/TestDatabase.h"
+
+#include <optional>
+
+/// A test on both databases with an open connection.
+class ConnectedTest : public test::OnBothDatabases
+{
+protected:
+    /// Opened at the first call, so that a test can fill the database before.
+    [[nodiscard]] db::Connection& connection()
+    {
+        if (!m_connection) {
+            m_connection.emplace(database().connectString());
+        }
+        return *m_connection;
+    }
+
+    /// The query's one value.
+    [[nodiscard]] db::Value single(const QString& sql)
+    {
+        const db::Recordset rows = connection().open(sql);
+        EXPECT_EQ(rows.recordCount(), 1);
+        return rows.isEmpty() ? db::Value() : rows.first().field(0);
+    }
+
+private:
+    std::optional<db::Connection> m_connection;
+};

@@ -1,0 +1,205 @@
+#include "absences/AbsenceRecords.h"
+#include "absences/PageAbsences.h"
+#include "db/Database.h"
+#include "form/PlanForm.h"
+#include "judge/RandomTimetable.h"
+#include "plan/PageRowSource.h"
+#include "plan/PlainRowSource.h"
+#include "plan/RoomOccupancy.h"
+#include "runtime/RunTimeError.h"
+
+#include <QByteArray>
+
+using namespace test;
+
+namespace plan
+{
+
+/// How a cell reads in a failed comparison.
+static void PrintTo(const RoomCell& cell, std::ostream* stream)
+{
+    const QStringList fields = {cell.CellText,
+                                QString::number(cell.CellRowCount),
+                                cell.CellStart,
+                                cell.CellDuration,
+                                cell.CellTeacher,
+                                cell.CellSubject,
+                                cell.CellTypeA,
+                                cell.CellTypeB,
+                                cell.CellClasses,
+                                cell.CellClassList,
+                                QString::number(cell.CellStudents),
+                                QString::number(cell.CellCapacity)};
+    *stream << fields.join(u'|').toStdString();
+}
+
+} // namespace plan
+
+namespace
+{
+
+int wantedCells()
+{
+    const int asked = qEnvironmentVariableIntValue("TEMPORA_JUDGE_CELLS");
+    return asked > 0 ? asked : 10000;
+}
+
+/// One way of answering the plan's questions, with the connection that it uses.
+struct Way {
+    Way(const TestDatabase& database, const form::PlanForm& form, const plan::CellLayout& layout,
+        const plan::SeanceTypeShortNames& names, bool ahead)
+        : db(database.usesMySql()), plainRows(db), pageRows(db, plainRows), plainAbsences(db),
+          pageAbsences(db, plainAbsences),
+          lookup(form, ahead ? static_cast<plan::RowSource&>(pageRows) : plainRows, layout, names),
+          absences(ahead ? static_cast<plan::AbsenceTests&>(pageAbsences) : plainAbsences)
+    {
+        db.open(database.connectString());
+    }
+
+    db::Database db;
+    plan::PlainRowSource plainRows;
+    plan::PageRowSource pageRows;
+    absences::AbsenceRecords plainAbsences;
+    absences::PageAbsences pageAbsences;
+    plan::OccupancyLookup lookup;
+    plan::AbsenceTests& absences;
+};
+
+/// What a refresh would keep of one cell.
+struct Answer {
+    plan::RoomCell cell;
+    bool makeUp = false;
+    bool classAbsent = false;
+    bool studentAbsent = false;
+
+    friend bool operator==(const Answer&, const Answer&) = default;
+};
+
+class PageSources : public OnBothDatabases
+{
+protected:
+    void SetUp() override
+    {
+        for (std::size_t index = 0; index < m_names.size(); ++index) {
+            m_names[index] = index % 5 == 4 ? QString() : QStringLiteral("T%1").arg(index);
+        }
+    }
+
+    /// Sets the window's options at random.
+    void choose(RandomTimetable& random)
+    {
+        (random.chance(75) ? m_form.OpEns : m_form.OpExam).select();
+        const int week = random.pick(3);
+        (week == 0 ? m_form.OptFixe : week == 1 ? m_form.OptA : m_form.OptB).select();
+        m_form.XOpCl.setChecked(random.chance(75));
+        m_form.XOpEns.setChecked(random.chance(75));
+        m_form.XpMat.setChecked(random.chance(75));
+        m_form.Chk_Type.setChecked(random.chance(40));
+        m_form.xOpExam.setChecked(random.chance(40));
+        m_form.Check2.setChecked(random.chance(50));
+        m_form.Check1.setChecked(random.chance(20));
+        m_form.Cb_Mat.design({QStringLiteral("Algèbre"), QStringLiteral("Chimie")}, random.pick(2));
+        m_form.DTPicker1.setValue(RandomTimetable::date());
+        m_form.CbJour.setListIndex(random.chance(90) ? 0 : 1);
+        m_layout.CellSeparator = random.chance(50) ? QStringLiteral("\r\n") : QString();
+    }
+
+    [[nodiscard]] Answer ask(Way& way, const QString& room, const QString& key,
+                             const QString& tranche)
+    {
+        Answer answer;
+        QString text = way.lookup.RoomOccupancy(room, key, tranche, false);
+        if (text.isEmpty() && m_form.Check2.isChecked()) {
+            text = way.lookup.RoomOccupancy(room, key, tranche, true);
+            answer.makeUp = true;
+        }
+        answer.cell = way.lookup.cell();
+        plan::Marqueur marker;
+        marker.Debut = answer.cell.CellStart;
+        marker.Jour = m_form.DTPicker1.value();
+        const QString name = plan::firstClass(answer.cell.CellClassList);
+        runtime::skipOnError(
+            [&] { answer.classAbsent = way.absences.Existe_AbsClasse(marker, name); });
+        runtime::skipOnError(
+            [&] { answer.studentAbsent = way.absences.Existe_AbsEtud(marker, name, name); });
+        return answer;
+    }
+
+    /// Compares one page, as a refresh asks for it. Returns the number of cells.
+    int comparePage(Way& plain, Way& ahead, const QString& tranche)
+    {
+        QStringList keys;
+        for (int slot = 1; slot <= 10; ++slot) {
+            keys << m_form.CbJour.text() + QString::number(slot);
+        }
+        const plan::PageFacts facts = ahead.lookup.prepare(RandomTimetable::rooms(), keys, tranche);
+        plan::AbsenceQuestions questions{m_form.DTPicker1.value(), {}, facts.starts};
+        for (const QString& name : facts.classNames) {
+            questions.classNames << plan::firstClass(name);
+        }
+        ahead.absences.prepare(questions);
+        int cells = 0;
+        for (const QString& room : RandomTimetable::rooms()) {
+            for (const QString& key : keys) {
+                const Answer expected = ask(plain, room, key, tranche);
+                const Answer answer = ask(ahead, room, key, tranche);
+                EXPECT_EQ(expected.cell, answer.cell)
+                    << "room " << room.toStdString() << ", slot " << key.toStdString();
+                EXPECT_EQ(expected, answer)
+                    << "room " << room.toStdString() << ", slot " << key.toStdString();
+                occupied += answer.cell.CellClassList.isEmpty() ? 0 : 1;
+                absent += answer.classAbsent || answer.studentAbsent ? 1 : 0;
+                ++cells;
+            }
+        }
+        return cells;
+    }
+
+    form::PlanForm m_form;
+    plan::CellLayout m_layout;
+    plan::SeanceTypeShortNames m_names;
+    int occupied = 0;
+    int absent = 0;
+};
+
+} // namespace
+
+TEST_P(PageSources, answerEveryCellAsThePlainOnesDo)
+{
+    const int wanted = wantedCells();
+    int cells = 0;
+    for (unsigned seed = 1; cells < wanted && !HasFailure(); ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        TestDatabase tables(GetParam());
+        RandomTimetable random(tables, seed);
+        Way plain(tables, m_form, m_layout, m_names, false);
+        Way ahead(tables, m_form, m_layout, m_names, true);
+        for (int page = 0; page < 12 && !HasFailure(); ++page) {
+            choose(random);
+            cells += comparePage(plain, ahead, QString::number(1 + random.pick(2)));
+        }
+    }
+    // The comparison is worth something only if there is something to compare.
+    EXPECT_GT(occupied, cells / 20);
+    EXPECT_GT(absent, 0);
+}
+
+TEST_P(PageSources, needAtMostTenStatementsAPage)
+{
+    RandomTimetable random(database(), 7);
+    Way ahead(database(), m_form, m_layout, m_names, true);
+    const long long before = ahead.db.Db().statementCount();
+    m_form.Check2.setChecked(true);
+    m_form.DTPicker1.setValue(RandomTimetable::date());
+    QStringList keys;
+    for (int slot = 1; slot <= 10; ++slot) {
+        keys << QStringLiteral("Lundi%1").arg(slot);
+    }
+    const plan::PageFacts facts =
+        ahead.lookup.prepare(RandomTimetable::rooms(), keys, QStringLiteral("1"));
+    ahead.absences.prepare({RandomTimetable::date(), facts.classNames, facts.starts});
+    EXPECT_LE(ahead.db.Db().statementCount() - before, 10);
+    EXPECT_FALSE(facts.classNames.isEmpty());
+}
+
+TEMPORA_ON_BOTH_DATABASES(PageSources);

@@ -1,0 +1,126 @@
+#include "judge/RandomTimetable.h"
+
+#include "support/Timetable.h"
+
+namespace test
+{
+namespace
+{
+
+// A text that stands for null in the lists below.
+const char* const kNull = "<null>";
+
+QStringList subjects()
+{
+    return {"Algèbre", "algèbre", "Chimie [LV1]", "O'Reilly", "", kNull};
+}
+
+QStringList starts()
+{
+    return {"8h00", "8H00", "8:00", "9h30", kNull};
+}
+
+} // namespace
+
+const QStringList& RandomTimetable::rooms()
+{
+    static const QStringList names = {"A101", "a101",     "A101 ", "Á101", "E1",   "é1", "O'Brien",
+                                      "B\\2", "Amphi %1", "",      "Labo", "LABO", "C3", "c3 "};
+    return names;
+}
+
+const QStringList& RandomTimetable::classes()
+{
+    static const QStringList names = {"GC1",  "gc1", "GC1 ", "GÇ1", "L2 \"B\"", "D'Arc",
+                                      "M\\1", "",    "INF",  "Inf", kNull};
+    return names;
+}
+
+QString RandomTimetable::anyOf(const QStringList& texts)
+{
+    return texts[pick(static_cast<int>(texts.size()))];
+}
+
+RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engine(seed)
+{
+    Timetable tables(database);
+    const auto text = [](const QString& column, const QString& value) {
+        return value == QLatin1String(kNull) ? Field(column, nullptr) : Field(column, value);
+    };
+    const auto roomOrNull = [&] { return chance(60) ? QString(kNull) : anyOf(rooms()); };
+    const auto key = [&]() -> QString {
+        const QString day = chance(90) ? "Lundi" : chance(50) ? "lundi" : "Mardi";
+        return day + QString::number(1 + pick(4));
+    };
+    const auto course = [&] {
+        return Fields{text("Salle", chance(85) ? anyOf(rooms()) : kNull),
+                      text("XSalle", roomOrNull()),
+                      text("YSalle", roomOrNull()),
+                      text("SalleB", roomOrNull()),
+                      text("XSalleB", roomOrNull()),
+                      text("YSalleB", roomOrNull()),
+                      text("Seance", key()),
+                      Field("Tranche", 1 + pick(2)),
+                      text("newnature", anyOf({"00", "10/20", "", kNull})),
+                      chance(10) ? Field("TypeS1", nullptr) : Field("TypeS1", pick(18)),
+                      Field("TypeS3B", pick(3)),
+                      text("Classe", anyOf(classes())),
+                      text("Enseignant1", anyOf({"Durand", "D'Or", "", kNull})),
+                      text("Enseignant2", anyOf({"Martin", "", kNull})),
+                      text("Enseignant1b", anyOf({"Petit", kNull})),
+                      text("Enseignant2b", anyOf({"Grand", kNull})),
+                      text("matière", anyOf(subjects())),
+                      text("XMatière", anyOf(subjects())),
+                      text("Matièreb", anyOf(subjects())),
+                      text("Debut", anyOf(starts())),
+                      text("Durée", anyOf({"90", "45", "180", "", kNull})),
+                      Field("Commune", chance(20))};
+    };
+    for (int row = 0; row < 110; ++row) {
+        tables.row("emplois", course());
+    }
+    for (int row = 0; row < 60; ++row) {
+        Fields makeUp = course();
+        makeUp.emplace_back("DateX", chance(80) ? date() : date().addDays(1));
+        tables.row("ratrap", makeUp);
+    }
+    for (int row = 0; row < 60; ++row) {
+        tables.row("examen",
+                   {text("Salle", anyOf(rooms())), text("Seance", key()),
+                    Field("Tranche", 1 + pick(2)), Field("Semaine", 1 + pick(2)),
+                    text("newnature", "00"), Field("TypeS1", pick(16)), Field("TypeS3B", 0),
+                    text("Classe", anyOf(classes())), text("Enseignant1", "Durand"),
+                    text("Resp1", anyOf({"Roux", kNull})), text("Resp2", anyOf({"Blanc", ""})),
+                    text("matière", anyOf(subjects())), text("Debut", anyOf(starts())),
+                    text("Durée", "60"), Field("Commune", false)});
+    }
+    for (int row = 0; row < 60; ++row) {
+        tables.row("etudiant", {text("classe", anyOf(classes())), text("Nom", "Élève")});
+    }
+    for (int row = 0; row < 14; ++row) {
+        tables.row("classe",
+                   {text("Nom", anyOf(classes())),
+                    chance(10) ? Field("Capacite", nullptr) : Field("Capacite", 10 * pick(9))});
+    }
+    for (int row = 0; row < 25; ++row) {
+        tables.row("abscence", {text("Classe", anyOf(classes())), text("Debut", anyOf(starts())),
+                                Field("Datex", chance(80) ? date() : date().addDays(7))});
+        const QString className = anyOf(classes());
+        tables.row("etud_abs", {text("Classe", className),
+                                text("Nom", chance(70) ? className : anyOf(classes())),
+                                text("HeureD", anyOf(starts())),
+                                Field("Jour", chance(80) ? date() : date().addDays(7))});
+    }
+    tables.load();
+    if (chance(30)) {
+        tables.statement(anyOf({"alter table emplois drop column `XEnseignant1`",
+                                "alter table emplois drop column `Matièreb`",
+                                "alter table classe drop column `Capacite`", "drop table etudiant",
+                                "drop table classe", "drop table abscence", "drop table etud_abs",
+                                "alter table ratrap drop column `XSalle`",
+                                "alter table emplois drop column `Classe`", "drop table examen"}));
+        tables.load();
+    }
+}
+
+} // namespace test

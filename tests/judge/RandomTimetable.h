@@ -1,0 +1,40 @@
+#pragma once
+
+#include "support/TestDatabase.h"
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+#include <random>
+
+namespace test
+{
+
+/// A timetable database of odd rows: rooms and classes that differ only by case, accent or
+/// trailing blank, quotes in names, nulls, empty texts, several rows in one cell, and sometimes a
+/// column or a whole table missing. The same seed makes the same rows.
+class RandomTimetable
+{
+public:
+    RandomTimetable(TestDatabase& database, unsigned seed);
+
+    /// The date that make-ups and absences are about.
+    [[nodiscard]] static QDate date() { return {2026, 11, 16}; }
+    /// Names as they are asked for.
+    [[nodiscard]] static const QStringList& rooms();
+    [[nodiscard]] static const QStringList& classes();
+
+    /// A number from 0 to `count` - 1.
+    [[nodiscard]] int pick(int count)
+    {
+        return static_cast<int>(m_engine() % static_cast<unsigned>(count));
+    }
+    [[nodiscard]] bool chance(int percent) { return pick(100) < percent; }
+
+private:
+    [[nodiscard]] QString anyOf(const QStringList& texts);
+
+    std::mt19937 m_engine;
+};
+
+} // namespace test

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+#include <thread>
+
+namespace test
+{
+
+/// A file descriptor of its own, closed with the object.
+class Descriptor
+{
+public:
+    explicit Descriptor(int number) : m_number(number) {}
+    ~Descriptor();
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    [[nodiscard]] int number() const { return m_number; }
+
+private:
+    int m_number;
+};
+
+/// Stands between one program and a MariaDB server, sees every command that passes, and can cut
+/// the connection at any of them.
+class CuttingProxy
+{
+public:
+    enum class Verdict {
+        Pass,
+        Cut,       ///< the server never sees the command
+        CutAnswer, ///< the server carries the command out, but nobody hears its answer
+    };
+    /// Sees a command as sent: its code in the first byte, then the rest; an SQL text is readable
+    /// in it. Runs on the proxy's own thread.
+    using Judge = std::function<Verdict(const QByteArray& command)>;
+
+    // The codes of the commands that carry a statement's text or run a prepared statement.
+    static constexpr char kQuery = 0x03;
+    static constexpr char kPrepare = 0x16;
+    static constexpr char kExecute = 0x17;
+
+    /// Throws std::runtime_error when no port is to be had.
+    CuttingProxy(quint16 serverPort, Judge judge);
+    ~CuttingProxy();
+    CuttingProxy(const CuttingProxy&) = delete;
+    CuttingProxy& operator=(const CuttingProxy&) = delete;
+
+    /// The server's connection string, turned to the proxy.
+    [[nodiscard]] QString through(const QString& connectString) const;
+
+private:
+    void run();
+    void serve(const Descriptor& program);
+
+    quint16 m_serverPort;
+    quint16 m_port = 0;
+    Judge m_judge;
+    Descriptor m_listener;
+    Descriptor m_end; ///< becomes readable when the proxy is to end
+    std::thread m_thread;
+};
+
+} // namespace test
