@@ -1,0 +1,27 @@
+#include "plan/RoomRows.h"
+
+#include "support/RuntimeMatchers.h"
+
+TEST(RoomRows, standOneBelowTheOtherWithAFixedGap)
+{
+    form::PlanForm form;
+    form.Salle[0].place = {30, 345, 1500, 400};
+    plan::PlaceRoomRows(form);
+    EXPECT_EQ(form.Salle[0].place.top, 345);
+    EXPECT_EQ(form.Salle[1].place.top, 345 + 468);
+    EXPECT_EQ(form.Salle[29].place.top, 345 + 29 * 468);
+    EXPECT_EQ(form.Salle[29].place.left, 30);
+    EXPECT_EQ(form.Salle[29].place.height, 400);
+}
+
+TEST(RoomRows, endWithTheirPlacesAtTheWindowsEdge)
+{
+    form::PlanForm form;
+    form.scaleWidth = 21000;
+    plan::PlaceRoomRows(form);
+    for (const std::size_t row : {std::size_t{0}, std::size_t{7}}) {
+        const form::Place& places = form.Cap[row].place;
+        EXPECT_EQ(places.left, 21000 - places.width - 250);
+        EXPECT_EQ(places.top, form.Salle[row].place.top);
+    }
+}
