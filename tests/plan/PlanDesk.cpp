@@ -1,0 +1,183 @@
+#include "plan/PlanDesk.h"
+
+#include "context/Establishment.h"
+#include "plan/RoomRows.h"
+#include "runtime/RunTimeError.h"
+
+#include <algorithm>
+
+namespace test
+{
+namespace
+{
+
+const QStringList slotStarts{"8h00", "9h30", "11h00", "12h30", "14h00", "15h30", "17h00"};
+
+/// Start of a slot; behind the day's six slots the evening begins.
+const QString& startOf(int slot)
+{
+    return slotStarts[std::min<qsizetype>(slot, slotStarts.size()) - 1];
+}
+
+QString roomName(int room)
+{
+    return QString("R%1").arg(room, 2, 10, QChar('0'));
+}
+
+} // namespace
+
+bool FakeAbsences::Existe_AbsClasse(const plan::Marqueur&, const QString& className)
+{
+    asked.append("class " + className);
+    if (fails) {
+        throw runtime::RunTimeError(runtime::ErrorNumber::TableMissing, "no table");
+    }
+    return classes.count(className) != 0;
+}
+
+bool FakeAbsences::Existe_AbsEtud(const plan::Marqueur&, const QString& className,
+                                  const QString& name)
+{
+    asked.append("student " + className + "/" + name);
+    if (fails) {
+        throw runtime::RunTimeError(runtime::ErrorNumber::TableMissing, "no table");
+    }
+    return students.count(name) != 0;
+}
+
+PlanDesk::PlanDesk(int roomCount, const QString& lines, int places)
+    : refresh({form, periods, slots, page, totals, lookup, absences, colors, layout},
+              [this] { periods.yieldTo([this] { yield(); }); }),
+      paging(form, page, totals, rooms, colors, refresh, [this] { ++adaptations; }),
+      options(form, totals, refresh, [this](const QString& title, const QString& text) {
+          messages.emplace_back(title, text);
+      })
+{
+    writeDatabase(roomCount, places);
+    form.scaleWidth = 22000;
+    form.scaleHeight = 12000;
+    form.Total_L_P.setText(lines);
+    for (form::CheckBox* box : {&form.XOpCl, &form.XOpEns, &form.XpMat}) {
+        box->setChecked(true);
+    }
+    layout.displayStyle = 3;
+    static_cast<void>(context::LoadEstablishment(form, database, periods, page,
+                                                 m_testDatabase.connectString(), "1"));
+    slots.LoadSlots();
+    plan::PlaceRoomRows(form);
+    rooms.FillRoomPage();
+    periods.showCurrentWeek();
+    colors.fillRandomly();
+    wireEvents();
+    form.visible = true;
+}
+
+void PlanDesk::writeDatabase(int roomCount, int places)
+{
+    Timetable timetable(m_testDatabase, {"etablissement", "tranche", "seances", "salle"});
+    timetable.row("tranche", {{"ident", 1},
+                              {"Tranche", "S1"},
+                              {"DateDebut", QDate(2026, 9, 7)},
+                              {"DateFin", QDate(2027, 1, 29)}});
+    for (int slot = 1; slot <= 6; ++slot) {
+        timetable.row("seances", {{"Seance", QString("Lundi%1").arg(slot)},
+                                  {"Horaire1", startOf(slot)},
+                                  {"Horaire2", startOf(slot + 1)}});
+    }
+    for (int room = 0; room < roomCount; ++room) {
+        timetable.row("salle", {{"Zone", 1}, {"Nom", roomName(room)}, {"places", places}});
+    }
+    timetable.load();
+}
+
+void PlanDesk::wireEvents()
+{
+    form.CbJour.click = [this] { periods.CbJour_Click(); };
+    form.DTPicker1.change = [this] { periods.DTPicker1_Change(); };
+    form.Check2.click = [this] { periods.Check2_Click(); };
+    form.OpEns.click = [this] { periods.OpEns_Click(); };
+    form.cb_Locaux.click = [this] { rooms.cb_Locaux_Click(); };
+    form.Total_L_P.change = [this] { paging.Total_L_P_Change(); };
+    form.Command2.click = [this] { paging.Command2_Click(); };
+    form.Command3.click = [this] { paging.Command3_Click(); };
+    form.Check3.click = [this] { options.Check3_Click(); };
+    form.Chk_Compt.click = [this] { options.Chk_Compt_Click(); };
+    form.Chk_Type.click = [this] { options.Chk_Type_Click(); };
+    form.ChkGrille.click = [this] { options.ChkGrille_Click(); };
+    form.Colorer.click = [this] { options.Colorer_Click(); };
+    form.OptA.click = [this] { options.OptA_Click(); };
+    form.OptB.click = [this] { options.OptB_Click(); };
+    form.OptFixe.click = [this] { options.OptFixe_Click(); };
+}
+
+void PlanDesk::PlaceRoomRows()
+{
+    plan::PlaceRoomRows(form);
+}
+
+Meeting& PlanDesk::meeting(int room, int slot)
+{
+    Meeting& added = rows.emplois(roomName(room), QString("Lundi%1").arg(slot));
+    return added.set("Debut", db::Value(startOf(slot)));
+}
+
+Meeting& PlanDesk::makeUp(int room, int slot)
+{
+    Meeting& added = rows.ratrap(roomName(room), QString("Lundi%1").arg(slot));
+    return added.set("Debut", db::Value(startOf(slot)));
+}
+
+void PlanDesk::duringRow(int row, std::function<void()> event)
+{
+    m_event = std::move(event);
+    m_eventYield = yields + row;
+}
+
+void PlanDesk::yield()
+{
+    ++yields;
+    if (m_event && yields == m_eventYield) {
+        std::exchange(m_event, nullptr)();
+    }
+}
+
+void PlanDesk::tick(form::CheckBox& box, bool checked)
+{
+    const form::Event click = std::exchange(box.click, nullptr);
+    box.setChecked(checked);
+    box.click = click;
+}
+
+QStringList PlanDesk::drawnRooms() const
+{
+    QStringList names;
+    for (const plan::PlanRow& row : drawn()) {
+        names.append(row.room);
+    }
+    return names;
+}
+
+std::vector<int> PlanDesk::markers() const
+{
+    std::vector<int> numbers;
+    for (const plan::PlanRow& row : drawn()) {
+        for (const plan::PlanBox& box : row.boxes) {
+            numbers.push_back(box.marker);
+        }
+    }
+    return numbers;
+}
+
+QStringList PlanDesk::totalsLine() const
+{
+    QStringList captions;
+    for (const form::Label& total : form.Tot) {
+        captions.append(total.visible ? total.caption : QString());
+    }
+    while (!captions.isEmpty() && captions.last().isEmpty()) {
+        captions.removeLast();
+    }
+    return captions;
+}
+
+} // namespace test

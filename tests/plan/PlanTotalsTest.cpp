@@ -1,0 +1,177 @@
+#include "plan/PlanDesk.h"
+#include "support/RuntimeMatchers.h"
+
+using plan::PlanRefresh;
+using runtime::ErrorNumber;
+using test::PlanDesk;
+
+namespace
+{
+
+/// Four drawn rooms of 30 places, counting on.
+class PlanTotals : public testing::Test
+{
+protected:
+    PlanTotals() { desk.form.Chk_Compt.setChecked(true); }
+
+    QStringList draw()
+    {
+        desk.draw();
+        return desk.totalsLine();
+    }
+    void onlyTeachers()
+    {
+        PlanDesk::tick(desk.form.XOpCl, false);
+        PlanDesk::tick(desk.form.XpMat, false);
+    }
+
+    PlanDesk desk{5, "10", 30};
+};
+
+} // namespace
+
+TEST_F(PlanTotals, areHiddenWhileNothingIsCounted)
+{
+    desk.meeting(1, 1);
+    desk.form.Chk_Compt.setChecked(false);
+    EXPECT_EQ(draw(), QStringList());
+    EXPECT_EQ(desk.form.Tot[0].caption, "0000");
+}
+
+TEST_F(PlanTotals, startOnlyWithTheNextRefresh)
+{
+    desk.form.Chk_Compt.setChecked(false);
+    desk.meeting(1, 1);
+    desk.draw();
+    desk.form.Chk_Compt.setChecked(true);
+    EXPECT_EQ(desk.totalsLine(), QStringList());
+    EXPECT_EQ(desk.refresh.refreshCount(), 1U);
+    EXPECT_EQ(draw(), QStringList("30"));
+}
+
+TEST_F(PlanTotals, addTheSeatsOfTheOccupiedRoomsInEachSlot)
+{
+    desk.meeting(1, 1);
+    desk.meeting(2, 1);
+    desk.meeting(4, 3);
+    EXPECT_EQ(draw(), QStringList({"60", "", "30"}));
+}
+
+TEST_F(PlanTotals, startFromZeroAtEveryRefresh)
+{
+    desk.meeting(1, 1);
+    desk.draw();
+    EXPECT_EQ(draw(), QStringList("30"));
+}
+
+TEST_F(PlanTotals, goOnFromThePagesBeforeWhenAskedTo)
+{
+    desk.meeting(1, 1);
+    desk.draw();
+    desk.refresh.RefreshPlan(PlanRefresh::TotalsStart::PreviousPages);
+    EXPECT_EQ(desk.totalsLine(), QStringList("60"));
+}
+
+TEST_F(PlanTotals, countARoomThatTheSlotBeforeOverruns)
+{
+    desk.meeting(2, 3).set("Durée", "180");
+    EXPECT_EQ(draw(), QStringList({"", "", "30", "30"}));
+    EXPECT_EQ(desk.refresh.MarkerCount(), 1);
+}
+
+TEST_F(PlanTotals, countAnOverrunOfASingleMinute)
+{
+    desk.meeting(2, 3).set("Durée", "91");
+    EXPECT_EQ(draw(), QStringList({"", "", "30", "30"}));
+}
+
+TEST_F(PlanTotals, lookNoFurtherThanOneSlotAhead)
+{
+    desk.meeting(2, 1).set("Durée", "270");
+    EXPECT_EQ(draw(), QStringList({"30", "30"}));
+}
+
+TEST_F(PlanTotals, neverCountARoomOfTheRowBeforeInTheFirstSlot)
+{
+    desk.meeting(1, 10).set("Durée", "900");
+    EXPECT_EQ(draw(), QStringList({"", "", "", "", "", "", "", "", "", "30"}));
+}
+
+TEST_F(PlanTotals, neverOverrunIntoASlotThatTheDayHasNot)
+{
+    desk.meeting(1, 6).set("Durée", "180");
+    EXPECT_EQ(draw(), QStringList({"", "", "", "", "", "30"}));
+}
+
+TEST_F(PlanTotals, countWhatAMakeUpOverruns)
+{
+    desk.form.Check2.setChecked(true);
+    desk.makeUp(1, 2).set("Durée", "120");
+    EXPECT_EQ(draw(), QStringList({"", "30", "30"}));
+}
+
+TEST_F(PlanTotals, countWhatARowWithoutATextOverruns)
+{
+    // Held in a third room: no box, but the duration is that of a meeting.
+    desk.meeting(1, 2).set("YSalle", "R02").set("Durée", "120").null("Salle");
+    EXPECT_EQ(draw(), QStringList({"", "", "30"}));
+}
+
+TEST_F(PlanTotals, forgetTheDurationOfAFilteredBox)
+{
+    desk.meeting(1, 2).set("Durée", "180");
+    PlanDesk::tick(desk.form.Check1);
+    desk.form.Cb_Mat.design({"Optique"}, 0);
+    EXPECT_EQ(draw(), QStringList());
+}
+
+TEST_F(PlanTotals, stopAtADurationThatIsNoInteger)
+{
+    desk.meeting(1, 2).set("YSalle", "R02").set("Durée", "1e12").null("Salle");
+    EXPECT_EQ(test::errorNumberOf([&] { desk.draw(); }), ErrorNumber::Overflow);
+}
+
+TEST_F(PlanTotals, countTheTeachersWhereOnlyTeachersAreShown)
+{
+    onlyTeachers();
+    desk.meeting(1, 1);
+    desk.meeting(2, 1).set("Enseignant2", "Durand").set("Enseignant3", "Petit");
+    desk.meeting(3, 2).set("Enseignant2", "Durand");
+    EXPECT_EQ(draw(), QStringList({"60/4", "30/2"}));
+    EXPECT_EQ(draw(), QStringList({"60/4", "30/2"})); // the teachers start from zero as well
+}
+
+TEST_F(PlanTotals, addSeatsAndTeachersOfThePagesBefore)
+{
+    onlyTeachers();
+    desk.meeting(1, 1);
+    desk.draw();
+    desk.refresh.RefreshPlan(PlanRefresh::TotalsStart::PreviousPages);
+    EXPECT_EQ(desk.totalsLine(), QStringList("60/2"));
+}
+
+TEST_F(PlanTotals, countNoTeachersWhileClassesAreShown)
+{
+    PlanDesk::tick(desk.form.XpMat, false);
+    desk.meeting(1, 1);
+    EXPECT_EQ(draw(), QStringList("30"));
+}
+
+TEST_F(PlanTotals, areResetByTheChoiceOfADay)
+{
+    desk.meeting(1, 1);
+    desk.draw();
+    desk.totals.CountingOn = false;
+    desk.form.CbJour.setListIndex(0);
+    EXPECT_TRUE(desk.totals.CountingOn); // "Comptage" is still ticked
+    EXPECT_EQ(desk.totalsLine(), QStringList("30"));
+}
+
+TEST_F(PlanTotals, readTheSeatsAtThePlaceOfTheRowInTheRoomList)
+{
+    desk.meeting(1, 1);
+    desk.page.PageOffset = 254;
+    EXPECT_EQ(draw(), QStringList()); // room 255 has no places
+    desk.page.PageOffset = 255;
+    EXPECT_EQ(test::errorNumberOf([&] { desk.draw(); }), ErrorNumber::SubscriptOutOfRange);
+}
