@@ -59,6 +59,7 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
     }
     ClearPlanOverlays();
     m_c.colors.reseed();
+    m_counting = m_c.totals.CountingOn;
     m_nextRow = 1;
     m_lastRow = m_c.page.RowsShown;
     prepareQuestions();
@@ -140,7 +141,7 @@ void PlanRefresh::drawRow(int row)
         drawSlot(planRow, slot);
     }
     m_content.rows.push_back(std::move(planRow));
-    if (m_c.totals.CountingOn) {
+    if (m_counting) {
         addTotals();
     }
 }

@@ -85,6 +85,9 @@ private:
     PlanContent m_content;
     std::vector<Marqueur> m_markers; ///< grows, never shrinks; index 0 is the box of marker 1
     int m_MarkerCount = 0;
+    /// Whether the refresh in progress counts. Taken from `CountingOn` at its start: the option, or
+    /// a press of "Page Suivante" on the last page, must not leave the totals of half a page.
+    bool m_counting = false;
     int m_nextRow = 1; ///< row that the refresh in progress comes to next
     int m_lastRow = 0; ///< row that it ends with
     std::uint64_t m_refreshes = 0;
