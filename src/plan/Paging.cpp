@@ -68,8 +68,9 @@ void Paging::Command3_Click()
     const int step = m_page.PageStart == 0 ? 0 : 1;
     m_page.PageOffset = runtime::nearestInteger(m_page.PageStart + lines + step);
     m_page.PageStart = m_page.PageOffset;
-    showPage(PlanRefresh::TotalsStart::PreviousPages);
+    // Before the redraw: a press of the other button in the middle of it knows better.
     m_form.Command2.enabled = true;
+    showPage(PlanRefresh::TotalsStart::PreviousPages);
     if (m_page.PageStart + linesPerPage() + 1 >= m_page.RoomTotal) {
         stopAtLastPage();
     }
@@ -96,8 +97,8 @@ void Paging::Command2_Click()
             m_form.Salle[row].visible = true;
             m_form.Cap[row].visible = true;
         }
-        showPage(PlanRefresh::TotalsStart::Zero);
         m_form.Command3.enabled = true;
+        showPage(PlanRefresh::TotalsStart::Zero);
     } else {
         m_form.Command2.enabled = false;
     }

@@ -108,6 +108,29 @@ TEST_F(AnEventDuringARefresh, leavesTheLastPageFullyCountedWhenItAsksForAnother)
     EXPECT_FALSE(two.totals.CountingOn);
 }
 
+TEST_F(AnEventDuringARefresh, goesBackAPage)
+{
+    desk.draw();
+    desk.duringRow(3, [this] { form.Command2.press(); });
+    form.Command3.press();
+    expectRooms(1, 10, "300");
+    EXPECT_FALSE(form.Command2.enabled);
+    EXPECT_TRUE(form.Command3.enabled);
+}
+
+TEST_F(AnEventDuringARefresh, goesForthToTheLastPage)
+{
+    desk.draw();
+    for (int page = 0; page < 3; ++page) {
+        form.Command3.press();
+    }
+    desk.duringRow(3, [this] { form.Command3.press(); });
+    form.Command2.press();
+    expectRooms(34, 34, "");
+    EXPECT_TRUE(form.Command2.enabled);
+    EXPECT_FALSE(form.Command3.enabled);
+}
+
 TEST_F(AnEventDuringARefresh, startsToCountWithTheNextOne)
 {
     form.Chk_Compt.setChecked(false);
