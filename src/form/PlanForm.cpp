@@ -8,11 +8,11 @@ namespace
 {
 
 // Places of the design, in twips. The time axis leaves room for the row labels on its left.
-constexpr int kAxisLeft = 1620;
+constexpr int kAxisLeft = 2040;
 constexpr int kHeaderHeight = 300;
 constexpr int kRowTop = 345;
 constexpr int kRowHeight = 300;
-constexpr int kRoomWidth = 1500;
+constexpr int kRoomWidth = 1920;
 constexpr int kPlacesWidth = 540;
 constexpr int kTotalHeight = 285;
 constexpr int kTickWidth = 600;

@@ -8,14 +8,14 @@ using runtime::ErrorNumber;
 namespace
 {
 
-// The screen's axis: 8h00 stands 1620 twips from the window's left edge.
-const TimeAxis screen{"8h00", 1620, 2400};
+// The screen's axis: 8h00 stands 2040 twips from the window's left edge.
+const TimeAxis screen{"8h00", 2040, 2400};
 
 } // namespace
 
 TEST(TimeAxis, putsTheOriginTimeAtTheOrigin)
 {
-    EXPECT_EQ(screen.TimeToX("8h00"), 1620);
+    EXPECT_EQ(screen.TimeToX("8h00"), 2040);
 }
 
 TEST(TimeAxis, readsEveryWayOfWritingATime)
@@ -55,7 +55,7 @@ TEST(TimeAxis, makesNinetyMinutesASlotWide)
 {
     EXPECT_DOUBLE_EQ(screen.widthOf(90), 2400);
     EXPECT_DOUBLE_EQ(screen.widthOf(45), 1200);
-    const TimeAxis printer{"8h00", 1620, TimeAxis::kPrinterSlotWidth};
+    const TimeAxis printer{"8h00", 2040, TimeAxis::kPrinterSlotWidth};
     EXPECT_DOUBLE_EQ(printer.widthOf(90), 1700);
     EXPECT_EQ(printer.TimeToX("9h30"), 3320);
 }
