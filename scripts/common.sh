@@ -122,15 +122,32 @@ configure() {
     printf '%s\n' "$options" >"$record"
 }
 
+# Turns what ninja says into a few lines of progress; what a compiler has to say passes unchanged.
+# `$1` names the folder, which is mentioned only when something is built there.
+build_progress() {
+    local line tenths shown=
+    while IFS= read -r line; do
+        case $line in
+            "ninja: Entering directory "* | "ninja: no work to do."* | "[0/"* | "-- "*) ;;
+            \[*/*\]\ *)
+                [[ -n $shown ]] || say "Building in $1 (some minutes the first time) ..."
+                line=${line%%\]*}
+                line=${line#\[}
+                tenths=$((${line%/*} * 10 / ${line#*/}))
+                [[ $shown == "$tenths" ]] || say "  $((tenths * 10)) % built"
+                shown=$tenths
+                ;;
+            *) say "$line" ;;
+        esac
+    done
+}
+
 # Builds in the folder `$1`: the given targets, or everything. Silent when nothing is to be done.
 build() {
     local folder=$1
     shift
-    if [[ $(ninja -C "$folder" -n "$@" 2>&1) == *"no work to do"* ]]; then
-        return
-    fi
-    say "Building in ${folder#"$project"/} (some minutes the first time) ..."
-    NINJA_STATUS='  [%f/%t] ' ninja -C "$folder" "$@" >&2 || fail "The build failed."
+    NINJA_STATUS='[%f/%t] ' ninja -C "$folder" "$@" 2>&1 | build_progress "${folder#"$project"/}" ||
+        fail "The build failed."
 }
 
 # What building the program takes, and what it needs to run.
