@@ -10,12 +10,20 @@ namespace plan
 namespace
 {
 
+/// Width of the line around a picture of that side.
+double outlineOf(double side)
+{
+    return std::max(1.0, side * 0.05);
+}
+
+/// The square in the middle of the place that the outline's inner half leaves.
 QRectF squareIn(const QRectF& place)
 {
     const double side = std::min(place.width(), place.height());
+    const double margin = outlineOf(side) / 2;
     QRectF square(0, 0, side, side);
     square.moveCenter(place.center());
-    return square.marginsRemoved(QMarginsF(0.5, 0.5, 0.5, 0.5));
+    return square.marginsRemoved(QMarginsF(margin, margin, margin, margin));
 }
 
 } // namespace
@@ -27,7 +35,7 @@ void paintClassAbsent(QPainter& surface, const QRectF& place)
     const QPointF centre = disc.center();
     surface.save();
     surface.setRenderHint(QPainter::Antialiasing);
-    surface.setPen(QPen(Qt::white, std::max(1.0, disc.width() * 0.05)));
+    surface.setPen(QPen(Qt::white, outlineOf(disc.width())));
     surface.setBrush(QColor(190, 20, 30));
     surface.drawEllipse(disc);
     surface.setPen(
@@ -45,7 +53,7 @@ void paintStudentAbsent(QPainter& surface, const QRectF& place)
     };
     surface.save();
     surface.setRenderHint(QPainter::Antialiasing);
-    surface.setPen(QPen(QColor(90, 45, 0), std::max(1.0, square.width() * 0.05)));
+    surface.setPen(QPen(QColor(90, 45, 0), outlineOf(square.width())));
     surface.setBrush(QColor(255, 170, 0));
     surface.drawPolygon(QPolygonF({at(0.5, 0.0), at(1.0, 1.0), at(0.0, 1.0)}));
     surface.setPen(Qt::NoPen);
