@@ -53,9 +53,12 @@ OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& tar
     if (box.group) {
         const QFontMetricsF metrics(overlayFont({}, places.ZAbs.width()));
         const double height = std::min(metrics.height(), places.ZAbs.height());
-        const double counter = metrics.horizontalAdvance(box.group->counter) + 6;
-        const double size2 =
-            std::min(metrics.horizontalAdvance(box.group->sizeLabel) + 6, places.ZAbs.width());
+        // No wider than the box: a neighbour's is not theirs to cover.
+        const auto widthFor = [&](const QString& text) {
+            return std::clamp(places.ZAbs.width(), 0.0, metrics.horizontalAdvance(text) + 6);
+        };
+        const double counter = widthFor(box.group->counter);
+        const double size2 = widthFor(box.group->sizeLabel);
         const double left = box.group->atRight ? places.ZAbs.right() - counter : places.ZAbs.left();
         places.Label2 = QRectF(left, places.ZAbs.top(), counter, height);
         places.Labelz =

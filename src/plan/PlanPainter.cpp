@@ -56,10 +56,10 @@ void PlanPainter::paintTicks()
     m_surface.setFont(textFont(kTextPixels, true));
     for (const form::Label& tick : m_scene.form.Label1) {
         const double x = m_scene.target.toPixelsX(tick.place.left);
-        const double bottom = m_scene.target.toPixelsY(tick.place.top + tick.place.height);
-        m_surface.drawLine(QPointF(x, bottom - 4), QPointF(x, bottom));
-        m_surface.drawText(QRectF(x + 2, m_scene.target.toPixelsY(tick.place.top),
-                                  m_scene.target.toPixelsX(tick.place.width), bottom),
+        const double top = m_scene.target.toPixelsY(tick.place.top);
+        const double height = m_scene.target.toPixelsY(tick.place.height);
+        m_surface.drawLine(QPointF(x, top + height - 4), QPointF(x, top + height));
+        m_surface.drawText(QRectF(x + 2, top, m_scene.target.toPixelsX(tick.place.width), height),
                            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, tick.caption);
     }
     m_surface.restore();
@@ -121,6 +121,9 @@ void PlanPainter::paintOverlays(int row, const PlanBox& box)
     }
     m_surface.save();
     const auto label = [this](const QRectF& place, const QColor& fill, const QString& text) {
+        if (place.isEmpty()) {
+            return; // a séance without a length
+        }
         m_surface.fillRect(place, fill);
         m_surface.setPen(Qt::white);
         m_surface.setFont(overlayFont(text, place.width()));
