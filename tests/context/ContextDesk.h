@@ -35,11 +35,12 @@ public:
 };
 
 /// The viewing context around one form, its events wired as in the program, over a recording plan.
-/// Today is Wednesday, 14 October 2026.
+/// The time axis starts 1000 twips from the left. Today is Wednesday, 14 October 2026.
 struct ContextDesk {
     explicit ContextDesk(bool useMySql = false) : database(useMySql)
     {
         form.Combo10.design({"1ère Sem. d'Examen", "2ème Sem. d'Examen", "Sem. de Contrôle"}, 0);
+        form.Label1.front().place.left = 1000;
         form.scaleWidth = 21000;
         form.scaleHeight = 10000;
         form.CbTranche.click = [this] { periods.CbTranche_Click(); };

@@ -8,27 +8,27 @@ using runtime::ErrorNumber;
 namespace
 {
 
-// The screen's axis: 8h00 stands 2040 twips from the window's left edge.
-const TimeAxis screen{"8h00", 2040, 2400};
+// The screen's axis: 8h00 stands 1000 twips from the window's left edge.
+const TimeAxis screen{"8h00", 1000, 2400};
 
 } // namespace
 
 TEST(TimeAxis, putsTheOriginTimeAtTheOrigin)
 {
-    EXPECT_EQ(screen.TimeToX("8h00"), 2040);
+    EXPECT_EQ(screen.TimeToX("8h00"), 1000);
 }
 
 TEST(TimeAxis, readsEveryWayOfWritingATime)
 {
     // 30 minutes are 30 * 2400 / 90 = 800 twips.
     for (const char* text : {"8h30", "8H30", "8:30", "08:30", " 8h30 ", "8:30:00"}) {
-        EXPECT_EQ(screen.TimeToX(text), 2420) << text;
+        EXPECT_EQ(screen.TimeToX(text), 1800) << text;
     }
 }
 
 TEST(TimeAxis, goesLeftOfTheOriginForEarlierTimes)
 {
-    EXPECT_EQ(screen.TimeToX("7h30"), 820);
+    EXPECT_EQ(screen.TimeToX("7h30"), 200);
 }
 
 TEST(TimeAxis, takesItsOriginFromACaptionInAnyForm)
@@ -38,9 +38,9 @@ TEST(TimeAxis, takesItsOriginFromACaptionInAnyForm)
 
 TEST(TimeAxis, roundsToTheNearestTwip)
 {
-    EXPECT_EQ(screen.TimeToX("8h01"), 1647); // 26.67
-    EXPECT_EQ(screen.TimeToX("8h02"), 1673); // 53.33
-    EXPECT_EQ(screen.TimeToX("7h59"), 1593); // -26.67
+    EXPECT_EQ(screen.TimeToX("8h01"), 1027); // 26.67
+    EXPECT_EQ(screen.TimeToX("8h02"), 1053); // 53.33
+    EXPECT_EQ(screen.TimeToX("7h59"), 973);  // -26.67
 }
 
 TEST(TimeAxis, roundsHalvesToTheEvenTwip)
@@ -55,9 +55,9 @@ TEST(TimeAxis, makesNinetyMinutesASlotWide)
 {
     EXPECT_DOUBLE_EQ(screen.widthOf(90), 2400);
     EXPECT_DOUBLE_EQ(screen.widthOf(45), 1200);
-    const TimeAxis printer{"8h00", 2040, TimeAxis::kPrinterSlotWidth};
+    const TimeAxis printer{"8h00", 1000, TimeAxis::kPrinterSlotWidth};
     EXPECT_DOUBLE_EQ(printer.widthOf(90), 1700);
-    EXPECT_EQ(printer.TimeToX("9h30"), 3320);
+    EXPECT_EQ(printer.TimeToX("9h30"), 2700);
 }
 
 TEST(TimeAxis, refusesATextThatIsNoTime)

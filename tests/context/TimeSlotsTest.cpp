@@ -12,7 +12,7 @@ using runtime::ErrorNumber;
 namespace
 {
 
-/// Slots and rooms of the database. The time axis starts at 8h00, 2040 twips from the left.
+/// Slots and rooms of the database. The time axis starts at 8h00, 1000 twips from the left.
 class TheSlots : public OnBothDatabases
 {
 protected:
@@ -74,10 +74,10 @@ TEST_P(TheSlots, placeTheirTotalsAlongTheAxis)
 {
     addFourSlots();
     load();
-    EXPECT_EQ(total(0).place.left, 2040); // the origin itself
-    EXPECT_EQ(total(1).place.left, 4020); // 90 minutes further
-    EXPECT_EQ(total(2).place.left, 8820); // 270
-    EXPECT_EQ(total(3).place.left, 11220);
+    EXPECT_EQ(total(0).place.left, 1000); // the origin itself
+    EXPECT_EQ(total(1).place.left, 3400); // 90 minutes further
+    EXPECT_EQ(total(2).place.left, 8200); // 270
+    EXPECT_EQ(total(3).place.left, 10600);
     for (std::size_t slot = 0; slot < 4; ++slot) {
         EXPECT_EQ(total(slot).place.width, 2400) << slot;
         EXPECT_FALSE(total(slot).visible) << slot;
@@ -114,7 +114,7 @@ TEST_P(TheSlots, readTheEleventhSlot)
 {
     addSlot("Lundi11", "17h30", "19h00");
     EXPECT_EQ(load().SlotCount(), 1);
-    EXPECT_EQ(total(10).place.left, 2040 + 15200); // 570 minutes
+    EXPECT_EQ(total(10).place.left, 1000 + 15200); // 570 minutes
 }
 
 TEST_P(TheSlots, placeTheHourTicks)
@@ -123,18 +123,18 @@ TEST_P(TheSlots, placeTheHourTicks)
     for (int hour = 0; hour < 12; ++hour) {
         // 60 minutes are 1600 twips.
         EXPECT_EQ(desk->form.Label1.at(static_cast<std::size_t>(hour)).place.left,
-                  2040 + 1600 * hour);
+                  1000 + 1600 * hour);
     }
 }
 
 TEST_P(TheSlots, endTheAxisWhereTheLastTickOrSlotEnds)
 {
     addFourSlots();
-    EXPECT_EQ(load().axisEnd(), 2040 + 11 * 1600); // the tick of 19h00
+    EXPECT_EQ(load().axisEnd(), 1000 + 11 * 1600); // the tick of 19h00
     database().execute("INSERT INTO seances (Seance, Horaire1, Horaire2) "
                        "VALUES ('Lundi5', '19h00', '20h30')");
     desk->slots.LoadSlots();
-    EXPECT_EQ(desk->slots.axisEnd(), 2040 + 11 * 1600 + 2400);
+    EXPECT_EQ(desk->slots.axisEnd(), 1000 + 11 * 1600 + 2400);
 }
 
 TEST_P(TheSlots, refuseATimeThatIsNone)
@@ -149,7 +149,7 @@ TEST_P(TheSlots, areReadWithAnUpperCaseHAsWell)
 {
     addSlot("Lundi1", "8H00", "9:30");
     load();
-    EXPECT_EQ(total(0).place.left, 2040);
+    EXPECT_EQ(total(0).place.left, 1000);
     EXPECT_EQ(total(0).place.width, 2400);
 }
 

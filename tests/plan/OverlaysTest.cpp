@@ -15,6 +15,7 @@ class Overlays : public testing::Test
 protected:
     Overlays()
     {
+        form.Salle[0].place = {0, 345, 1500, 300};
         box.x = 4020;
         box.width = 2400;
         rowHeight(300);

@@ -54,6 +54,11 @@ PlanDesk::PlanDesk(int roomCount, const QString& lines, int places)
       })
 {
     writeDatabase(roomCount, places);
+    form.Label1.front().place = {1620, 0, 600, 300};
+    for (std::size_t row = 0; row < form.Salle.size(); ++row) {
+        form.Salle[row].place = {0, 345, 1500, 300};
+        form.Cap[row].place = {0, 345, 540, 300};
+    }
     form.scaleWidth = 22000;
     form.scaleHeight = 12000;
     form.Total_L_P.setText(lines);

@@ -27,6 +27,7 @@ protected:
         for (std::size_t tick = 0; tick < form.Label1.size(); ++tick) {
             form.Label1.at(tick).place = {1620 + 1600 * static_cast<int>(tick), 0, 600, 300};
         }
+        form.Salle[0].place = {0, 345, 1500, 300};
         plan::PlaceRoomRows(form);
         form.ChkGrille.setChecked(true);
     }

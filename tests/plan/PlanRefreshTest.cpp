@@ -55,13 +55,13 @@ TEST(PlanRefresh, drawsABoxWhereTheSeanceStartsAndAsWideAsItLasts)
     desk.draw();
     const PlanBox& first = desk.box(1);
     EXPECT_EQ(first.slot, 2);
-    EXPECT_EQ(first.x, 2040 + 2400); // 90 minutes behind 8h00
+    EXPECT_EQ(first.x, 1620 + 2400); // 90 minutes behind 8h00
     EXPECT_DOUBLE_EQ(first.width, 2400);
     EXPECT_EQ(first.minutes, 90);
     EXPECT_FALSE(first.makeUp);
     EXPECT_EQ(first.cell.CellText, "GC1 Dupont [Algèbre]");
     const PlanBox& second = desk.box(2);
-    EXPECT_EQ(second.x, 2040 + 10000); // 375 minutes
+    EXPECT_EQ(second.x, 1620 + 10000); // 375 minutes
     EXPECT_DOUBLE_EQ(second.width, 1200);
     EXPECT_EQ(second.minutes, 45);
 }
@@ -86,7 +86,7 @@ TEST(PlanRefresh, drawsABoxWithoutAStartAtTheSlotsTick)
     PlanDesk desk(2);
     desk.meeting(1, 3).null("Debut");
     desk.draw();
-    EXPECT_EQ(desk.box(1).x, 2040 + 3200); // Label1(2): 10h00
+    EXPECT_EQ(desk.box(1).x, 1620 + 3200); // Label1(2): 10h00
 }
 
 TEST(PlanRefresh, stopsAtAStartThatIsNoTime)
