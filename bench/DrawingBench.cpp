@@ -1,0 +1,69 @@
+// How long it takes to lay out and paint a full page of 29 rows.
+
+#include "bench/Faculty.h"
+#include "plan/PlanPainter.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <benchmark/benchmark.h>
+
+namespace
+{
+
+/// A page of 29 rows of the middle-sized faculty.
+shell::Shell& fullPage()
+{
+    static const bench::Faculty faculty(demo::middleFaculty(QDate::currentDate()),
+                                        test::DatabaseKind::Sqlite);
+    static const std::unique_ptr<shell::Shell> program = [] {
+        auto opened = faculty.open(false);
+        opened->form().Total_L_P.setText(QStringLiteral("29"));
+        return opened;
+    }();
+    return *program;
+}
+
+void paintPage(benchmark::State& state)
+{
+    const plan::PlanScene scene = fullPage().scene(plan::DrawingTarget());
+    QImage image(1366, 620, QImage::Format_RGB32);
+    for (auto iteration : state) {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        plan::PlanPainter plan(painter, scene);
+        plan.paintTicks();
+        plan.paintGrid();
+        plan.paintBoxes();
+        plan.paintRoomLabels();
+        plan.paintPlaces();
+        plan.paintTotals();
+    }
+    std::size_t boxes = 0;
+    for (const plan::PlanRow& row : scene.content.rows) {
+        boxes += row.boxes.size();
+    }
+    state.counters["rows"] = static_cast<double>(scene.content.rows.size());
+    state.counters["boxes"] = static_cast<double>(boxes);
+}
+BENCHMARK(paintPage)->Unit(benchmark::kMillisecond);
+
+void refreshPage(benchmark::State& state)
+{
+    shell::Shell& program = fullPage();
+    for (auto iteration : state) {
+        program.form().CbJour.setListIndex(1);
+    }
+}
+BENCHMARK(refreshPage)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

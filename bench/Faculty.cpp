@@ -1,0 +1,78 @@
+#include "bench/Faculty.h"
+
+#include "demo/Output.h"
+#include "shell/Settings.h"
+#include "support/MariaDbServer.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <stdexcept>
+
+namespace bench
+{
+namespace
+{
+
+void write(const QString& path, const QString& text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) {
+        throw std::runtime_error("cannot write " + path.toStdString());
+    }
+}
+
+QString read(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("cannot read " + path.toStdString());
+    }
+    return QString::fromUtf8(file.readAll());
+}
+
+} // namespace
+
+Faculty::Faculty(const demo::FacultyOptions& options, test::DatabaseKind kind) : m_database(kind)
+{
+    if (kind == test::DatabaseKind::Sqlite) {
+        demo::writeSqliteFile(options, m_database.file());
+    } else {
+        const QString script = m_folder.filePath(QStringLiteral("faculty.sql"));
+        demo::writeMariaDbScript(options, script);
+        test::MariaDbServer::shared().runScript(read(script), m_database.baseName());
+        QFile::remove(script);
+        m_database.writePhpFile(m_folder.path());
+    }
+}
+
+std::unique_ptr<shell::Shell> Faculty::open(bool plain, quint16 port) const
+{
+    const bool mySql = m_database.usesMySql();
+    const QString settings = m_folder.filePath(QStringLiteral("Tempora.ini"));
+    write(settings, QStringLiteral("[Settings]\nMysql=%1\nBase=%2\nBase_Sql=%2\n")
+                        .arg(mySql ? QStringLiteral("True") : QStringLiteral("False"),
+                             m_database.baseName()));
+    const QString php =
+        m_folder.filePath(QStringLiteral("app_data/%1.php").arg(m_database.baseName()));
+    const QString usual = mySql ? read(php) : QString();
+    if (mySql && port != 0) {
+        QString moved = usual;
+        moved.replace(QRegularExpression(QStringLiteral("\\$port=\"[0-9]+\"")),
+                      QStringLiteral("$port=\"%1\"").arg(port));
+        write(php, moved);
+    }
+    shell::Environment environment;
+    environment.applicationFolder = m_folder.path();
+    environment.seed = 1;
+    environment.plain = plain;
+    auto program = std::make_unique<shell::Shell>(shell::Settings::fromFile(settings), environment);
+    program->Form_Load();
+    program->fitPicture();
+    program->Form_Activate();
+    if (mySql && port != 0) {
+        write(php, usual);
+    }
+    return program;
+}
+
+} // namespace bench

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "demo/Options.h"
+#include "shell/Shell.h"
+#include "support/TestDatabase.h"
+
+#include <QString>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace bench
+{
+
+/// The demo faculty of one size in a private database, and programs that open it.
+class Faculty
+{
+public:
+    /// Makes the database; the large one takes a while.
+    Faculty(const demo::FacultyOptions& options, test::DatabaseKind kind);
+
+    /// The program, started up and shown, without a window. `port` replaces the server's own
+    /// (0: leave it); `plain` sends one statement per question.
+    [[nodiscard]] std::unique_ptr<shell::Shell> open(bool plain, quint16 port = 0) const;
+
+private:
+    test::TestDatabase m_database;
+    QTemporaryDir m_folder;
+};
+
+} // namespace bench
