@@ -1,5 +1,7 @@
 #include "db/OdbcHandles.h"
 
+#include "db/ConnectOptions.h"
+
 #include <array>
 #include <vector>
 
@@ -13,10 +15,6 @@ using runtime::RunTimeError;
 
 /// Nobody waits longer for a server that does not answer.
 constexpr SQLULEN loginTimeoutSeconds = 15;
-
-/// What SQLite's driver is told in addition. Its own wait for another program's lock, 100 s, would
-/// look like a hang; it waits twice as many milliseconds as it is told.
-const QString sqliteOptions = QStringLiteral(";Timeout=1000");
 
 SQLPOINTER numberArgument(SQLULEN value)
 {
@@ -133,13 +131,13 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
 {
     // Drivers without a server have no login timeout and may say so.
     SQLSetConnectAttr(get(), SQL_ATTR_LOGIN_TIMEOUT, numberArgument(loginTimeoutSeconds), 0);
-    connect(connectString);
+    connect(withServerTimeouts(connectString));
     m_product = productNamed(info(SQL_DBMS_NAME));
     if (m_product == Product::Sqlite) {
         // Only now is it known which driver stands behind a data source's name, and no other may
         // be given words that it does not know.
         SQLDisconnect(get());
-        connect(connectString + sqliteOptions);
+        connect(withLockTimeout(connectString));
     }
     m_textForm = textFormFor(m_product);
     m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);

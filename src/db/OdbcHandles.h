@@ -36,12 +36,6 @@ struct Diagnostics {
 [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics, Product product,
                                                  bool opening);
 
-/// The passwords that a connection string holds, longest first.
-[[nodiscard]] QStringList passwordsIn(const QString& connectString);
-
-/// The text with every one of `passwords` replaced by "***".
-[[nodiscard]] QString withoutPasswords(QString text, const QStringList& passwords);
-
 /// One ODBC handle of the given type. At its end a connection is closed and the handle freed;
 /// nothing is thrown there.
 template <SQLSMALLINT Type>

@@ -7,6 +7,10 @@
 #include "support/WithoutPrivileges.h"
 
 #include <QFile>
+#include <chrono>
+#include <functional>
+#include <future>
+#include <vector>
 
 using namespace db;
 using runtime::ErrorNumber;
@@ -199,6 +203,35 @@ TEST(AServerThatStops, failsTheNextStatementAndTheOpening)
     }
 }
 
+TEST(AConnectionThatIsLost, leavesNothingOfTheRowThatWasOnItsWay)
+{
+    test::TestDatabase database(test::DatabaseKind::MariaDb);
+    database.execute({QStringLiteral("create table t (a text) engine=InnoDB"),
+                      QStringLiteral("create trigger slow before insert on t for each row set "
+                                     "@slept = sleep(100)")});
+    Connection connection(database.connectString());
+    auto outcome = std::async(std::launch::async, [&connection] {
+        return errorOf([&connection] {
+            connection.insert(QStringLiteral("t"),
+                              {{QStringLiteral("a"), Value(QStringLiteral("A"))}});
+        });
+    });
+    // The server has the insert and does not answer it: now its connection is cut.
+    const QString writer = QStringLiteral("select id from information_schema.processlist where "
+                                          "db = '%1' and state = 'User sleep'")
+                               .arg(database.baseName());
+    QList<QStringList> writers;
+    while (writers.isEmpty() &&
+           outcome.wait_for(std::chrono::seconds(0)) == std::future_status::timeout) {
+        writers = database.read(writer);
+    }
+    ASSERT_EQ(writers.size(), 1);
+    test::MariaDbServer::shared().runScript(QStringLiteral("kill %1;").arg(writers[0][0]));
+    const RunTimeError error = outcome.get();
+    EXPECT_EQ(error.number(), ErrorNumber::DatabaseFailure) << error.what();
+    EXPECT_EQ(database.read(QStringLiteral("select * from t")), QList<QStringList>());
+}
+
 TEST(AnAccountWithoutTheRight, isRefusedAndNothingIsWritten)
 {
     test::TestDatabase database(test::DatabaseKind::MariaDb);
@@ -237,6 +270,22 @@ TEST(AnSqliteFile, refusesToBeWrittenWhenItIsReadOnly)
     });
     EXPECT_EQ(error.number(), ErrorNumber::DatabaseFailure);
     EXPECT_TRUE(error.text().contains(QStringLiteral("readonly"))) << error.what();
+}
+
+TEST(AnSqliteFile, takesNothingOfARowForWhichTheDiskHasNoRoom)
+{
+    test::TestDatabase database(test::DatabaseKind::Sqlite);
+    database.execute(QStringLiteral("create table t (a text)"));
+    Connection connection(database.connectString());
+    // SQLite answers a full file as it answers a full disk.
+    EXPECT_EQ(connection.open(QStringLiteral("PRAGMA max_page_count = 3")).recordCount(), 1);
+    const RunTimeError error = errorOf([&] {
+        connection.insert(QStringLiteral("t"),
+                          {{QStringLiteral("a"), Value(QString(100000, u'x'))}});
+    });
+    EXPECT_EQ(error.number(), ErrorNumber::DatabaseFailure);
+    EXPECT_TRUE(error.text().contains(QStringLiteral("full"))) << error.what();
+    EXPECT_EQ(database.read(QStringLiteral("select * from t")), QList<QStringList>());
 }
 
 TEST(AnSqliteFile, failsWithoutHangingWhileAnotherProgramLocksIt)

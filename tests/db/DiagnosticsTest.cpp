@@ -14,11 +14,6 @@ ErrorNumber numberOf(const char* state, int native, Product product, const char*
     return errorNumberOf({QLatin1String(state), native, QLatin1String(text)}, product, opening);
 }
 
-QStringList passwords(const char* connectString)
-{
-    return passwordsIn(QString::fromUtf8(connectString));
-}
-
 } // namespace
 
 TEST(Diagnostics, takeEveryFailureToOpenForADatabaseFailure)
@@ -73,34 +68,4 @@ TEST(Diagnostics, takeSqlitesTroubleWithItsFileForADatabaseFailure)
               ErrorNumber::DatabaseFailure);
     EXPECT_EQ(numberOf("HY000", 26, Product::Sqlite, "file is not a database"),
               ErrorNumber::DatabaseFailure);
-}
-
-TEST(Passwords, areFoundUnderBothNamesInAnyCase)
-{
-    EXPECT_EQ(passwords("DSN=x;PASSWORD=secret;port=3"), QStringList({QStringLiteral("secret")}));
-    EXPECT_EQ(passwords("Pwd=secret"), QStringList({QStringLiteral("secret")}));
-    EXPECT_EQ(passwords("DSN=x; password = secret;"), QStringList({QStringLiteral("secret")}));
-}
-
-TEST(Passwords, areFoundWholeAndAsTheDriverReadsThem)
-{
-    EXPECT_EQ(passwords("USER=u;PASSWORD=a;bcd;port=3306OPTION=35"),
-              QStringList({QStringLiteral("a;bcd"), QStringLiteral("a")}));
-    EXPECT_EQ(passwords("PWD={a;b};port=1"),
-              QStringList({QStringLiteral("{a;b}"), QStringLiteral("a;b")}));
-}
-
-TEST(Passwords, areNotFoundWhereThereIsNone)
-{
-    EXPECT_EQ(passwords("DSN=MonKalo"), QStringList());
-    EXPECT_EQ(passwords("SERVER=;DATABASE=;USER=;PASSWORD=;port=3306OPTION=35"), QStringList());
-}
-
-TEST(Passwords, areTakenOutOfATextWhereverTheyStand)
-{
-    EXPECT_EQ(
-        withoutPasswords(QStringLiteral("secret: no secret for 'u'"), {QStringLiteral("secret")}),
-        QStringLiteral("***: no *** for 'u'"));
-    EXPECT_EQ(withoutPasswords(QStringLiteral("a;b"), {QStringLiteral("a;b"), QStringLiteral("a")}),
-              QStringLiteral("***"));
 }
