@@ -2,6 +2,9 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace shell
@@ -28,15 +31,15 @@ const std::vector<OptionText>& optionTexts()
         {"zone", "0..9", "zone des salles ; 0 pour toutes"},
         {"department", "ID", "ajoute les salles de ce département"},
         {"neutral", nullptr, "ajoute les salles sans département (avec --department)"},
-        {"rooms-per-page", "N", "salles par page, 1 à 29"},
+        {"rooms-per-page", "1..29", "salles par page"},
         {"show", "class,teacher,subject,type,invigilator", "ce que montrent les cases, exactement"},
         {"subject", "NOM", "ne montre que cette matière"},
         {"makeup", nullptr, "coche « Date » : montre aussi les rattrapages"},
         {"counting", nullptr, "coche « Comptage »"},
         {"day", "0..5", "jour de la semaine ; 0 pour lundi"},
         {"date", "AAAA-MM-JJ", "date affichée"},
-        {"page", "N", "page affichée, à partir de 1"},
-        {"seed", "N", "fixe les couleurs tirées au hasard"},
+        {"page", "1..9999", "page affichée"},
+        {"seed", "0..2147483647", "fixe les couleurs tirées au hasard"},
         {"plain", nullptr, "pose chaque question à la base séparément (plus lent)"},
         {"help", nullptr, "affiche cette aide"},
         {"version", nullptr, "affiche la version"},
@@ -55,6 +58,14 @@ const std::vector<OptionText>& optionTexts()
     throw UsageError(QStringLiteral("--%1 : %2").arg(option, problem));
 }
 
+bool takesValue(const QString& option)
+{
+    const auto& texts = optionTexts();
+    return std::any_of(texts.begin(), texts.end(), [&](const OptionText& text) {
+        return text.value != nullptr && option == QLatin1String(text.name);
+    });
+}
+
 /// The parser's own complaint in one line that names the option and what it accepts.
 [[noreturn]] void failToParse(const QCommandLineParser& parser, const QStringList& arguments)
 {
@@ -62,13 +73,15 @@ const std::vector<OptionText>& optionTexts()
         throw UsageError(QStringLiteral("Option inconnue : --%1 ; options acceptées : voir --help")
                              .arg(parser.unknownOptionNames().constFirst()));
     }
-    QString last = arguments.constLast();
-    if (last.startsWith(u"--")) {
-        fail(last.mid(2), QStringLiteral("il manque une valeur"));
+    for (const QString& argument : arguments) {
+        const QString switched = argument.section(u'=', 0, 0).mid(2);
+        if (argument.startsWith(u"--") && argument.contains(u'=') && !takesValue(switched)) {
+            fail(switched, QStringLiteral("n’accepte pas de valeur"));
+        }
     }
-    const QString name = last.section(u'=', 0, 0).remove(u'-');
-    throw UsageError(QStringLiteral("Arguments incorrects (%1) ; voir --help")
-                         .arg(name.isEmpty() ? parser.errorText() : last));
+    static const QRegularExpression dashes(QStringLiteral("^-+"));
+    QString last = arguments.constLast();
+    fail(last.remove(dashes), QStringLiteral("il manque une valeur"));
 }
 
 class Reader
@@ -90,6 +103,7 @@ public:
         if (!m_parser.parse(arguments)) {
             failToParse(m_parser, arguments);
         }
+        refuseOptionsAsValues();
         if (!m_parser.positionalArguments().isEmpty()) {
             throw UsageError(QStringLiteral("Argument inattendu : « %1 » ; voir --help")
                                  .arg(m_parser.positionalArguments().constFirst()));
@@ -138,6 +152,16 @@ public:
     }
 
 private:
+    /// The parser takes whatever follows an option for its value, the next option included.
+    void refuseOptionsAsValues() const
+    {
+        for (const OptionText& option : optionTexts()) {
+            if (text(option.name).startsWith(u"--")) {
+                fail(QString::fromLatin1(option.name), QStringLiteral("il manque une valeur"));
+            }
+        }
+    }
+
     QCommandLineParser m_parser;
 };
 
@@ -186,7 +210,8 @@ void readDay(const Reader& reader, CommandLine& line)
     line.day = reader.number("day", 0, 5);
     if (reader.has("date")) {
         line.date = QDate::fromString(reader.text("date"), Qt::ISODate);
-        if (!line.date->isValid()) {
+        // Reading is lenient: it takes other separators, and more text behind the date.
+        if (line.date->toString(Qt::ISODate) != reader.text("date")) {
             reader.failWithValue("date");
         }
         if (line.day) {

@@ -1,0 +1,245 @@
+#include "shell/CommandLine.h"
+
+#include "support/RuntimeMatchers.h"
+
+using namespace test;
+using shell::CommandLine;
+
+namespace
+{
+
+CommandLine parse(const QStringList& arguments)
+{
+    return CommandLine::parse(QStringList{"tempora"} + arguments);
+}
+
+/// The line that a mistake is answered with.
+QString refusal(const QStringList& arguments)
+{
+    try {
+        static_cast<void>(parse(arguments));
+    } catch (const shell::UsageError& error) {
+        return QString::fromUtf8(error.what());
+    }
+    ADD_FAILURE() << "no mistake is found";
+    return {};
+}
+
+} // namespace
+
+TEST(CommandLine, withoutOptionsAsksForNothing)
+{
+    const CommandLine line = parse({});
+    EXPECT_FALSE(line.help || line.version || line.neutral || line.makeup || line.counting);
+    EXPECT_FALSE(line.plain);
+    EXPECT_EQ(line.exportFile, "");
+    EXPECT_EQ(line.settingsFile, "");
+    EXPECT_FALSE(line.seed || line.tranche || line.mode || line.examWeek || line.week);
+    EXPECT_FALSE(line.zone || line.department || line.roomsPerPage || line.show || line.subject);
+    EXPECT_FALSE(line.day || line.date);
+    EXPECT_EQ(line.page, 1);
+}
+
+TEST(CommandLine, readsEveryOption)
+{
+    const CommandLine line = parse({"--export",
+                                    "plan.json",
+                                    "--tranche",
+                                    "Semestre 2",
+                                    "--mode",
+                                    "exam",
+                                    "--week",
+                                    "B",
+                                    "--exam-week",
+                                    "3",
+                                    "--zone",
+                                    "9",
+                                    "--neutral",
+                                    "--makeup",
+                                    "--rooms-per-page",
+                                    "29",
+                                    "--department",
+                                    "Génie civil",
+                                    "--counting",
+                                    "--day",
+                                    "5",
+                                    "--page",
+                                    "4",
+                                    "--subject",
+                                    "Algèbre",
+                                    "--seed",
+                                    "2147483647"});
+    EXPECT_EQ(line.exportFile, "plan.json");
+    EXPECT_EQ(line.tranche, "Semestre 2");
+    EXPECT_EQ(line.mode, CommandLine::Mode::Exam);
+    EXPECT_EQ(line.week, CommandLine::Week::B);
+    EXPECT_EQ(line.examWeek, 3);
+    EXPECT_EQ(line.zone, 9);
+    EXPECT_TRUE(line.neutral && line.makeup && line.counting);
+    EXPECT_EQ(line.roomsPerPage, 29);
+    EXPECT_EQ(line.department, "Génie civil");
+    EXPECT_EQ(line.day, 5);
+    EXPECT_EQ(line.page, 4);
+    EXPECT_EQ(line.subject, "Algèbre");
+    EXPECT_EQ(line.seed, 2147483647U);
+}
+
+TEST(CommandLine, readsAValueAfterAnEqualsSign)
+{
+    EXPECT_EQ(parse({"--zone=3"}).zone, 3);
+}
+
+TEST(CommandLine, readsADate)
+{
+    EXPECT_EQ(parse({"--date", "2025-03-17"}).date, QDate(2025, 3, 17));
+}
+
+TEST(CommandLine, readsTheOtherModeAndWeeks)
+{
+    EXPECT_EQ(parse({"--mode", "teaching"}).mode, CommandLine::Mode::Teaching);
+    EXPECT_EQ(parse({"--week", "all"}).week, CommandLine::Week::All);
+    EXPECT_EQ(parse({"--week", "A"}).week, CommandLine::Week::A);
+}
+
+TEST(CommandLine, listsExactlyTheDisplayOptionsThatAreTicked)
+{
+    const auto some = parse({"--show", "subject,class"}).show.value();
+    EXPECT_TRUE(some.cls && some.subject);
+    EXPECT_FALSE(some.teacher || some.type || some.invigilator);
+    const auto all = parse({"--show", "class,teacher,subject,type,invigilator"}).show.value();
+    EXPECT_TRUE(all.cls && all.teacher && all.subject && all.type && all.invigilator);
+    const auto none = parse({"--show", ""}).show.value();
+    EXPECT_FALSE(none.cls || none.teacher || none.subject || none.type || none.invigilator);
+}
+
+TEST(CommandLine, readsTheSwitchesOfTheProgramItself)
+{
+    EXPECT_TRUE(parse({"--help"}).help);
+    EXPECT_TRUE(parse({"--version"}).version);
+    EXPECT_TRUE(parse({"--plain"}).plain);
+}
+
+TEST(CommandLine, takesThePictureAndItsEndingInAnyCase)
+{
+    EXPECT_EQ(parse({"--export", "Plan.PNG"}).exportFile, "Plan.PNG");
+}
+
+TEST(CommandLine, namesEveryOptionInItsHelp)
+{
+    const QString help = CommandLine::helpText();
+    for (const char* option :
+         {"export",     "settings", "tranche",        "mode", "exam-week", "week",   "zone",
+          "department", "neutral",  "rooms-per-page", "show", "subject",   "makeup", "counting",
+          "day",        "date",     "page",           "seed", "help",      "version"}) {
+        EXPECT_TRUE(help.contains("  --" + QString(option) + ' ')) << option;
+    }
+}
+
+// Each mistake is answered with one line that names the option and what it accepts.
+
+struct Mistake {
+    const char* name;
+    QStringList arguments;
+    QString answer;
+};
+
+void PrintTo(const Mistake& mistake, std::ostream* stream)
+{
+    *stream << mistake.arguments.join(' ').toStdString();
+}
+
+class CommandLineMistake : public testing::TestWithParam<Mistake>
+{
+};
+
+TEST_P(CommandLineMistake, isAnsweredWithTheOptionAndWhatItAccepts)
+{
+    const QString answer = refusal(GetParam().arguments);
+    EXPECT_EQ(answer, GetParam().answer);
+    EXPECT_FALSE(answer.contains('\n'));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, CommandLineMistake,
+    testing::Values(
+        Mistake{"unknownOption",
+                {"--colour"},
+                "Option inconnue : --colour ; options acceptées : voir --help"},
+        Mistake{"unknownLetter", {"-x"}, "Option inconnue : --x ; options acceptées : voir --help"},
+        Mistake{"argument", {"plan.json"}, "Argument inattendu : « plan.json » ; voir --help"},
+        Mistake{"missingLastValue",
+                {"--zone"},
+                "--zone : il manque une valeur ; valeurs acceptées : 0..9"},
+        Mistake{"missingValueAfterASingleDash",
+                {"-zone"},
+                "--zone : il manque une valeur ; valeurs acceptées : 0..9"},
+        Mistake{"missingValueBeforeAnotherOption",
+                {"--zone", "--day", "2"},
+                "--zone : il manque une valeur ; valeurs acceptées : 0..9"},
+        Mistake{"switchWithValue", {"--neutral=1"}, "--neutral : n’accepte pas de valeur"},
+        Mistake{"exportEnding",
+                {"--export", "plan.pdf"},
+                "--export : valeur « plan.pdf » refusée ; valeurs acceptées : "
+                "FICHIER.json|FICHIER.png"},
+        Mistake{"settingsFile",
+                {"--settings", "/nowhere/a.ini"},
+                "--settings : le fichier « /nowhere/a.ini » n’existe pas ; valeurs acceptées : "
+                "FICHIER.ini"},
+        Mistake{"mode",
+                {"--mode", "examen"},
+                "--mode : valeur « examen » refusée ; valeurs acceptées : teaching|exam"},
+        Mistake{"examWeek",
+                {"--mode", "exam", "--exam-week", "4"},
+                "--exam-week : valeur « 4 » refusée ; valeurs acceptées : 1|2|3"},
+        Mistake{"examWeekWhileTeaching",
+                {"--exam-week", "1"},
+                "--exam-week : demande --mode exam ; valeurs acceptées : 1|2|3"},
+        Mistake{
+            "week", {"--week", "C"}, "--week : valeur « C » refusée ; valeurs acceptées : all|A|B"},
+        Mistake{"zoneTooLarge",
+                {"--zone", "10"},
+                "--zone : valeur « 10 » refusée ; valeurs acceptées : 0..9"},
+        Mistake{"zoneNegative",
+                {"--zone", "-1"},
+                "--zone : valeur « -1 » refusée ; valeurs acceptées : 0..9"},
+        Mistake{"zoneWord",
+                {"--zone", "nord"},
+                "--zone : valeur « nord » refusée ; valeurs acceptées : 0..9"},
+        Mistake{"neutralAlone", {"--neutral"}, "--neutral : demande --department"},
+        Mistake{"roomsPerPage",
+                {"--rooms-per-page", "30"},
+                "--rooms-per-page : valeur « 30 » refusée ; valeurs acceptées : 1..29"},
+        Mistake{"noRoomPerPage",
+                {"--rooms-per-page", "0"},
+                "--rooms-per-page : valeur « 0 » refusée ; valeurs acceptées : 1..29"},
+        Mistake{"show",
+                {"--show", "class,room"},
+                "--show : valeur « class,room » refusée ; valeurs acceptées : "
+                "class,teacher,subject,type,invigilator"},
+        Mistake{"day", {"--day", "6"}, "--day : valeur « 6 » refusée ; valeurs acceptées : 0..5"},
+        Mistake{"dateThatIsNone",
+                {"--date", "2025-02-30"},
+                "--date : valeur « 2025-02-30 » refusée ; valeurs acceptées : AAAA-MM-JJ"},
+        Mistake{"dateWithSlashes",
+                {"--date", "2025/03/17"},
+                "--date : valeur « 2025/03/17 » refusée ; valeurs acceptées : AAAA-MM-JJ"},
+        Mistake{"dateWithMoreBehindIt",
+                {"--date", "2025-03-17 8h30"},
+                "--date : valeur « 2025-03-17 8h30 » refusée ; valeurs acceptées : AAAA-MM-JJ"},
+        Mistake{"dayAndDate",
+                {"--day", "0", "--date", "2025-03-17"},
+                "--date : ne va pas avec --day ; valeurs acceptées : AAAA-MM-JJ"},
+        Mistake{
+            "page", {"--page", "0"}, "--page : valeur « 0 » refusée ; valeurs acceptées : 1..9999"},
+        Mistake{"seed",
+                {"--seed", "-1"},
+                "--seed : valeur « -1 » refusée ; valeurs acceptées : 0..2147483647"},
+        Mistake{"seedTooLarge",
+                {"--seed", "2147483648"},
+                "--seed : valeur « 2147483648 » refusée ; valeurs acceptées : 0..2147483647"}),
+    [](const auto& mistake) { return std::string(mistake.param.name); });
+
+TEST(CommandLine, takesTheLastOfARepeatedOption)
+{
+    EXPECT_EQ(parse({"--zone", "1", "--zone", "2"}).zone, 2);
+}
