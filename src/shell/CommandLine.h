@@ -14,7 +14,11 @@ namespace shell
 class UsageError : public std::runtime_error
 {
 public:
-    explicit UsageError(const QString& message) : std::runtime_error(message.toStdString()) {}
+    /// `message` may quote the database: line breaks in it become blanks.
+    explicit UsageError(const QString& message)
+        : std::runtime_error(message.simplified().toStdString())
+    {
+    }
 };
 
 /// What the command line asks for. An option that was not given is nothing and plays no event.

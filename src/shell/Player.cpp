@@ -75,11 +75,13 @@ void playRooms(form::PlanForm& form, const CommandLine& line)
     }
 }
 
-/// The picker changes the week; while it is hidden the day is chosen from the list.
+/// The picker changes the week and the day. While it is hidden, or shows the date already and so
+/// has no change to tell, the day is chosen from the list.
 void pickDate(form::PlanForm& form, QDate date)
 {
+    const bool picks = form.DTPicker1.visible && form.DTPicker1.value() != date;
     form.DTPicker1.setValue(date);
-    if (!form.DTPicker1.visible) {
+    if (!picks) {
         form.CbJour.setListIndex(context::dayListIndex(date));
         form.DTPicker1.setValue(date); // the list does not hold Sunday
     }

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "shell/JsonExport.h"
+#include "shell/Player.h"
+#include "shell/Shell.h"
+#include "support/ProgramSetup.h"
+#include "support/RuntimeMatchers.h"
+#include "support/TestFolder.h"
+#include "support/TinyFaculty.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <optional>
+
+namespace test
+{
+
+/// The program without its window. Today is Wednesday, 19 March 2025; the random colours are those
+/// of seed 1.
+class ShellDesk
+{
+public:
+    explicit ShellDesk(const TestDatabase& database) : setup(database) {}
+
+    /// Starts up with the settings as they are by then.
+    shell::Shell& load()
+    {
+        shell::Environment environment;
+        environment.applicationFolder = setup.applicationFolder();
+        environment.today = [] { return QDate(2025, 3, 19); };
+        environment.seed = 1;
+        environment.processEvents = [this] { form::raise(whileYielding); };
+        environment.openFile = [this](const QString&, const QString&) { return chosenFile; };
+        environment.showMessage = [this](const QString& title, const QString& text) {
+            messages.append(title + ": " + text);
+        };
+        m_shell.emplace(shell::Settings::fromFile(setup.settingsFile()), std::move(environment));
+        m_shell->Form_Load();
+        return *m_shell;
+    }
+    /// Starts up and shows the window.
+    shell::Shell& start()
+    {
+        load();
+        m_shell->fitPicture();
+        m_shell->Form_Activate();
+        return *m_shell;
+    }
+    /// Starts up and plays these arguments.
+    shell::Shell& play(const QStringList& arguments)
+    {
+        start();
+        shell::play(*m_shell, shell::CommandLine::parse(QStringList{"tempora"} + arguments));
+        return *m_shell;
+    }
+
+    [[nodiscard]] shell::Shell& shell() { return *m_shell; }
+    [[nodiscard]] form::PlanForm& form() { return m_shell->form(); }
+    /// A palette file of 256 colours: entry k has k as its red, 10 as its green, 20 as its blue.
+    [[nodiscard]] QString writePalette(const QString& name) const
+    {
+        QString lines;
+        for (int entry = 0; entry < 256; ++entry) {
+            lines += QString("%1\tcouleur\t%1\t10\t20\r\n").arg(entry);
+        }
+        const QString path = setup.path(name);
+        writeFile(path, lines);
+        return path;
+    }
+    [[nodiscard]] QJsonObject plan() const
+    {
+        return QJsonDocument::fromJson(shell::planAsJson(*m_shell)).object();
+    }
+
+    ProgramSetup setup;
+    /// Runs once per row of a refresh, as waiting events would.
+    std::function<void()> whileYielding;
+    /// What the user answers when asked for a file.
+    QString chosenFile;
+    /// The message boxes shown, "title: text".
+    QStringList messages;
+
+private:
+    std::optional<shell::Shell> m_shell;
+};
+
+/// The texts of the boxes that the plan shows in a room, by slot; empty when it shows no such room.
+[[nodiscard]] inline QMap<int, QString> boxTexts(const QJsonObject& plan, const QString& room)
+{
+    QMap<int, QString> texts;
+    for (const QJsonValue row : plan["rows"].toArray()) {
+        if (row["room"].toString() == room) {
+            for (const QJsonValue box : row["boxes"].toArray()) {
+                texts[box["slot"].toInt()] = box["text"].toString();
+            }
+        }
+    }
+    return texts;
+}
+
+/// The rooms that the plan shows, from row 1 on.
+[[nodiscard]] inline QStringList shownRooms(const QJsonObject& plan)
+{
+    QStringList rooms;
+    for (const QJsonValue row : plan["rows"].toArray()) {
+        rooms.append(row["room"].toString());
+    }
+    return rooms;
+}
+
+/// The colours of the rows that the plan shows, from row 1 on.
+[[nodiscard]] inline QStringList rowColors(const QJsonObject& plan)
+{
+    QStringList colors;
+    for (const QJsonValue row : plan["rows"].toArray()) {
+        colors.append(row["color"].toString());
+    }
+    return colors;
+}
+
+/// The totals line, "-" for a hidden total.
+[[nodiscard]] inline QStringList totals(const QJsonObject& plan)
+{
+    QStringList captions;
+    for (const QJsonValue total : plan["totals"].toArray()) {
+        captions.append(total.toString("-"));
+    }
+    return captions;
+}
+
+} // namespace test

@@ -1,0 +1,139 @@
+#include "shell/ShellDesk.h"
+
+using namespace test;
+
+namespace
+{
+
+class Shutdown : public OnBothDatabases
+{
+protected:
+    void SetUp() override
+    {
+        createTinyFaculty(database());
+        desk.start();
+    }
+
+    /// Closes the window and returns the settings that were written, "key=value".
+    QStringList writtenAtClosing()
+    {
+        const QStringList before = desk.setup.settingsText().split('\n');
+        desk.shell().Form_Unload();
+        QStringList written;
+        for (const QString& line : desk.setup.settingsText().split('\n')) {
+            if (!before.contains(line)) {
+                written.append(line);
+            }
+        }
+        return written;
+    }
+
+    ShellDesk desk{database()};
+};
+
+TEMPORA_ON_BOTH_DATABASES(Shutdown);
+
+} // namespace
+
+TEST_P(Shutdown, writesNothingWhenNothingChanged)
+{
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+}
+
+TEST_P(Shutdown, writesNothingWhenTheRoomsPerPageAreTheSameNumberAgain)
+{
+    desk.form().Total_L_P.setText("20");
+    desk.form().Total_L_P.setText("19");
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+}
+
+TEST_P(Shutdown, writesTheRoomsPerPageAsTheyStand)
+{
+    desk.form().Total_L_P.setText("20");
+    EXPECT_EQ(writtenAtClosing(), QStringList({"Total_L_P=20"}));
+}
+
+TEST_P(Shutdown, comparesTheRoomsPerPageAsNumbers)
+{
+    desk.form().Total_L_P.setText("19,0");
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+}
+
+TEST_P(Shutdown, writesTheDisplayOptionsThatChanged)
+{
+    desk.form().XOpEns.setChecked(false);
+    EXPECT_EQ(writtenAtClosing(), QStringList({"ChkEnseignant=0"}));
+    desk.start();
+    EXPECT_FALSE(desk.form().XOpEns.isChecked());
+    desk.form().XOpEns.setChecked(true);
+    desk.form().XOpCl.setChecked(false);
+    desk.form().XpMat.setChecked(false);
+    EXPECT_EQ(writtenAtClosing(), QStringList({"ChkClasse=0", "ChkEnseignant=1", "ChkMatiere=0"}));
+}
+
+TEST_P(Shutdown, writesThePaletteThatWasChosen)
+{
+    desk.chosenFile = desk.writePalette("Bleu.mpl");
+    desk.form().Command4.press();
+    EXPECT_EQ(writtenAtClosing(), QStringList({"Palette=" + desk.chosenFile}));
+}
+
+TEST_P(Shutdown, writesNoPaletteThatWasChosenAgain)
+{
+    desk.setup.set("Palette", desk.writePalette("Bleu.mpl"));
+    desk.start();
+    desk.chosenFile = desk.setup.path("Bleu.mpl");
+    desk.form().Command4.press();
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+}
+
+TEST_P(Shutdown, writesAnEmptyPaletteInThePlaceOfOneThatFailed)
+{
+    desk.setup.set("Palette", desk.setup.path("Absente.mpl"));
+    desk.start();
+    EXPECT_EQ(writtenAtClosing(), QStringList({"Palette="}));
+}
+
+TEST_P(Shutdown, writesNoOtherChoice)
+{
+    form::PlanForm& form = desk.form();
+    form.ChkGrille.setChecked(false);
+    form.CbTranche.setListIndex(1);
+    form.cb_Locaux.setListIndex(2);
+    form.Colorer.setChecked(false);
+    form.Chk_Type.setChecked(true);
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+}
+
+TEST_P(Shutdown, closesTheDatabaseAndHappensOnce)
+{
+    desk.form().Total_L_P.setText("20");
+    desk.shell().Form_Unload();
+    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk.shell().database().Db()); }),
+              runtime::ErrorNumber::DatabaseFailure);
+    desk.setup.set("Total_L_P", "7");
+    desk.shell().Form_Unload();
+    EXPECT_EQ(desk.setup.saved("Total_L_P"), "7");
+}
+
+TEST_P(Shutdown, afterAStartThatFailedWritesNothing)
+{
+    database().execute("DROP TABLE typeseance");
+    const QString before = desk.setup.settingsText();
+    static_cast<void>(errorOf([&] { static_cast<void>(desk.load()); }));
+    desk.form().XOpEns.setChecked(false);
+    desk.shell().Form_Unload();
+    EXPECT_EQ(desk.setup.settingsText(), before);
+}
+
+TEST_P(Shutdown, inTheMiddleOfARefreshEndsIt)
+{
+    int rows = 0;
+    desk.whileYielding = [&] {
+        if (++rows == 2) {
+            desk.shell().Form_Unload();
+        }
+    };
+    desk.form().OptA.select();
+    EXPECT_EQ(rows, 2);
+}
