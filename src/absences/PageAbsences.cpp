@@ -6,32 +6,11 @@
 
 namespace absences
 {
-namespace
-{
-
-QStringList plainLiterals(QStringList texts)
-{
-    texts.removeIf([](const QString& text) { return !db::isPlainLiteral(text); });
-    texts.removeDuplicates();
-    return texts;
-}
-
-db::MatchMasks equalities(const QString& column, const QStringList& texts)
-{
-    QStringList conditions;
-    for (const QString& text : texts) {
-        conditions << column + QStringLiteral("='") + text + u'\'';
-    }
-    return db::MatchMasks(conditions);
-}
-
-} // namespace
-
 void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 {
     m_date = questions.date;
-    m_classNames = plainLiterals(questions.classNames);
-    m_starts = plainLiterals(questions.starts);
+    m_classNames = db::plainLiterals(questions.classNames);
+    m_starts = db::plainLiterals(questions.starts);
     m_classes.reset();
     m_students.reset();
     if (!m_classNames.isEmpty() && !m_starts.isEmpty()) {
@@ -42,12 +21,13 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 
 void PageAbsences::fetchClasses()
 {
-    const db::MatchMasks classes = equalities(QStringLiteral("Classe"), m_classNames);
-    const db::MatchMasks starts = equalities(QStringLiteral("Debut"), m_starts);
+    const db::MatchMasks classes(QStringLiteral("Classe"), m_classNames);
+    const db::MatchMasks starts(QStringLiteral("Debut"), m_starts);
     const db::Recordset found = m_database.Db().open(
-        QStringLiteral("Select ") + classes.selectList() + QStringLiteral(", ") +
-        starts.selectList() + QStringLiteral(" from abscence Where Datex=") +
-        m_database.dialect().dateLiteral(m_date) + QStringLiteral(" and ") + classes.anyOf());
+        QStringLiteral("Select ") + classes.selectList(QStringLiteral("tempora_c")) +
+        QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) +
+        QStringLiteral(" from abscence Where Datex=") + m_database.dialect().dateLiteral(m_date) +
+        QStringLiteral(" and ") + classes.anyOf());
     Recorded recorded;
     for (const db::Row& row : found.rows()) {
         for (const int name : classes.matches(row, 0)) {
@@ -61,12 +41,13 @@ void PageAbsences::fetchClasses()
 
 void PageAbsences::fetchStudents()
 {
-    const db::MatchMasks classes = equalities(QStringLiteral("Classe"), m_classNames);
-    const db::MatchMasks names = equalities(QStringLiteral("Nom"), m_classNames);
-    const db::MatchMasks starts = equalities(QStringLiteral("HeureD"), m_starts);
+    const db::MatchMasks classes(QStringLiteral("Classe"), m_classNames);
+    const db::MatchMasks names(QStringLiteral("Nom"), m_classNames);
+    const db::MatchMasks starts(QStringLiteral("HeureD"), m_starts);
     const db::Recordset found = m_database.Db().open(
-        QStringLiteral("Select ") + classes.selectList() + QStringLiteral(", ") +
-        names.selectList() + QStringLiteral(", ") + starts.selectList() +
+        QStringLiteral("Select ") + classes.selectList(QStringLiteral("tempora_c")) +
+        QStringLiteral(", ") + names.selectList(QStringLiteral("tempora_n")) +
+        QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) +
         QStringLiteral(" from etud_abs Where Jour=") + m_database.dialect().dateLiteral(m_date) +
         QStringLiteral(" and ") + classes.anyOf());
     Recorded recorded;

@@ -10,32 +10,38 @@ namespace db
 {
 
 /// Lets one query answer many questions: for every row that it returns, the database itself tells
-/// which of a list of conditions the row meets. What equals what stays the database's business.
+/// which of a list of texts a column of the row equals. What equals what stays the database's
+/// business.
 ///
 /// The answers travel as the bits of a few number columns in front of the row's own.
 class MatchMasks
 {
 public:
-    /// `conditions` are SQL expressions on the row's columns, as they would stand after "where".
-    explicit MatchMasks(QStringList conditions);
+    /// `texts` are plain literals (see isPlainLiteral).
+    MatchMasks(QString column, QStringList texts);
 
-    [[nodiscard]] bool isEmpty() const { return m_conditions.isEmpty(); }
+    [[nodiscard]] const QStringList& texts() const { return m_texts; }
     /// How many columns `selectList` makes.
     [[nodiscard]] int columnCount() const;
-    /// The mask columns, separated by commas; stands right after "select".
-    [[nodiscard]] QString selectList() const;
-    /// "At least one of the conditions", in parentheses.
+    /// The mask columns, separated by commas; stands right after "select". `alias` begins their
+    /// names.
+    [[nodiscard]] QString selectList(const QString& alias) const;
+    /// The condition that the column equals one of the texts; false without texts.
     [[nodiscard]] QString anyOf() const;
-    /// Positions of the conditions that the row meets; its masks start at column `firstColumn`.
+    /// Positions of the texts that the row's column equals; its masks start at `firstColumn`.
     /// Error: any that reading a number raises.
     [[nodiscard]] std::vector<int> matches(const Row& row, int firstColumn) const;
 
 private:
-    QStringList m_conditions;
+    QString m_column;
+    QStringList m_texts;
 };
 
 /// Whether a text can stand between single quotes as it is, in every dialect: no quote ends it and
 /// no backslash hides one.
 [[nodiscard]] bool isPlainLiteral(const QString& text);
+
+/// The texts that are plain literals, each once, in their order.
+[[nodiscard]] QStringList plainLiterals(const QStringList& texts);
 
 } // namespace db

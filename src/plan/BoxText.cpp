@@ -2,10 +2,7 @@
 
 #include "plan/RoomOccupancy.h"
 
-#include <QFontMetricsF>
-#include <QRegularExpression>
 #include <QStringList>
-#include <QTextLayout>
 #include <algorithm>
 
 namespace plan
@@ -17,99 +14,111 @@ namespace
 /// with a separator that would push its lines off the middle.
 QStringList writtenLines(const QString& text)
 {
-    static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
+    QString unified = text;
+    unified.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
     QStringList lines;
-    for (const QString& line : text.split(lineEnd)) {
-        const QString trimmed = line.simplified();
-        if (!trimmed.isEmpty()) {
-            lines.append(trimmed);
+    for (const QString& line : unified.split(u'\n')) {
+        const QString simplified = line.simplified();
+        if (!simplified.isEmpty()) {
+            lines.append(simplified);
         }
     }
     return lines;
 }
 
-double widest(const QFontMetricsF& metrics, const QStringList& lines)
+double widest(const TextRuler& ruler, const QStringList& lines)
 {
     double width = 0;
     for (const QString& line : lines) {
-        width = std::max(width, metrics.horizontalAdvance(line));
+        width = std::max(width, ruler.width(line));
     }
     return width;
 }
 
 /// Breaks lines between words so that they fit the width where they can.
-QStringList brokenLines(const QStringList& lines, const QFont& font, double width)
+QStringList brokenLines(const TextRuler& ruler, const QStringList& lines, double width)
 {
+    const double blank = ruler.width(QChar(u' '));
     QStringList broken;
     for (const QString& line : lines) {
-        QTextLayout layout(line, font);
-        layout.beginLayout();
-        for (QTextLine part = layout.createLine(); part.isValid(); part = layout.createLine()) {
-            part.setLineWidth(width);
-            broken.append(line.mid(part.textStart(), part.textLength()).trimmed());
+        double used = 0;
+        for (const QString& word : line.split(u' ')) {
+            const double needed = ruler.width(word);
+            if (used > 0 && used + blank + needed <= width) {
+                broken.last() += u' ' + word;
+                used += blank + needed;
+            } else {
+                broken.append(word);
+                used = needed;
+            }
         }
-        layout.endLayout();
     }
     return broken;
 }
 
 struct Setting {
-    QFont font;
+    int pixels = 0;
     QStringList lines;
 };
 
-bool fits(const Setting& setting, const QRectF& area)
-{
-    const QFontMetricsF metrics(setting.font);
-    return metrics.height() * static_cast<double>(setting.lines.size()) <= area.height() + 1 &&
-           widest(metrics, setting.lines) <= area.width();
-}
-
 /// The largest font, down to the smallest legible one, with which all lines fit the area: as they
 /// are written if possible, else broken between words.
-Setting fitText(QFont font, const QStringList& lines, const QRectF& area, bool wordBreak)
+Setting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& area,
+                bool wordBreak)
 {
-    Setting setting{font, lines};
-    for (int size = std::max(font.pixelSize(), kSmallestText); size >= kSmallestText; --size) {
-        font.setPixelSize(size);
-        setting = {font, lines};
-        if (!wordBreak && fits(setting, area)) {
-            return setting;
+    const int start = std::max(ruler.font().pixelSize(), kSmallestText);
+    for (int pixels = start; pixels >= kSmallestText; --pixels) {
+        // The area as it looks at the ruler's own size.
+        const double scale = static_cast<double>(ruler.font().pixelSize()) / pixels;
+        const double width = area.width() * scale;
+        const double height = (area.height() + 1) * scale;
+        const auto fits = [&](const QStringList& set) {
+            return ruler.height() * static_cast<double>(set.size()) <= height &&
+                   widest(ruler, set) <= width;
+        };
+        if (!wordBreak && fits(lines)) {
+            return {pixels, lines};
         }
-        const Setting broken{font, brokenLines(lines, font, area.width())};
-        if (fits(broken, area)) {
-            return broken;
+        QStringList broken = brokenLines(ruler, lines, width);
+        if (fits(broken)) {
+            return {pixels, std::move(broken)};
         }
     }
-    return setting;
+    return {kSmallestText, lines};
 }
 
 } // namespace
 
-void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format)
+void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
+                 const TextRuler& ruler)
 {
     const QStringList written = writtenLines(text);
     if (written.isEmpty() || area.width() < 4 || area.height() < 4) {
         return;
     }
     const bool wordBreak = format == CellLayout::kWordBreak;
-    const Setting setting = fitText(surface.font(), written, area, wordBreak);
-    const QFontMetricsF metrics(setting.font);
+    const Setting setting = fitText(ruler, written, area, wordBreak);
+    const double scale = static_cast<double>(setting.pixels) / ruler.font().pixelSize();
+    const double height = ruler.height() * scale;
+    const double ascent = ruler.ascent() * scale;
+    const auto count = static_cast<double>(setting.lines.size());
+    // Lines that do not fit move closer together before they are cut.
+    const double step = std::min(height, std::max(area.height() / count, ascent));
     surface.save();
-    surface.setFont(setting.font);
+    QFont font = ruler.font();
+    font.setPixelSize(setting.pixels);
+    surface.setFont(font);
     surface.setClipRect(area.adjusted(-2, -1, 2, 1), Qt::IntersectClip);
-    const double lineHeight = std::min(
-        metrics.height(), std::max(area.height() / static_cast<double>(setting.lines.size()),
-                                   metrics.ascent() + 0.0));
-    const double block = lineHeight * static_cast<double>(setting.lines.size());
-    double top = wordBreak ? area.top() : area.top() + std::max(0.0, (area.height() - block) / 2);
-    const int alignment = wordBreak ? Qt::AlignLeft : Qt::AlignHCenter;
+    double top = area.top();
+    if (!wordBreak) {
+        top += std::max(0.0, (area.height() - step * count) / 2);
+    }
     for (const QString& line : setting.lines) {
-        const QString shown = metrics.elidedText(line, Qt::ElideRight, area.width());
-        surface.drawText(QRectF(area.left(), top, area.width(), lineHeight),
-                         alignment | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-                         shown);
-        top += lineHeight;
+        const QString shown = ruler.elided(line, area.width() / scale);
+        const double left =
+            wordBreak ? area.left() : area.left() + (area.width() - ruler.width(shown) * scale) / 2;
+        surface.drawText(QPointF(left, top + (step - height) / 2 + ascent), shown);
+        top += step;
     }
     surface.restore();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plan/TextRuler.h"
+
 #include <QPainter>
 #include <QRectF>
 #include <QString>
@@ -8,9 +10,10 @@ namespace plan
 {
 
 /// Sets a box text inside a rectangle on the screen (device pixels) with the painter's pen.
-/// `format` is one of CellLayout's two. The font starts from the painter's, given in pixels, and
-/// shrinks as far as it stays legible; what then does not fit ends in an ellipsis.
-void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format);
+/// `format` is one of CellLayout's two. The font starts from the ruler's and shrinks as far as it
+/// stays legible; what then does not fit ends in an ellipsis.
+void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
+                 const TextRuler& ruler);
 
 /// Smallest font size in pixels that a box text shrinks to.
 constexpr int kSmallestText = 9;

@@ -91,7 +91,12 @@ void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle&
     surface.drawRect(box.adjusted(0, 0, -1, -1));
     surface.setPen(ink);
     const QRectF inner = QRectF(box).marginsRemoved(style.reserved + QMarginsF(3, 1, 3, 1));
-    drawBoxText(surface, inner, SanitizeCellText(text), style.textFormat);
+    if (style.ruler != nullptr) {
+        drawBoxText(surface, inner, SanitizeCellText(text), style.textFormat, *style.ruler);
+    } else {
+        drawBoxText(surface, inner, SanitizeCellText(text), style.textFormat,
+                    TextRuler(surface.font()));
+    }
     surface.restore();
 }
 

@@ -3,6 +3,7 @@
 #include "form/Colour.h"
 #include "plan/DrawingTarget.h"
 #include "plan/RoomOccupancy.h"
+#include "plan/TextRuler.h"
 
 #include <QMarginsF>
 #include <QPainter>
@@ -23,6 +24,8 @@ struct BoxStyle {
     int textFormat = CellLayout::kCentredLines;
     /// Device pixels that small labels over the box take from its text, at each side.
     QMarginsF reserved;
+    /// Measures the box texts of a whole page; without one the painter's font serves.
+    const TextRuler* ruler = nullptr;
 };
 
 /// The rectangle of a box in device pixels; `x` and `y` are its top left corner before the

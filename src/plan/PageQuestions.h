@@ -34,8 +34,8 @@ struct PageQuestions {
 
 /// What was found ahead of time; a source that fetches nothing ahead has nothing here.
 struct PageFacts {
-    QStringList classNames; ///< of all rows found, each once
-    QStringList starts;     ///< start times of all rows found, each once
+    QStringList classNames; ///< classes that can decide a box's markers, each once
+    QStringList starts;     ///< start times that can be a box's, each once
 };
 
 /// Which absences a refresh is about to ask about: any of the classes at any of the times.

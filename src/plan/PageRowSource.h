@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QPair>
 #include <map>
+#include <vector>
 
 namespace plan
 {
@@ -14,10 +15,11 @@ namespace plan
 /// rooms, nor the slots, nor the boxes, and answers from what came back. Made for servers that are
 /// far away: there every statement costs a journey.
 ///
-/// No answer differs from the plain source's. The database itself says which row answers which
-/// question, by the very conditions that the plain statements have. Where several rows answer one
-/// question their order matters; these questions are put once more, each in the plain statement's
-/// own words, all joined into one. What cannot be fetched is left to the plain source.
+/// No answer differs from the plain source's: the database itself says which row answers which
+/// question. Where several rows answer one question their order matters, and where a name was found
+/// under another spelling only the database knows what it equals; such questions are put once more,
+/// each in the plain statement's own words, all joined into one. What cannot be fetched is left to
+/// the plain source.
 class PageRowSource : public RowSource
 {
 public:
@@ -35,10 +37,15 @@ private:
     using Cell = QPair<QString, QString>; ///< room, slot key
     using Cells = QHash<Cell, db::Recordset>;
 
-    void fetchTimetable(const PageQuestions& questions, RoomQuestion::Table table);
+    void fetchTimetable(RoomQuestion::Table table);
+    [[nodiscard]] Cells fetchCells(RoomQuestion::Table table, const QStringList& rooms,
+                                   const QStringList& keys);
     void fetchInOrder(const std::vector<RoomQuestion>& questions, Cells& cells);
     void fetchStudents(const QStringList& classNames);
     void fetchClasses(const QStringList& classNames);
+    [[nodiscard]] std::vector<std::vector<db::Row>> openJoined(const QStringList& statements,
+                                                               db::Recordset& all);
+    [[nodiscard]] QStringList allClasses() const;
     [[nodiscard]] PageFacts facts() const;
 
     db::Database& m_database;

@@ -30,11 +30,11 @@ QColor toColor(form::Colour color)
 } // namespace
 
 PlanPainter::PlanPainter(QPainter& surface, const PlanScene& scene)
-    : m_surface(surface), m_scene(scene)
+    : m_surface(surface), m_scene(scene), m_ruler(textFont(kTextPixels))
 {
 }
 
-QFont PlanPainter::textFont(int pixels, bool bold) const
+QFont PlanPainter::textFont(int pixels, bool bold)
 {
     QFont font(QStringLiteral("Arial"));
     font.setPixelSize(pixels);
@@ -101,15 +101,15 @@ void PlanPainter::paintBox(const PlanRow& row, const PlanBox& box)
     style.hatched = box.makeUp;
     style.rowHeight = m_scene.form.Salle.front().place.height;
     style.textFormat = m_scene.layout.CellTextFormat;
+    style.ruler = &m_ruler;
     style.reserved = reservedByOverlays(m_scene.form, places, box);
     DrawCellBox(m_surface, m_scene.target, style, m_scene.target.toPixelsX(box.x),
                 m_scene.target.toPixelsY(room.top), box.minutes, box.cell.CellText);
-    paintOverlays(row.index, box);
+    paintOverlays(places, box);
 }
 
-void PlanPainter::paintOverlays(int row, const PlanBox& box)
+void PlanPainter::paintOverlays(const OverlayPlaces& places, const PlanBox& box)
 {
-    const OverlayPlaces places = overlayPlaces(m_scene.form, m_scene.target, row, box);
     if (box.classAbsent) {
         paintClassAbsent(m_surface, places.XAbs);
     }

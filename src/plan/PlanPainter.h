@@ -2,8 +2,10 @@
 
 #include "form/PlanForm.h"
 #include "plan/DrawingTarget.h"
+#include "plan/Overlays.h"
 #include "plan/PlanContent.h"
 #include "plan/RoomOccupancy.h"
+#include "plan/TextRuler.h"
 
 #include <QFont>
 #include <QPainter>
@@ -42,12 +44,13 @@ public:
 
 private:
     void paintBox(const PlanRow& row, const PlanBox& box);
-    void paintOverlays(int row, const PlanBox& box);
+    void paintOverlays(const OverlayPlaces& places, const PlanBox& box);
     void paintRowLabel(const form::Label& label, bool isRowZero, Qt::Alignment alignment);
-    [[nodiscard]] QFont textFont(int pixels, bool bold = false) const;
+    [[nodiscard]] static QFont textFont(int pixels, bool bold = false);
 
     QPainter& m_surface;
     const PlanScene& m_scene;
+    TextRuler m_ruler;
 };
 
 } // namespace plan

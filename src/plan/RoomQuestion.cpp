@@ -5,6 +5,15 @@ namespace plan
 
 // Texts are joined piece by piece, never by numbered places: a room name may hold a "%1".
 
+QStringList RoomQuestion::roomColumns(Table table)
+{
+    if (table == Table::examen) {
+        return {QStringLiteral("Salle")};
+    }
+    return {QStringLiteral("Salle"),  QStringLiteral("XSalle"),  QStringLiteral("YSalle"),
+            QStringLiteral("SalleB"), QStringLiteral("XSalleB"), QStringLiteral("YSalleB")};
+}
+
 QString RoomQuestion::roomCondition() const
 {
     if (table == Table::examen || room.isEmpty()) {

@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 
 namespace plan
 {
@@ -23,6 +24,8 @@ struct RoomQuestion {
     QString examWeek; ///< number of the exam week, exams only
     QDate date;       ///< make-ups only
 
+    /// The columns in which `table` can name the room. A course can hold six rooms, an exam one.
+    [[nodiscard]] static QStringList roomColumns(Table table);
     /// The condition on the room. A course can hold six rooms, an exam only `Salle`; without a
     /// room name the short form serves everywhere.
     [[nodiscard]] QString roomCondition() const;

@@ -20,7 +20,7 @@ Canvas written(const QString& text, int format = CellLayout::kCentredLines,
         QFont font("Arial");
         font.setPixelSize(13);
         painter.setFont(font);
-        plan::drawBoxText(painter, place, text, format);
+        plan::drawBoxText(painter, place, text, format, plan::TextRuler(painter.font()));
     });
     return canvas;
 }
