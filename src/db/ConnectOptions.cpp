@@ -34,7 +34,7 @@ QStringList passwordsIn(const QString& connectString)
     auto matches = form.globalMatch(connectString);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        for (QString password : {match.captured(1), match.captured(2)}) {
+        for (const QString& password : {match.captured(1), match.captured(2)}) {
             passwords << password;
             if (password.startsWith(u'{') && password.endsWith(u'}')) {
                 passwords << password.mid(1, password.size() - 2);

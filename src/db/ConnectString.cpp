@@ -23,8 +23,8 @@ constexpr int mySqlOption = 35;
 /// value when the line has the one form that the web application writes: $host="name";
 struct Variable {
     QLatin1String name;
-    qsizetype charactersBefore;
-    QString PhpConfiguration::*value;
+    qsizetype charactersBefore = 0;
+    QString PhpConfiguration::*value = nullptr;
 };
 
 /// The closing quote and the semicolon.
