@@ -23,6 +23,17 @@ bool hasDisplay()
 #endif
 }
 
+/// The toolkit's remarks about its surroundings, such as a folder that a nightly job does not have,
+/// stay out of the program's own lines on standard error.
+void hushToolkit()
+{
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtCriticalMsg || type == QtFatalMsg) {
+            app::writeError(text);
+        }
+    });
+}
+
 /// An export draws in memory, with the same fonts whether or not there is a display.
 void drawInMemory()
 {
@@ -111,6 +122,7 @@ int runProgram(int argc, char* argv[])
 
 int main(int argc, char* argv[])
 {
+    hushToolkit();
     QCoreApplication::setApplicationName(QStringLiteral("Tempora"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));
     try {
