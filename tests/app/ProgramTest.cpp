@@ -1,6 +1,7 @@
 // The executable, run as its users run it: what it writes where, and how it ends.
 
 #include "app/TemporaProcess.h"
+#include "support/RuntimeMatchers.h"
 #include "support/TestFolder.h"
 #include "support/TinyFaculty.h"
 

@@ -34,8 +34,7 @@ QString programIn(const QString& folder)
 } // namespace
 
 TemporaProcess::TemporaProcess(const ProgramSetup& setup)
-    : m_folder(setup.applicationFolder()),
-      m_settingsFile(setup.settingsFile())
+    : m_folder(setup.applicationFolder()), m_settingsFile(setup.settingsFile())
 {
     static_cast<void>(OdbcConfiguration::instance()); // the drivers, whatever the database
     // As the configuration above has left it.

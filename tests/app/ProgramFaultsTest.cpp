@@ -1,0 +1,221 @@
+// Bad input to the executable: the run-time error in full on standard error, exit code 1, settings
+// and database untouched.
+
+#include "app/TemporaProcess.h"
+#include "support/CuttingProxy.h"
+#include "support/MariaDbServer.h"
+#include "support/RuntimeMatchers.h"
+#include "support/TestFolder.h"
+#include "support/TinyFaculty.h"
+
+#include <QFile>
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+
+using namespace test;
+
+namespace
+{
+
+class ProgramFault : public OnBothDatabases
+{
+protected:
+    void SetUp() override { createTinyFaculty(database()); }
+
+    /// What an export writes to standard error before it ends with 1. Nothing else is written.
+    QString errorOfExport(const QStringList& arguments = {})
+    {
+        const QString settings = setup.settingsText();
+        const QString file = setup.path("plan.json");
+        EXPECT_EQ(program.run(QStringList{"--export", file} + arguments), 1);
+        EXPECT_EQ(program.output(), "");
+        EXPECT_FALSE(QFile::exists(file));
+        EXPECT_EQ(setup.settingsText(), settings);
+        return program.errors();
+    }
+
+    ProgramSetup setup{database()};
+    TemporaProcess program{setup};
+};
+
+TEMPORA_ON_BOTH_DATABASES(ProgramFault);
+
+/// "Run-time error '…':", an empty line, the platform's text, an empty line, what was being done.
+QString message(int number, const QString& text, const QString& activity)
+{
+    return QString("Run-time error '%1':\n\n%2\n\n%3\n")
+        .arg(QString::number(number), text, activity);
+}
+
+} // namespace
+
+TEST_P(ProgramFault, namesTheSettingThatDoesNotConvert)
+{
+    setup.set("Total_L_P", "vingt");
+    EXPECT_EQ(errorOfExport(), message(13, "Type mismatch",
+                                       "Lecture du paramètre « Total_L_P » (valeur « vingt »)"));
+    setup.set("Total_L_P", "99999");
+    EXPECT_EQ(errorOfExport(),
+              message(6, "Overflow", "Lecture du paramètre « Total_L_P » (valeur « 99999 »)"));
+}
+
+TEST_P(ProgramFault, namesTheSeanceTypeThatHasNoPlace)
+{
+    database().execute("INSERT INTO typeseance (Ref, NomCourt) VALUES (16, 'Visite')");
+    EXPECT_EQ(errorOfExport(),
+              message(9, "Subscript out of range", "Lecture du type de séance de référence 16"));
+}
+
+TEST_P(ProgramFault, isARoomTooMany)
+{
+    QStringList rooms;
+    for (int room = 0; room < 252; ++room) { // five there are already
+        rooms.append(QString("('R%1', 1, 20)").arg(room));
+    }
+    database().execute("INSERT INTO salle (Nom, Zone, places) VALUES " + rooms.join(", "));
+    EXPECT_EQ(errorOfExport(),
+              message(9, "Subscript out of range", "Lecture des places des salles"));
+}
+
+TEST_P(ProgramFault, namesTheTimeThatIsNone)
+{
+    database().execute("UPDATE seances SET Horaire2 = '25h99' WHERE Seance = 'Lundi1'");
+    const QString errors = errorOfExport();
+    EXPECT_TRUE(errors.startsWith("Run-time error '13':\n\nType mismatch\n\n"))
+        << errors.toStdString();
+    EXPECT_TRUE(errors.contains("25h99")) << errors.toStdString();
+}
+
+TEST_P(ProgramFault, namesTheStartOfACourseThatIsNoTime)
+{
+    database().execute("UPDATE emplois SET Debut = 'matin' WHERE Salle = 'A2'");
+    EXPECT_EQ(errorOfExport({"--day", "0"}),
+              message(13, "Type mismatch", "Lecture de l’heure « matin »"));
+}
+
+TEST_P(ProgramFault, namesTheTableThatIsMissing)
+{
+    database().execute("DROP TABLE typeseance");
+    const QString errors = errorOfExport();
+    EXPECT_TRUE(errors.startsWith("Run-time error '-2147217865':\n\n")) << errors.toStdString();
+    EXPECT_TRUE(errors.contains("typeseance")) << errors.toStdString();
+    EXPECT_TRUE(errors.endsWith("\n\nLecture des types de séance (table « typeseance »)\n"))
+        << errors.toStdString();
+}
+
+TEST_P(ProgramFault, isAColumnThatIsMissing)
+{
+    database().execute("ALTER TABLE salle RENAME COLUMN places TO Capacite");
+    EXPECT_EQ(errorOfExport(),
+              message(3265,
+                      "Item cannot be found in the collection corresponding to the requested name "
+                      "or ordinal.",
+                      "Lecture des places des salles"));
+}
+
+TEST_P(ProgramFault, isAColumnThatAQueryMisses)
+{
+    database().execute("ALTER TABLE salle RENAME COLUMN Zone TO Batiment");
+    const QString errors = errorOfExport({"--zone", "2"});
+    EXPECT_TRUE(errors.startsWith("Run-time error '-2147217900':\n\n")) << errors.toStdString();
+    EXPECT_TRUE(errors.contains("Zone")) << errors.toStdString();
+    EXPECT_TRUE(errors.endsWith("\n\nLecture des salles\n")) << errors.toStdString();
+}
+
+TEST_P(ProgramFault, leavesTheDatabaseAsItWas)
+{
+    database().execute("DROP TABLE typeseance");
+    const QList<QStringList> before = database().read("SELECT * FROM abscence");
+    static_cast<void>(errorOfExport());
+    EXPECT_EQ(database().read("SELECT * FROM abscence"), before);
+}
+
+// The database itself out of reach.
+
+/// A port of this machine that nobody listens on, and that nobody else can take meanwhile.
+class SilentPort
+{
+public:
+    SilentPort()
+    {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof(address);
+        auto* const generic = reinterpret_cast<sockaddr*>(&address);
+        EXPECT_EQ(bind(m_socket.number(), generic, length), 0);
+        EXPECT_EQ(getsockname(m_socket.number(), generic, &length), 0);
+        m_number = ntohs(address.sin_port);
+    }
+    [[nodiscard]] int number() const { return m_number; }
+
+private:
+    Descriptor m_socket{socket(AF_INET, SOCK_STREAM, 0)};
+    int m_number = 0;
+};
+
+class ProgramWithoutServer : public testing::Test
+{
+protected:
+    /// Makes the program use a server with these lines of the companion application's file.
+    void serve(const QString& host, const QString& login, const QString& password,
+               const QString& base, int port)
+    {
+        setup.set("Mysql", "True");
+        writeFile(setup.path("app_data/SaKalo.php"),
+                  QString("<?php\n$host=\"%1\";\n$login=\"%2\";\n$mot_de_passe=\"%3\";\n"
+                          "$Base=\"%4\";\n$port=\"%5\";\n?>\n")
+                      .arg(host, login, password, base)
+                      .arg(port));
+    }
+    QString errorOfExport()
+    {
+        EXPECT_EQ(program.run({"--export", setup.path("plan.json")}), 1);
+        EXPECT_EQ(program.output(), "");
+        const QString errors = program.errors();
+        for (const char* part : {"s3cr&t", "Été"}) {
+            EXPECT_FALSE(errors.contains(part, Qt::CaseInsensitive)) << errors.toStdString();
+        }
+        return errors;
+    }
+    static bool isConnectionFailure(const QString& errors)
+    {
+        return errors.startsWith("Run-time error '-2147467259':\n\n") &&
+               errors.endsWith("\n\nOuverture de la base de données\n");
+    }
+
+    TestDatabase database{DatabaseKind::Sqlite};
+    ProgramSetup setup{database};
+    TemporaProcess program{setup};
+};
+
+TEST_F(ProgramWithoutServer, namesTheFileThatIsMissing)
+{
+    setup.set("Mysql", "True");
+    EXPECT_EQ(errorOfExport(),
+              message(53, "File not found", "Préparation de la connexion à la base « SaKalo »"));
+}
+
+TEST_F(ProgramWithoutServer, namesNoPasswordWhenItIsWrong)
+{
+    const TestDatabase served(DatabaseKind::MariaDb);
+    serve("127.0.0.1", "planning", "s3cr&tÉté", served.baseName(), MariaDbServer::shared().port());
+    const QString errors = errorOfExport();
+    EXPECT_TRUE(isConnectionFailure(errors)) << errors.toStdString();
+    EXPECT_TRUE(errors.contains("planning")) << errors.toStdString(); // whose access is denied
+}
+
+TEST_F(ProgramWithoutServer, saysThatNobodyAnswers)
+{
+    const SilentPort port;
+    serve("127.0.0.1", "planning", "s3cr&t;Été", "base", port.number());
+    const QString errors = errorOfExport();
+    EXPECT_TRUE(isConnectionFailure(errors)) << errors.toStdString();
+}
+
+TEST_F(ProgramWithoutServer, saysThatTheDataSourceIsUnknown)
+{
+    setup.set("Base", "Nulle Part");
+    EXPECT_TRUE(isConnectionFailure(errorOfExport()));
+}
