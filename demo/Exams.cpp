@@ -182,8 +182,10 @@ private:
     {
         std::vector<int> hired;
         for (int attempt = 0; attempt < 12 && static_cast<int>(hired.size()) < count; ++attempt) {
-            const int teacher =
-                m_book.findTeacher(m_draw.below(departmentCount + 1), m_draw.below(1000), when);
+            // One draw per statement: compilers evaluate arguments in orders of their own.
+            const int department = m_draw.below(departmentCount + 1);
+            const int preferred = m_draw.below(1000);
+            const int teacher = m_book.findTeacher(department, preferred, when);
             if (teacher != nobody) {
                 m_book.takeTeacher(teacher, when);
                 hired.push_back(teacher);
