@@ -193,8 +193,9 @@ protected:
 TEST_F(ProgramWithoutServer, namesTheFileThatIsMissing)
 {
     setup.set("Mysql", "True");
-    EXPECT_EQ(errorOfExport(),
-              message(53, "File not found", "Préparation de la connexion à la base « SaKalo »"));
+    EXPECT_EQ(errorOfExport(), message(53, "File not found",
+                                       "Lecture du fichier de configuration « " +
+                                           setup.path("app_data/SaKalo.php") + " »"));
 }
 
 TEST_F(ProgramWithoutServer, namesNoPasswordWhenItIsWrong)
