@@ -187,7 +187,7 @@ void PlClasse::processEvents()
 
 void PlClasse::clickMarker(int marker)
 {
-    Q_UNUSED(marker)
+    forward([this, marker] { m_marking.Clic_Marqueur(marker); });
 }
 
 void PlClasse::keyPressEvent(QKeyEvent* event)
