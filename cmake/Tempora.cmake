@@ -33,3 +33,25 @@ function(tempora_layer name)
   endforeach()
   target_link_libraries(tempora_${name} PUBLIC ${layers} ${LAYER_EXTERNAL} PRIVATE tempora_options)
 endfunction()
+
+# Copies files into a folder beside the program, file by file, so that what somebody else put there
+# stays. `target` stands for the copies.
+#   tempora_beside_program(target folder file ...)
+function(tempora_beside_program target folder)
+  get_property(several_configurations GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+  set(place ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  if(several_configurations)
+    string(APPEND place /$<CONFIG>)
+  endif()
+  set(copies "")
+  foreach(file IN LISTS ARGN)
+    get_filename_component(name ${file} NAME)
+    add_custom_command(OUTPUT ${place}/${folder}/${name}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${place}/${folder}
+      COMMAND ${CMAKE_COMMAND} -E copy ${file} ${place}/${folder}/${name}
+      DEPENDS ${file} VERBATIM)
+    list(APPEND copies ${place}/${folder}/${name})
+  endforeach()
+  add_custom_target(${target} ALL DEPENDS ${copies})
+  install(FILES ${ARGN} DESTINATION bin/${folder})
+endfunction()

@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace app
@@ -23,7 +24,7 @@ QLabel* label(const QString& name, const QString& role)
 
 } // namespace
 
-HeaderBand::HeaderBand(shell::Shell& shell, FormMirror& mirror)
+HeaderBand::HeaderBand(shell::Shell& shell, FormMirror& mirror, QAction* help)
 {
     setObjectName(QStringLiteral("HeaderBand"));
     setAttribute(Qt::WA_StyledBackground);
@@ -73,6 +74,11 @@ HeaderBand::HeaderBand(shell::Shell& shell, FormMirror& mirror)
     auto* right = new QHBoxLayout;
     right->addStretch();
     right->addLayout(when);
+    right->addSpacing(10);
+    auto* button = new QToolButton;
+    button->setObjectName(QStringLiteral("Aide"));
+    button->setDefaultAction(help);
+    right->addWidget(button);
     band->addLayout(right, 1);
 }
 

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+class QAction;
+
 namespace shell
 {
 class Shell;
@@ -12,11 +14,12 @@ namespace app
 
 class FormMirror;
 
-/// The band at the top: whose plan this is, what it shows, and the dates of the period.
+/// The band at the top: whose plan this is, what it shows, the dates of the period, and the help.
 class HeaderBand : public QWidget
 {
 public:
-    HeaderBand(shell::Shell& shell, FormMirror& mirror);
+    /// `help` opens the guide.
+    HeaderBand(shell::Shell& shell, FormMirror& mirror, QAction* help);
 };
 
 } // namespace app

@@ -2,11 +2,13 @@
 
 #include "app/ErrorReport.h"
 #include "app/HeaderBand.h"
+#include "app/HelpWindow.h"
 #include "app/OptionPanels.h"
 #include "app/PlanView.h"
 #include "app/WindowStyle.h"
 #include "shell/Player.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -28,7 +30,8 @@ constexpr int kFormKeyF2 = 113;
 } // namespace
 
 PlClasse::PlClasse(shell::Settings settings, shell::Environment environment)
-    : m_shell(std::move(settings), tieToWindow(std::move(environment))), m_keys(makeKeyState()),
+    : m_guide(environment.applicationFolder + QStringLiteral("/docs/guide.md")),
+      m_shell(std::move(settings), tieToWindow(std::move(environment))), m_keys(makeKeyState()),
       m_marking(m_shell.refresh(), m_shell.absences(), *m_keys),
       m_mirror([this](const std::function<void()>& action) { forward(action); })
 {
@@ -63,7 +66,11 @@ void PlClasse::buildContent()
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new HeaderBand(m_shell, m_mirror));
+    auto* help = new QAction(QStringLiteral("Aide"), this);
+    help->setShortcut(Qt::Key_F1);
+    help->setToolTip(QStringLiteral("Ouvrir le guide (F1)"));
+    connect(help, &QAction::triggered, this, [this] { showHelp(); });
+    column->addWidget(new HeaderBand(m_shell, m_mirror, help));
     m_options = new OptionPanels(m_shell, m_mirror);
     column->addWidget(m_options);
     m_view = new PlanView(
@@ -188,6 +195,16 @@ void PlClasse::processEvents()
 void PlClasse::clickMarker(int marker)
 {
     forward([this, marker] { m_marking.Clic_Marqueur(marker); });
+}
+
+void PlClasse::showHelp()
+{
+    if (m_help == nullptr) {
+        m_help = new HelpWindow(m_guide, this);
+    }
+    m_help->show();
+    m_help->raise();
+    m_help->activateWindow();
 }
 
 void PlClasse::keyPressEvent(QKeyEvent* event)

@@ -13,6 +13,7 @@
 namespace app
 {
 
+class HelpWindow;
 class OptionPanels;
 class PlanView;
 
@@ -51,13 +52,16 @@ private:
     void processEvents();
     void fail(const runtime::RunTimeError& error);
     void clickMarker(int marker);
+    void showHelp();
 
+    QString m_guide; ///< path of the guide
     shell::Shell m_shell;
     std::unique_ptr<absences::AsyncKeyState> m_keys;
     absences::Marking m_marking;
     FormMirror m_mirror;
     OptionPanels* m_options = nullptr;
     PlanView* m_view = nullptr;
+    HelpWindow* m_help = nullptr; ///< null until it is asked for
     int m_focusRequests = 0;
     int m_fontRequests = 0;
     bool m_failed = false;

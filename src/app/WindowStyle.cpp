@@ -13,6 +13,9 @@ QMainWindow { background: #f6f7fa; }
 #HeaderBand QLabel[role="title"] { font-size: 20px; font-weight: bold; }
 #HeaderBand QLabel[role="name"] { font-size: 14px; font-weight: bold; }
 #HeaderBand QLabel[role="note"] { color: #c9d6e8; }
+#HeaderBand QToolButton { color: #ffffff; border: 1px solid #c9d6e8; border-radius: 4px;
+                         padding: 4px 10px; }
+#HeaderBand QToolButton:hover { background: #33537f; }
 #Picture1 { background: #eef1f6; }
 QLabel[role="strong"] { font-weight: bold; }
 QGroupBox { border: 1px solid #cfd6e2; border-radius: 4px; margin-top: 9px;

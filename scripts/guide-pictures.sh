@@ -1,0 +1,230 @@
+#!/usr/bin/env bash
+# Takes the pictures of the README and the guide anew, from the program as it is now, into
+# docs/images. Look at each of them afterwards: what is cut out lies at fixed places of the window,
+# and the help window has room for 770 pixels.
+set -euo pipefail
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+# shellcheck source=scripts/common.sh
+source "$project/scripts/common.sh"
+
+work=$project/run/pictures
+images=$project/docs/images
+bin=$project/build/bin
+day=2026-11-17 # a Tuesday; the demo faculty lives around it
+makeup_day=2026-11-24
+day_options=(--date "$day" --week A)
+
+# The window's parts at 1366x768, as width x height + left + top.
+readonly panels_day=462x110+4+58
+readonly panel_boxes=114x110+461+58
+readonly panel_rooms=188x110+576+58
+readonly panel_page=146x110+764+58
+readonly panel_subject=190x110+1026+58
+
+prepare() {
+    # shellcheck disable=SC2154 # common.sh sets it
+    ensure_packages "${build_packages[@]}" xvfb xdotool openbox imagemagick
+    rm -rf "$work"
+    mkdir -p "$work/odbc" "$images"
+    use_private_folders "$work"
+    configure "$project/build" -D CMAKE_BUILD_TYPE=Release -D TEMPORA_TESTS=OFF
+    build "$project/build" tempora tempora-demo
+    "$bin/tempora-demo" --sqlite "$work/demo.sqlite" --date "$day"
+    export ODBCSYSINI=$work/odbc ODBCINI=$work/odbc/odbc.ini
+    printf '[SQLite3]\nDriver=%s\n' \
+        "$(find /usr/lib /usr/local/lib -name libsqlite3odbc.so -print -quit)" \
+        >"$work/odbc/odbcinst.ini"
+    printf '[MonKalo]\nDriver=SQLite3\nDatabase=%s\n' "$work/demo.sqlite" >"$ODBCINI"
+}
+
+# shot NAME PALETTE LINES [options of the program ...]: the whole screen as $work/NAME.png. The
+# function `act`, when there is one, does what a user does before the picture is taken.
+shot() {
+    local name=$1 palette=$2 lines=$3 number screen manager program
+    shift 3
+    printf '[Settings]\nPalette=%s\nTotal_L_P=%s\n' "$bin/Styles/$palette.mpl" "$lines" \
+        >"$work/settings.ini"
+    rm -f "$work/display"
+    mkfifo "$work/display"
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    screen=$!
+    read -r number <"$work/display"
+    export DISPLAY=:$number
+    openbox 2>/dev/null &
+    manager=$!
+    sleep 0.5
+    "$bin/tempora" --settings "$work/settings.ini" "$@" &
+    program=$!
+    xdotool search --sync --onlyvisible --name 'Planning des Classes' >/dev/null
+    sleep 1.5
+    if declare -F act >/dev/null; then
+        act
+        sleep 0.7
+        unset -f act
+    fi
+    import -window root "$work/$name.png"
+    kill "$program" "$manager" "$screen"
+    wait "$program" "$manager" "$screen" 2>/dev/null || true
+}
+
+# The helpers below make a picture each and print the name of its file.
+new_part() { mktemp "$work/part-XXXXXX.miff"; }
+
+# cut NAME PLACE: a part of a shot.
+cut() {
+    local part
+    part=$(new_part)
+    convert "$work/$1.png" -crop "$2" +repage "$part"
+    echo "$part"
+}
+
+beside() {
+    local part
+    part=$(new_part)
+    convert "$@" -bordercolor white -border 4 -background white -gravity center +append "$part"
+    echo "$part"
+}
+
+below() {
+    local part
+    part=$(new_part)
+    convert "$@" -bordercolor white -border 4 -background white -gravity west -append "$part"
+    echo "$part"
+}
+
+larger() {
+    local part
+    part=$(new_part)
+    convert "$1" -filter Lanczos -resize 150% "$part"
+    echo "$part"
+}
+
+# words SIZE TEXT: a label on white.
+words() {
+    local part
+    part=$(new_part)
+    convert -background white -fill '#222222' -font Liberation-Sans-Bold -pointsize "$1" \
+        label:"$2" -bordercolor white -border 12x6 "$part"
+    echo "$part"
+}
+
+# key TEXT: a key of the keyboard.
+key() {
+    local part
+    part=$(new_part)
+    convert -background '#f2f2f2' -fill '#222222' -font Liberation-Sans-Bold -pointsize 15 \
+        label:"$1" -bordercolor '#f2f2f2' -border 9x6 -bordercolor '#777777' -border 1x1 \
+        -bordercolor white -border 4x4 "$part"
+    echo "$part"
+}
+
+# keep NAME FILE: the picture as the guide's, in few colours, so that it stays small.
+keep() {
+    convert "$2" +dither -colors 128 -define png:compression-level=9 "PNG8:$images/$1.png"
+}
+
+press() { # the key $1, with a click where the mouse is
+    xdotool keydown "$1"
+    sleep 0.2
+    xdotool click 1
+    sleep 0.2
+    xdotool keyup "$1"
+    sleep 0.3
+}
+
+take_shots() {
+    shot plan Pastel 14 "${day_options[@]}"
+    shot counted Pastel 14 "${day_options[@]}" --counting
+    shot makeup Pastel 14 --date "$makeup_day" --makeup
+    shot exam Pastel 14 --mode exam --exam-week 1 --day 1 --show class,teacher,subject,invigilator
+    shot rooms Pastel 14 "${day_options[@]}" --zone 1 --department PHYS --neutral
+    shot subject Pastel 14 "${day_options[@]}" --subject Métallurgie
+    local shown
+    for shown in class class,teacher class,teacher,subject,type; do
+        shot "boxes-$shown" Pastel 14 "${day_options[@]}" --show "$shown"
+    done
+    local palette
+    for palette in Accessible Contraste Gris Automne Jardin Océan Pastel; do
+        shot "palette-$palette" "$palette" 29 "${day_options[@]}"
+    done
+    act() { xdotool mousemove 258 325 click 1; } # the counter of a box of five classes
+    shot details Pastel 14 "${day_options[@]}"
+    act() { xdotool mousemove 190 593; } # a box of one class
+    shot tip Pastel 14 "${day_options[@]}"
+    act() {
+        xdotool mousemove 190 593
+        press shift
+        xdotool mousemove 700 740
+    }
+    shot class-absent Pastel 14 "${day_options[@]}"
+    act() {
+        xdotool mousemove 190 593
+        press shift # takes it back
+        press ctrl
+        xdotool mousemove 700 740
+    }
+    shot students-absent Pastel 14 "${day_options[@]}"
+}
+
+# The window with numbers on its parts.
+numbered_window() {
+    local marks=() number=0 place part
+    for place in 470,38 394,152 92,210 455,180 300,551 1320,189 577,728 640,756; do
+        number=$((number + 1))
+        marks+=(-fill '#c01020' -stroke white -strokewidth 2
+            -draw "circle $place $((${place%,*} + 14)),${place#*,}"
+            -fill white -stroke none -draw "text $((${place%,*} - 6)),$((${place#*,} + 7)) '$number'")
+    done
+    part=$(new_part)
+    convert "$work/counted.png" -font Liberation-Sans-Bold -pointsize 21 "${marks[@]}" \
+        -filter Lanczos -resize 770x "$part"
+    echo "$part"
+}
+
+# The same boxes, with what is ticked to their left.
+box_variants() {
+    local shown variants=()
+    for shown in class class,teacher class,teacher,subject,type; do
+        variants+=("$(beside "$(cut "boxes-$shown" "$panel_boxes")" \
+            "$(cut "boxes-$shown" 540x112+0+188)")")
+    done
+    below "${variants[@]}"
+}
+
+palette_samples() {
+    local palette part samples=()
+    for palette in Accessible Contraste Gris Automne Jardin Océan Pastel; do
+        samples+=("$(below "$(words 14 "$palette")" "$(cut "palette-$palette" 368x90+0+209)")")
+    done
+    part=$(new_part)
+    montage "${samples[@]}" +set label -tile 2x -geometry +4+4 -gravity west "$part"
+    echo "$part"
+}
+
+# gesture KEY SHOT: a box, the key to hold, and the box afterwards.
+gesture() {
+    beside "$(cut plan 148x44+117+572)" "$(key "$1")" "$(words 15 '+ clic  →')" \
+        "$(cut "$2" 148x44+117+572)"
+}
+
+make_pictures() {
+    keep plan "$(cut plan 1366x768+0+0)"
+    keep fenetre "$(numbered_window)"
+    keep bulle "$(cut tip 480x146+100+570)"
+    keep jour "$(cut plan "$panels_day")"
+    keep rattrapage "$(below "$(cut makeup 330x110+4+58)" "$(cut makeup 480x88+877+315)")"
+    keep examen "$(cut exam 770x328+0+58)"
+    keep cases "$(box_variants)"
+    keep salles "$(beside "$(cut rooms "$panel_rooms")" "$(cut rooms 540x230+0+486)")"
+    keep page "$(beside "$(cut plan "$panel_page")" "$(cut plan 540x147+0+170)")"
+    keep depassement "$(below "$(cut plan 572x46+592+614)" "$(cut details 190x150+580+269)")"
+    keep totaux "$(cut counted 770x90+0+655)"
+    keep matiere "$(beside "$(cut subject "$panel_subject")" "$(cut subject 540x147+0+528)")"
+    keep palettes "$(palette_samples)"
+    keep absences "$(larger "$(below "$(gesture Maj class-absent)" "$(gesture Ctrl students-absent)")")"
+}
+
+prepare
+take_shots
+make_pictures
+say "The pictures are in ${images#"$project"/}."
