@@ -21,7 +21,7 @@ std::unique_ptr<QSettings> openPerUser()
 std::unique_ptr<QSettings> openPerUser()
 {
     return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                       QStringLiteral("Tempora"), QStringLiteral("Tempora"));
+                                       QStringLiteral("Tempora"));
 }
 #endif
 

@@ -104,7 +104,7 @@ TEST_P(Program, changesNothingInTheDatabase)
 
 TEST_P(Program, readsTheUsersOwnSettings)
 {
-    writeFile(program.configurationFolder() + "/Tempora/Tempora.ini",
+    writeFile(program.configurationFolder() + "/Tempora.ini",
               setup.settingsText() + "Total_L_P=2\n");
     program.start({"--export", setup.path("plan.json")});
     ASSERT_TRUE(program.waitForEnd());
