@@ -23,7 +23,7 @@ const QString shippedGuide = QStringLiteral(TEMPORA_GUIDE);
 QString longGuide()
 {
     const QString paragraphs = QStringLiteral("Une ligne.\n\n").repeated(100);
-    const QString path = test::processFolder() + QStringLiteral("/guide.md");
+    QString path = test::processFolder() + QStringLiteral("/guide.md");
     test::writeFile(path, "# Guide\n\n## Lire\n\n### En détail\n\n" + paragraphs +
                               "## Imprimer\n\n" + paragraphs);
     return path;
