@@ -1,12 +1,28 @@
 #include "plan/TextRuler.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 
 namespace plan
 {
 
+namespace
+{
+
+/// The same font with its size in pixels.
+QFont inPixels(QFont font)
+{
+    if (font.pixelSize() <= 0) {
+        font.setPixelSize(QFontInfo(font).pixelSize());
+    }
+    return font;
+}
+
+} // namespace
+
 TextRuler::TextRuler(const QFont& font)
-    : m_font(font), m_height(QFontMetricsF(font).height()), m_ascent(QFontMetricsF(font).ascent())
+    : m_font(inPixels(font)), m_height(QFontMetricsF(m_font).height()),
+      m_ascent(QFontMetricsF(m_font).ascent())
 {
 }
 

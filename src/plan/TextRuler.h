@@ -13,7 +13,7 @@ namespace plan
 class TextRuler
 {
 public:
-    /// `font` has a size in pixels; its other sizes are measured in proportion.
+    /// Other sizes of the font are measured in proportion.
     explicit TextRuler(const QFont& font);
 
     [[nodiscard]] const QFont& font() const { return m_font; }
