@@ -31,12 +31,20 @@ struct Place {
     int height = 0;
 };
 
+/// A font of the window's design.
+struct Font {
+    QString name = QStringLiteral("Arial");
+    int points = 9; ///< size in points (1/72 inch)
+    bool bold = false;
+};
+
 struct Label {
     QString caption;
     bool visible = true;
     Place place;
     Colour backColor;
     QString toolTip;
+    Font font;
 };
 
 /// A control that is only shown or hidden: a picture or a frame.

@@ -18,6 +18,12 @@ constexpr int kTotalHeight = 285;
 constexpr int kTickWidth = 600;
 constexpr int kFirstHour = 8;
 
+// The header: the title over the establishment on the left, the period's dates on the right.
+constexpr int kTitleTop = -1050;
+constexpr int kNotesTop = -540;
+constexpr int kTitleHeight = 480;
+constexpr int kNotesHeight = 320;
+
 QStringList zones()
 {
     QStringList items;
@@ -33,12 +39,29 @@ QStringList dayNames()
     return {names.begin(), names.end()};
 }
 
+void designHeader(PlanForm& form)
+{
+    form.XSalle.place = {0, kTitleTop, 9700, kTitleHeight};
+    form.XSalle.font = {QStringLiteral("Arial Black"), 18, true};
+    form.Label4[4].place = {0, kNotesTop, 6300, kNotesHeight};
+    form.Label4[4].font = {QStringLiteral("Arial"), 12, true};
+    // "Du", the first day, "au", the last day.
+    constexpr std::array<int, 5> lefts = {10200, 10560, 12840, 13200, 15480};
+    for (std::size_t part = 0; part + 1 < lefts.size(); ++part) {
+        Label& label = form.Label4.at(part);
+        label.place = {lefts.at(part), kNotesTop, lefts.at(part + 1) - lefts.at(part),
+                       kNotesHeight};
+        label.font = {QStringLiteral("Arial"), 11, part % 2 == 1};
+    }
+}
+
 void designPlan(PlanForm& form)
 {
     for (std::size_t tick = 0; tick < form.Label1.size(); ++tick) {
         Label& label = form.Label1.at(tick);
         label.caption = QStringLiteral("%1h00").arg(kFirstHour + static_cast<int>(tick));
         label.place = {kAxisLeft, 0, kTickWidth, kHeaderHeight};
+        label.font.bold = true;
     }
     form.Salle.resize(PlanForm::kRows);
     form.Cap.resize(PlanForm::kRows);
@@ -52,6 +75,7 @@ void designPlan(PlanForm& form)
     }
     for (Label& total : form.Tot) {
         total.place.height = kTotalHeight;
+        total.font.bold = true;
         total.visible = false;
     }
 }
@@ -71,7 +95,9 @@ PlanForm::PlanForm()
       Command3(QStringLiteral("Page Suivante")), Colorer(QStringLiteral("Colorer"), true),
       ChkGrille(QStringLiteral("Grille")), Check3(QStringLiteral("S. Groupées"), true),
       Chk_Compt(QStringLiteral("Comptage")), Command4(QStringLiteral("Changer de Palette")),
-      Command1(QStringLiteral("Imprimer")), Opt_Cap(QStringLiteral("Imprimer Capacité"))
+      Command1(QStringLiteral("Imprimer")), PrintPreview(QStringLiteral("Aperçu")),
+      PrintAllPages(QStringLiteral("Imprimer toutes les pages")),
+      Opt_Cap(QStringLiteral("Imprimer Capacité"))
 {
     XSalle.caption = QStringLiteral("Occupation des Salles du");
     Label4[0].caption = QStringLiteral("Du");
@@ -90,6 +116,7 @@ PlanForm::PlanForm()
     cb_Locaux.design(zones(), 0);
     Command2.enabled = false;
     Command3.enabled = false;
+    designHeader(*this);
     designPlan(*this);
 }
 

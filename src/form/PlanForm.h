@@ -35,7 +35,7 @@ public:
     /// Counts how often all controls were asked to take the font of `Label20`.
     int fontRequests = 0;
 
-    // Header
+    // Header. Its labels lie above the plan, so their tops are negative.
     Label XSalle; ///< "Occupation des Salles du"
     std::array<Label, 5> Label4;
     Label Label11; ///< period number
@@ -86,6 +86,8 @@ public:
     Button Command4;
     Label Label5;
     Button Command1;
+    Button PrintPreview;
+    Button PrintAllPages;
     CheckBox Opt_Cap;
 
     // The plan

@@ -2,16 +2,11 @@
 
 #include "plan/RoomOccupancy.h"
 
-#include <QStringList>
 #include <algorithm>
 
 namespace plan
 {
-namespace
-{
 
-/// The lines as written, without the blanks around them and without empty ones: a box text ends
-/// with a separator that would push its lines off the middle.
 QStringList writtenLines(const QString& text)
 {
     QString unified = text;
@@ -35,7 +30,6 @@ double widest(const TextRuler& ruler, const QStringList& lines)
     return width;
 }
 
-/// Breaks lines between words so that they fit the width where they can.
 QStringList brokenLines(const TextRuler& ruler, const QStringList& lines, double width)
 {
     const double blank = ruler.width(QChar(u' '));
@@ -55,6 +49,9 @@ QStringList brokenLines(const TextRuler& ruler, const QStringList& lines, double
     }
     return broken;
 }
+
+namespace
+{
 
 struct Setting {
     int pixels = 0;

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 
 namespace plan
 {
@@ -14,6 +15,18 @@ namespace plan
 /// stays legible; what then does not fit ends in an ellipsis.
 void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
                  const TextRuler& ruler);
+
+/// The lines of a box text as written, without the blanks around them and without empty ones: a
+/// box text ends with a separator that would push its lines off the middle.
+[[nodiscard]] QStringList writtenLines(const QString& text);
+
+/// The lines broken between words so that they fit the width where they can. Widths are pixels at
+/// the ruler's own size, here and below.
+[[nodiscard]] QStringList brokenLines(const TextRuler& ruler, const QStringList& lines,
+                                      double width);
+
+/// Width of the longest line.
+[[nodiscard]] double widest(const TextRuler& ruler, const QStringList& lines);
 
 /// Smallest font size in pixels that a box text shrinks to.
 constexpr int kSmallestText = 9;

@@ -1,6 +1,7 @@
 #include "plan/CellBox.h"
 
 #include "plan/BoxText.h"
+#include "plan/PrinterCellText.h"
 #include "runtime/Numbers.h"
 
 #include <QColor>
@@ -13,6 +14,13 @@ namespace
 {
 
 using runtime::nearestInteger;
+
+constexpr QColor kFrame(60, 60, 60);
+// Sizes on paper, in points: the frame's line, the gap between frame and text, the hatching.
+constexpr double kFrameLine = 0.5;
+constexpr double kTextGap = 1.5;
+constexpr double kHatchStep = 6.5;
+constexpr double kHatchLine = 0.5;
 
 QColor toColor(form::Colour color)
 {
@@ -28,6 +36,38 @@ double luminance(form::Colour color)
     };
     return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
            0.0722 * linear(color.blue());
+}
+
+/// Diagonal crosses, light enough for the text to stay readable over them.
+void drawHatching(QPainter& surface, const DrawingTarget& target, const QRect& box, QColor ink)
+{
+    ink.setAlpha(64);
+    if (!target.TargetIsPrinter) {
+        surface.setBrush(QBrush(ink, Qt::DiagCrossPattern));
+        surface.drawRect(box);
+        return;
+    }
+    // A pattern is as fine as the printer's pixels, so on paper the lines are drawn one by one.
+    const double step = kHatchStep * target.PixelsPerPoint;
+    surface.save();
+    surface.setClipRect(box, Qt::IntersectClip);
+    surface.setPen(QPen(ink, kHatchLine * target.PixelsPerPoint));
+    for (double x = box.left() - box.height(); x < box.left() + box.width(); x += step) {
+        surface.drawLine(QPointF(x, box.top()),
+                         QPointF(x + box.height(), box.top() + box.height()));
+        surface.drawLine(QPointF(x, box.top() + box.height()),
+                         QPointF(x + box.height(), box.top()));
+    }
+    surface.restore();
+}
+
+/// Where a box's text goes: off the frame and off the labels over the box.
+QRectF textRectangle(const DrawingTarget& target, const BoxStyle& style, const QRect& box)
+{
+    const QMarginsF frame = target.TargetIsPrinter
+                                ? QMarginsF(kTextGap, 0, kTextGap, 0) * target.PixelsPerPoint
+                                : QMarginsF(3, 1, 3, 1);
+    return QRectF(box).marginsRemoved(style.reserved + frame);
 }
 
 } // namespace
@@ -80,22 +120,20 @@ void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle&
     surface.setBrush(fill);
     surface.drawRect(box);
     if (style.hatched) {
-        // Light enough for the text to stay readable over it.
-        QColor hatch = ink;
-        hatch.setAlpha(64);
-        surface.setBrush(QBrush(hatch, Qt::DiagCrossPattern));
-        surface.drawRect(box);
+        drawHatching(surface, target, box, ink);
     }
     surface.setBrush(Qt::NoBrush);
-    surface.setPen(QPen(QColor(60, 60, 60), 0));
+    surface.setPen(QPen(kFrame, target.TargetIsPrinter ? kFrameLine * target.PixelsPerPoint : 0));
     surface.drawRect(box.adjusted(0, 0, -1, -1));
     surface.setPen(ink);
-    const QRectF inner = QRectF(box).marginsRemoved(style.reserved + QMarginsF(3, 1, 3, 1));
-    if (style.ruler != nullptr) {
-        drawBoxText(surface, inner, SanitizeCellText(text), style.textFormat, *style.ruler);
+    const QRectF room = textRectangle(target, style, box);
+    const QString shown = SanitizeCellText(text);
+    if (target.TargetIsPrinter) {
+        PrinterCellText(surface, target, room, shown, style.textFormat);
+    } else if (style.ruler != nullptr) {
+        drawBoxText(surface, room, shown, style.textFormat, *style.ruler);
     } else {
-        drawBoxText(surface, inner, SanitizeCellText(text), style.textFormat,
-                    TextRuler(surface.font()));
+        drawBoxText(surface, room, shown, style.textFormat, TextRuler(surface.font()));
     }
     surface.restore();
 }

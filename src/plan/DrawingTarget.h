@@ -16,6 +16,11 @@ struct DrawingTarget {
     int TargetTwipsPerPixelY = 15;
     /// Twips that 90 minutes take.
     int SlotWidth = context::TimeAxis::kScreenSlotWidth;
+    /// Device pixels of a point (1/72 inch): what fonts and lines on paper are measured in.
+    double PixelsPerPoint = 96.0 / 72.0;
+    /// Points that a box text on paper starts from: 9 on the printer. 0 on the screen, where it
+    /// starts from the painter's font.
+    int FontSize = 0;
 
     [[nodiscard]] double toPixelsX(double twips) const { return twips / TargetTwipsPerPixelX; }
     [[nodiscard]] double toPixelsY(double twips) const { return twips / TargetTwipsPerPixelY; }

@@ -12,6 +12,8 @@ namespace
 constexpr form::Colour kSlotLine = form::Colour::fromRgb(0, 0, 180);
 constexpr form::Colour kQuarterLine = form::Colour::fromRgb(0, 180, 0);
 constexpr form::Colour kRowLine = form::Colour::fromRgb(125, 125, 125);
+// Points that a line is wide on paper.
+constexpr double kPaperLine = 0.3;
 
 } // namespace
 
@@ -50,8 +52,11 @@ void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,
 {
     surface.save();
     surface.setRenderHint(QPainter::Antialiasing, false);
+    // A hairline on the screen; on paper that would be too thin to see.
+    const double width = target.TargetIsPrinter ? kPaperLine * target.PixelsPerPoint : 1;
     for (const GridLine& line : lines) {
-        surface.setPen(QColor(line.color.red(), line.color.green(), line.color.blue()));
+        surface.setPen(
+            QPen(QColor(line.color.red(), line.color.green(), line.color.blue()), width));
         surface.drawLine(
             QPointF(target.toPixelsX(line.x1) + target.TargetXOffset, target.toPixelsY(line.y1)),
             QPointF(target.toPixelsX(line.x2) + target.TargetXOffset, target.toPixelsY(line.y2)));

@@ -18,6 +18,8 @@ QString platformErrorText(ErrorNumber number)
         return QStringLiteral("File not found");
     case ErrorNumber::InvalidUseOfNull:
         return QStringLiteral("Invalid use of Null");
+    case ErrorNumber::PrinterError:
+        return QStringLiteral("Printer error");
     case ErrorNumber::ItemNotFound:
         return QStringLiteral("Item cannot be found in the collection corresponding to the "
                               "requested name or ordinal.");

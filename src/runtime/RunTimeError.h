@@ -17,6 +17,7 @@ enum class ErrorNumber : int {
     TypeMismatch = 13,
     FileNotFound = 53,
     InvalidUseOfNull = 94,
+    PrinterError = 482,
     ItemNotFound = 3265,
     DatabaseFailure = -2147467259,  ///< 80004005: no connection, or the driver failed
     StatementRefused = -2147217900, ///< 80040E14: the database refuses the statement
