@@ -1,0 +1,75 @@
+#include "print/CapacityLabel.h"
+
+#include "print/FittedText.h"
+
+#include <QColor>
+#include <QFontMetricsF>
+#include <algorithm>
+
+namespace print
+{
+namespace
+{
+
+constexpr form::Colour kFits = form::Colour::fromRgb(0, 0, 255);
+constexpr form::Colour kOverfull = form::Colour::fromRgb(255, 0, 0);
+constexpr form::Colour kGroup = form::Colour::fromRgb(220, 220, 220);
+
+// Sizes in points.
+constexpr double kFrame = 1.2;
+constexpr double kPadding = 1.5;
+// Boxes lower than this hold one line: the label then stands beside the text, on half the box.
+constexpr double kOneLine = 18;
+
+form::Font labelFont()
+{
+    return {QStringLiteral("Arial"), 7, true};
+}
+
+} // namespace
+
+CapacityLabel capacityLabel(const plan::PlanBox& box, const QString& places)
+{
+    if (box.group && box.group->overfull) {
+        return {kOverfull, box.group->sizeLabel};
+    }
+    const int size = box.cell.CellStudents != 0 ? box.cell.CellStudents : box.cell.CellCapacity;
+    return {box.group ? kGroup : kFits, QString::number(size) + u'/' + places};
+}
+
+QRectF capacityPlace(const plan::DrawingTarget& target, const QRectF& box,
+                     const CapacityLabel& label)
+{
+    const double point = target.PixelsPerPoint;
+    const form::Font font = labelFont();
+    const QFontMetricsF metrics(paperFont(font, target, font.points));
+    const double most = box.height() < kOneLine * point ? box.width() / 2 : box.width();
+    const double width =
+        std::min(metrics.horizontalAdvance(label.text) + 2 * (kFrame + kPadding) * point, most);
+    const double height = std::min(metrics.ascent() + 2 * kFrame * point, box.height());
+    return {box.right() - width, box.bottom() - height, width, height};
+}
+
+QMarginsF reservedByCapacity(const plan::DrawingTarget& target, const QRectF& box,
+                             const QRectF& place)
+{
+    const bool oneLine = box.height() < kOneLine * target.PixelsPerPoint;
+    return oneLine ? QMarginsF(0, 0, place.width(), 0) : QMarginsF(0, 0, 0, place.height());
+}
+
+void drawCapacity(QPainter& surface, const plan::DrawingTarget& target, const QRectF& place,
+                  const CapacityLabel& label)
+{
+    const double point = target.PixelsPerPoint;
+    const auto within = [&place](double gap) { return place.adjusted(gap, gap, -gap, -gap); };
+    surface.save();
+    // The colour frames the label: black on the blue itself could not be read.
+    surface.fillRect(place, QColor(label.color.red(), label.color.green(), label.color.blue()));
+    surface.fillRect(within(kFrame * point), Qt::white);
+    surface.setPen(Qt::black);
+    drawFitted(surface, target, labelFont(), within((kFrame + kPadding / 2) * point),
+               Qt::AlignCenter, label.text);
+    surface.restore();
+}
+
+} // namespace print

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "form/Colour.h"
+#include "plan/DrawingTarget.h"
+#include "plan/PlanContent.h"
+
+#include <QMarginsF>
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+
+namespace print
+{
+
+/// The size of the classes in a box against the places of its room, as "Imprimer Capacité" asks.
+struct CapacityLabel {
+    form::Colour color; ///< of the frame; the text is black
+    QString text;       ///< "students/places", "Dépassement students/places" when over-full
+};
+
+/// Blue for a single class that fits, red for an over-full room, pale grey for several classes
+/// that fit. The group counter on the screen decides, so that paper and screen never disagree: it
+/// stands over boxes of several classes and over over-full rooms only.
+[[nodiscard]] CapacityLabel capacityLabel(const plan::PlanBox& box, const QString& places);
+
+/// Where the label lies inside its box, in device pixels: the lower right corner.
+[[nodiscard]] QRectF capacityPlace(const plan::DrawingTarget& target, const QRectF& box,
+                                   const CapacityLabel& label);
+/// What the label takes from the box's text, in device pixels.
+[[nodiscard]] QMarginsF reservedByCapacity(const plan::DrawingTarget& target, const QRectF& box,
+                                           const QRectF& place);
+void drawCapacity(QPainter& surface, const plan::DrawingTarget& target, const QRectF& place,
+                  const CapacityLabel& label);
+
+} // namespace print

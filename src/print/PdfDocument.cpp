@@ -1,0 +1,89 @@
+#include "print/PdfDocument.h"
+
+#include "print/PrintJob.h"
+
+#include <QBuffer>
+#include <QHashSeed>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QRegularExpression>
+
+namespace print
+{
+namespace
+{
+
+/// The writer embeds the fonts in the order of a hash table, which differs from run to run unless
+/// its seed is fixed.
+class FixedHashOrder
+{
+public:
+    FixedHashOrder() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~FixedHashOrder() { QHashSeed::resetRandomGlobalSeed(); }
+    FixedHashOrder(const FixedHashOrder&) = delete;
+    FixedHashOrder& operator=(const FixedHashOrder&) = delete;
+};
+
+/// Moves the positions of the table "xref" that lie behind `from` by `distance` bytes.
+QByteArray movedPositions(QByteArray pdf, qsizetype from, qsizetype distance)
+{
+    constexpr qsizetype kDigits = 10;
+    static const QRegularExpression entry(QStringLiteral("^(\\d{10}) \\d{5} n ?\\r?$"),
+                                          QRegularExpression::MultilineOption);
+    const qsizetype table = pdf.lastIndexOf("\nxref");
+    if (table < 0) {
+        return pdf;
+    }
+    // One byte is one character here, so that positions agree.
+    const QString text = QString::fromLatin1(pdf.mid(table));
+    for (auto match = entry.globalMatch(text); match.hasNext();) {
+        const auto found = match.next();
+        const qlonglong position = found.captured(1).toLongLong();
+        if (position > from) {
+            pdf.replace(table + found.capturedStart(1), kDigits,
+                        QByteArray::number(position + distance).rightJustified(kDigits, '0'));
+        }
+    }
+    const qsizetype start = pdf.lastIndexOf("startxref\n") + qsizetype(sizeof "startxref\n") - 1;
+    const qsizetype end = pdf.indexOf('\n', start);
+    return pdf.replace(start, end - start, QByteArray::number(table + 1));
+}
+
+} // namespace
+
+QByteArray withCreationDate(const QByteArray& pdf, QDate date)
+{
+    static const QByteArray key = "/CreationDate (";
+    const qsizetype start = pdf.indexOf(key) + key.size();
+    const qsizetype end = pdf.indexOf(')', start);
+    if (start < key.size() || end < 0) {
+        return pdf;
+    }
+    const QDate day = date.isValid() ? date : QDate(2000, 1, 1);
+    const QByteArray text = "D:" + day.toString(QStringLiteral("yyyyMMdd")).toLatin1() + "000000Z";
+    QByteArray result = pdf;
+    result.replace(start, end - start, text);
+    return movedPositions(std::move(result), start, text.size() - (end - start));
+}
+
+QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date)
+{
+    QByteArray bytes;
+    {
+        const FixedHashOrder fixedOrder;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kSheetResolution);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        layPaper(writer);
+        writer.setCreator(QStringLiteral("Tempora"));
+        if (!sheets.empty()) {
+            writer.setTitle(sheets.front().heading.title);
+        }
+        printSheets(writer, sheets);
+    }
+    return withCreationDate(bytes, date);
+}
+
+} // namespace print

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "print/Sheet.h"
+
+#include <QByteArray>
+#include <QDate>
+#include <vector>
+
+namespace print
+{
+
+/// The sheets as a PDF document on A4 lying across: vector drawing, text that can be searched,
+/// fonts embedded. `date` is the day that the plan shows; it stands as the document's date of
+/// creation, so that the same plan gives the same bytes at any time.
+/// Error: PrinterError.
+[[nodiscard]] QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date);
+
+/// A PDF document of Qt's with its date of creation replaced by a day at 0:00 UTC. The table of
+/// positions at its end is brought into agreement when the date takes more or less room.
+[[nodiscard]] QByteArray withCreationDate(const QByteArray& pdf, QDate date);
+
+} // namespace print

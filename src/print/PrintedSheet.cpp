@@ -1,0 +1,211 @@
+#include "print/PrintedSheet.h"
+
+#include "plan/CellBox.h"
+#include "plan/PlanGrid.h"
+#include "print/CapacityLabel.h"
+#include "print/FittedText.h"
+
+#include <QColor>
+#include <algorithm>
+
+namespace print
+{
+namespace
+{
+
+using plan::DrawingTarget;
+
+constexpr QColor kInk(0, 0, 0);
+constexpr QColor kFrameInk(60, 60, 60);
+// Row colour while the rows are not coloured: paler than on the screen, paper takes ink.
+constexpr form::Colour kPlainRow = form::Colour::fromRgb(240, 240, 240);
+// Points: width of a frame's line, gap between a frame and its text.
+constexpr double kFrameLine = 0.5;
+constexpr double kTextGap = 2;
+
+QColor toColor(form::Colour color)
+{
+    return {color.red(), color.green(), color.blue()};
+}
+
+QRectF pixels(const DrawingTarget& target, const form::Place& place)
+{
+    return {target.toPixelsX(place.left) + target.TargetXOffset, target.toPixelsY(place.top),
+            target.toPixelsX(place.width), target.toPixelsY(place.height)};
+}
+
+void printLabel(QPainter& surface, const DrawingTarget& target, const form::Label& label,
+                const QString& text, Qt::Alignment alignment = Qt::AlignLeft)
+{
+    drawFitted(surface, target, label.font, pixels(target, label.place),
+               alignment | Qt::AlignVCenter, text);
+}
+
+void printTicks(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+{
+    for (const form::Label& tick : sheet.page.form->Label1) {
+        const QRectF place = pixels(target, tick.place);
+        surface.setPen(QPen(kInk, kFrameLine * target.PixelsPerPoint));
+        surface.drawLine(QPointF(place.left(), place.bottom() - 4 * target.PixelsPerPoint),
+                         place.bottomLeft());
+        printLabel(surface, target, tick, tick.caption);
+    }
+}
+
+void printTotals(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+{
+    for (const form::Label& total : sheet.page.form->Tot) {
+        if (total.visible) {
+            surface.setPen(QPen(kFrameInk, kFrameLine * target.PixelsPerPoint));
+            surface.setBrush(Qt::NoBrush);
+            surface.drawRect(pixels(target, total.place));
+            surface.setPen(kInk);
+            printLabel(surface, target, total, total.caption, Qt::AlignHCenter);
+        }
+    }
+}
+
+/// What the labels leave out: the university beside the establishment, and over the dates the
+/// period with the choice of week, rooms and subject.
+void printNotes(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
+                double establishmentWidth)
+{
+    const form::PlanForm& form = *sheet.page.form;
+    const double gap = 6 * target.PixelsPerPoint;
+    QRectF university = pixels(target, form.Label4[4].place);
+    const double dates = pixels(target, form.Label4[0].place).left();
+    university.setLeft(university.left() + establishmentWidth + gap);
+    university.setRight(dates - gap);
+    drawFitted(surface, target, {QStringLiteral("Arial"), 11, false}, university,
+               Qt::AlignLeft | Qt::AlignVCenter, sheet.heading.university);
+    QRectF period = pixels(target, form.XSalle.place);
+    period.setLeft(dates);
+    period.setRight(pixels(target, form.Label4[3].place).right());
+    drawFitted(surface, target, {QStringLiteral("Arial"), 12, true}, period,
+               Qt::AlignLeft | Qt::AlignVCenter,
+               joined({sheet.heading.day, sheet.heading.period, sheet.heading.choice}));
+}
+
+/// Keeps what follows off the places and off the paper's edge: the last hour has quarters of its
+/// own, and a box of an absurd length would leave the page.
+void clipToPlan(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+{
+    const double end = target.toPixelsX(sheet.axisEnd) + target.TargetXOffset;
+    surface.setClipRect(QRectF(0, 0, end + target.PixelsPerPoint, target.toPixelsY(sheet.bottom)));
+}
+
+void printRowLabel(QPainter& surface, const DrawingTarget& target, const form::Label& label,
+                   form::Colour color, Qt::Alignment alignment)
+{
+    const QRectF place = pixels(target, label.place);
+    const double gap = kTextGap * target.PixelsPerPoint;
+    surface.setPen(QPen(kFrameInk, kFrameLine * target.PixelsPerPoint));
+    surface.setBrush(toColor(color));
+    surface.drawRect(place);
+    surface.setPen(toColor(plan::readableOn(color)));
+    form::Font font = label.font;
+    font.bold = true;
+    drawFitted(surface, target, font, place.adjusted(gap, 0, -gap, 0), alignment | Qt::AlignVCenter,
+               label.caption);
+}
+
+void printBox(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
+              const plan::PlanRow& row, form::Colour color, const plan::PlanBox& box)
+{
+    const form::PlanForm& form = *sheet.page.form;
+    const form::Place& room = form.Salle[static_cast<std::size_t>(row.index)].place;
+    const double x = target.toPixelsX(box.x);
+    const double y = target.toPixelsY(room.top);
+    plan::BoxStyle style;
+    style.fill = color;
+    style.hatched = box.makeUp;
+    style.rowHeight = form.Salle.front().place.height;
+    style.textFormat = sheet.page.layout.CellTextFormat;
+    if (form.Check3.isChecked() || !form.Opt_Cap.isChecked()) {
+        plan::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
+        return;
+    }
+    const QRectF place = plan::boxRectangle(target, x, y, box.minutes, style.rowHeight);
+    const CapacityLabel label = capacityLabel(box, row.places);
+    const QRectF corner = capacityPlace(target, place, label);
+    style.reserved = reservedByCapacity(target, place, corner);
+    plan::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
+    drawCapacity(surface, target, corner, label);
+}
+
+} // namespace
+
+void PrintHeader(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+{
+    const form::PlanForm& form = *sheet.page.form;
+    surface.save();
+    surface.setPen(kInk);
+    printLabel(surface, target, form.XSalle, sheet.heading.title);
+    const form::Label& establishment = form.Label4[4];
+    const double width =
+        drawFitted(surface, target, establishment.font, pixels(target, establishment.place),
+                   Qt::AlignLeft | Qt::AlignVCenter, establishment.caption);
+    for (std::size_t part = 0; part < 4; ++part) {
+        printLabel(surface, target, form.Label4.at(part), form.Label4.at(part).caption);
+    }
+    printNotes(surface, target, sheet, width);
+    printTicks(surface, target, sheet);
+    printTotals(surface, target, sheet);
+    surface.restore();
+}
+
+void PrintPlanBody(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+{
+    const form::PlanForm& form = *sheet.page.form;
+    surface.save();
+    clipToPlan(surface, target, sheet);
+    plan::DrawPlanGrid(surface, target, plan::planGridLines(form, sheet.page.RowsShown, true));
+    surface.restore();
+    surface.save();
+    surface.setFont(paperFont(form.Label20.font, target, target.FontSize));
+    // The boxes are the ones that the refresh worked out, not looked up again: they come from the
+    // very lookups that paper needs, and what is printed is what the user saw.
+    for (const plan::PlanRow& row : sheet.page.content.rows) {
+        const form::Label& room = form.Salle.at(static_cast<std::size_t>(row.index));
+        if (!room.visible) {
+            continue;
+        }
+        const form::Colour color = form.Colorer.isChecked() ? room.backColor : kPlainRow;
+        surface.save();
+        printRowLabel(surface, target, room, color, Qt::AlignLeft);
+        printRowLabel(surface, target, form.Cap.at(static_cast<std::size_t>(row.index)), color,
+                      Qt::AlignRight);
+        surface.restore();
+        surface.save();
+        clipToPlan(surface, target, sheet);
+        for (const plan::PlanBox& box : row.boxes) {
+            printBox(surface, target, sheet, row, color, box);
+        }
+        surface.restore();
+    }
+    surface.restore();
+}
+
+void printFooter(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+{
+    const auto& rows = sheet.page.content.rows;
+    const bool makeUps = std::any_of(rows.begin(), rows.end(), [](const plan::PlanRow& row) {
+        return std::any_of(row.boxes.begin(), row.boxes.end(),
+                           [](const plan::PlanBox& box) { return box.makeUp; });
+    });
+    const form::Font font{QStringLiteral("Arial"), 8, false};
+    const QRectF line = pixels(target, {0, sheet.bottom + 60, sheet.right, kFooterTwips - 60});
+    surface.save();
+    surface.setPen(kInk);
+    if (makeUps) {
+        drawFitted(surface, target, font, line, Qt::AlignLeft | Qt::AlignVCenter,
+                   QStringLiteral("Case hachurée : rattrapage"));
+    }
+    if (sheet.count > 1) {
+        drawFitted(surface, target, font, line, Qt::AlignRight | Qt::AlignVCenter,
+                   QStringLiteral("Page %1 / %2").arg(sheet.number).arg(sheet.count));
+    }
+    surface.restore();
+}
+
+} // namespace print

@@ -1,0 +1,168 @@
+#include "print/Sheet.h"
+
+#include "plan/RoomRows.h"
+#include "runtime/Numbers.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace print
+{
+namespace
+{
+
+using context::TimeAxis;
+
+// Twips between the time axis and the places, and between the rows and the totals.
+constexpr int kAfterAxis = 60;
+constexpr int kAboveTotals = 60;
+// Twips that A4 lying across leaves between header, totals and footer.
+constexpr int kRowsOnA4 = 9600;
+constexpr double kMostRows = form::PlanForm::kRows;
+constexpr int kMinutesPerDay = 24 * 60;
+
+/// Calls `visit` with the start and the length of every slot of the day and of every box.
+template <typename Visit>
+void forEachStretch(const plan::PlanContent& content, const context::TimeSlots& slots, Visit visit)
+{
+    for (int number = 1; number <= form::PlanForm::kSlotLabels; ++number) {
+        if (const auto& slot = slots.slot(number)) {
+            visit(slot->start, slot->minutes);
+        }
+    }
+    for (const plan::PlanRow& row : content.rows) {
+        for (const plan::PlanBox& box : row.boxes) {
+            visit(box.cell.CellStart, box.minutes);
+        }
+    }
+}
+
+/// The printer's axis. What begins before the first hour moves the hours to the right: on paper
+/// the room names would lie under it.
+TimeAxis paperAxis(const plan::PlanPage& page, const context::TimeSlots& slots)
+{
+    const form::Label& origin = page.form->Label1.front();
+    TimeAxis axis{origin.caption, origin.place.left, TimeAxis::kPrinterSlotWidth};
+    int first = axis.originLeft;
+    forEachStretch(page.content, slots, [&](const QString& start, int) {
+        first = std::min(first, axis.TimeToX(start));
+    });
+    axis.originLeft += axis.originLeft - first;
+    return axis;
+}
+
+int axisEnd(const plan::PlanPage& page, const context::TimeSlots& slots, const TimeAxis& axis)
+{
+    int end = axis.TimeToX(page.form->Label1.back().caption);
+    forEachStretch(page.content, slots, [&](const QString& start, int minutes) {
+        end = std::max(end, axis.TimeToX(start) + runtime::nearestInteger(axis.widthOf(minutes)));
+    });
+    // A box of an absurd length must not shrink the rest: the day ends at midnight.
+    const int midnight = axis.TimeToX(QStringLiteral("0h00")) +
+                         runtime::nearestInteger(axis.widthOf(kMinutesPerDay));
+    return std::min(end, midnight);
+}
+
+void placeTicks(form::PlanForm& form, const TimeAxis& axis)
+{
+    for (form::Label& tick : form.Label1) {
+        tick.place.left = axis.TimeToX(tick.caption);
+    }
+}
+
+void placeBoxes(plan::PlanContent& content, const TimeAxis& axis)
+{
+    for (plan::PlanRow& row : content.rows) {
+        for (plan::PlanBox& box : row.boxes) {
+            box.x = axis.TimeToX(box.cell.CellStart);
+            box.width = axis.widthOf(runtime::leadingNumber(box.cell.CellDuration));
+        }
+    }
+}
+
+/// Height of the rows on paper: low rows grow to make use of the page, as far as half again, so
+/// that a page of many rooms can be read. A last page of few rooms has the rows of the others.
+int rowHeight(const form::PlanForm& form, int rowsShown)
+{
+    const form::Place& model = form.Salle.front().place;
+    const double wanted = runtime::leadingNumber(form.Total_L_P.text());
+    const int rows = std::max({1, rowsShown, static_cast<int>(std::min(wanted, kMostRows))});
+    const int room = (kRowsOnA4 - model.top) / rows - plan::kRowGap;
+    return std::clamp(room, model.height, model.height * 3 / 2);
+}
+
+void placeRows(form::PlanForm& form, int rowsShown, int end)
+{
+    form::Place& model = form.Salle.front().place;
+    model.height = rowHeight(form, rowsShown);
+    model.top -= model.height + plan::kRowGap;
+    form.scaleWidth = 0;
+    plan::PlaceRoomRows(form);
+    // The places stand at the window's edge; paper is as wide as its axis needs.
+    form.scaleWidth = end + kAfterAxis - form.Cap.front().place.left;
+    plan::PlaceRoomRows(form);
+}
+
+int rowsBottom(const form::PlanForm& form, int rowsShown)
+{
+    const int last = std::clamp(rowsShown, 0, form::PlanForm::kRows - 1);
+    const form::Place& place = form.Salle[static_cast<std::size_t>(last)].place;
+    return place.top + place.height;
+}
+
+/// Returns the bottom of the totals, or of the rows while no total is shown.
+int placeTotals(form::PlanForm& form, const context::TimeSlots& slots, const TimeAxis& axis,
+                int rows)
+{
+    int bottom = rows;
+    for (int number = 1; number <= form::PlanForm::kSlotLabels; ++number) {
+        form::Label& total = form.Tot.at(static_cast<std::size_t>(number - 1));
+        const auto& slot = slots.slot(number);
+        if (!slot) {
+            total.visible = false;
+        }
+        if (total.visible) {
+            total.place.left = axis.TimeToX(slot->start);
+            total.place.width = runtime::nearestInteger(axis.widthOf(slot->minutes));
+            total.place.top = rows + kAboveTotals;
+            bottom = total.place.top + total.place.height;
+        }
+    }
+    return bottom;
+}
+
+} // namespace
+
+Sheet makeSheet(plan::PlanPage page, const context::TimeSlots& slots,
+                const context::EstablishmentHeader& establishment)
+{
+    Sheet sheet;
+    sheet.page = std::move(page);
+    form::PlanForm& form = *sheet.page.form;
+    sheet.heading = headingOf(form, establishment);
+    const TimeAxis axis = paperAxis(sheet.page, slots);
+    sheet.axisEnd = axisEnd(sheet.page, slots, axis);
+    placeTicks(form, axis);
+    placeBoxes(sheet.page.content, axis);
+    placeRows(form, sheet.page.RowsShown, sheet.axisEnd);
+    const form::Place& places = form.Cap.front().place;
+    sheet.right = places.left + places.width;
+    sheet.bottom = placeTotals(form, slots, axis, rowsBottom(form, sheet.page.RowsShown));
+    return sheet;
+}
+
+std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages, const context::TimeSlots& slots,
+                              const context::EstablishmentHeader& establishment)
+{
+    std::vector<Sheet> sheets;
+    for (plan::PlanPage& page : pages) {
+        sheets.push_back(makeSheet(std::move(page), slots, establishment));
+        sheets.back().number = static_cast<int>(sheets.size());
+    }
+    for (Sheet& sheet : sheets) {
+        sheet.count = static_cast<int>(sheets.size());
+    }
+    return sheets;
+}
+
+} // namespace print

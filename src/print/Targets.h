@@ -1,0 +1,19 @@
+#pragma once
+
+#include "plan/DrawingTarget.h"
+
+#include <QPaintDevice>
+
+namespace print
+{
+
+/// The screen's drawing target at 96 dots per inch; a window that fits the plan to its size
+/// changes how many twips a pixel stands for.
+[[nodiscard]] plan::DrawingTarget UseScreenTarget();
+
+/// The drawing target of a printer or of anything else that paper is laid out for. Targets are
+/// values: the screen's own is in force for the screen all the time, and there is nothing to
+/// switch back.
+[[nodiscard]] plan::DrawingTarget UsePrinterTarget(const QPaintDevice& printer);
+
+} // namespace print
