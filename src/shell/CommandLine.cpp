@@ -1,5 +1,7 @@
 #include "shell/CommandLine.h"
 
+#include "shell/Export.h"
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -22,7 +24,9 @@ struct OptionText {
 const std::vector<OptionText>& optionTexts()
 {
     static const std::vector<OptionText> texts = {
-        {"export", "FICHIER.json|FICHIER.png", "écrit le plan dans un fichier, sans fenêtre"},
+        {"export", "FICHIER.json|.png|.pdf|.csv|.html",
+         "écrit le plan dans un fichier, sans fenêtre"},
+        {"all-pages", nullptr, "écrit toutes les pages (avec --export en .pdf, .csv ou .html)"},
         {"settings", "FICHIER.ini", "remplace les paramètres de l’utilisateur pour cette fois"},
         {"tranche", "NOM", "période affichée"},
         {"mode", "teaching|exam", "enseignement ou examens"},
@@ -194,9 +198,14 @@ void readFiles(const Reader& reader, CommandLine& line)
     line.exportFile = reader.text("export");
     if (reader.has("export")) {
         const QString suffix = QFileInfo(line.exportFile).suffix().toLower();
-        if (suffix != u"json" && suffix != u"png") {
+        if (!exportEndings().contains(suffix)) {
             reader.failWithValue("export");
         }
+    }
+    line.allPages = reader.has("all-pages");
+    if (line.allPages && !holdsAllPages(QFileInfo(line.exportFile).suffix().toLower())) {
+        fail(QStringLiteral("all-pages"),
+             QStringLiteral("demande --export en .pdf, .csv ou .html"));
     }
     line.settingsFile = reader.text("settings");
     if (reader.has("settings") && !QFileInfo(line.settingsFile).isFile()) {

@@ -38,6 +38,7 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     QString exportFile;
+    bool allPages = false; ///< the export holds every page of the room set
     QString settingsFile;
     std::optional<std::uint32_t> seed;
     bool plain = false; ///< one statement per question

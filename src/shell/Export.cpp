@@ -1,10 +1,15 @@
 #include "shell/Export.h"
 
+#include "shell/CsvExport.h"
+#include "shell/HtmlExport.h"
 #include "shell/JsonExport.h"
+#include "shell/PdfExport.h"
 #include "shell/PictureExport.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <algorithm>
+#include <vector>
 
 namespace shell
 {
@@ -40,10 +45,67 @@ void writeWholeFile(const QString& path, const QByteArray& bytes)
     }
 }
 
-void exportPlan(const Shell& shell, const QString& path)
+namespace
 {
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    writeWholeFile(path, suffix == u"png" ? planAsPng(shell) : planAsJson(shell));
+
+/// How the plan becomes a file of one form: as it stands, or from pages.
+struct Form {
+    QString ending;
+    QByteArray (*ofShown)(const Shell&) = nullptr;
+    QByteArray (*ofPages)(const Shell&, std::vector<plan::PlanPage>) = nullptr;
+};
+
+const std::vector<Form>& forms()
+{
+    static const std::vector<Form> list = {{QStringLiteral("json"), planAsJson, nullptr},
+                                           {QStringLiteral("png"), planAsPng, nullptr},
+                                           {QStringLiteral("pdf"), nullptr, planAsPdf},
+                                           {QStringLiteral("csv"), nullptr, planAsCsv},
+                                           {QStringLiteral("html"), nullptr, planAsHtml}};
+    return list;
+}
+
+const Form& formOf(const QString& ending)
+{
+    const auto found = std::find_if(forms().begin(), forms().end(),
+                                    [&](const Form& form) { return form.ending == ending; });
+    return found != forms().end() ? *found : forms().front();
+}
+
+std::vector<plan::PlanPage> pagesOf(Shell& shell, bool allPages)
+{
+    if (allPages) {
+        return shell.allPages();
+    }
+    std::vector<plan::PlanPage> pages;
+    pages.push_back(shell.shownPage());
+    return pages;
+}
+
+} // namespace
+
+const QStringList& exportEndings()
+{
+    static const QStringList endings = [] {
+        QStringList list;
+        for (const Form& form : forms()) {
+            list.append(form.ending);
+        }
+        return list;
+    }();
+    return endings;
+}
+
+bool holdsAllPages(const QString& ending)
+{
+    return formOf(ending).ofPages != nullptr;
+}
+
+void exportPlan(Shell& shell, const QString& path, bool allPages)
+{
+    const Form& form = formOf(QFileInfo(path).suffix().toLower());
+    writeWholeFile(path, form.ofPages != nullptr ? form.ofPages(shell, pagesOf(shell, allPages))
+                                                 : form.ofShown(shell));
 }
 
 } // namespace shell

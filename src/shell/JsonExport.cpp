@@ -1,6 +1,7 @@
 #include "shell/JsonExport.h"
 
 #include "runtime/Numbers.h"
+#include "shell/HtmlText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,14 +13,6 @@ namespace
 {
 
 using Key = QLatin1String;
-
-QString colorText(form::Colour color)
-{
-    return QStringLiteral("#%1%2%3")
-        .arg(color.red(), 2, 16, QLatin1Char('0'))
-        .arg(color.green(), 2, 16, QLatin1Char('0'))
-        .arg(color.blue(), 2, 16, QLatin1Char('0'));
-}
 
 QJsonObject axisObject(const Shell& shell)
 {

@@ -1,6 +1,7 @@
 #include "shell/PictureExport.h"
 
 #include "plan/PlanPainter.h"
+#include "print/Targets.h"
 #include "runtime/FrenchDate.h"
 
 #include <QBuffer>
@@ -46,7 +47,7 @@ void paintHeader(QPainter& painter, const Shell& shell, const QRectF& area)
 
 QByteArray planAsPng(const Shell& shell)
 {
-    const plan::PlanScene scene = shell.scene(plan::DrawingTarget());
+    const plan::PlanScene scene = shell.scene(print::UseScreenTarget());
     const double bottom = plan::PlanPainter::rowsBottom(scene);
     const QSize size(
         static_cast<int>(std::ceil(scene.target.toPixelsX(shell.form().scaleWidth))) + 2 * kMargin,

@@ -15,6 +15,7 @@
 #include "plan/Paging.h"
 #include "plan/PlainRowSource.h"
 #include "plan/PlanOptions.h"
+#include "plan/PlanPage.h"
 #include "plan/PlanPainter.h"
 #include "plan/PlanRefresh.h"
 #include "plan/SubjectFilter.h"
@@ -26,6 +27,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace shell
 {
@@ -94,6 +96,12 @@ public:
     [[nodiscard]] const plan::CellLayout& cellLayout() const { return m_layout; }
     /// Everything needed to draw the plan on the target.
     [[nodiscard]] plan::PlanScene scene(const plan::DrawingTarget& target) const;
+    /// The page that the window shows, as values of its own.
+    [[nodiscard]] plan::PlanPage shownPage() const;
+    /// Every page of the room set from the first one on, as "Page Suivante" would show them; the
+    /// window stays where it is. Pages without a room are left out, unless there are no others.
+    /// Errors: those of a refresh, any database error.
+    [[nodiscard]] std::vector<plan::PlanPage> allPages();
 
 private:
     void RefreshPlan() override { m_refresh.RefreshPlan(); }

@@ -178,9 +178,9 @@ INSTANTIATE_TEST_SUITE_P(
                 "--zone : il manque une valeur ; valeurs acceptées : 0..9"},
         Mistake{"switchWithValue", {"--neutral=1"}, "--neutral : n’accepte pas de valeur"},
         Mistake{"exportEnding",
-                {"--export", "plan.pdf"},
-                "--export : valeur « plan.pdf » refusée ; valeurs acceptées : "
-                "FICHIER.json|FICHIER.png"},
+                {"--export", "plan.doc"},
+                "--export : valeur « plan.doc » refusée ; valeurs acceptées : "
+                "FICHIER.json|.png|.pdf|.csv|.html"},
         Mistake{"settingsFile",
                 {"--settings", "/nowhere/a.ini"},
                 "--settings : le fichier « /nowhere/a.ini » n’existe pas ; valeurs acceptées : "
