@@ -153,4 +153,4 @@ build() {
 # What building the program takes, and what it needs to run.
 # shellcheck disable=SC2034 # the sourcing script uses it
 build_packages=(cmake fonts-liberation g++ libsqlite3-dev libsqliteodbc ninja-build odbc-mariadb
-    qt6-base-dev sqlite3 unixodbc-dev)
+    qt6-base-dev qt6-translations-l10n sqlite3 unixodbc-dev)

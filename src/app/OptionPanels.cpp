@@ -236,9 +236,17 @@ void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, shell::Shell& shell)
     QGridLayout* grid = addPanel(band, QStringLiteral("Impression"));
     grid->addWidget(
         make.button("Command1", form.Command1, QStringLiteral("Imprimer la page affichée")), 0, 0);
+    grid->addWidget(make.button("PrintPreview", form.PrintPreview,
+                                QStringLiteral("Voir la feuille avant de l’imprimer")),
+                    0, 1);
+    grid->addWidget(make.button("PrintAllPages", form.PrintAllPages,
+                                QStringLiteral("Imprimer toutes les salles, une feuille par "
+                                               "page")),
+                    1, 0, 1, 2);
     grid->addWidget(make.check("Opt_Cap", form.Opt_Cap,
-                               QStringLiteral("Imprimer l’effectif et les places de chaque case")),
-                    1, 0);
+                               QStringLiteral("Imprimer l’effectif et les places de chaque case, "
+                                              "quand « S. Groupées » n’est pas coché")),
+                    2, 0, 1, 2);
 }
 
 } // namespace

@@ -33,6 +33,7 @@ PlClasse::PlClasse(shell::Settings settings, shell::Environment environment)
     : m_guide(environment.applicationFolder + QStringLiteral("/docs/guide.md")),
       m_shell(std::move(settings), tieToWindow(std::move(environment))), m_keys(makeKeyState()),
       m_marking(m_shell.refresh(), m_shell.absences(), *m_keys),
+      m_printing(m_shell, platformPrintDialogs(this)),
       m_mirror([this](const std::function<void()>& action) { forward(action); })
 {
     setObjectName(QStringLiteral("PlClasse"));

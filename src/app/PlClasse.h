@@ -3,6 +3,7 @@
 #include "absences/Marking.h"
 #include "app/FormMirror.h"
 #include "app/KeyState.h"
+#include "app/Printing.h"
 #include "shell/CommandLine.h"
 #include "shell/Shell.h"
 
@@ -58,6 +59,7 @@ private:
     shell::Shell m_shell;
     std::unique_ptr<absences::AsyncKeyState> m_keys;
     absences::Marking m_marking;
+    Printing m_printing;
     FormMirror m_mirror;
     OptionPanels* m_options = nullptr;
     PlanView* m_view = nullptr;

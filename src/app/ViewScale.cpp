@@ -1,6 +1,7 @@
 #include "app/ViewScale.h"
 
 #include "plan/RoomRows.h"
+#include "print/Targets.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,7 +36,7 @@ int mostTwipsDown(int rowHeight)
 
 plan::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows, QSize view)
 {
-    plan::DrawingTarget target;
+    plan::DrawingTarget target = print::UseScreenTarget();
     const double across = axisEnd + kAfterAxis + form.Cap.front().place.width + kAfterPlaces;
     target.TargetTwipsPerPixelX =
         std::clamp(across / std::max(1, view.width()), kFewestTwipsAcross, kMostTwipsAcross);

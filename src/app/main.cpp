@@ -1,11 +1,13 @@
 #include "app/ErrorReport.h"
 #include "app/PlClasse.h"
+#include "app/PlatformTexts.h"
 #include "shell/CommandLine.h"
 #include "shell/Export.h"
 #include "shell/Player.h"
 
 #include <QApplication>
 #include <QStyleFactory>
+#include <QTranslator>
 
 namespace
 {
@@ -65,7 +67,7 @@ void exportWithoutWindow(const shell::CommandLine& line)
     shell.fitPicture();
     shell.Form_Activate();
     shell::play(shell, line);
-    shell::exportPlan(shell, line.exportFile);
+    shell::exportPlan(shell, line.exportFile, line.allPages);
 }
 
 int runWindow(const shell::CommandLine& line)
@@ -111,6 +113,10 @@ int runProgram(int argc, char* argv[])
     }
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QApplication application(argc, argv);
+    QTranslator french;
+    if (app::loadFrenchTexts(french)) {
+        QCoreApplication::installTranslator(&french);
+    }
     if (exporting) {
         exportWithoutWindow(line);
         return kDone;

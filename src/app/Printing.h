@@ -1,0 +1,57 @@
+#pragma once
+
+#include "plan/PlanPage.h"
+#include "print/Sheet.h"
+
+#include <functional>
+#include <vector>
+
+class QPrinter;
+class QWidget;
+
+namespace shell
+{
+class Shell;
+}
+
+namespace app
+{
+
+/// The dialogs of printing; tests answer for them.
+struct PrintDialogs {
+    /// Lets the user choose a printer and which of the `sheets` to print. False: nothing is.
+    std::function<bool(QPrinter& printer, int sheets)> choosePrinter;
+    /// Shows what `paint` paints on the printer, until the user closes it.
+    std::function<void(QPrinter& printer, const std::function<void(QPrinter&)>& paint)> preview;
+};
+
+/// The platform's own dialogs, over a window. Without a printer they offer a PDF file.
+[[nodiscard]] PrintDialogs platformPrintDialogs(QWidget* window);
+
+/// The buttons "Imprimer", "Aperçu" and "Imprimer toutes les pages". Sheets are made from values,
+/// so printing never changes what the window shows.
+class Printing
+{
+public:
+    /// Ties the buttons of the program's form to this object; both live as long as the window.
+    Printing(shell::Shell& shell, PrintDialogs dialogs);
+
+    /// "Imprimer": the page that the window shows, on one sheet.
+    /// Error: PrinterError; so below.
+    void Command1_Click();
+    /// "Aperçu": the same sheet on the screen.
+    void PrintPreview_Click();
+    /// "Imprimer toutes les pages": a sheet for every page of the room set.
+    /// Errors: those of a refresh and any database error as well.
+    void PrintAllPages_Click();
+
+private:
+    [[nodiscard]] std::vector<print::Sheet> shownSheet();
+    [[nodiscard]] std::vector<print::Sheet> sheetsOf(std::vector<plan::PlanPage> pages) const;
+    void print(std::vector<print::Sheet> sheets);
+
+    shell::Shell& m_shell;
+    PrintDialogs m_dialogs;
+};
+
+} // namespace app
