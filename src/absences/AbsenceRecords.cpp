@@ -96,6 +96,7 @@ bool AbsenceRecords::Existe_AbsEtud(const Marqueur& marker, const QString& class
 
 void AbsenceRecords::Basculer_AbsClasse(Marqueur& marker, const QString& className)
 {
+    ++m_toggles;
     const QString record = classRecordName(marker, className);
     const bool removed = runtime::during(removal(record), [&] {
         return m_database.Db().deleteFirst(classSearch(marker, className));
@@ -134,6 +135,7 @@ void AbsenceRecords::addClass(const Marqueur& marker, const QString& className)
 void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className,
                                       const QString& name)
 {
+    ++m_toggles;
     const QString record = studentRecordName(marker, className);
     const bool removed = runtime::during(removal(record), [&] {
         // Two blanks before "and", where the test has one: both find the same rows.

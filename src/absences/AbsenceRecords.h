@@ -36,6 +36,9 @@ public:
     /// with nothing written; any database error as above.
     void Basculer_AbsEtud(plan::Marqueur& marker, const QString& className, const QString& name);
 
+    /// How many toggles there have been: what was known of the tables before counts no more.
+    [[nodiscard]] int toggleCount() const { return m_toggles; }
+
 private:
     [[nodiscard]] bool exists(const QString& search);
     [[nodiscard]] QString classSearch(const plan::Marqueur& marker, const QString& className) const;
@@ -45,6 +48,7 @@ private:
     void addStudent(const plan::Marqueur& marker, const QString& className, const QString& name);
 
     db::Database& m_database;
+    int m_toggles = 0;
 };
 
 /// Time of day at which a séance ends, as "hh:mm"; past midnight it starts from 00:00 again.

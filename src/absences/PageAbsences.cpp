@@ -8,6 +8,7 @@ namespace absences
 {
 void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 {
+    m_togglesBefore = m_plain.toggleCount();
     m_date = questions.date;
     m_classNames = db::plainLiterals(questions.classNames);
     m_starts = db::plainLiterals(questions.starts);
@@ -68,8 +69,8 @@ void PageAbsences::fetchStudents()
 
 bool PageAbsences::isPrepared(const plan::Marqueur& marker, const QString& className) const
 {
-    return marker.Jour == m_date && m_classNames.contains(className) &&
-           m_starts.contains(marker.Debut);
+    return m_plain.toggleCount() == m_togglesBefore && marker.Jour == m_date &&
+           m_classNames.contains(className) && m_starts.contains(marker.Debut);
 }
 
 bool PageAbsences::Existe_AbsClasse(const plan::Marqueur& marker, const QString& className)

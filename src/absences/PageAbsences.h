@@ -1,5 +1,6 @@
 #pragma once
 
+#include "absences/AbsenceRecords.h"
 #include "db/Database.h"
 #include "db/MatchMasks.h"
 #include "plan/AbsenceTests.h"
@@ -15,13 +16,14 @@ namespace absences
 {
 
 /// Answers a refresh's questions about absences from two statements for the whole page. The
-/// database itself says which record is about which class and time. What it could not fetch, or was
-/// not told of, it leaves to the plain tests.
+/// database itself says which record is about which class and time. What it could not fetch, was
+/// not told of, or fetched before the user toggled an absence in the middle of the refresh, it
+/// leaves to the plain tests.
 class PageAbsences : public plan::AbsenceTests
 {
 public:
     /// Both outlive this one.
-    PageAbsences(db::Database& database, plan::AbsenceTests& plain)
+    PageAbsences(db::Database& database, AbsenceRecords& plain)
         : m_database(database), m_plain(plain)
     {
     }
@@ -40,7 +42,8 @@ private:
     void fetchStudents();
 
     db::Database& m_database;
-    plan::AbsenceTests& m_plain;
+    AbsenceRecords& m_plain;
+    int m_togglesBefore = 0; ///< the plain tests' count when the answers were fetched
     QDate m_date;
     QStringList m_classNames;
     QStringList m_starts;
