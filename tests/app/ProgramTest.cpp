@@ -172,7 +172,7 @@ TEST_F(ProgramAlone, helps)
     EXPECT_EQ(program.errors(), "");
     const QString help = program.output();
     EXPECT_TRUE(help.startsWith("Usage : tempora [options]\n"));
-    EXPECT_TRUE(help.contains("--export FICHIER.json|FICHIER.png"));
+    EXPECT_TRUE(help.contains("--export FICHIER.json|.png|.pdf|.csv|.html"));
 }
 
 TEST_F(ProgramAlone, tellsItsVersion)
