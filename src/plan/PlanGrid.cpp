@@ -3,6 +3,7 @@
 #include "plan/RoomRows.h"
 
 #include <QColor>
+#include <algorithm>
 
 namespace plan
 {
@@ -53,7 +54,8 @@ void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,
     surface.save();
     surface.setRenderHint(QPainter::Antialiasing, false);
     // A hairline on the screen; on paper that would be too thin to see.
-    const double width = target.TargetIsPrinter ? kPaperLine * target.PixelsPerPoint : 1;
+    const double width =
+        target.TargetIsPrinter ? std::max(1.0, kPaperLine * target.PixelsPerPoint) : 1.0;
     for (const GridLine& line : lines) {
         surface.setPen(
             QPen(QColor(line.color.red(), line.color.green(), line.color.blue()), width));

@@ -37,7 +37,7 @@ struct Scale {
 /// right one as well.
 QSizeF sizeOf(const Sheet& sheet, const plan::DrawingTarget& target)
 {
-    return {target.toPixelsX(sheet.right) + 2.0 * target.TargetXOffset,
+    return {target.toPixelsX(sheet.width) + 2.0 * target.TargetXOffset,
             target.toPixelsY(kHeaderTwips + sheet.bottom + kFooterTwips)};
 }
 

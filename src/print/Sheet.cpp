@@ -110,6 +110,15 @@ int rowsBottom(const form::PlanForm& form, int rowsShown)
     return place.top + place.height;
 }
 
+int headerRight(const form::PlanForm& form)
+{
+    int right = form.XSalle.place.left + form.XSalle.place.width;
+    for (const form::Label& label : form.Label4) {
+        right = std::max(right, label.place.left + label.place.width);
+    }
+    return right;
+}
+
 /// Returns the bottom of the totals, or of the rows while no total is shown.
 int placeTotals(form::PlanForm& form, const context::TimeSlots& slots, const TimeAxis& axis,
                 int rows)
@@ -147,6 +156,7 @@ Sheet makeSheet(plan::PlanPage page, const context::TimeSlots& slots,
     placeRows(form, sheet.page.RowsShown, sheet.axisEnd);
     const form::Place& places = form.Cap.front().place;
     sheet.right = places.left + places.width;
+    sheet.width = std::max(sheet.right, headerRight(form));
     sheet.bottom = placeTotals(form, slots, axis, rowsBottom(form, sheet.page.RowsShown));
     return sheet;
 }

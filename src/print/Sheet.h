@@ -16,7 +16,8 @@ struct Sheet {
     plan::PlanPage page;
     Heading heading;
     int axisEnd = 0; ///< end of the time axis: nothing of a box is drawn beyond it
-    int right = 0;   ///< right edge of everything
+    int right = 0;   ///< right edge of the places
+    int width = 0;   ///< right edge of everything, the header included
     int bottom = 0;  ///< bottom of the last row, of the totals under it when there are any
     int number = 1;  ///< of `count` sheets
     int count = 1;

@@ -1,0 +1,149 @@
+#include "print/PdfDocument.h"
+
+#include "print/Pdf.h"
+#include "print/SheetDesk.h"
+#include "support/RuntimeMatchers.h"
+
+#include <QRegularExpression>
+
+using namespace test;
+
+namespace
+{
+
+const QDate monday(2026, 10, 12);
+
+std::vector<print::Sheet> pagesOf(PlanDesk& desk, int count)
+{
+    std::vector<plan::PlanPage> pages;
+    for (int page = 0; page < count; ++page) {
+        pages.push_back(std::move(sheetOf(desk).page));
+    }
+    return print::makeSheets(std::move(pages), desk.slots, establishment());
+}
+
+/// Every object lies where the table of positions says.
+void expectSoundPositions(const QByteArray& pdf)
+{
+    const qsizetype start = pdf.lastIndexOf("startxref\n") + 10;
+    const qsizetype table = pdf.mid(start, pdf.indexOf('\n', start) - start).toLongLong();
+    ASSERT_TRUE(pdf.mid(table).startsWith("xref"));
+    static const QRegularExpression entry("(\\d{10}) \\d{5} n");
+    int number = 0;
+    auto entries = entry.globalMatch(QString::fromLatin1(pdf.mid(table)));
+    while (entries.hasNext()) {
+        const qsizetype position = entries.next().captured(1).toLongLong();
+        const QByteArray head = QByteArray::number(++number) + " 0 obj";
+        EXPECT_TRUE(pdf.mid(position).startsWith(head));
+    }
+    EXPECT_GT(number, 5);
+}
+
+} // namespace
+
+TEST(PdfDocument, holdsTheTextsOfTheSheet)
+{
+    PlanDesk desk(4);
+    desk.meeting(1, 1).set("Enseignant1", "Lefèvre").set("matière", "Béton armé");
+    desk.meeting(2, 3).set("Classe", "GC2");
+    desk.draw();
+    const QString text = Pdf(print::pdfOf(documentOf(desk), monday)).text();
+    for (const char* expected :
+         {"Occupation des Salles du Lundi", "Université du Nord · 2026", "8h00", "19h00", "R01",
+          "R02", "R03", "30", "GC1", "Lefèvre", "Béton armé", "GC2"}) {
+        EXPECT_TRUE(text.contains(expected)) << expected << "\n" << text.toStdString();
+    }
+    EXPECT_FALSE(text.contains("R00")); // the room before the first drawn one
+    EXPECT_FALSE(text.contains("Page"));
+}
+
+TEST(PdfDocument, numbersItsPages)
+{
+    PlanDesk desk(4);
+    desk.draw();
+    const Pdf pdf(print::pdfOf(pagesOf(desk, 3), monday));
+    EXPECT_EQ(pdf.pageCount(), 3);
+    EXPECT_TRUE(pdf.text(2).contains("Page 2 / 3"));
+    EXPECT_TRUE(pdf.text(3).contains("Occupation des Salles du Lundi"));
+}
+
+TEST(PdfDocument, saysWhatTheHatchingMeansWhereThereIsSome)
+{
+    PlanDesk desk(4);
+    desk.meeting(1, 1);
+    desk.draw();
+    EXPECT_FALSE(Pdf(print::pdfOf(documentOf(desk), monday)).text().contains("rattrapage"));
+    desk.tick(desk.form.Check2);
+    desk.makeUp(2, 1).set("DateX", db::Value(QString("2026-10-12")));
+    desk.draw();
+    EXPECT_TRUE(
+        Pdf(print::pdfOf(documentOf(desk), monday)).text().contains("Case hachurée : rattrapage"));
+}
+
+TEST(PdfDocument, embedsItsFonts)
+{
+    PlanDesk desk(4);
+    desk.meeting(1, 1);
+    desk.draw();
+    const Pdf pdf(print::pdfOf(documentOf(desk), monday));
+    EXPECT_FALSE(pdf.fonts().isEmpty());
+    EXPECT_EQ(pdf.missingFonts(), QStringList());
+}
+
+TEST(PdfDocument, isDatedFromTheDayThatItShows)
+{
+    PlanDesk desk(4);
+    desk.draw();
+    const Pdf pdf(print::pdfOf(documentOf(desk), monday));
+    EXPECT_EQ(pdf.fact("CreationDate"), "2026-10-12T00:00:00Z");
+    EXPECT_EQ(pdf.fact("Title"), "Occupation des Salles du Lundi");
+}
+
+TEST(PdfDocument, hasTheSameBytesForTheSamePlan)
+{
+    PlanDesk desk(25, "19");
+    desk.meeting(1, 1);
+    desk.draw();
+    const QByteArray first = print::pdfOf(documentOf(desk), monday);
+    for (int time = 0; time < 5; ++time) {
+        EXPECT_EQ(print::pdfOf(documentOf(desk), monday), first);
+    }
+}
+
+TEST(PdfDocument, keepsItsPositionsSoundWhateverTheDateTakes)
+{
+    PlanDesk desk(4);
+    desk.draw();
+    const QByteArray pdf = print::pdfOf(documentOf(desk), monday);
+    expectSoundPositions(pdf);
+    const QByteArray dated =
+        print::withCreationDate(print::withCreationDate(pdf, QDate(2026, 1, 2)), monday);
+    EXPECT_EQ(dated, pdf);
+}
+
+TEST(PdfDocument, movesEveryPositionBehindALongerDate)
+{
+    const QByteArray east = "%PDF-1.4\n" // 9 bytes
+                            "1 0 obj\n<<\n/CreationDate (D:20261012090000+09'00')\n>>\nendobj\n"
+                            "2 0 obj\n<<>>\nendobj\n"
+                            "xref\n0 3\n0000000000 65535 f \n0000000009 00000 n \n"
+                            "0000000070 00000 n \ntrailer\n<<>>\nstartxref\n90\n%%EOF\n";
+    ASSERT_EQ(east.indexOf("2 0 obj"), 70);
+    ASSERT_EQ(east.indexOf("xref"), 90);
+    const QByteArray fixed = print::withCreationDate(east, monday);
+    EXPECT_TRUE(fixed.contains("/CreationDate (D:20261012000000Z)"));
+    EXPECT_TRUE(fixed.contains("0000000009 00000 n"));
+    EXPECT_TRUE(fixed.contains("0000000064 00000 n"));
+    EXPECT_TRUE(fixed.contains("startxref\n84\n"));
+    EXPECT_EQ(fixed.indexOf("2 0 obj"), 64);
+    EXPECT_EQ(fixed.lastIndexOf("\nxref") + 1, 84);
+}
+
+TEST(PdfDocument, ofAnEmptyRoomSetHasItsHeader)
+{
+    PlanDesk desk(0);
+    desk.draw();
+    const Pdf pdf(print::pdfOf(documentOf(desk), monday));
+    EXPECT_EQ(pdf.pageCount(), 1);
+    EXPECT_TRUE(pdf.text().contains("Occupation des Salles du Lundi"));
+}

@@ -1,0 +1,39 @@
+#include "print/SheetDesk.h"
+
+#include "form/FormCopy.h"
+#include "print/PrintJob.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+namespace test
+{
+
+print::Sheet sheetOf(const PlanDesk& desk)
+{
+    return print::makeSheet(
+        {form::copyOf(desk.form), desk.refresh.content(), desk.layout, desk.page.RowsShown},
+        desk.slots, establishment());
+}
+
+std::vector<print::Sheet> documentOf(const PlanDesk& desk)
+{
+    std::vector<print::Sheet> sheets;
+    sheets.push_back(sheetOf(desk));
+    return sheets;
+}
+
+QByteArray pdfOn(QPageSize::PageSizeId paper, const std::vector<print::Sheet>& sheets)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setResolution(print::kSheetResolution);
+    writer.setPageSize(QPageSize(paper));
+    print::layPaper(writer);
+    print::printSheets(writer, sheets);
+    return bytes;
+}
+
+} // namespace test
