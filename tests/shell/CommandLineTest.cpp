@@ -124,13 +124,29 @@ TEST(CommandLine, takesThePictureAndItsEndingInAnyCase)
     EXPECT_EQ(parse({"--export", "Plan.PNG"}).exportFile, "Plan.PNG");
 }
 
+TEST(CommandLine, exportsInEveryFormThatItsHelpNames)
+{
+    for (const char* ending : {"json", "png", "pdf", "csv", "html"}) {
+        EXPECT_EQ(parse({"--export", QString("plan.") + ending}).exportFile,
+                  QString("plan.") + ending);
+    }
+}
+
+TEST(CommandLine, exportsAllPagesWhereAFileCanHoldThem)
+{
+    EXPECT_FALSE(parse({"--export", "plan.pdf"}).allPages);
+    for (const char* file : {"plan.pdf", "plan.csv", "plan.html"}) {
+        EXPECT_TRUE(parse({"--export", file, "--all-pages"}).allPages);
+    }
+}
+
 TEST(CommandLine, namesEveryOptionInItsHelp)
 {
     const QString help = CommandLine::helpText();
     for (const char* option :
-         {"export",     "settings", "tranche",        "mode", "exam-week", "week",   "zone",
-          "department", "neutral",  "rooms-per-page", "show", "subject",   "makeup", "counting",
-          "day",        "date",     "page",           "seed", "help",      "version"}) {
+         {"export",   "all-pages",  "settings", "tranche",        "mode", "exam-week", "week",
+          "zone",     "department", "neutral",  "rooms-per-page", "show", "subject",   "makeup",
+          "counting", "day",        "date",     "page",           "seed", "help",      "version"}) {
         EXPECT_TRUE(help.contains("  --" + QString(option) + ' ')) << option;
     }
 }
@@ -181,6 +197,12 @@ INSTANTIATE_TEST_SUITE_P(
                 {"--export", "plan.doc"},
                 "--export : valeur « plan.doc » refusée ; valeurs acceptées : "
                 "FICHIER.json|.png|.pdf|.csv|.html"},
+        Mistake{"allPagesOfAPicture",
+                {"--export", "plan.png", "--all-pages"},
+                "--all-pages : demande --export en .pdf, .csv ou .html"},
+        Mistake{"allPagesOfTheWindow",
+                {"--all-pages"},
+                "--all-pages : demande --export en .pdf, .csv ou .html"},
         Mistake{"settingsFile",
                 {"--settings", "/nowhere/a.ini"},
                 "--settings : le fichier « /nowhere/a.ini » n’existe pas ; valeurs acceptées : "

@@ -65,6 +65,18 @@ TEST_P(Export, writesTheFormThatTheEndingNames)
     EXPECT_EQ(bytesOf(folder + "/Plan.PNG"), shell::planAsPng(desk.shell()));
 }
 
+TEST_P(Export, writesEveryPageWhenAskedTo)
+{
+    const QString folder = emptyFolder();
+    desk.form().Total_L_P.setText("2");
+    for (const char* name : {"plan.pdf", "plan.csv", "plan.html"}) {
+        shell::exportPlan(desk.shell(), folder + "/one-" + name);
+        shell::exportPlan(desk.shell(), folder + "/all-" + name, true);
+        EXPECT_GT(bytesOf(folder + "/all-" + name).size(), bytesOf(folder + "/one-" + name).size());
+    }
+    EXPECT_TRUE(bytesOf(folder + "/all-plan.pdf").startsWith("%PDF-"));
+}
+
 TEST_P(Export, replacesWhatWasThere)
 {
     const QString path = emptyFolder() + "/plan.json";
