@@ -48,8 +48,9 @@ void Paging::recomputePages()
 {
     PlaceRoomRows(m_form);
     if (m_form.visible) { // before that there are neither rooms nor pages
-        // One step forward and one step back.
-        Command3_Click();
+        // One step forward and one step back. What comes in between, such as the next digit typed,
+        // would find the page of the first step and take it for the one to stay on.
+        m_refresh.withoutYielding([this] { Command3_Click(); });
         Command2_Click();
     }
 }

@@ -3,6 +3,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 
+#include <QScopedValueRollback>
 #include <utility>
 
 namespace plan
@@ -65,7 +66,9 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
     prepareQuestions();
     while (m_nextRow <= m_lastRow) {
         drawRow(m_nextRow++);
-        m_yield();
+        if (m_yields) {
+            m_yield();
+        }
         if (refresh != m_refreshes) {
             return;
         }
@@ -84,6 +87,12 @@ void PlanRefresh::finishRows()
     while (m_nextRow <= m_lastRow) {
         drawRow(m_nextRow++);
     }
+}
+
+void PlanRefresh::withoutYielding(const std::function<void()>& action)
+{
+    const QScopedValueRollback<bool> still(m_yields, false);
+    action();
 }
 
 form::Colour PlanRefresh::rowColor(int row)

@@ -53,6 +53,9 @@ public:
     /// Draws the rows that a refresh in progress has not come to, without yielding: what comes
     /// next builds on its totals.
     void finishRows();
+    /// Runs an action whose redraws another one follows at once: they do not yield, so that no
+    /// event meets the state in between.
+    void withoutYielding(const std::function<void()>& action);
     /// Makes a refresh in progress end where it stands: the window closes.
     void abandon() { ++m_refreshes; }
 
@@ -82,6 +85,7 @@ private:
 
     RefreshContext m_c;
     std::function<void()> m_yield;
+    bool m_yields = true;
     PlanContent m_content;
     std::vector<Marqueur> m_markers; ///< grows, never shrinks; index 0 is the box of marker 1
     int m_MarkerCount = 0;

@@ -106,8 +106,15 @@ public:
 private:
     void RefreshPlan() override { m_refresh.RefreshPlan(); }
     void PlaceRoomRows() override;
-    void Command2_Click() override { m_paging.Command2_Click(); }
-    void Command3_Click() override { m_paging.Command3_Click(); }
+    // Steps on the way to a new room set, which ends with a redraw of its own.
+    void Command2_Click() override
+    {
+        m_refresh.withoutYielding([this] { m_paging.Command2_Click(); });
+    }
+    void Command3_Click() override
+    {
+        m_refresh.withoutYielding([this] { m_paging.Command3_Click(); });
+    }
 
     [[nodiscard]] plan::RowSource& rowSource();
     [[nodiscard]] plan::AbsenceTests& absenceTests();

@@ -181,13 +181,18 @@ TEST_F(Pages, areWorkedOutAgainForOtherLines)
 
 TEST_F(Pages, stepForthAndBackForOtherLines)
 {
-    QList<int> starts;
-    desk.duringRow(1, [&] { // the first row of the page stepped to
-        starts.append(start());
-        desk.duringRow(5, [&] { starts.append(start()); }); // and of the page stepped back to
-    });
+    desk.rows.asked.clear();
+    const int before = desk.yields;
     EXPECT_EQ(redraws([this] { form.Total_L_P.setText("5"); }), 2U);
-    EXPECT_EQ(starts, QList<int>({5, 0}));
+    QStringList asked;
+    for (const plan::RoomQuestion& question : desk.rows.asked) {
+        if (asked.isEmpty() || asked.last() != question.room) {
+            asked.append(question.room);
+        }
+    }
+    // The page that starts at 5, then the one that starts at 0.
+    EXPECT_EQ(asked, QString("R07 R08 R09 R10 R11 R01 R02 R03 R04 R05").split(' '));
+    EXPECT_EQ(desk.yields, before + 5); // nobody sees the page in between
     EXPECT_EQ(desk.adaptations, 1);
     EXPECT_EQ(desk.drawnRooms().size(), 5);
 }
@@ -206,19 +211,17 @@ TEST_F(Pages, redrawOnceWhenAllRoomsFitOne)
 TEST_F(Pages, takeNewRandomColoursForOtherLines)
 {
     EXPECT_TRUE(desk.colors.RedrawMode);
-    bool newColours = false;
-    desk.duringRow(1, [&] { newColours = !desk.colors.RedrawMode; });
+    desk.colors.set(5, {});
     form.Total_L_P.setText("5");
-    EXPECT_TRUE(newColours);
+    EXPECT_NE(desk.colors.at(5), form::Colour{}); // drawn anew for row 5
 }
 
 TEST_F(Pages, keepTheColoursOfAPaletteForOtherLines)
 {
     desk.colors.PaletteName = "/Styles/Bleu.mpl";
-    bool newColours = true;
-    desk.duringRow(1, [&] { newColours = !desk.colors.RedrawMode; });
+    desk.colors.set(5, {});
     form.Total_L_P.setText("5");
-    EXPECT_FALSE(newColours);
+    EXPECT_EQ(desk.colors.at(5), form::Colour{});
 }
 
 TEST_F(Pages, refuseLinesThatAreNoNumber)

@@ -179,6 +179,18 @@ TEST_F(AnEventDuringARefresh, changesTheLinesPerPage)
     expectRooms(1, 5, "150");
 }
 
+TEST_F(AnEventDuringARefresh, typesTheNextDigitOfTheLinesPerPage)
+{
+    desk.draw();
+    desk.duringRow(1, [this] { form.Total_L_P.setText("29"); });
+    form.Total_L_P.setText("2");
+    EXPECT_EQ(desk.page.PageOffset, 0);
+    EXPECT_EQ(desk.page.PageStart, 0);
+    expectRooms(1, 29, ""); // the step to the last page stopped the counting
+    EXPECT_FALSE(form.Command2.enabled);
+    EXPECT_TRUE(form.Command3.enabled);
+}
+
 TEST_F(AnEventDuringARefresh, changesTheRooms)
 {
     desk.duringRow(3, [this] { form.cb_Locaux.setListIndex(1); });

@@ -137,12 +137,12 @@ TEST_P(TheShell, servesAChoiceMadeInTheMiddleOfARedrawAtOnce)
     EXPECT_TRUE(boxTexts(plan, "C1").isEmpty());
 }
 
-TEST_P(TheShell, servesAZoneChosenInTheMiddleOfThePagesOfAnother)
+TEST_P(TheShell, servesAZoneChosenInTheMiddleOfTheRedrawOfAnother)
 {
     desk.form().Total_L_P.setText("1");
-    int rows = 0;
+    bool chosen = false;
     desk.whileYielding = [&] {
-        if (++rows == 2) {
+        if (!std::exchange(chosen, true)) {
             desk.form().cb_Locaux.setListIndex(2);
         }
     };
@@ -152,4 +152,17 @@ TEST_P(TheShell, servesAZoneChosenInTheMiddleOfThePagesOfAnother)
     EXPECT_EQ(plan["page"]["row0_room"].toString(), "B1");
     EXPECT_EQ(plan["page"]["offset"].toInt(), 0);
     EXPECT_FALSE(plan["page"]["previous_enabled"].toBool(true));
+}
+
+TEST_P(TheShell, servesTheSecondDigitOfTheRoomsPerPageWhileTheFirstIsDrawn)
+{
+    bool typed = false;
+    desk.whileYielding = [&] {
+        if (!std::exchange(typed, true)) {
+            desk.form().Total_L_P.setText("29");
+        }
+    };
+    desk.form().Total_L_P.setText("2");
+    EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
+    EXPECT_EQ(desk.shell().page().PageOffset, 0);
 }
