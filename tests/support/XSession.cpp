@@ -12,8 +12,8 @@ namespace test
 namespace
 {
 
-/// Waits for one line of the program's output.
-QByteArray firstLine(QProcess& process)
+/// Waits for the next line of the program's output.
+QByteArray nextLine(QProcess& process)
 {
     constexpr int longestStartMilliseconds = 60000;
     while (!process.canReadLine()) {
@@ -33,9 +33,9 @@ void end(QProcess& process)
 
 } // namespace
 
-XSession::XSession()
+XSession::XSession(QSize screen)
 {
-    startServer();
+    startServer(screen);
     startWindowManager();
 }
 
@@ -45,15 +45,16 @@ XSession::~XSession()
     end(m_server);
 }
 
-void XSession::startServer()
+void XSession::startServer(QSize screen)
 {
     dieWithParent(m_server);
     // The server chooses a free display and writes its number.
-    m_server.start(QStringLiteral("Xvfb"),
-                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"), QStringLiteral("1366x768x24"), QStringLiteral("-nolisten"),
-                    QStringLiteral("tcp"), QStringLiteral("-noreset")});
-    m_display = ':' + firstLine(m_server);
+    m_server.start(
+        QStringLiteral("Xvfb"),
+        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+         QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height()),
+         QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
+    m_display = ':' + nextLine(m_server);
 }
 
 void XSession::startWindowManager()
@@ -70,7 +71,9 @@ void XSession::startWindowManager()
     m_windowManager.start(QStringLiteral("openbox"),
                           {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
                            QStringLiteral("echo ready")});
-    firstLine(m_windowManager);
+    while (nextLine(m_windowManager) != "ready") {
+        // It also writes what it has to remark on the system's menus.
+    }
 }
 
 void byHand(const QString& commands)

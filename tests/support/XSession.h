@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QProcess>
+#include <QSize>
 #include <QStringList>
 
 namespace test
@@ -13,7 +14,7 @@ class XSession
 {
 public:
     /// Throws std::runtime_error when the server or the window manager does not start.
-    XSession();
+    explicit XSession(QSize screen = {1366, 768});
     ~XSession();
     XSession(const XSession&) = delete;
     XSession& operator=(const XSession&) = delete;
@@ -22,7 +23,7 @@ public:
     [[nodiscard]] const QByteArray& display() const { return m_display; }
 
 private:
-    void startServer();
+    void startServer(QSize screen);
     void startWindowManager();
 
     QProcess m_server;

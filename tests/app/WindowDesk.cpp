@@ -1,0 +1,44 @@
+#include "app/WindowDesk.h"
+
+#include "plan/Overlays.h"
+
+namespace test
+{
+
+void TheWindow::open(QSize size)
+{
+    shell::Environment environment;
+    environment.applicationFolder = setup.applicationFolder();
+    environment.today = [] { return QDate(2025, 3, 19); };
+    environment.seed = 1;
+    m_window = std::make_unique<app::PlClasse>(shell::Settings::fromFile(setup.settingsFile()),
+                                               std::move(environment));
+    ASSERT_TRUE(m_window->load());
+    m_window->resize(size);
+    m_window->show();
+    m_window->activate();
+    ASSERT_TRUE(until(
+        [this] { return m_window->isActiveWindow() && m_window->windowHandle()->isExposed(); }));
+}
+
+void TheWindow::expectTexts(const QString& room, const QMap<int, QString>& texts)
+{
+    static_cast<void>(until([&] { return boxTexts(plan(), room) == texts; }));
+    EXPECT_EQ(boxTexts(plan(), room), texts) << room.toStdString();
+}
+
+void TheWindow::expectRooms(const QStringList& rooms)
+{
+    static_cast<void>(until([&] { return shownRooms(plan()) == rooms; }));
+    EXPECT_EQ(shownRooms(plan()), rooms);
+}
+
+QPoint TheWindow::counterOnScreen(std::size_t row, std::size_t box)
+{
+    const plan::PlanRow& planRow = m_window->shell().refresh().content().rows.at(row);
+    const plan::OverlayPlaces places =
+        plan::overlayPlaces(form(), view()->target(), planRow.index, planRow.boxes.at(box));
+    return view()->viewport()->mapToGlobal(view()->toViewport(places.Label2.center()).toPoint());
+}
+
+} // namespace test

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "app/Hands.h"
+#include "app/PlClasse.h"
+#include "app/PlanView.h"
+#include "shell/JsonExport.h"
+#include "shell/PlanReading.h"
+#include "support/ProgramSetup.h"
+#include "support/RuntimeMatchers.h"
+#include "support/TinyFaculty.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QWindow>
+#include <memory>
+
+namespace test
+{
+
+/// The real window on the tiny faculty, on the screen and in use by `hands`. Today is Wednesday,
+/// 19 March 2025; the random colours are those of seed 1.
+class TheWindow : public testing::Test
+{
+protected:
+    TheWindow() { createTinyFaculty(database); }
+
+    /// Starts up with the settings as they are by then and shows the window.
+    void open(QSize size = {1366, 740});
+
+    [[nodiscard]] app::PlClasse& window() { return *m_window; }
+    [[nodiscard]] form::PlanForm& form() { return m_window->shell().form(); }
+    /// What the plan shows.
+    [[nodiscard]] QJsonObject plan() const
+    {
+        return QJsonDocument::fromJson(shell::planAsJson(m_window->shell())).object();
+    }
+    /// Waits until the plan shows these texts in the room.
+    void expectTexts(const QString& room, const QMap<int, QString>& texts);
+    void expectRooms(const QStringList& rooms);
+    [[nodiscard]] std::uint64_t redraws() const
+    {
+        return m_window->shell().refresh().refreshCount();
+    }
+
+    /// The control of that name.
+    template <typename Widget>
+    [[nodiscard]] Widget* control(const char* name)
+    {
+        auto* widget = m_window->findChild<Widget*>(name);
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+    [[nodiscard]] app::PlanView* view() { return control<app::PlanView>("PlanView"); }
+    /// Where the middle of an overlay of a box lies on the screen. `row` and `box` count from 0.
+    [[nodiscard]] QPoint counterOnScreen(std::size_t row, std::size_t box);
+
+    TestDatabase database{DatabaseKind::Sqlite};
+    ProgramSetup setup{database};
+    Hands hands;
+
+private:
+    std::unique_ptr<app::PlClasse> m_window;
+};
+
+} // namespace test
