@@ -1,0 +1,247 @@
+#include "app/Printing.h"
+
+#include "plan/PlanPainter.h"
+#include "print/Pdf.h"
+#include "print/Targets.h"
+#include "shell/ShellDesk.h"
+#include "support/RuntimeMatchers.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QTimer>
+
+using namespace test;
+
+namespace
+{
+
+/// A user's answer to the dialogs: prints into a file, or cancels.
+struct Answer {
+    QString file; ///< empty: cancels
+    int from = 0; ///< pages, when not 0
+    int to = 0;
+    int sheetsOffered = 0;
+    QString document;
+
+    app::PrintDialogs dialogs()
+    {
+        return {[this](QPrinter& printer, int sheets) {
+                    sheetsOffered = sheets;
+                    document = printer.docName();
+                    answer(printer);
+                    // Sheets lie across all the same.
+                    printer.setPageOrientation(QPageLayout::Portrait);
+                    return !file.isEmpty();
+                },
+                [this](QPrinter& printer, const std::function<void(QPrinter&)>& paint) {
+                    answer(printer);
+                    paint(printer);
+                    paint(printer); // a preview paints whenever its paper changes
+                }};
+    }
+
+    void answer(QPrinter& printer) const
+    {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(file);
+        printer.setPageSize(QPageSize(QPageSize::A4));
+        if (from != 0) {
+            printer.setPrintRange(QPrinter::PageRange);
+            printer.setFromTo(from, to);
+        }
+    }
+};
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class Printing : public testing::Test
+{
+protected:
+    Printing()
+    {
+        createTinyFaculty(m_database);
+        desk.play({"--date", "2025-03-17"});
+        answer.file = desk.setup.path("printed.pdf");
+    }
+
+    [[nodiscard]] bool isPrinted() const { return QFile::exists(answer.file); }
+    [[nodiscard]] Pdf printed() const { return Pdf(bytesOf(answer.file)); }
+    /// What the window shows of the plan.
+    [[nodiscard]] QImage screen()
+    {
+        QImage image(1400, 700, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        const plan::PlanScene scene = desk.shell().scene(print::UseScreenTarget());
+        plan::PlanPainter plan(painter, scene);
+        plan.paintTicks();
+        plan.paintGrid();
+        plan.paintBoxes();
+        plan.paintRoomLabels();
+        plan.paintPlaces();
+        return image;
+    }
+
+private:
+    TestDatabase m_database{DatabaseKind::Sqlite};
+
+protected:
+    ShellDesk desk{m_database};
+    Answer answer;
+};
+
+/// Waits in the dialog's own event loop until a dialog of that kind is open.
+template <typename Dialog>
+void whenOpen(const std::function<void(Dialog&)>& act)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, [timer, act] {
+        if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+            timer->deleteLater();
+            timer->stop();
+            act(*dialog);
+        }
+    });
+    timer->start(10);
+}
+
+} // namespace
+
+TEST_F(Printing, printsThePageThatTheWindowShows)
+{
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().Command1.press();
+    ASSERT_TRUE(isPrinted());
+    const Pdf pdf = printed();
+    EXPECT_EQ(pdf.pageCount(), 1);
+    EXPECT_EQ(pdf.fact("Page size"), "842 x 595 pts (A4)");
+    const QString text = pdf.text();
+    for (const char* expected :
+         {"Occupation des Salles du Lundi", "A2", "C1", "Dupont/Durand", "Algèbre", "Physique"}) {
+        EXPECT_TRUE(text.contains(expected)) << expected;
+    }
+}
+
+TEST_F(Printing, printsNothingAfterCancel)
+{
+    answer.file.clear();
+    app::Printing printing(desk.shell(), answer.dialogs());
+    const QJsonObject before = desk.plan();
+    desk.form().Command1.press();
+    desk.form().PrintAllPages.press();
+    EXPECT_EQ(desk.plan(), before);
+}
+
+TEST_F(Printing, leavesTheScreenAsItWas)
+{
+    app::Printing printing(desk.shell(), answer.dialogs());
+    const QImage before = screen();
+    const QJsonObject plan = desk.plan();
+    desk.form().Command1.press();
+    desk.form().PrintAllPages.press();
+    desk.form().PrintPreview.press();
+    EXPECT_EQ(desk.plan(), plan);
+    EXPECT_EQ(screen(), before);
+    EXPECT_EQ(desk.form().Label1[1].place.left - desk.form().Label1[0].place.left, 1600);
+}
+
+TEST_F(Printing, printsEveryPageOfTheRoomSet)
+{
+    desk.form().Total_L_P.setText("2");
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().PrintAllPages.press();
+    EXPECT_EQ(answer.sheetsOffered, 2);
+    const Pdf pdf = printed();
+    EXPECT_EQ(pdf.pageCount(), 2);
+    EXPECT_TRUE(pdf.text(1).contains("B1"));
+    EXPECT_TRUE(pdf.text(1).contains("Page 1 / 2"));
+    EXPECT_TRUE(pdf.text(2).contains("Occupation des Salles du Lundi"));
+    EXPECT_TRUE(pdf.text(2).contains("C1"));
+}
+
+TEST_F(Printing, printsTheChosenPagesAlone)
+{
+    desk.form().Total_L_P.setText("2");
+    answer.from = 2;
+    answer.to = 2;
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().PrintAllPages.press();
+    EXPECT_EQ(printed().pageCount(), 1);
+    EXPECT_TRUE(printed().text().contains("Page 2 / 2"));
+}
+
+TEST_F(Printing, printsNothingWhereNoSuchPageIs)
+{
+    answer.from = 7;
+    answer.to = 9;
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().Command1.press();
+    EXPECT_FALSE(isPrinted());
+}
+
+TEST_F(Printing, previewsTheSheetThatItPrints)
+{
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().PrintPreview.press();
+    const QString previewed = printed().text();
+    desk.form().Command1.press();
+    EXPECT_EQ(printed().text(), previewed);
+}
+
+TEST_F(Printing, givesItsDocumentANameThatAFileCanHave)
+{
+    desk.form().Check2.setChecked(true);
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().Command1.press();
+    EXPECT_EQ(answer.document, "Occupation des Salles du 17-03-25");
+    EXPECT_TRUE(printed().text().contains("Occupation des Salles du 17/03/25"));
+}
+
+TEST_F(Printing, endsInThePlatformsErrorWhereThePrinterFails)
+{
+    answer.file = "/nowhere/plan.pdf";
+    app::Printing printing(desk.shell(), answer.dialogs());
+    const runtime::RunTimeError error = errorOf([&] { desk.form().Command1.press(); });
+    EXPECT_EQ(error.number(), runtime::ErrorNumber::PrinterError);
+    EXPECT_EQ(error.message(), "Run-time error '482':\n\nPrinter error\n\n"
+                               "Impression du plan sur « /nowhere/plan.pdf »");
+}
+
+TEST_F(Printing, offersAPdfFileWhereThereIsNoPrinter)
+{
+    app::Printing printing(desk.shell(), app::platformPrintDialogs(nullptr));
+    QStringList printers;
+    whenOpen<QPrintDialog>([&printers](QPrintDialog& dialog) {
+        for (const QComboBox* list : dialog.findChildren<QComboBox*>("printers")) {
+            for (int item = 0; item < list->count(); ++item) {
+                printers << list->itemText(item);
+            }
+        }
+        dialog.reject();
+    });
+    desk.form().Command1.press();
+    EXPECT_TRUE(printers.join(';').contains("PDF")) << printers.join(';').toStdString();
+}
+
+TEST_F(Printing, showsThePreviewOfThePlatform)
+{
+    app::Printing printing(desk.shell(), app::platformPrintDialogs(nullptr));
+    int pages = 0;
+    whenOpen<QPrintPreviewDialog>([&pages](QPrintPreviewDialog& dialog) {
+        const auto* preview = dialog.findChild<QPrintPreviewWidget*>();
+        pages = preview == nullptr ? -1 : preview->pageCount();
+        dialog.reject();
+    });
+    desk.form().PrintPreview.press();
+    EXPECT_EQ(pages, 1);
+}
