@@ -15,15 +15,16 @@ makeup_day=2026-11-24
 day_options=(--date "$day" --week A)
 
 # The window's parts at 1366x768, as width x height + left + top.
-readonly panels_day=462x110+4+58
-readonly panel_boxes=114x110+461+58
-readonly panel_rooms=188x110+576+58
-readonly panel_page=146x110+764+58
-readonly panel_subject=190x110+1026+58
+readonly panels_day=438x110+4+58
+readonly panel_boxes=114x110+439+58
+readonly panel_rooms=186x110+555+58
+readonly panel_page=144x110+742+58
+readonly panel_subject=169x110+1005+58
+readonly panel_print=190x110+1174+58
 
 prepare() {
     # shellcheck disable=SC2154 # common.sh sets it
-    ensure_packages "${build_packages[@]}" xvfb xdotool openbox imagemagick
+    ensure_packages "${build_packages[@]}" xvfb xdotool openbox imagemagick poppler-utils
     rm -rf "$work"
     mkdir -p "$work/odbc" "$images"
     use_private_folders "$work"
@@ -169,7 +170,7 @@ take_shots() {
 # The window with numbers on its parts.
 numbered_window() {
     local marks=() number=0 place part
-    for place in 470,38 394,152 92,210 455,180 300,551 1320,189 577,728 640,756; do
+    for place in 470,38 375,150 92,210 455,180 300,551 1320,189 577,728 640,756; do
         number=$((number + 1))
         marks+=(-fill '#c01020' -stroke white -strokewidth 2
             -draw "circle $place $((${place%,*} + 14)),${place#*,}"
@@ -207,12 +208,22 @@ gesture() {
         "$(cut "$2" 148x44+117+572)"
 }
 
+printed_sheet() {
+    local part
+    part=$(new_part)
+    "$bin/tempora" --settings "$work/settings.ini" --export "$work/sheet.pdf" --week A \
+        --date "$makeup_day" --makeup
+    pdftoppm -r 150 -png -singlefile "$work/sheet.pdf" "$work/sheet"
+    convert "$work/sheet.png" -filter Lanczos -resize 766x -bordercolor '#888888' -border 1x1 "$part"
+    echo "$part"
+}
+
 make_pictures() {
     keep plan "$(cut plan 1366x768+0+0)"
     keep fenetre "$(numbered_window)"
     keep bulle "$(cut tip 480x146+100+570)"
     keep jour "$(cut plan "$panels_day")"
-    keep rattrapage "$(below "$(cut makeup 330x110+4+58)" "$(cut makeup 480x88+877+315)")"
+    keep rattrapage "$(below "$(cut makeup 308x110+4+58)" "$(cut makeup 480x88+877+315)")"
     keep examen "$(cut exam 770x328+0+58)"
     keep cases "$(box_variants)"
     keep salles "$(beside "$(cut rooms "$panel_rooms")" "$(cut rooms 540x230+0+486)")"
@@ -220,6 +231,8 @@ make_pictures() {
     keep depassement "$(below "$(cut plan 572x46+592+614)" "$(cut details 190x150+580+269)")"
     keep totaux "$(cut counted 770x90+0+655)"
     keep matiere "$(beside "$(cut subject "$panel_subject")" "$(cut subject 540x147+0+528)")"
+    keep impression "$(cut plan "$panel_print")"
+    keep feuille "$(printed_sheet)"
     keep palettes "$(palette_samples)"
     keep absences "$(larger "$(below "$(gesture Maj class-absent)" "$(gesture Ctrl students-absent)")")"
 }
