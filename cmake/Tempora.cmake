@@ -18,8 +18,8 @@ if(TEMPORA_SANITIZE)
   target_link_libraries(tempora_options INTERFACE
     -Wl,--push-state,--no-as-needed -lodbcinst -Wl,--pop-state)
 endif()
-target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII
-  QT_USE_QSTRINGBUILDER UNICODE _UNICODE)
+target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII UNICODE
+  _UNICODE)
 
 # One folder of src/ is one library and one layer: what it links is what it may use.
 #   tempora_layer(NAME SOURCES a.cpp ... USES layer ... [EXTERNAL target ...])
