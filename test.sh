@@ -56,10 +56,30 @@ check_tidy() {
     say "clang-tidy has nothing to say."
 }
 
+# A print server for the tests that print, in $folder/cups. Installed, it would run as a service.
+unpack_print_server() {
+    local parts=(cups-client cups-daemon) place=$folder/cups file
+    if [[ -x $place/usr/sbin/cupsd ]] ||
+        { command -v cupsd && command -v lpadmin; } >/dev/null; then
+        return
+    fi
+    say "Fetching a print server for the tests ..."
+    mkdir -p "$place"
+    if ! (cd "$place" && apt-get -q download "${parts[@]}") >"$place/apt.log" 2>&1; then
+        say "There is none to be had (see $place/apt.log): the tests that print on one are skipped."
+        return
+    fi
+    for file in "$place"/*.deb; do
+        dpkg -x "$file" "$place"
+        rm "$file"
+    done
+}
+
 run_tests() {
     ensure_packages "${packages[@]}"
     configure "$folder" "${settings[@]}"
     build "$folder"
+    unpack_print_server
     use_private_folders "$folder/home" # whatever a test writes, it is not the user's
     export UBSAN_OPTIONS=print_stacktrace=1
     ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "${ctest_options[@]}"
@@ -67,8 +87,8 @@ run_tests() {
 
 # mariadb-server would bring a system service that starts at once; the tests start servers of their
 # own and need only the programs, which lie in the two core packages.
-packages=("${build_packages[@]}" ccache libgtest-dev mariadb-client-core mariadb-server-core openbox
-    poppler-utils xdotool xvfb)
+packages=("${build_packages[@]}" ccache libgtest-dev libpaper1 mariadb-client-core mariadb-server-core
+    openbox poppler-utils xdotool xvfb)
 folder=$project/build-test
 settings=(-D CMAKE_BUILD_TYPE=Debug -D TEMPORA_WERROR=ON -D CMAKE_CXX_COMPILER_LAUNCHER=ccache)
 if $clang; then
