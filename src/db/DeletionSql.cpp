@@ -27,7 +27,7 @@ QString DeletionSql::deletingFirst() const
 {
     return QStringLiteral("DELETE FROM ") + m_table +
            (m_condition.isEmpty() ? QString() : QStringLiteral(" WHERE ") + m_condition) +
-           QStringLiteral(" LIMIT 1");
+           QStringLiteral("\nLIMIT 1");
 }
 
 QString DeletionSql::selectingRowId() const
@@ -39,7 +39,8 @@ QString DeletionSql::selectingRowId() const
 QString DeletionSql::deletingRowId(const QString& rowId) const
 {
     return QStringLiteral("DELETE FROM ") + m_table + QStringLiteral(" WHERE _ROWID_ = ") + rowId +
-           (m_condition.isEmpty() ? QString() : QStringLiteral(" AND (") + m_condition + u')');
+           (m_condition.isEmpty() ? QString()
+                                  : QStringLiteral(" AND (") + m_condition + QStringLiteral("\n)"));
 }
 
 } // namespace db

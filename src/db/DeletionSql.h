@@ -6,7 +6,8 @@
 namespace db
 {
 
-/// Statements that delete one of the rows that a query finds, as pure text functions.
+/// Statements that delete one of the rows that a query finds, as pure text functions. What they add
+/// behind the condition stands on a line of its own: a name in the condition may begin a comment.
 class DeletionSql
 {
 public:
