@@ -22,10 +22,14 @@ bool isDateType(SQLSMALLINT type)
            type == SQL_TIMESTAMP;
 }
 
-std::optional<QDate> dateWrittenIn(const Value& value)
+/// The date that a text stands for, as the product reads it in a date literal: what was written
+/// must be found again.
+std::optional<QDate> dateWrittenIn(const Value& value, Product product)
 {
     const auto* text = std::get_if<QString>(&value.variant());
-    return text == nullptr ? std::nullopt : dialectDate(*text);
+    return text == nullptr ? std::nullopt
+                           : dialectDate(*text, product == Product::Other ? kAccessFirstYear
+                                                                          : kEmbeddedFirstYear);
 }
 
 } // namespace
@@ -112,8 +116,9 @@ Connection::Session::valuesToWrite(const QString& table,
     std::vector<Value> values;
     values.reserve(columns.size());
     for (const auto& [name, value] : columns) {
-        const std::optional<QDate> date =
-            m_connection.product() == Product::MySql ? std::nullopt : dateWrittenIn(value);
+        const std::optional<QDate> date = m_connection.product() == Product::MySql
+                                              ? std::nullopt
+                                              : dateWrittenIn(value, m_connection.product());
         values.push_back(date && isDateColumn(table, name) ? Value(*date) : value);
     }
     return values;
@@ -167,11 +172,12 @@ bool Connection::Session::deleteFirstByRowId(const DeletionSql& deletion)
 bool Connection::Session::deleteFirstByCursor(const QString& sql)
 {
     constexpr SQLSETPOSIROW firstOfRowset = 1;
+    // The one kind of cursor through which Access's driver writes; it compares values at most.
     StatementHandle statement(m_connection);
-    statement.setAttribute(SQL_ATTR_CURSOR_TYPE, SQL_CURSOR_STATIC);
+    statement.setAttribute(SQL_ATTR_CURSOR_TYPE, SQL_CURSOR_KEYSET_DRIVEN);
     statement.setAttribute(SQL_ATTR_CONCURRENCY, SQL_CONCUR_VALUES);
     send(statement, sql);
-    if (!statement.fetch()) {
+    if (!statement.fetchRowset()) {
         return false;
     }
     statement.check(SQLSetPos(statement.get(), firstOfRowset, SQL_POSITION, SQL_LOCK_NO_CHANGE));

@@ -110,12 +110,11 @@ QString adaptToEmbedded(const QString& sql)
     return adapted;
 }
 
-std::optional<QDate> dialectDate(const QString& text)
+std::optional<QDate> dialectDate(const QString& text, int firstYear)
 {
     static const QRegularExpression form(
         QStringLiteral("^ *(?:(?<m>[0-9]{1,2})/(?<d>[0-9]{1,2})/(?<y>[0-9]{4}|[0-9]{2})|"
                        "(?<y2>[0-9]{4})([-/])(?<m2>[0-9]{1,2})\\5(?<d2>[0-9]{1,2})) *\\z"));
-    constexpr int firstCentury = 2000;
     constexpr int century = 100;
     const QRegularExpressionMatch match = form.match(text);
     const bool yearFirst = !match.captured(QStringLiteral("y2")).isEmpty();
@@ -124,7 +123,8 @@ std::optional<QDate> dialectDate(const QString& text)
     };
     int year = yearFirst ? number("y2") : number("y");
     if (!yearFirst && year < century) {
-        year += firstCentury;
+        year += firstYear - firstYear % century;
+        year += year < firstYear ? century : 0;
     }
     const QDate date(year, yearFirst ? number("m2") : number("m"),
                      yearFirst ? number("d2") : number("d"));

@@ -13,9 +13,16 @@ namespace db
 /// stays, for the database to refuse.
 [[nodiscard]] QString adaptToEmbedded(const QString& sql);
 
+/// What a year of two digits means to the embedded SQLite: 2000 to 2099. A timetable holds no dates
+/// before 2000.
+constexpr int kEmbeddedFirstYear = 2000;
+/// What it means to Access, in a date literal: 1930 to 2029.
+constexpr int kAccessFirstYear = 1930;
+
 /// The date that a text in a dialect's date format means: 03/15/07, 03/15/2007, 2007/03/15 or
-/// 2007-03-15, outer blanks aside. A year of two digits lies between 2000 and 2099: a timetable
-/// holds no dates before 2000. Nothing for any other text.
-[[nodiscard]] std::optional<QDate> dialectDate(const QString& text);
+/// 2007-03-15, outer blanks aside. A year of two digits is one of the hundred from `firstYear` on.
+/// Nothing for any other text.
+[[nodiscard]] std::optional<QDate> dialectDate(const QString& text,
+                                               int firstYear = kEmbeddedFirstYear);
 
 } // namespace db

@@ -216,11 +216,20 @@ void StatementHandle::execute(const QString& sql)
 
 bool StatementHandle::fetch()
 {
-    const SQLRETURN result = SQLFetch(get());
-    if (result == SQL_NO_DATA) {
+    return isRow(SQLFetch(get()));
+}
+
+bool StatementHandle::fetchRowset()
+{
+    return isRow(SQLFetchScroll(get(), SQL_FETCH_NEXT, 0));
+}
+
+bool StatementHandle::isRow(SQLRETURN fetched) const
+{
+    if (fetched == SQL_NO_DATA) {
         return false;
     }
-    check(result);
+    check(fetched);
     return true;
 }
 

@@ -129,6 +129,8 @@ public:
     void execute(const QString& sql);
     /// Makes the next row the current one; false after the last.
     bool fetch();
+    /// The same as a rowset of that one row, to act on by its position in it.
+    bool fetchRowset();
     /// How many rows the statement changed; -1 when the driver does not know.
     [[nodiscard]] SQLLEN changedRows() const;
 
@@ -136,6 +138,8 @@ public:
     void check(SQLRETURN result) const;
 
 private:
+    [[nodiscard]] bool isRow(SQLRETURN fetched) const;
+
     const ConnectionHandle* m_connection;
     OdbcHandle<SQL_HANDLE_STMT> m_handle;
 };

@@ -4,6 +4,19 @@
 
 namespace db
 {
+namespace
+{
+
+/// `Struct` is one of ODBC's structures that hold a date.
+template <typename Struct>
+void fillDay(Struct& day, QDate date)
+{
+    day.year = static_cast<SQLSMALLINT>(date.year());
+    day.month = static_cast<SQLUSMALLINT>(date.month());
+    day.day = static_cast<SQLUSMALLINT>(date.day());
+}
+
+} // namespace
 
 void ParameterSet::bind(const Value& value)
 {
@@ -18,8 +31,7 @@ void ParameterSet::bind(const Value& value)
         slot.bit = *boolean ? 1 : 0;
         bindRaw(slot, SQL_C_BIT, SQL_BIT, 1, &slot.bit);
     } else if (const auto* integer = std::get_if<std::int64_t>(&variant)) {
-        slot.integer = *integer;
-        bindRaw(slot, SQL_C_SBIGINT, SQL_BIGINT, 20, &slot.integer);
+        bindInteger(slot, *integer);
     } else if (const auto* real = std::get_if<double>(&variant)) {
         slot.real = *real;
         bindRaw(slot, SQL_C_DOUBLE, SQL_DOUBLE, 15, &slot.real);
@@ -50,16 +62,33 @@ void ParameterSet::bindText(Slot& slot, const QString& text)
     }
 }
 
+void ParameterSet::bindInteger(Slot& slot, std::int64_t integer)
+{
+    // Access has no integers of 64 bits and refuses the type, however small the number.
+    if (const auto narrow = static_cast<SQLINTEGER>(integer); narrow == integer) {
+        slot.narrow = narrow;
+        bindRaw(slot, SQL_C_SLONG, SQL_INTEGER, 10, &slot.narrow);
+    } else {
+        slot.integer = integer;
+        bindRaw(slot, SQL_C_SBIGINT, SQL_BIGINT, 20, &slot.integer);
+    }
+}
+
 void ParameterSet::bindDate(Slot& slot, QDate date)
 {
-    if (m_statement.connection().product() == Product::Sqlite) {
+    switch (m_statement.connection().product()) {
+    case Product::Sqlite:
         bindText(slot, date.toString(Qt::ISODate)); // the form in which SQLite keeps dates
-        return;
+        break;
+    case Product::MySql:
+        fillDay(slot.date, date);
+        bindRaw(slot, SQL_C_TYPE_DATE, SQL_TYPE_DATE, 10, &slot.date);
+        break;
+    case Product::Other: // the only type for dates that Access lists: midnight is the date alone
+        fillDay(slot.timestamp, date);
+        bindRaw(slot, SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP, 19, &slot.timestamp);
+        break;
     }
-    slot.date.year = static_cast<SQLSMALLINT>(date.year());
-    slot.date.month = static_cast<SQLUSMALLINT>(date.month());
-    slot.date.day = static_cast<SQLUSMALLINT>(date.day());
-    bindRaw(slot, SQL_C_TYPE_DATE, SQL_TYPE_DATE, 10, &slot.date);
 }
 
 void ParameterSet::bindRaw(Slot& slot, SQLSMALLINT cType, SQLSMALLINT sqlType, SQLULEN size,

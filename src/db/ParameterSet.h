@@ -26,6 +26,8 @@ private:
         QByteArray bytes;
         QString text;
         SQL_DATE_STRUCT date{};
+        SQL_TIMESTAMP_STRUCT timestamp{};
+        SQLINTEGER narrow = 0;
         std::int64_t integer = 0;
         double real = 0;
         unsigned char bit = 0;
@@ -34,6 +36,7 @@ private:
 
     void bindNull(Slot& slot);
     void bindText(Slot& slot, const QString& text);
+    void bindInteger(Slot& slot, std::int64_t integer);
     void bindDate(Slot& slot, QDate date);
     void bindRaw(Slot& slot, SQLSMALLINT cType, SQLSMALLINT sqlType, SQLULEN size,
                  SQLPOINTER memory);

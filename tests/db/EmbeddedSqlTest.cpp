@@ -87,6 +87,18 @@ TEST(DialectDate, takesTwoDigitsOfAYearForThisCentury)
     EXPECT_EQ(dateIn("12/31/99"), QDate(2099, 12, 31));
 }
 
+TEST(DialectDate, takesTwoDigitsOfAYearAsAccessDoesWhenTold)
+{
+    const auto year = [](const char* text) {
+        return dialectDate(QString::fromUtf8(text), db::kAccessFirstYear)->year();
+    };
+    EXPECT_EQ(year("01/01/00"), 2000);
+    EXPECT_EQ(year("12/31/29"), 2029);
+    EXPECT_EQ(year("01/01/30"), 1930);
+    EXPECT_EQ(year("12/31/99"), 1999);
+    EXPECT_EQ(year("03/17/2030"), 2030);
+}
+
 TEST(DialectDate, isNothingForAnyOtherText)
 {
     for (const char* text : {"", "8h30", "15/03/07", "02/30/07", "2007/13/01", "03/15/7",
