@@ -39,13 +39,19 @@ QString studentRecordName(const Marqueur& marker, const QString& className)
     return recordName(QStringLiteral("l’absence d’étudiants"), marker, className);
 }
 
-/// What was being done when a search or a removal failed: the two are one step.
-QString removal(const QString& record)
+// What was being done when something failed.
+
+QString searching(const QString& record)
 {
-    return QStringLiteral("Recherche ou retrait de ") + record;
+    return QStringLiteral("Recherche de ") + record;
 }
 
-QString addition(const QString& record)
+QString removing(const QString& record)
+{
+    return QStringLiteral("Retrait de ") + record;
+}
+
+QString adding(const QString& record)
 {
     return QStringLiteral("Enregistrement de ") + record;
 }
@@ -94,15 +100,20 @@ bool AbsenceRecords::Existe_AbsEtud(const Marqueur& marker, const QString& class
     return exists(studentSearch(marker, className, QStringLiteral("' and Nom='") + name));
 }
 
+bool AbsenceRecords::removeFirst(const QString& search, const QString& record)
+{
+    // Searched for first: whoever may not remove records can still add one.
+    return runtime::during(searching(record), [&] { return exists(search); }) &&
+           runtime::during(removing(record), [&] { return m_database.Db().deleteFirst(search); });
+}
+
 void AbsenceRecords::Basculer_AbsClasse(Marqueur& marker, const QString& className)
 {
     ++m_toggles;
     const QString record = classRecordName(marker, className);
-    const bool removed = runtime::during(removal(record), [&] {
-        return m_database.Db().deleteFirst(classSearch(marker, className));
-    });
+    const bool removed = removeFirst(classSearch(marker, className), record);
     if (!removed) {
-        runtime::during(addition(record), [&] { addClass(marker, className); });
+        runtime::during(adding(record), [&] { addClass(marker, className); });
     }
     marker.AbsClasse = !removed;
 }
@@ -137,13 +148,11 @@ void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className
 {
     ++m_toggles;
     const QString record = studentRecordName(marker, className);
-    const bool removed = runtime::during(removal(record), [&] {
-        // Two blanks before "and", where the test has one: both find the same rows.
-        return m_database.Db().deleteFirst(
-            studentSearch(marker, className, QStringLiteral("'  and Nom='") + name));
-    });
+    // Two blanks before "and", where the test has one: both find the same rows.
+    const bool removed = removeFirst(
+        studentSearch(marker, className, QStringLiteral("'  and Nom='") + name), record);
     if (!removed) {
-        runtime::during(addition(record), [&] { addStudent(marker, className, name); });
+        runtime::during(adding(record), [&] { addStudent(marker, className, name); });
     }
     marker.AbsEtud = !removed;
 }

@@ -41,6 +41,9 @@ public:
 
 private:
     [[nodiscard]] bool exists(const QString& search);
+    /// Removes the first record that the search finds. False when there is none, also when another
+    /// program has removed it meanwhile.
+    [[nodiscard]] bool removeFirst(const QString& search, const QString& record);
     [[nodiscard]] QString classSearch(const plan::Marqueur& marker, const QString& className) const;
     [[nodiscard]] QString studentSearch(const plan::Marqueur& marker, const QString& className,
                                         const QString& nameCondition) const;

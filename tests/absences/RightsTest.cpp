@@ -60,6 +60,20 @@ TEST_F(AnAccount, thatMayAddAndDeleteInTheTwoTablesMarksAbsences)
     EXPECT_TRUE(studentAbsences(database()).isEmpty());
 }
 
+TEST_F(AnAccount, thatMayAddButNotDeleteMarksAbsencesAndCannotTakeThemBack)
+{
+    MarkedPlan plan(true,
+                    connectStringWith(QStringLiteral("SELECT ON %1.*;"
+                                                     "INSERT ON %1.abscence;"
+                                                     "INSERT ON %1.etud_abs")),
+                    {{classA}});
+    plan.click(1, pressed, pressed);
+    expectRefusal([&] { plan.shiftClick(1); });
+    expectRefusal([&] { plan.ctrlClick(1); });
+    EXPECT_EQ(classAbsences(database()), QList<QStringList>{classAbsence(classA)});
+    EXPECT_EQ(studentAbsences(database()), QList<QStringList>{studentAbsence(classA)});
+}
+
 TEST_F(AnAccount, thatMayOnlyReadSeesThePlanAndCannotMark)
 {
     MarkedPlan(database(), {{classA}}).click(1, pressed, pressed);

@@ -3,6 +3,7 @@
 #include "support/MariaDbServer.h"
 #include "support/RuntimeMatchers.h"
 
+#include <atomic>
 #include <csignal>
 
 using namespace test;
@@ -106,6 +107,18 @@ std::string gestureName(const testing::TestParamInfo<Gesture>& info)
 
 } // namespace
 
+TEST_P(AServerFault, beforeTheSearchArrivesWritesNothing)
+{
+    std::atomic<bool> clicking = false;
+    const CuttingProxy proxy(MariaDbServer::shared().port(), [&](const QByteArray&) {
+        return clicking ? Verdict::Cut : Verdict::Pass;
+    });
+    MarkedPlan plan(true, proxy.through(database().connectString()), {{classA}});
+    clicking = true;
+    expectLostConnection(errorOf([&] { click(plan); }), "Recherche de l’absence");
+    EXPECT_TRUE(rows().isEmpty());
+}
+
 TEST_P(AServerFault, betweenSearchAndInsertWritesNothing)
 {
     InsertionWatch insertion(GetParam().insert);
@@ -144,7 +157,7 @@ TEST_P(AServerFault, beforeARemovalArrivesKeepsTheWholeRow)
                              return command.contains(GetParam().removal) ? Verdict::Cut
                                                                          : Verdict::Pass;
                          }),
-                         "Recherche ou retrait de l’absence");
+                         "Retrait de l’absence");
     EXPECT_EQ(rows(), wholeRow());
 }
 
@@ -156,7 +169,7 @@ TEST_P(AServerFault, thatSwallowsTheAnswerToARemovalLeavesNothing)
                              return command.contains(GetParam().removal) ? Verdict::CutAnswer
                                                                          : Verdict::Pass;
                          }),
-                         "Recherche ou retrait de l’absence");
+                         "Retrait de l’absence");
     EXPECT_TRUE(rows().isEmpty());
 }
 
