@@ -199,6 +199,11 @@ void PlanView::mousePressEvent(QMouseEvent* event)
     }
 }
 
+void PlanView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mousePressEvent(event); // what comes in the place of a quick second press
+}
+
 QString PlanView::toolTipAt(QPoint point) const
 {
     const Bands view = bands();
@@ -223,10 +228,7 @@ QString PlanView::toolTipAt(QPoint point) const
     case PlanHit::Part::Size:
         return QStringLiteral("Nombre d'étudiants");
     case PlanHit::Part::YAbs:
-        if (!hit.box->absentToolTip.isEmpty()) {
-            return hit.box->absentToolTip;
-        }
-        break;
+        return hit.box->absentToolTip; // empty when no students were absent
     case PlanHit::Part::XAbs:
         return absences::XAbsToolTip(*hit.box);
     case PlanHit::Part::Box:

@@ -37,11 +37,14 @@ public:
     [[nodiscard]] const plan::DrawingTarget& target() const { return m_target; }
     /// Where a point of the plan (device pixels, unscrolled) lies in the viewport.
     [[nodiscard]] QPointF toViewport(QPointF planPoint) const;
+    /// The tooltip at a point of the viewport; empty where there is none.
+    [[nodiscard]] QString toolTipAt(QPoint point) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool viewportEvent(QEvent* event) override;
 
@@ -59,7 +62,6 @@ private:
     [[nodiscard]] plan::PlanScene scene() const;
     [[nodiscard]] QPointF toPlan(QPoint viewportPoint) const;
     void updateScrollBars();
-    [[nodiscard]] QString toolTipAt(QPoint point) const;
     [[nodiscard]] QSize planSize() const;
     void drawPicture();
 

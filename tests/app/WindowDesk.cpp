@@ -1,7 +1,5 @@
 #include "app/WindowDesk.h"
 
-#include "plan/Overlays.h"
-
 namespace test
 {
 
@@ -33,12 +31,16 @@ void TheWindow::expectRooms(const QStringList& rooms)
     EXPECT_EQ(shownRooms(plan()), rooms);
 }
 
-QPoint TheWindow::counterOnScreen(std::size_t row, std::size_t box)
+plan::OverlayPlaces TheWindow::overlays(std::size_t row, std::size_t box)
 {
     const plan::PlanRow& planRow = m_window->shell().refresh().content().rows.at(row);
-    const plan::OverlayPlaces places =
-        plan::overlayPlaces(form(), view()->target(), planRow.index, planRow.boxes.at(box));
-    return view()->viewport()->mapToGlobal(view()->toViewport(places.Label2.center()).toPoint());
+    return plan::overlayPlaces(form(), view()->target(), planRow.index, planRow.boxes.at(box));
+}
+
+QPoint TheWindow::counterOnScreen(std::size_t row, std::size_t box)
+{
+    return view()->viewport()->mapToGlobal(
+        view()->toViewport(overlays(row, box).Label2.center()).toPoint());
 }
 
 } // namespace test

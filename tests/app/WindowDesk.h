@@ -3,6 +3,7 @@
 #include "app/Hands.h"
 #include "app/PlClasse.h"
 #include "app/PlanView.h"
+#include "plan/Overlays.h"
 #include "shell/JsonExport.h"
 #include "shell/PlanReading.h"
 #include "support/ProgramSetup.h"
@@ -59,7 +60,9 @@ protected:
         return widget;
     }
     [[nodiscard]] app::PlanView* view() { return control<app::PlanView>("PlanView"); }
-    /// Where the middle of an overlay of a box lies on the screen. `row` and `box` count from 0.
+    /// The places of a box's pictures and labels in the plan. `row` and `box` count from 0.
+    [[nodiscard]] plan::OverlayPlaces overlays(std::size_t row, std::size_t box);
+    /// Where the middle of a box's group counter lies on the screen.
     [[nodiscard]] QPoint counterOnScreen(std::size_t row, std::size_t box);
 
     TestDatabase database{DatabaseKind::Sqlite};

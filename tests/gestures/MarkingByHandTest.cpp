@@ -122,6 +122,23 @@ TEST_P(MarkingByHand, togglesOnceWhileAKeyIsHeldOverSeveralClicks)
     expectRecorded({"L1", "L2", "L4"}, none);
 }
 
+TEST_P(MarkingByHand, takesAQuickSecondGestureLikeAnyOther)
+{
+    // So long that the second press is a double click, however slow the machine.
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(60000);
+    screen().pointAt(3, Image::ZAbs);
+    screen().clickByHand("keydown shift click 1 keyup shift");
+    expectRecorded(alone, none);
+    screen().clickByHand("keydown shift click 1 keyup shift");
+    expectRecorded(none, none);
+    screen().pointAt(1, Image::ZAbs);
+    screen().clickByHand("keydown ctrl click 1 keyup ctrl");
+    screen().clickByHand("keydown shift click 1 keyup shift");
+    expectRecorded(both, both);
+    QApplication::setDoubleClickInterval(interval);
+}
+
 TEST_P(MarkingByHand, takesTheRightKeyLikeTheLeftOne)
 {
     screen().pointAt(3, Image::ZAbs);

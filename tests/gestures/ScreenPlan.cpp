@@ -84,8 +84,6 @@ bool ClickCounter::eventFilter(QObject* watched, QEvent* event)
 
 ScreenPlan::ScreenPlan(TestDatabase& database) : m_setup(database)
 {
-    // The tests click faster than a user: none of it is meant for a double click.
-    QApplication::setDoubleClickInterval(0);
     fill(database);
     m_window = std::make_unique<app::PlClasse>(shell::Settings::fromFile(m_setup.settingsFile()),
                                                environmentIn(m_setup));

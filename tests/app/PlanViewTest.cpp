@@ -1,0 +1,69 @@
+// The plan under the mouse: what its tooltips tell.
+
+#include "app/WindowDesk.h"
+
+using namespace test;
+
+namespace
+{
+
+class ThePlansToolTips : public TheWindow
+{
+protected:
+    /// The tooltips of a box at the places of its three images. `row` and `box` count from 0.
+    struct ToolTips {
+        QString XAbs;
+        QString YAbs;
+        QString ZAbs;
+    };
+    [[nodiscard]] ToolTips toolTips(std::size_t row, std::size_t box)
+    {
+        const plan::OverlayPlaces places = overlays(row, box);
+        const auto at = [this](QPointF planPoint) {
+            return view()->toolTipAt(view()->toViewport(planPoint).toPoint());
+        };
+        // The two pictures overlap: the left one is surely hit near its left edge.
+        return {at({places.XAbs.left() + 3, places.XAbs.center().y()}), at(places.YAbs.center()),
+                at({places.ZAbs.left() + places.ZAbs.width() / 4, places.ZAbs.center().y()})};
+    }
+};
+
+} // namespace
+
+TEST_F(ThePlansToolTips, tellWhatIsRecordedAndWhatAClickDoes)
+{
+    database.execute("INSERT INTO etud_abs (Classe, Nom, Jour, HeureD) "
+                     "VALUES ('G1', 'G1', '2025-03-17', '8h30')");
+    open();
+    const ToolTips toolTipsOfG1 = toolTips(0, 0); // A2 at 8h30
+    const QString gestures = "Maj + clic : retirer l’absence de la classe G1\n"
+                             "Ctrl + clic : retirer l’absence d’étudiants de la classe G1";
+    EXPECT_EQ(toolTipsOfG1.XAbs, "Classe absente\n" + gestures);
+    EXPECT_EQ(toolTipsOfG1.YAbs, "G1 Absent");
+    EXPECT_EQ(toolTipsOfG1.ZAbs, "A2 – 8h30, 90 min\nG1\nDupont/Durand\n[Algèbre]\n\n" + gestures);
+}
+
+TEST_F(ThePlansToolTips, areEmptyAtTheTriangleWithoutAbsentStudents)
+{
+    open();
+    const ToolTips toolTipsOfG1 = toolTips(0, 0);
+    EXPECT_EQ(toolTipsOfG1.YAbs, "");
+    EXPECT_EQ(toolTipsOfG1.XAbs, "Classe absente\n"
+                                 "Maj + clic : retirer l’absence de la classe G1\n"
+                                 "Ctrl + clic : enregistrer l’absence d’étudiants de la classe G1");
+}
+
+TEST_F(ThePlansToolTips, leaveTheOutcomeOpenForSeveralClasses)
+{
+    database.execute("INSERT INTO etud_abs (Classe, Nom, Jour, HeureD) "
+                     "VALUES ('G2', 'G2', '2025-03-17', '14h00')");
+    open();
+    const ToolTips toolTipsOfBoth = toolTips(1, 0); // B1 at 14h00
+    const QString gestures =
+        "Maj + clic : enregistrer ou retirer l’absence de chacune des classes G2, G3\n"
+        "Ctrl + clic : enregistrer ou retirer l’absence d’étudiants de chacune des classes G2, G3";
+    EXPECT_EQ(toolTipsOfBoth.XAbs, gestures);
+    EXPECT_EQ(toolTipsOfBoth.YAbs, "G2\tG3 Absent");
+    EXPECT_TRUE(toolTipsOfBoth.ZAbs.endsWith("\n\n" + gestures))
+        << toolTipsOfBoth.ZAbs.toStdString();
+}
