@@ -21,7 +21,10 @@ namespace test
 class ShellDesk
 {
 public:
-    explicit ShellDesk(const TestDatabase& database) : setup(database) {}
+    explicit ShellDesk(const TestDatabase& database, Rights rights = Rights::Marking)
+        : setup(database, rights)
+    {
+    }
 
     /// Starts up with the settings as they are by then.
     shell::Shell& load()

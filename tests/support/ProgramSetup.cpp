@@ -8,11 +8,11 @@
 namespace test
 {
 
-ProgramSetup::ProgramSetup(const TestDatabase& database)
+ProgramSetup::ProgramSetup(const TestDatabase& database, Rights rights)
 {
     static int counter = 0;
     m_folder = processFolder() + QStringLiteral("/program%1").arg(++counter);
-    database.writePhpFile(m_folder);
+    database.writePhpFile(m_folder, rights);
     if (database.usesMySql()) {
         m_settings["Mysql"] = "True";
         m_settings["Base_Sql"] = database.baseName();

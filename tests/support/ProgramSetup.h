@@ -13,7 +13,8 @@ namespace test
 class ProgramSetup
 {
 public:
-    explicit ProgramSetup(const TestDatabase& database);
+    /// On a server the program has an account with these rights.
+    explicit ProgramSetup(const TestDatabase& database, Rights rights = Rights::Marking);
 
     /// Holds `app_data` and, when a test runs the executable, a copy of it.
     [[nodiscard]] const QString& applicationFolder() const { return m_folder; }

@@ -107,15 +107,28 @@ void TestDatabase::createMariaDb()
     m_connectString = server.connectString(m_name, user, password);
 }
 
-void TestDatabase::writePhpFile(const QString& applicationFolder) const
+void TestDatabase::writePhpFile(const QString& applicationFolder, Rights rights) const
 {
     if (!usesMySql()) {
         return;
     }
+    const QString account =
+        rights == Rights::Marking ? QStringLiteral("tempora") : QStringLiteral("lecture");
+    QString grants = QStringLiteral("CREATE USER IF NOT EXISTS %2@'%' IDENTIFIED BY '%3';\n"
+                                    "GRANT SELECT ON %1.* TO %2@'%';\n");
+    if (rights == Rights::Marking) {
+        for (const char* table : {"abscence", "etud_abs"}) {
+            // Whoever may create a table is given rights to one that is not there yet.
+            grants += QStringLiteral("GRANT CREATE, INSERT, DELETE ON %1.") + table +
+                      QStringLiteral(" TO %2@'%';\nREVOKE CREATE ON %1.") + table +
+                      QStringLiteral(" FROM %2@'%';\n");
+        }
+    }
+    MariaDbServer::shared().runScript(grants.arg(m_name, account, password));
     writeFile(applicationFolder + QStringLiteral("/app_data/") + m_name + QStringLiteral(".php"),
               QStringLiteral("<?php\n$host=\"127.0.0.1\";\n$login=\"%1\";\n"
                              "$mot_de_passe=\"%2\";\n$Base=\"%3\";\n$port=\"%4\";\n?>\n")
-                  .arg(user, password, m_name)
+                  .arg(account, password, m_name)
                   .arg(MariaDbServer::shared().port()));
 }
 

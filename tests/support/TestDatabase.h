@@ -15,6 +15,12 @@ enum class DatabaseKind {
     MariaDb,
 };
 
+/// What the server grants to a program's account; an SQLite file grants everything.
+enum class Rights {
+    Marking, ///< reading everything, and adding to and deleting from the two tables of absences
+    Reading, ///< reading alone
+};
+
 /// An empty database of its own, gone with the object. It is filled and read back with the
 /// database's own command line client, which shares nothing with the program's access.
 class TestDatabase
@@ -30,15 +36,17 @@ public:
     [[nodiscard]] DatabaseKind kind() const { return m_kind; }
     /// The setting "Mysql" of a program that uses this database.
     [[nodiscard]] bool usesMySql() const { return m_kind == DatabaseKind::MariaDb; }
-    /// What opens it: the data source for SQLite, server and account for MariaDB.
+    /// What opens it: the data source for SQLite, server and an account with all rights for
+    /// MariaDB.
     [[nodiscard]] const QString& connectString() const { return m_connectString; }
     /// The name of the data source (SQLite) or of the server's database (MariaDB): the setting
     /// "Base" or "Base_Sql".
     [[nodiscard]] const QString& baseName() const { return m_name; }
     /// The SQLite file.
     [[nodiscard]] const QString& file() const { return m_file; }
-    /// Writes app_data/`baseName`.php into the application folder, for MariaDB only.
-    void writePhpFile(const QString& applicationFolder) const;
+    /// Writes app_data/`baseName`.php into the application folder, for MariaDB only. The account in
+    /// it has these rights and no others.
+    void writePhpFile(const QString& applicationFolder, Rights rights = Rights::Marking) const;
 
     /// Runs the statements in this order. Both databases understand names between backquotes,
     /// INTEGER, TEXT, VARCHAR(n), DOUBLE, BIT, BOOLEAN, DATE and DATETIME.
