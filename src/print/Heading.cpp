@@ -40,8 +40,13 @@ QString roomsOf(const form::PlanForm& form)
 {
     const QString zone =
         form.cb_Locaux.text() == u"0" ? QString() : QStringLiteral("Zone ") + form.cb_Locaux.text();
-    const QString department =
-        form.ElemDep.isChecked() ? QStringLiteral("Département ") + form.Combo1.text() : QString();
+    if (!form.ElemDep.isChecked()) {
+        return zone;
+    }
+    QString department = QStringLiteral("Département ") + form.Combo1.text();
+    if (form.Chk_Neutre.isChecked()) {
+        department += u' ' + form.Chk_Neutre.caption;
+    }
     return joined({zone, department});
 }
 

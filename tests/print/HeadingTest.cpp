@@ -64,6 +64,16 @@ TEST(Heading, saysWhatWasChosen)
     EXPECT_EQ(heading(desk).choice, "Semaine B · Zone 3 · Département GC · Matière : Algèbre");
 }
 
+TEST(Heading, namesTheRoomsWithoutADepartmentOnlyBesideOne)
+{
+    PlanDesk desk(3);
+    desk.form.Combo1.design({"GC"}, 0);
+    desk.tick(desk.form.Chk_Neutre);
+    EXPECT_EQ(heading(desk).choice, "");
+    desk.tick(desk.form.ElemDep);
+    EXPECT_EQ(heading(desk).choice, "Département GC + Eléments Neutres");
+}
+
 TEST(Heading, namesTheExamWeekInsteadOfWeekAOrB)
 {
     PlanDesk desk(3);
