@@ -181,9 +181,10 @@ void PlClasse::syncWidgets()
         m_focusRequests = form.colorerFocusRequests;
         m_options->focusColorer();
     }
-    if (form.fontRequests != m_fontRequests) {
-        m_fontRequests = form.fontRequests;
-        setStyleSheet(windowStyleSheet() + QStringLiteral("* { font-family: Arial; }"));
+    if (form.controlFontName != m_fontName) {
+        m_fontName = form.controlFontName;
+        setStyleSheet(windowStyleSheet() +
+                      QStringLiteral("* { font-family: \"%1\"; }").arg(m_fontName));
     }
 }
 

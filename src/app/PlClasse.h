@@ -65,7 +65,7 @@ private:
     PlanView* m_view = nullptr;
     HelpWindow* m_help = nullptr; ///< null until it is asked for
     int m_focusRequests = 0;
-    int m_fontRequests = 0;
+    QString m_fontName;
     bool m_failed = false;
 };
 

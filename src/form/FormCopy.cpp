@@ -109,6 +109,7 @@ std::unique_ptr<PlanForm> copyOf(const PlanForm& form)
     result->scaleWidth = form.scaleWidth;
     result->scaleHeight = form.scaleHeight;
     result->backColor = form.backColor;
+    result->controlFontName = form.controlFontName;
     copyLabels(form, *result);
     copyContext(form, *result);
     copyDisplay(form, *result);

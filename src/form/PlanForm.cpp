@@ -120,6 +120,24 @@ PlanForm::PlanForm()
     designPlan(*this);
 }
 
+void PlanForm::setFontName(const QString& name)
+{
+    controlFontName = name;
+    for (Label* label : {&XSalle, &Label11, &Lab_Ver, &Semn, &Label5}) {
+        label->font.name = name;
+    }
+    const auto setAll = [&name](auto& labels) {
+        for (Label& label : labels) {
+            label.font.name = name;
+        }
+    };
+    setAll(Label4);
+    setAll(Label1);
+    setAll(Salle);
+    setAll(Cap);
+    setAll(Tot);
+}
+
 QString PlanForm::title() const
 {
     const QString when = DTPicker1.visible

@@ -32,8 +32,8 @@ public:
     Colour backColor;
     /// Counts how often `MatchControlBackgrounds` asked for the focus to go to `Colorer`.
     int colorerFocusRequests = 0;
-    /// Counts how often all controls were asked to take the font of `Label20`.
-    int fontRequests = 0;
+    /// Font of the controls that have none of their own here; empty: the design's.
+    QString controlFontName;
 
     // Header. Its labels lie above the plan, so their tops are negative.
     Label XSalle; ///< "Occupation des Salles du"
@@ -99,6 +99,8 @@ public:
     /// The title as shown and printed: `XSalle` and the picked date while the picker is in use
     /// ("dd/MM/YY"), else the day.
     [[nodiscard]] QString title() const;
+    /// Gives every label the font of that name; sizes and weights stay.
+    void setFontName(const QString& name);
 };
 
 } // namespace form

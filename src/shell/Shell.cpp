@@ -157,7 +157,7 @@ void Shell::saveCheckBox(const QString& key, const form::CheckBox& box, std::int
 
 void Shell::Label20_Click()
 {
-    ++m_form.fontRequests;
+    m_form.setFontName(m_form.Label20.font.name);
     m_refresh.RefreshPlan();
 }
 

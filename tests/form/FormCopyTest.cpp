@@ -29,6 +29,7 @@ void change(PlanForm& form)
     form.Opt_Cap.setChecked(true);
     form.Total_L_P.setText("7");
     form.Command3.enabled = true;
+    form.setFontName("Liberation Serif");
 }
 
 } // namespace
@@ -57,6 +58,8 @@ TEST(FormCopy, hasTheValuesOfTheForm)
     EXPECT_TRUE(copy->Opt_Cap.isChecked());
     EXPECT_EQ(copy->Total_L_P.text(), "7");
     EXPECT_TRUE(copy->Command3.enabled);
+    EXPECT_EQ(copy->controlFontName, "Liberation Serif");
+    EXPECT_EQ(copy->Tot[3].font.name, "Liberation Serif");
 }
 
 TEST(FormCopy, raisesNoEventOfTheForm)

@@ -68,6 +68,22 @@ TEST(PlanForm, carriesTheCaptionsOfItsControls)
     EXPECT_EQ(form.Frame1.caption, "Palette : ");
 }
 
+TEST(PlanForm, givesEveryLabelTheSameFontName)
+{
+    PlanForm form;
+    EXPECT_EQ(form.XSalle.font.name, "Arial Black");
+    form.setFontName("Courier");
+    EXPECT_EQ(form.controlFontName, "Courier");
+    const std::vector<form::Label> labels{
+        form.XSalle,    form.Label4[0], form.Label4[4], form.Label11, form.Semn,
+        form.Label5,    form.Lab_Ver,   form.Label1[0], form.Tot[0],  form.Label1[11],
+        form.Salle[29], form.Cap[29],   form.Tot[10]};
+    for (const form::Label& label : labels) {
+        EXPECT_EQ(label.font.name, "Courier");
+    }
+    EXPECT_EQ(form.XSalle.font.points, 18); // sizes stay
+}
+
 TEST(PlanForm, isTitledByTheDayWhileThePickerIsHidden)
 {
     PlanForm form;
