@@ -1,12 +1,16 @@
 #include "app/Printing.h"
 
+#include "print/PdfDocument.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
+#include "shell/Export.h"
 #include "shell/Shell.h"
 
+#include <QFile>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -16,24 +20,55 @@ namespace app
 namespace
 {
 
-/// A printer as sheets need it, and what its queue calls the document.
-void prepare(QPrinter& printer, const std::vector<print::Sheet>& sheets)
+/// A printer as sheets need it, and what its queue calls the document. False when it refuses.
+bool prepare(QPrinter& printer, const std::vector<print::Sheet>& sheets)
 {
     printer.setResolution(print::kSheetResolution);
     printer.setCreator(QStringLiteral("Tempora"));
     // The name is offered for a PDF file, too, so that a date's "/" would name folders.
     printer.setDocName(QString(sheets.front().heading.title).replace(u'/', u'-'));
-    print::layPaper(printer);
+    return print::layPaper(printer);
 }
 
 /// The sheets that the user asked for: all, or those from one number to another.
 void keepChosen(std::vector<print::Sheet>& sheets, const QPrinter& printer)
 {
     if (printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0) {
-        const auto outside = [&printer](const print::Sheet& sheet) {
-            return sheet.number < printer.fromPage() || sheet.number > printer.toPage();
-        };
-        sheets.erase(std::remove_if(sheets.begin(), sheets.end(), outside), sheets.end());
+        const int count = static_cast<int>(sheets.size());
+        const int first = std::min(printer.fromPage() - 1, count);
+        sheets.erase(sheets.begin() + std::clamp(printer.toPage(), first, count), sheets.end());
+        sheets.erase(sheets.begin(), sheets.begin() + first);
+    }
+}
+
+/// Makes the document elsewhere first, so that the file is replaced as a whole or not at all: the
+/// printer itself would begin by emptying it, and say nothing of a disk that is full.
+void printToFile(QPrinter& printer, const std::vector<print::Sheet>& sheets)
+{
+    const QString path = printer.outputFileName();
+    const QTemporaryDir folder;
+    printer.setOutputFileName(folder.filePath(QStringLiteral("plan.pdf")));
+    print::printSheets(printer, sheets);
+    QFile made(printer.outputFileName());
+    const QByteArray document = made.open(QIODevice::ReadOnly) ? made.readAll() : QByteArray();
+    runtime::RunTimeError fault(runtime::ErrorNumber::PrinterError);
+    if (!print::isWholePdf(document)) {
+        throw fault;
+    }
+    try {
+        shell::writeWholeFile(path, document);
+    } catch (const shell::ExportError& reason) {
+        fault.addActivity(QString::fromUtf8(reason.what()));
+        throw fault;
+    }
+}
+
+void printOn(QPrinter& printer, const std::vector<print::Sheet>& sheets)
+{
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        printToFile(printer, sheets);
+    } else {
+        print::printSheets(printer, sheets);
     }
 }
 
@@ -93,7 +128,7 @@ std::vector<print::Sheet> Printing::sheetsOf(std::vector<plan::PlanPage> pages) 
 
 std::vector<print::Sheet> Printing::shownSheet()
 {
-    m_shell.refresh().finishRows(); // a refresh may be waiting for this very click to end
+    m_shell.refresh().finishRows(); // one that waits for this click to end has rows to colour
     std::vector<plan::PlanPage> pages;
     pages.push_back(m_shell.shownPage());
     return sheetsOf(std::move(pages));
@@ -112,11 +147,11 @@ void Printing::PrintAllPages_Click()
 void Printing::print(std::vector<print::Sheet> sheets)
 {
     QPrinter printer(QPrinter::HighResolution);
-    prepare(printer, sheets);
+    static_cast<void>(prepare(printer, sheets)); // whatever it says, the user may choose another
     if (!m_dialogs.choosePrinter(printer, static_cast<int>(sheets.size()))) {
         return;
     }
-    prepare(printer, sheets); // another printer may have been chosen
+    const bool ready = prepare(printer, sheets);
     keepChosen(sheets, printer);
     if (sheets.empty()) {
         return;
@@ -124,14 +159,19 @@ void Printing::print(std::vector<print::Sheet> sheets)
     runtime::during(QStringLiteral("Impression du plan sur « %1 »")
                         .arg(printer.outputFileName().isEmpty() ? printer.printerName()
                                                                 : printer.outputFileName()),
-                    [&] { print::printSheets(printer, sheets); });
+                    [&] {
+                        if (!ready) {
+                            throw runtime::RunTimeError(runtime::ErrorNumber::PrinterError);
+                        }
+                        printOn(printer, sheets);
+                    });
 }
 
 void Printing::PrintPreview_Click()
 {
     const std::vector<print::Sheet> sheets = shownSheet();
     QPrinter printer(QPrinter::HighResolution);
-    prepare(printer, sheets);
+    static_cast<void>(prepare(printer, sheets));
     m_dialogs.preview(printer, [&sheets](QPrinter& target) { print::printSheets(target, sheets); });
 }
 

@@ -1,12 +1,14 @@
 #include "print/PdfDocument.h"
 
 #include "print/PrintJob.h"
+#include "runtime/RunTimeError.h"
 
 #include <QBuffer>
 #include <QHashSeed>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QRegularExpression>
+#include <utility>
 
 namespace print
 {
@@ -23,6 +25,15 @@ public:
     FixedHashOrder(const FixedHashOrder&) = delete;
     FixedHashOrder& operator=(const FixedHashOrder&) = delete;
 };
+
+/// Where the number stands that tells the position of the table "xref": its first byte, and the one
+/// behind it.
+std::pair<qsizetype, qsizetype> tableNumber(const QByteArray& pdf)
+{
+    static const QByteArray key = "startxref\n";
+    const qsizetype start = pdf.lastIndexOf(key) + key.size();
+    return {start, pdf.indexOf('\n', start)};
+}
 
 /// Moves the positions of the table "xref" that lie behind `from` by `distance` bytes.
 QByteArray movedPositions(QByteArray pdf, qsizetype from, qsizetype distance)
@@ -44,12 +55,18 @@ QByteArray movedPositions(QByteArray pdf, qsizetype from, qsizetype distance)
                         QByteArray::number(position + distance).rightJustified(kDigits, '0'));
         }
     }
-    const qsizetype start = pdf.lastIndexOf("startxref\n") + qsizetype(sizeof "startxref\n") - 1;
-    const qsizetype end = pdf.indexOf('\n', start);
+    const auto [start, end] = tableNumber(pdf);
     return pdf.replace(start, end - start, QByteArray::number(table + 1));
 }
 
 } // namespace
+
+bool isWholePdf(const QByteArray& pdf)
+{
+    const auto [start, end] = tableNumber(pdf);
+    return pdf.endsWith("%%EOF\n") &&
+           pdf.mid(pdf.mid(start, end - start).toLongLong()).startsWith("xref\n");
+}
 
 QByteArray withCreationDate(const QByteArray& pdf, QDate date)
 {
@@ -76,7 +93,9 @@ QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date)
         QPdfWriter writer(&buffer);
         writer.setResolution(kSheetResolution);
         writer.setPageSize(QPageSize(QPageSize::A4));
-        layPaper(writer);
+        if (!layPaper(writer)) {
+            throw runtime::RunTimeError(runtime::ErrorNumber::PrinterError);
+        }
         writer.setCreator(QStringLiteral("Tempora"));
         if (!sheets.empty()) {
             writer.setTitle(sheets.front().heading.title);

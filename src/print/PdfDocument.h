@@ -15,6 +15,10 @@ namespace print
 /// Error: PrinterError.
 [[nodiscard]] QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date);
 
+/// Whether the bytes are a PDF document of Qt's to its end, with nothing missing in between: its
+/// last lines tell where the table of positions lies.
+[[nodiscard]] bool isWholePdf(const QByteArray& pdf);
+
 /// A PDF document of Qt's with its date of creation replaced by a day at 0:00 UTC. The table of
 /// positions at its end is brought into agreement when the date takes more or less room.
 [[nodiscard]] QByteArray withCreationDate(const QByteArray& pdf, QDate date);

@@ -7,6 +7,7 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 namespace print
 {
@@ -16,8 +17,8 @@ namespace
 // A4 lying across, in points: the paper that the sheet is designed for.
 constexpr double kDesignWidth = 842;
 constexpr double kDesignHeight = 595;
-// Millimetres that no printer needs for itself.
-constexpr double kMargin = 6;
+// Points (6 mm) that no printer needs for itself.
+constexpr double kMargin = 6 / 25.4 * 72;
 
 /// How much larger than the design the paper is; 1 for smaller paper.
 double growth(const QPageLayout& layout)
@@ -80,16 +81,18 @@ void require(bool success)
 
 } // namespace
 
-void layPaper(QPagedPaintDevice& printer)
+bool layPaper(QPagedPaintDevice& printer)
 {
+    // First, so that the margins are those of the paper lying across. Qt does not turn the minimum
+    // margins with the paper: the widest of them serves every edge.
+    printer.setPageOrientation(QPageLayout::Landscape);
     QPageLayout layout = printer.pageLayout();
-    layout.setOrientation(QPageLayout::Landscape);
-    layout.setUnits(QPageLayout::Millimeter);
+    layout.setUnits(QPageLayout::Point);
     const QMarginsF least = layout.minimumMargins();
-    layout.setMargins(QMarginsF(std::max(kMargin, least.left()), std::max(kMargin, least.top()),
-                                std::max(kMargin, least.right()),
-                                std::max(kMargin, least.bottom())));
-    printer.setPageLayout(layout);
+    const double margin =
+        std::ceil(std::max({kMargin, least.left(), least.top(), least.right(), least.bottom()}));
+    return layout.setMargins(QMarginsF(margin, margin, margin, margin)) &&
+           printer.setPageLayout(layout);
 }
 
 void printSheets(QPagedPaintDevice& printer, const std::vector<Sheet>& sheets)

@@ -5,6 +5,7 @@
 #include "runtime/RunTimeError.h"
 #include "support/RuntimeMatchers.h"
 
+#include <QBuffer>
 #include <QPdfWriter>
 
 using namespace test;
@@ -45,6 +46,41 @@ TEST(PrintJob, staysInsideThePrintableArea)
         EXPECT_LE(printed.right(), size.width() - margin + pixel);
         EXPECT_LE(printed.bottom(), size.height() - margin + pixel);
     }
+}
+
+TEST(PrintJob, keepsOneMarginThatIsWideEnoughForEveryEdgeOfThePrinter)
+{
+    PlanDesk desk(25, "19");
+    fill(desk);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setResolution(print::kSheetResolution);
+    // A printer that cannot print on 14 mm at the foot of its paper, a side of it lying across.
+    ASSERT_TRUE(writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                                 QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter,
+                                                 QMarginsF(1, 1, 1, 14))));
+    ASSERT_TRUE(print::layPaper(writer));
+    EXPECT_EQ(writer.pageLayout().orientation(), QPageLayout::Landscape);
+    // 14 mm are 39.7 points.
+    EXPECT_EQ(writer.pageLayout().margins(QPageLayout::Point), QMarginsF(40, 40, 40, 40));
+    print::printSheets(writer, documentOf(desk));
+    const QRectF printed = Pdf(bytes).printed();
+    const double pixel = 25.4 / 96;
+    EXPECT_GE(printed.left(), 14 - pixel);
+    EXPECT_GE(printed.top(), 14 - pixel);
+    EXPECT_LE(printed.right(), 297 - 14 + pixel);
+    EXPECT_LE(printed.bottom(), 210 - 14 + pixel);
+}
+
+TEST(PrintJob, leavesAtLeastSixMillimetresAtEveryEdge)
+{
+    QBuffer buffer;
+    QPdfWriter writer(&buffer);
+    ASSERT_TRUE(print::layPaper(writer));
+    // 6 mm are 17.01 points.
+    EXPECT_EQ(writer.pageLayout().margins(QPageLayout::Point), QMarginsF(18, 18, 18, 18));
 }
 
 TEST(PrintJob, laysThePaperAcross)

@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QPdfWriter>
+#include <gtest/gtest.h>
 
 namespace test
 {
@@ -31,7 +32,7 @@ QByteArray pdfOn(QPageSize::PageSizeId paper, const std::vector<print::Sheet>& s
     QPdfWriter writer(&buffer);
     writer.setResolution(print::kSheetResolution);
     writer.setPageSize(QPageSize(paper));
-    print::layPaper(writer);
+    EXPECT_TRUE(print::layPaper(writer));
     print::printSheets(writer, sheets);
     return bytes;
 }
