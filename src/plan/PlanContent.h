@@ -43,8 +43,8 @@ struct PlanRow {
     std::vector<PlanBox> boxes;
 };
 
-/// What one refresh worked out: the window, the printed sheet and every export read these same
-/// values.
+/// What one refresh worked out: whatever shows the plan, on the screen, on paper or in a file,
+/// reads these values.
 struct PlanContent {
     std::vector<PlanRow> rows;
 };

@@ -17,6 +17,8 @@ struct PlanPage {
     PlanContent content;
     CellLayout layout;
     int RowsShown = 0; ///< rows 1 to this one are shown; -1 for a page without rooms
+    int number = 0;    ///< of `count` pages of the room set; 0 for a page on its own
+    int count = 0;
 };
 
 } // namespace plan

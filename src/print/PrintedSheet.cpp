@@ -76,13 +76,13 @@ void printNotes(QPainter& surface, const DrawingTarget& target, const Sheet& she
     const double dates = pixels(target, form.Label4[0].place).left();
     university.setLeft(university.left() + establishmentWidth + gap);
     university.setRight(dates - gap);
-    drawFitted(surface, target, {QStringLiteral("Arial"), 11, false}, university,
+    const QString& printerFont = form.Label20.font.name;
+    drawFitted(surface, target, {printerFont, 11, false}, university,
                Qt::AlignLeft | Qt::AlignVCenter, sheet.heading.university);
     QRectF period = pixels(target, form.XSalle.place);
     period.setLeft(dates);
     period.setRight(pixels(target, form.Label4[3].place).right());
-    drawFitted(surface, target, {QStringLiteral("Arial"), 12, true}, period,
-               Qt::AlignLeft | Qt::AlignVCenter,
+    drawFitted(surface, target, {printerFont, 12, true}, period, Qt::AlignLeft | Qt::AlignVCenter,
                joined({sheet.heading.day, sheet.heading.period, sheet.heading.choice}));
 }
 
@@ -163,8 +163,8 @@ void PrintPlanBody(QPainter& surface, const DrawingTarget& target, const Sheet& 
     surface.restore();
     surface.save();
     surface.setFont(paperFont(form.Label20.font, target, target.FontSize));
-    // The boxes are the ones that the refresh worked out, not looked up again: they come from the
-    // very lookups that paper needs, and what is printed is what the user saw.
+    // The boxes were looked up for this sheet, by the refresh itself: paper and screen have one
+    // rule.
     for (const plan::PlanRow& row : sheet.page.content.rows) {
         const form::Label& room = form.Salle.at(static_cast<std::size_t>(row.index));
         if (!room.visible) {
@@ -193,7 +193,7 @@ void printFooter(QPainter& surface, const DrawingTarget& target, const Sheet& sh
         return std::any_of(row.boxes.begin(), row.boxes.end(),
                            [](const plan::PlanBox& box) { return box.makeUp; });
     });
-    const form::Font font{QStringLiteral("Arial"), 8, false};
+    const form::Font font{sheet.page.form->Label20.font.name, 8, false};
     const QRectF line = pixels(target, {0, sheet.bottom + 60, sheet.right, kFooterTwips - 60});
     surface.save();
     surface.setPen(kInk);
@@ -201,9 +201,9 @@ void printFooter(QPainter& surface, const DrawingTarget& target, const Sheet& sh
         drawFitted(surface, target, font, line, Qt::AlignLeft | Qt::AlignVCenter,
                    QStringLiteral("Case hachurée : rattrapage"));
     }
-    if (sheet.count > 1) {
+    if (sheet.page.count > 0) {
         drawFitted(surface, target, font, line, Qt::AlignRight | Qt::AlignVCenter,
-                   QStringLiteral("Page %1 / %2").arg(sheet.number).arg(sheet.count));
+                   QStringLiteral("Page %1 / %2").arg(sheet.page.number).arg(sheet.page.count));
     }
     surface.restore();
 }

@@ -20,7 +20,7 @@ void PrintHeader(QPainter& surface, const plan::DrawingTarget& target, const She
 /// Prints the grid and row by row the room, its places and the boxes.
 void PrintPlanBody(QPainter& surface, const plan::DrawingTarget& target, const Sheet& sheet);
 
-/// Prints what the hatching means, and the number of the sheet when there are several.
+/// Prints what the hatching means, and the number of the page when it is one of a whole room set.
 void printFooter(QPainter& surface, const plan::DrawingTarget& target, const Sheet& sheet);
 
 } // namespace print

@@ -167,10 +167,6 @@ std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages, const context::
     std::vector<Sheet> sheets;
     for (plan::PlanPage& page : pages) {
         sheets.push_back(makeSheet(std::move(page), slots, establishment));
-        sheets.back().number = static_cast<int>(sheets.size());
-    }
-    for (Sheet& sheet : sheets) {
-        sheet.count = static_cast<int>(sheets.size());
     }
     return sheets;
 }

@@ -19,8 +19,6 @@ struct Sheet {
     int right = 0;   ///< right edge of the places
     int width = 0;   ///< right edge of everything, the header included
     int bottom = 0;  ///< bottom of the last row, of the totals under it when there are any
-    int number = 1;  ///< of `count` sheets
-    int count = 1;
 };
 
 /// Places a page of the plan for paper: hours and boxes along an axis of 1700 twips for 90
@@ -29,7 +27,7 @@ struct Sheet {
 [[nodiscard]] Sheet makeSheet(plan::PlanPage page, const context::TimeSlots& slots,
                               const context::EstablishmentHeader& establishment);
 
-/// The sheets of several pages, numbered.
+/// The sheets of several pages.
 [[nodiscard]] std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages,
                                             const context::TimeSlots& slots,
                                             const context::EstablishmentHeader& establishment);

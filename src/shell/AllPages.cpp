@@ -2,22 +2,26 @@
 
 #include "shell/Shell.h"
 
-#include "form/FormCopy.h"
 #include "shell/PageWalk.h"
 
 namespace shell
 {
 
-plan::PlanPage Shell::shownPage() const
+WalkStart Shell::walkStart()
 {
-    return {form::copyOf(m_form), m_refresh.content(), m_layout, m_page.RowsShown};
+    return {
+        m_form,   m_database,         m_periods, m_slots, m_page, m_layout, m_SeanceTypeShortNames,
+        m_colors, m_environment.plain};
+}
+
+plan::PlanPage Shell::shownPage()
+{
+    return PageWalk(walkStart()).shownPage();
 }
 
 std::vector<plan::PlanPage> Shell::allPages()
 {
-    PageWalk walk({m_form, m_database, m_periods, m_slots, m_page, m_layout, m_SeanceTypeShortNames,
-                   m_colors, m_environment.plain});
-    return walk.pages();
+    return PageWalk(walkStart()).pages();
 }
 
 } // namespace shell

@@ -50,21 +50,41 @@ bool PageWalk::showNextPage()
     return m_page.PageStart > before;
 }
 
-plan::PlanPage PageWalk::shownPage() const
+plan::PlanPage PageWalk::page(plan::PlanContent content) const
 {
-    return {form::copyOf(*m_form), m_refresh.content(), m_layout, m_page.RowsShown};
+    return {form::copyOf(*m_form), std::move(content), m_layout, m_page.RowsShown};
+}
+
+plan::PlanPage PageWalk::shownPage()
+{
+    const std::vector<form::Label> shownRooms = m_form->Salle;
+    // The totals line is printed as it stands: on later pages it holds what earlier ones counted.
+    m_totals.CountingOn = false;
+    m_refresh.RefreshPlan(plan::PlanRefresh::TotalsStart::PreviousPages);
+    plan::PlanContent content = m_refresh.content();
+    for (plan::PlanRow& row : content.rows) {
+        const auto index = static_cast<std::size_t>(row.index);
+        row.color = shownRooms[index].backColor;
+        m_form->Salle[index].backColor = row.color;
+        m_form->Cap[index].backColor = row.color;
+    }
+    return page(std::move(content));
 }
 
 std::vector<plan::PlanPage> PageWalk::pages()
 {
     std::vector<plan::PlanPage> pages;
     showFirstPage();
-    pages.push_back(shownPage());
+    pages.push_back(page(m_refresh.content()));
     // The rooms were counted at start-up, so a smaller room set ends with pages that hold none.
     while (showNextPage()) {
         if (m_page.RowsShown >= 1) {
-            pages.push_back(shownPage());
+            pages.push_back(page(m_refresh.content()));
         }
+    }
+    for (std::size_t index = 0; index < pages.size(); ++index) {
+        pages[index].number = static_cast<int>(index) + 1;
+        pages[index].count = static_cast<int>(pages.size());
     }
     return pages;
 }

@@ -37,8 +37,12 @@ class PageWalk : private context::PlanActions
 public:
     explicit PageWalk(const WalkStart& start);
 
-    /// Errors: those of a refresh, any database error.
+    /// Every page from the first one on, numbered. Errors: those of a refresh, any database error.
     [[nodiscard]] std::vector<plan::PlanPage> pages();
+    /// The page that the window shows, looked up anew with the controls as they stand: some of them
+    /// (Date, Selon la Matière) change what a box says without redrawing the plan. Its rows have
+    /// the window's colours, its totals are the window's. Errors: as above.
+    [[nodiscard]] plan::PlanPage shownPage();
 
 private:
     void RefreshPlan() override { m_refresh.RefreshPlan(); }
@@ -48,7 +52,7 @@ private:
 
     void showFirstPage();
     [[nodiscard]] bool showNextPage();
-    [[nodiscard]] plan::PlanPage shownPage() const;
+    [[nodiscard]] plan::PlanPage page(plan::PlanContent content) const;
 
     std::unique_ptr<form::PlanForm> m_form;
     plan::CellLayout m_layout;

@@ -32,6 +32,8 @@
 namespace shell
 {
 
+struct WalkStart;
+
 /// What the program finds around it. Tests and the command line give their own.
 struct Environment {
     /// Folder that holds the executable, `app_data` and `Styles`.
@@ -96,8 +98,10 @@ public:
     [[nodiscard]] const plan::CellLayout& cellLayout() const { return m_layout; }
     /// Everything needed to draw the plan on the target.
     [[nodiscard]] plan::PlanScene scene(const plan::DrawingTarget& target) const;
-    /// The page that the window shows, as values of its own.
-    [[nodiscard]] plan::PlanPage shownPage() const;
+    /// The page that the window shows, looked up anew with the controls as they stand: a box is
+    /// what its sheet's heading says, also where an option does not redraw the plan. The window
+    /// stays as it is. Errors: those of a refresh, any database error.
+    [[nodiscard]] plan::PlanPage shownPage();
     /// Every page of the room set from the first one on, as "Page Suivante" would show them; the
     /// window stays where it is. Pages without a room are left out, unless there are no others.
     /// Errors: those of a refresh, any database error.
@@ -116,6 +120,7 @@ private:
         m_refresh.withoutYielding([this] { m_paging.Command3_Click(); });
     }
 
+    [[nodiscard]] WalkStart walkStart();
     [[nodiscard]] plan::RowSource& rowSource();
     [[nodiscard]] plan::AbsenceTests& absenceTests();
     void connectEvents();

@@ -15,6 +15,8 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QTimer>
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace test;
 
@@ -63,6 +65,30 @@ QByteArray bytesOf(const QString& path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+
+/// While it exists, no file of this process grows beyond some bytes, as on a disk that is full.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{2000, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        m_handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handlerBefore);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handlerBefore)(int) = nullptr;
+};
 
 class Printing : public testing::Test
 {
@@ -155,6 +181,47 @@ TEST_F(Printing, leavesTheScreenAsItWas)
     EXPECT_EQ(desk.form().Label1[1].place.left - desk.form().Label1[0].place.left, 1600);
 }
 
+TEST_F(Printing, looksTheMakeUpsOfTheDateUpThatItsTitleNames)
+{
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().Check2.setChecked(true); // which by itself redraws nothing
+    const QImage before = screen();
+    desk.form().Command1.press();
+    EXPECT_TRUE(printed().text().contains("Occupation des Salles du 17/03/25"));
+    EXPECT_TRUE(printed().text().contains("Case hachurée : rattrapage"));
+    desk.form().PrintPreview.press();
+    EXPECT_TRUE(printed().text().contains("Case hachurée : rattrapage"));
+    EXPECT_EQ(screen(), before);
+}
+
+TEST_F(Printing, printsAllSubjectsOnceTheFilterIsOff)
+{
+    desk.play({"--date", "2025-03-17", "--subject", "Algèbre"});
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().Command1.press();
+    EXPECT_TRUE(printed().text().contains("Matière : Algèbre"));
+    EXPECT_FALSE(printed().text().contains("Physique"));
+    desk.form().Check1.setChecked(false); // which by itself redraws nothing
+    const QImage before = screen();
+    desk.form().Command1.press();
+    EXPECT_FALSE(printed().text().contains("Matière :"));
+    EXPECT_TRUE(printed().text().contains("Physique"));
+    EXPECT_EQ(screen(), before);
+}
+
+TEST_F(Printing, printsInTheFontThatLabel20GaveToAllControls)
+{
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().Label20.font.name = "Liberation Serif";
+    desk.shell().Label20_Click();
+    desk.form().Command1.press();
+    const QStringList fonts = printed().fonts();
+    EXPECT_FALSE(fonts.isEmpty());
+    for (const QString& font : fonts.filter("Liberation")) {
+        EXPECT_TRUE(font.contains("LiberationSerif")) << font.toStdString();
+    }
+}
+
 TEST_F(Printing, printsEveryPageOfTheRoomSet)
 {
     desk.form().Total_L_P.setText("2");
@@ -178,6 +245,15 @@ TEST_F(Printing, printsTheChosenPagesAlone)
     desk.form().PrintAllPages.press();
     EXPECT_EQ(printed().pageCount(), 1);
     EXPECT_TRUE(printed().text().contains("Page 2 / 2"));
+}
+
+TEST_F(Printing, numbersTheOnlyPageOfTheRoomSet)
+{
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().PrintAllPages.press();
+    EXPECT_TRUE(printed().text().contains("Page 1 / 1"));
+    desk.form().Command1.press();
+    EXPECT_FALSE(printed().text().contains("Page 1"));
 }
 
 TEST_F(Printing, printsNothingWhereNoSuchPageIs)
@@ -213,8 +289,25 @@ TEST_F(Printing, endsInThePlatformsErrorWhereThePrinterFails)
     app::Printing printing(desk.shell(), answer.dialogs());
     const runtime::RunTimeError error = errorOf([&] { desk.form().Command1.press(); });
     EXPECT_EQ(error.number(), runtime::ErrorNumber::PrinterError);
-    EXPECT_EQ(error.message(), "Run-time error '482':\n\nPrinter error\n\n"
-                               "Impression du plan sur « /nowhere/plan.pdf »");
+    EXPECT_TRUE(error.message().startsWith("Run-time error '482':\n\nPrinter error\n\n"
+                                           "Impossible d’écrire « /nowhere/plan.pdf » : "))
+        << error.what();
+}
+
+TEST_F(Printing, leavesTheFormerFileWhereTheDiskIsFull)
+{
+    app::Printing printing(desk.shell(), answer.dialogs());
+    desk.form().Command1.press();
+    const QByteArray before = bytesOf(answer.file);
+    desk.form().CbJour.setListIndex(1);
+    {
+        const FullDisk fullDisk;
+        const runtime::RunTimeError error = errorOf([&] { desk.form().Command1.press(); });
+        EXPECT_EQ(error.number(), runtime::ErrorNumber::PrinterError);
+    }
+    EXPECT_EQ(bytesOf(answer.file), before);
+    desk.form().Command1.press();
+    EXPECT_NE(bytesOf(answer.file), before);
 }
 
 TEST_F(Printing, offersAPdfFileWhereThereIsNoPrinter)

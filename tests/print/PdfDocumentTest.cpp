@@ -18,6 +18,8 @@ std::vector<print::Sheet> pagesOf(PlanDesk& desk, int count)
     std::vector<plan::PlanPage> pages;
     for (int page = 0; page < count; ++page) {
         pages.push_back(std::move(sheetOf(desk).page));
+        pages.back().number = page + 1;
+        pages.back().count = count;
     }
     return print::makeSheets(std::move(pages), desk.slots, establishment());
 }
@@ -54,7 +56,6 @@ TEST(PdfDocument, holdsTheTextsOfTheSheet)
         EXPECT_TRUE(text.contains(expected)) << expected << "\n" << text.toStdString();
     }
     EXPECT_FALSE(text.contains("R00")); // the room before the first drawn one
-    EXPECT_FALSE(text.contains("Page"));
 }
 
 TEST(PdfDocument, numbersItsPages)
@@ -65,6 +66,14 @@ TEST(PdfDocument, numbersItsPages)
     EXPECT_EQ(pdf.pageCount(), 3);
     EXPECT_TRUE(pdf.text(2).contains("Page 2 / 3"));
     EXPECT_TRUE(pdf.text(3).contains("Occupation des Salles du Lundi"));
+}
+
+TEST(PdfDocument, numbersTheOnlyPageOfARoomSetButNotAPageOnItsOwn)
+{
+    PlanDesk desk(4);
+    desk.draw();
+    EXPECT_TRUE(Pdf(print::pdfOf(pagesOf(desk, 1), monday)).text().contains("Page 1 / 1"));
+    EXPECT_FALSE(Pdf(print::pdfOf(documentOf(desk), monday)).text().contains("Page"));
 }
 
 TEST(PdfDocument, saysWhatTheHatchingMeansWhereThereIsSome)
@@ -137,6 +146,18 @@ TEST(PdfDocument, movesEveryPositionBehindALongerDate)
     EXPECT_TRUE(fixed.contains("startxref\n84\n"));
     EXPECT_EQ(fixed.indexOf("2 0 obj"), 64);
     EXPECT_EQ(fixed.lastIndexOf("\nxref") + 1, 84);
+}
+
+TEST(PdfDocument, isWholeOnlyWithEveryByte)
+{
+    PlanDesk desk(4);
+    desk.draw();
+    const QByteArray pdf = print::pdfOf(documentOf(desk), monday);
+    EXPECT_TRUE(print::isWholePdf(pdf));
+    EXPECT_FALSE(print::isWholePdf({}));
+    EXPECT_FALSE(print::isWholePdf(pdf.chopped(1)));
+    EXPECT_FALSE(print::isWholePdf(pdf.left(pdf.size() / 2)));
+    EXPECT_FALSE(print::isWholePdf(QByteArray(pdf).remove(pdf.size() / 2, 1)));
 }
 
 TEST(PdfDocument, ofAnEmptyRoomSetHasItsHeader)

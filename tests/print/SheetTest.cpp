@@ -144,16 +144,18 @@ TEST(Sheet, isMadeOfAnEmptyRoomSetToo)
     EXPECT_TRUE(sheet.page.content.rows.empty());
 }
 
-TEST(Sheet, isNumberedAmongOthers)
+TEST(Sheet, keepsTheNumberOfItsPage)
 {
     PlanDesk desk(5);
     desk.draw();
     std::vector<plan::PlanPage> pages;
-    for (int page = 0; page < 3; ++page) {
+    for (int page = 0; page < 2; ++page) {
         pages.push_back(std::move(sheetOf(desk).page));
+        pages.back().number = page + 1;
+        pages.back().count = 2;
     }
     const auto sheets = print::makeSheets(std::move(pages), desk.slots, establishment());
-    ASSERT_EQ(sheets.size(), 3);
-    EXPECT_EQ(sheets[1].number, 2);
-    EXPECT_EQ(sheets[1].count, 3);
+    ASSERT_EQ(sheets.size(), 2);
+    EXPECT_EQ(sheets[1].page.number, 2);
+    EXPECT_EQ(sheets[1].page.count, 2);
 }
