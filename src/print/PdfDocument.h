@@ -11,7 +11,8 @@ namespace print
 
 /// The sheets as a PDF document on A4 lying across: vector drawing, text that can be searched,
 /// fonts embedded. `date` is the day that the plan shows; it stands as the document's date of
-/// creation, so that the same plan gives the same bytes at any time.
+/// creation, so that the same plan gives the same bytes at any time. A plan of no date has that of
+/// 1 January 2000.
 /// Error: PrinterError.
 [[nodiscard]] QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date);
 

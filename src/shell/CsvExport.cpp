@@ -46,7 +46,7 @@ QStringList cellsOf(const Shell& shell, const plan::PlanRow& row, const plan::Pl
 {
     const plan::RoomCell& cell = box.cell;
     QString classes = cell.CellClassList;
-    return {shell.periods().shownDate().toString(QStringLiteral("dd/MM/yyyy")),
+    return {shell.fileDate().toString(QStringLiteral("dd/MM/yyyy")),
             shell.form().CbJour.text(),
             shell.form().CbTranche.text(),
             row.room,

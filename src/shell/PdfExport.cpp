@@ -11,7 +11,7 @@ namespace shell
 QByteArray planAsPdf(const Shell& shell, std::vector<plan::PlanPage> pages)
 {
     return print::pdfOf(print::makeSheets(std::move(pages), shell.slots(), shell.establishment()),
-                        shell.periods().shownDate());
+                        shell.fileDate());
 }
 
 } // namespace shell

@@ -102,6 +102,7 @@ void play(Shell& shell, const CommandLine& line)
         form.CbJour.setListIndex(*line.day);
     }
     if (line.date) {
+        shell.keepDate();
         pickDate(form, *line.date);
     }
     for (int page = 1; page < line.page; ++page) {

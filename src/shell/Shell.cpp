@@ -166,6 +166,13 @@ void Shell::MatchControlBackgrounds()
     ++m_form.colorerFocusRequests;
 }
 
+QDate Shell::fileDate() const
+{
+    const bool examWeek = m_form.OpExam.isSelected() && m_periods.ExamWeek1Start().isValid();
+    const bool dated = m_form.DTPicker1.visible || m_dateAskedFor || examWeek;
+    return dated ? m_periods.shownDate() : QDate();
+}
+
 plan::PlanScene Shell::scene(const plan::DrawingTarget& target) const
 {
     return {m_form, m_refresh.content(), m_layout, target, m_page.RowsShown, m_slots.axisEnd()};

@@ -96,6 +96,12 @@ public:
     [[nodiscard]] absences::AbsenceRecords& absences() { return m_absences; }
     [[nodiscard]] db::Database& database() { return m_database; }
     [[nodiscard]] const plan::CellLayout& cellLayout() const { return m_layout; }
+    /// Tells that the shown date was asked for, and is not just the week of the clock.
+    void keepDate() { m_dateAskedFor = true; }
+    /// The shown date for files that carry one: only where the plan shows it, where it was asked
+    /// for and in exam weeks, which the database dates. Elsewhere it is invalid: a plan titled by
+    /// its day has the same bytes in every week.
+    [[nodiscard]] QDate fileDate() const;
     /// Everything needed to draw the plan on the target.
     [[nodiscard]] plan::PlanScene scene(const plan::DrawingTarget& target) const;
     /// The page that the window shows, looked up anew with the controls as they stand: a box is
@@ -170,6 +176,7 @@ private:
     std::int16_t m_ShowClassAtStart = 1;
     std::int16_t m_ShowSubjectAtStart = 1;
     std::int16_t m_RoomsPerPage = 0;
+    bool m_dateAskedFor = false;
     bool m_loaded = false;
 };
 

@@ -108,6 +108,14 @@ TEST(PdfDocument, isDatedFromTheDayThatItShows)
     EXPECT_EQ(pdf.fact("Title"), "Occupation des Salles du Lundi");
 }
 
+TEST(PdfDocument, hasAFixedDateWhereThePlanShowsNone)
+{
+    PlanDesk desk(4);
+    desk.draw();
+    const Pdf pdf(print::pdfOf(documentOf(desk), QDate()));
+    EXPECT_EQ(pdf.fact("CreationDate"), "2000-01-01T00:00:00Z");
+}
+
 TEST(PdfDocument, hasTheSameBytesForTheSamePlan)
 {
     PlanDesk desk(25, "19");

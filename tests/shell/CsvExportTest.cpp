@@ -66,6 +66,16 @@ TEST_P(CsvExport, saysWhatIsAMakeUp)
     EXPECT_EQ(lines[2].section(';', 14, 14), "oui");
 }
 
+TEST_P(CsvExport, tellsNoDateThatOnlyTheClockKnows)
+{
+    EXPECT_EQ(linesAfter({"--day", "0"}).at(1).section(';', 0, 2), ";Lundi;Printemps");
+    EXPECT_EQ(linesAfter({"--day", "0", "--makeup"}).at(1).section(';', 0, 2),
+              "17/03/2025;Lundi;Printemps");
+    // The exam week is the database's, whatever the day that the plan is made on.
+    EXPECT_EQ(linesAfter({"--mode", "exam", "--day", "0"}).at(1).section(';', 0, 2),
+              "09/06/2025;Lundi;Printemps");
+}
+
 TEST_P(CsvExport, hasNoLinesForAnEmptyPlan)
 {
     EXPECT_EQ(linesAfter({"--day", "5"}).size(), 1);

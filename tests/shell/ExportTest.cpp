@@ -77,6 +77,20 @@ TEST_P(Export, writesEveryPageWhenAskedTo)
     EXPECT_TRUE(bytesOf(folder + "/all-plan.pdf").startsWith("%PDF-"));
 }
 
+TEST_P(Export, writesTheSameBytesInEveryWeek)
+{
+    const QString folder = emptyFolder();
+    for (const char* name : {"plan.pdf", "plan.csv", "plan.html"}) {
+        desk.today = QDate(2025, 3, 26);
+        desk.play({"--day", "0"});
+        shell::exportPlan(desk.shell(), folder + "/march-" + name);
+        desk.today = QDate(2025, 5, 8);
+        desk.play({"--day", "0"});
+        shell::exportPlan(desk.shell(), folder + "/may-" + name);
+        EXPECT_EQ(bytesOf(folder + "/may-" + name), bytesOf(folder + "/march-" + name)) << name;
+    }
+}
+
 TEST_P(Export, replacesWhatWasThere)
 {
     const QString path = emptyFolder() + "/plan.json";

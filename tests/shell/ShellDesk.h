@@ -16,8 +16,8 @@
 namespace test
 {
 
-/// The program without its window. Today is Wednesday, 19 March 2025; the random colours are those
-/// of seed 1.
+/// The program without its window. Today is Wednesday, 19 March 2025, unless told; the random
+/// colours are those of seed 1.
 class ShellDesk
 {
 public:
@@ -31,7 +31,7 @@ public:
     {
         shell::Environment environment;
         environment.applicationFolder = setup.applicationFolder();
-        environment.today = [] { return QDate(2025, 3, 19); };
+        environment.today = [this] { return today; };
         environment.seed = 1;
         environment.processEvents = [this] { form::raise(whileYielding); };
         environment.openFile = [this](const QString&, const QString&) { return chosenFile; };
@@ -77,6 +77,7 @@ public:
     }
 
     ProgramSetup setup;
+    QDate today{2025, 3, 19};
     /// Runs once per row of a refresh, as waiting events would.
     std::function<void()> whileYielding;
     /// What the user answers when asked for a file.
