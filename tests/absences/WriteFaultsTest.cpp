@@ -1,5 +1,6 @@
 #include "MarkedPlan.h"
 #include "support/ChildProgram.h"
+#include "support/FileHolder.h"
 #include "support/RuntimeMatchers.h"
 #include "support/TestFolder.h"
 
@@ -125,41 +126,12 @@ private:
     TestDatabase m_database{DatabaseKind::Sqlite};
 };
 
-/// Another program that has begun to do something with the file and does not come to an end.
-class Holder
-{
-public:
-    Holder(const QString& file, const QByteArray& statements)
-    {
-        dieWithParent(m_process);
-        m_process.start(findProgram(QStringLiteral("sqlite3")), {file});
-        m_process.write(statements + "select 'held';\n");
-        QByteArray output;
-        while (!output.contains("held") && m_process.waitForReadyRead()) {
-            output += m_process.readAll();
-        }
-        EXPECT_TRUE(output.contains("held")) << m_process.readAllStandardError().toStdString();
-    }
-    ~Holder() { letGo(); }
-    Holder(const Holder&) = delete;
-    Holder& operator=(const Holder&) = delete;
-
-    void letGo()
-    {
-        m_process.closeWriteChannel();
-        m_process.waitForFinished();
-    }
-
-private:
-    QProcess m_process;
-};
-
 } // namespace
 
 TEST_F(AnEmbeddedFile, lockedAgainstReadingStopsTheGestureAtItsSearch)
 {
     MarkedPlan plan = impatientPlan();
-    Holder holder(database().file(), "begin exclusive;\n");
+    FileHolder holder(database().file(), "begin exclusive;\n");
     expectFailure([&] { plan.shiftClick(1); }, "locked");
     expectFailure([&] { plan.ctrlClick(1); }, "locked");
     holder.letGo();
@@ -169,7 +141,7 @@ TEST_F(AnEmbeddedFile, lockedAgainstReadingStopsTheGestureAtItsSearch)
 TEST_F(AnEmbeddedFile, lockedAgainstWritingTakesNothingOfTheRow)
 {
     MarkedPlan plan = impatientPlan();
-    Holder holder(database().file(), "begin immediate;\n");
+    FileHolder holder(database().file(), "begin immediate;\n");
     expectFailure([&] { plan.shiftClick(1); }, "locked");
     expectFailure([&] { plan.ctrlClick(1); }, "locked");
     holder.letGo();
@@ -180,7 +152,7 @@ TEST_F(AnEmbeddedFile, thatAnotherProgramReadsTakesNothingOfTheRow)
 {
     // The row is written to the journal and cannot be committed: it must not come later either.
     MarkedPlan plan = impatientPlan();
-    Holder holder(database().file(), "begin;\nselect count(*) from abscence;\n");
+    FileHolder holder(database().file(), "begin;\nselect count(*) from abscence;\n");
     expectFailure([&] { plan.shiftClick(1); }, "locked");
     expectFailure([&] { plan.ctrlClick(1); }, "locked");
     holder.letGo();
@@ -194,7 +166,7 @@ TEST_F(AnEmbeddedFile, lockedAgainstWritingKeepsTheWholeRow)
     MarkedPlan plan = impatientPlan();
     plan.shiftClick(1);
     plan.ctrlClick(1);
-    Holder holder(database().file(), "begin immediate;\n");
+    FileHolder holder(database().file(), "begin immediate;\n");
     expectFailure([&] { plan.shiftClick(1); }, "locked");
     expectFailure([&] { plan.ctrlClick(1); }, "locked");
     holder.letGo();

@@ -66,18 +66,35 @@ void TemporaProcess::start(const QStringList& arguments)
             std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
         }
     });
-    m_process.start(programIn(m_folder), arguments);
+    const QStringList command = wrapper + QStringList{programIn(m_folder)} + arguments;
+    m_process.start(command.first(), command.mid(1));
     m_process.waitForStarted();
+}
+
+void TemporaProcess::startWithSettings(const QStringList& arguments)
+{
+    start(QStringList{"--settings", m_settingsFile} + arguments);
 }
 
 bool TemporaProcess::waitForEnd()
 {
-    return !isRunning() || m_process.waitForFinished(kLongestRunMilliseconds);
+    return waitForEnd(kLongestRunMilliseconds);
+}
+
+bool TemporaProcess::waitForEnd(int milliseconds)
+{
+    return !isRunning() || m_process.waitForFinished(milliseconds);
+}
+
+bool TemporaProcess::waitForErrors(int milliseconds)
+{
+    m_process.setReadChannel(QProcess::StandardError);
+    return m_process.bytesAvailable() > 0 || m_process.waitForReadyRead(milliseconds);
 }
 
 int TemporaProcess::run(const QStringList& arguments)
 {
-    start(QStringList{"--settings", m_settingsFile} + arguments);
+    startWithSettings(arguments);
     return waitForEnd() ? exitCode() : -1;
 }
 

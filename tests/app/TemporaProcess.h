@@ -27,9 +27,17 @@ public:
     /// fails as on a full disk.
     quint64 largestFile = 0;
 
+    /// The command that the next start gives the program's path and arguments to; none by default.
+    QStringList wrapper;
+
     void start(const QStringList& arguments);
+    /// The same with the setup's settings file in front.
+    void startWithSettings(const QStringList& arguments);
     /// Waits for the end. False when it does not come.
     [[nodiscard]] bool waitForEnd();
+    [[nodiscard]] bool waitForEnd(int milliseconds);
+    /// Waits until there is something on standard error. False when nothing comes.
+    [[nodiscard]] bool waitForErrors(int milliseconds);
     /// Starts with the setup's settings file and these arguments, and waits for the end.
     /// Returns the exit code, -1 after a crash or without an end.
     int run(const QStringList& arguments);

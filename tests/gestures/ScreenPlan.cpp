@@ -52,7 +52,8 @@ shell::Environment environmentIn(const ProgramSetup& setup)
     return found;
 }
 
-/// Lets events run until it is so.
+} // namespace
+
 void awaitThat(const std::function<bool()>& isSo, const char* what)
 {
     constexpr int longestMilliseconds = 30000;
@@ -66,8 +67,6 @@ void awaitThat(const std::function<bool()>& isSo, const char* what)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
-
-} // namespace
 
 ClickCounter::ClickCounter()
 {

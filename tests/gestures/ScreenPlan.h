@@ -6,10 +6,14 @@
 
 #include <QObject>
 #include <QProcess>
+#include <functional>
 #include <memory>
 
 namespace test
 {
+
+/// Lets events run until it is so. Throws std::runtime_error when it does not come to be.
+void awaitThat(const std::function<bool()>& isSo, const char* what);
 
 /// Counts the mouse buttons that have been let go over a window of this program.
 class ClickCounter : public QObject

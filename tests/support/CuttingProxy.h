@@ -48,6 +48,7 @@ public:
     CuttingProxy(const CuttingProxy&) = delete;
     CuttingProxy& operator=(const CuttingProxy&) = delete;
 
+    [[nodiscard]] quint16 port() const { return m_port; }
     /// The server's connection string, turned to the proxy.
     [[nodiscard]] QString through(const QString& connectString) const;
 
