@@ -6,6 +6,7 @@
 #include "print/FittedText.h"
 
 #include <QColor>
+#include <QFontMetricsF>
 #include <algorithm>
 
 namespace print
@@ -34,11 +35,12 @@ QRectF pixels(const DrawingTarget& target, const form::Place& place)
             target.toPixelsX(place.width), target.toPixelsY(place.height)};
 }
 
-void printLabel(QPainter& surface, const DrawingTarget& target, const form::Label& label,
-                const QString& text, Qt::Alignment alignment = Qt::AlignLeft)
+/// Returns the width that the text takes.
+double printLabel(QPainter& surface, const DrawingTarget& target, const form::Label& label,
+                  const QString& text, Qt::Alignment alignment = Qt::AlignLeft)
 {
-    drawFitted(surface, target, label.font, pixels(target, label.place),
-               alignment | Qt::AlignVCenter, text);
+    return drawFitted(surface, target, label.font, pixels(target, label.place),
+                      alignment | Qt::AlignVCenter, text);
 }
 
 void printTicks(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
@@ -65,10 +67,27 @@ void printTotals(QPainter& surface, const DrawingTarget& target, const Sheet& sh
     }
 }
 
-/// What the labels leave out: the university beside the establishment, and over the dates the
-/// period with the choice of week, rooms and subject.
+/// Over the dates the period with the choice of week, rooms and subject; it begins nearer to the
+/// title's end when there is much to say.
+void printPeriod(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
+                 double titleWidth)
+{
+    const form::PlanForm& form = *sheet.page.form;
+    const form::Font font{form.Label20.font.name, 12, true};
+    const QString text = joined({sheet.heading.day, sheet.heading.period, sheet.heading.choice});
+    QRectF place = pixels(target, form.XSalle.place);
+    const double titleEnd = place.left() + titleWidth + 12 * target.PixelsPerPoint;
+    const double dates = pixels(target, form.Label4[0].place).left();
+    place.setRight(target.toPixelsX(sheet.width) + target.TargetXOffset);
+    const double wanted =
+        QFontMetricsF(paperFont(font, target, font.points)).horizontalAdvance(text) + 1;
+    place.setLeft(std::clamp(place.right() - wanted, std::min(titleEnd, dates), dates));
+    drawFitted(surface, target, font, place, Qt::AlignLeft | Qt::AlignVCenter, text);
+}
+
+/// What the labels leave out: the university beside the establishment, and the choices.
 void printNotes(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
-                double establishmentWidth)
+                double establishmentWidth, double titleWidth)
 {
     const form::PlanForm& form = *sheet.page.form;
     const double gap = 6 * target.PixelsPerPoint;
@@ -76,14 +95,9 @@ void printNotes(QPainter& surface, const DrawingTarget& target, const Sheet& she
     const double dates = pixels(target, form.Label4[0].place).left();
     university.setLeft(university.left() + establishmentWidth + gap);
     university.setRight(dates - gap);
-    const QString& printerFont = form.Label20.font.name;
-    drawFitted(surface, target, {printerFont, 11, false}, university,
+    drawFitted(surface, target, {form.Label20.font.name, 11, false}, university,
                Qt::AlignLeft | Qt::AlignVCenter, sheet.heading.university);
-    QRectF period = pixels(target, form.XSalle.place);
-    period.setLeft(dates);
-    period.setRight(pixels(target, form.Label4[3].place).right());
-    drawFitted(surface, target, {printerFont, 12, true}, period, Qt::AlignLeft | Qt::AlignVCenter,
-               joined({sheet.heading.day, sheet.heading.period, sheet.heading.choice}));
+    printPeriod(surface, target, sheet, titleWidth);
 }
 
 /// Keeps what follows off the places and off the paper's edge: the last hour has quarters of its
@@ -140,7 +154,7 @@ void PrintHeader(QPainter& surface, const DrawingTarget& target, const Sheet& sh
     const form::PlanForm& form = *sheet.page.form;
     surface.save();
     surface.setPen(kInk);
-    printLabel(surface, target, form.XSalle, sheet.heading.title);
+    const double titleWidth = printLabel(surface, target, form.XSalle, sheet.heading.title);
     const form::Label& establishment = form.Label4[4];
     const double width =
         drawFitted(surface, target, establishment.font, pixels(target, establishment.place),
@@ -148,7 +162,7 @@ void PrintHeader(QPainter& surface, const DrawingTarget& target, const Sheet& sh
     for (std::size_t part = 0; part < 4; ++part) {
         printLabel(surface, target, form.Label4.at(part), form.Label4.at(part).caption);
     }
-    printNotes(surface, target, sheet, width);
+    printNotes(surface, target, sheet, width, titleWidth);
     printTicks(surface, target, sheet);
     printTotals(surface, target, sheet);
     surface.restore();

@@ -74,7 +74,8 @@ TEST(PrintedSheet, isPaleGreyWhileColorerIsNotTicked)
     desk.tick(desk.form.Colorer, false);
     desk.meeting(1, 1).set("Classe", ".");
     const Canvas canvas = bodyOf(desk);
-    for (const QRect& place : {name, first}) {
+    const QRect secondName = name.translated(0, 52); // 450 + 68 twips further down
+    for (const QRect& place : {name, secondName, first}) {
         EXPECT_GT(canvas.count(QColor(240, 240, 240), inner(place)), inner(place).width() * 20);
     }
     EXPECT_EQ(canvas.count(QColor(215, 215, 215), QRect(0, 0, 1800, 600)), 0);
@@ -178,4 +179,30 @@ TEST(PrintedHeader, standsAboveTheHours)
     EXPECT_LT(drawn.left(), 155);
     EXPECT_GE(drawn.top(), 200 - 105);
     EXPECT_LE(drawn.bottom(), 200 + 30);
+}
+
+TEST(PrintedHeader, keepsManyChoicesLegible)
+{
+    PlanDesk desk(3);
+    desk.form.CbTranche.design({"Semestre 1 2026-2027"}, 0);
+    desk.form.OptB.select();
+    desk.form.cb_Locaux.design({"0", "1"}, 1);
+    desk.tick(desk.form.ElemDep);
+    desk.form.Combo1.design({"GC"}, 0);
+    desk.tick(desk.form.Chk_Neutre);
+    desk.tick(desk.form.Check1);
+    desk.form.Cb_Mat.design({"Algorithmique"}, 0);
+    desk.draw();
+    const print::Sheet sheet = sheetOf(desk);
+    Canvas canvas(1800, 600);
+    const plan::DrawingTarget target = print::UsePrinterTarget(paper());
+    canvas.draw([&](QPainter& painter) {
+        painter.translate(0, 200);
+        print::PrintHeader(painter, target, sheet);
+    });
+    // Beside the title, above the dates. Seven points are 14 pixels: the line has capitals with
+    // accents and letters that reach below it.
+    const QRect line = canvas.bounds(Canvas::untouched, QRect(800, 95, 1000, 48));
+    EXPECT_GE(line.height(), 14);
+    EXPECT_LE(line.right(), 150 + sheet.width / 10);
 }
