@@ -16,8 +16,12 @@ using context::TimeAxis;
 // Twips between the time axis and the places, and between the rows and the totals.
 constexpr int kAfterAxis = 60;
 constexpr int kAboveTotals = 60;
-// Twips that A4 lying across leaves between header, totals and footer.
-constexpr int kRowsOnA4 = 9600;
+// Twips of A4 lying across, within its margins; what header, totals and footer take of its height;
+// what keeps a sheet off the paper's sides.
+constexpr double kPaperWidth = 16120;
+constexpr double kPaperHeight = 11180;
+constexpr int kAroundRows = 1580;
+constexpr int kBesideSheet = 600;
 constexpr double kMostRows = form::PlanForm::kRows;
 constexpr int kMinutesPerDay = 24 * 60;
 
@@ -80,21 +84,30 @@ void placeBoxes(plan::PlanContent& content, const TimeAxis& axis)
     }
 }
 
+/// Twips that a sheet of this width leaves for its rows: one that is wider than the paper is scaled
+/// down as a whole, which gives it more room downwards.
+int roomForRows(int width)
+{
+    const double scaledDown = std::max(1.0, (width + kBesideSheet) / kPaperWidth);
+    return runtime::nearestInteger(kPaperHeight * scaledDown) - kAroundRows;
+}
+
 /// Height of the rows on paper: low rows grow to make use of the page, as far as half again, so
 /// that a page of many rooms can be read. A last page of few rooms has the rows of the others.
-int rowHeight(const form::PlanForm& form, int rowsShown)
+int rowHeight(const form::PlanForm& form, int rowsShown, int width)
 {
     const form::Place& model = form.Salle.front().place;
     const double wanted = runtime::leadingNumber(form.Total_L_P.text());
     const int rows = std::max({1, rowsShown, static_cast<int>(std::min(wanted, kMostRows))});
-    const int room = (kRowsOnA4 - model.top) / rows - plan::kRowGap;
+    const int room = (roomForRows(width) - model.top) / rows - plan::kRowGap;
     return std::clamp(room, model.height, model.height * 3 / 2);
 }
 
-void placeRows(form::PlanForm& form, int rowsShown, int end)
+/// `width` is that of the whole sheet.
+void placeRows(form::PlanForm& form, int rowsShown, int end, int width)
 {
     form::Place& model = form.Salle.front().place;
-    model.height = rowHeight(form, rowsShown);
+    model.height = rowHeight(form, rowsShown, width);
     model.top -= model.height + plan::kRowGap;
     form.scaleWidth = 0;
     plan::PlaceRoomRows(form);
@@ -153,10 +166,9 @@ Sheet makeSheet(plan::PlanPage page, const context::TimeSlots& slots,
     sheet.axisEnd = axisEnd(sheet.page, slots, axis);
     placeTicks(form, axis);
     placeBoxes(sheet.page.content, axis);
-    placeRows(form, sheet.page.RowsShown, sheet.axisEnd);
-    const form::Place& places = form.Cap.front().place;
-    sheet.right = places.left + places.width;
+    sheet.right = sheet.axisEnd + kAfterAxis + form.Cap.front().place.width;
     sheet.width = std::max(sheet.right, headerRight(form));
+    placeRows(form, sheet.page.RowsShown, sheet.axisEnd, sheet.width);
     sheet.bottom = placeTotals(form, slots, axis, rowsBottom(form, sheet.page.RowsShown));
     return sheet;
 }

@@ -57,6 +57,20 @@ TEST(Sheet, startsWithTheFirstDrawnRow)
     EXPECT_EQ(sheet.bottom, 345 + 19 * (419 + 68) - 68);
 }
 
+TEST(Sheet, usesTheHeightThatAWiderDayLeaves)
+{
+    // From 15h30 to 21h00: the axis ends at 1620 + 780 * 1700 / 90 = 16353. With 600 for the places
+    // and as much beside it the sheet is 17553 twips wide, 1.0889 times the paper: scaled down to
+    // it, 11180 * 1.0889 - 1580 = 10594 twips fit its height, (10594 - 345) / 19 - 68 for a row.
+    PlanDesk desk(25, "19");
+    desk.form.Salle[0].place.height = 400;
+    desk.meeting(1, 6).set("Durée", 330);
+    desk.draw();
+    const print::Sheet sheet = sheetOf(desk);
+    EXPECT_EQ(sheet.width, 16953);
+    EXPECT_EQ(sheet.page.form->Salle[1].place.height, 471);
+}
+
 TEST(Sheet, makesLowRowsHalfAsHighAgainAtMost)
 {
     PlanDesk desk(5, "4");
