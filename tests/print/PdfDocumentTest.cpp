@@ -4,6 +4,7 @@
 #include "print/SheetDesk.h"
 #include "support/RuntimeMatchers.h"
 
+#include <QFontInfo>
 #include <QRegularExpression>
 
 using namespace test;
@@ -97,6 +98,40 @@ TEST(PdfDocument, embedsItsFonts)
     const Pdf pdf(print::pdfOf(documentOf(desk), monday));
     EXPECT_FALSE(pdf.fonts().isEmpty());
     EXPECT_EQ(pdf.missingFonts(), QStringList());
+}
+
+TEST(PdfDocument, setsTheTitleInItsOwnFont)
+{
+    PlanDesk desk(4);
+    EXPECT_EQ(desk.form.XSalle.font.name, "Arial Black");
+    QString other;
+    const QString body = QFontInfo(QFont(desk.form.Label20.font.name)).family();
+    for (const char* family : {"Liberation Serif", "DejaVu Serif", "Times New Roman"}) {
+        if (QFontInfo(QFont(family)).family() == family) {
+            other = family;
+        }
+    }
+    if (other.isEmpty()) {
+        GTEST_SKIP() << "no second family of fonts on this machine";
+    }
+    desk.form.XSalle.font.name = other;
+    desk.draw();
+    const QString fonts = Pdf(print::pdfOf(documentOf(desk), monday)).fonts().join('\n');
+    EXPECT_TRUE(fonts.contains(QString(other).remove(' '))) << fonts.toStdString();
+    EXPECT_TRUE(fonts.contains(QString(body).remove(' '))) << fonts.toStdString();
+}
+
+TEST(PdfDocument, printsTheTotalsThatTheWindowShows)
+{
+    PlanDesk desk(4);
+    desk.draw();
+    desk.form.Tot[0].caption = "4711";
+    desk.form.Tot[0].visible = false;
+    desk.form.Tot[1].caption = "4712";
+    desk.form.Tot[1].visible = true;
+    const QString text = Pdf(print::pdfOf(documentOf(desk), monday)).text();
+    EXPECT_FALSE(text.contains("4711"));
+    EXPECT_TRUE(text.contains("4712"));
 }
 
 TEST(PdfDocument, isDatedFromTheDayThatItShows)

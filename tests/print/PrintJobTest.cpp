@@ -149,6 +149,23 @@ TEST(PrintJob, givesOneDocumentOneScale)
     EXPECT_LT(pdf.printed(2).height(), pdf.printed(1).height() / 2);
 }
 
+TEST(PrintJob, printsEveryPageInsideA3)
+{
+    PlanDesk desk(25, "19");
+    fill(desk);
+    std::vector<print::Sheet> sheets = documentOf(desk);
+    sheets.push_back(sheetOf(desk));
+    sheets.push_back(sheetOf(desk));
+    const Pdf pdf(pdfOn(QPageSize::A3, sheets));
+    EXPECT_EQ(pdf.pageCount(), 3);
+    const double pixel = 25.4 / 96;
+    const QRectF inside(margin - pixel, margin - pixel, 420 - 2 * (margin - pixel),
+                        297 - 2 * (margin - pixel));
+    for (int page = 1; page <= 3; ++page) {
+        EXPECT_TRUE(inside.contains(pdf.printed(page))) << "page " << page;
+    }
+}
+
 TEST(PrintJob, failsOnADeviceThatTakesNoPage)
 {
     PlanDesk desk(3);
