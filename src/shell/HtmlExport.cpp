@@ -82,17 +82,20 @@ QString paragraph(const QString& cssClass, const QString& text)
            QStringLiteral("</div>");
 }
 
-/// What the group counter stands for: on the screen a click tells the classes.
+/// What the group counter stands for: on the screen a click tells the classes. No line ends within
+/// a class's name.
 QString groupText(const plan::PlanBox& box)
 {
     QStringList parts;
     if (box.cell.CellRowCount != 1) {
         QString classes = box.cell.CellClassList;
+        QStringList names = plan::writtenLines(classes.replace(u'\t', u'\n'));
+        names.replaceInStrings(QStringLiteral(" "), QString(QChar::Nbsp));
         parts << box.group->counter + QStringLiteral(" groupes : ") +
-                     plan::writtenLines(classes.replace(u'\t', u'\n')).join(QStringLiteral(", "));
+                     names.join(QStringLiteral(", "));
     }
     if (!box.group->overfull) {
-        parts << box.group->sizeLabel + QStringLiteral(" étudiants");
+        parts << box.group->sizeLabel + QStringLiteral("\u00a0étudiants");
     }
     return print::joined(parts);
 }

@@ -9,16 +9,18 @@ QString styleSheet()
 {
     return QStringLiteral(R"(
 body { margin: 0; padding: 1rem; background: #fff; color: #1c2733;
-       font: 14px/1.3 Arial, "Liberation Sans", Helvetica, sans-serif; }
+       font: clamp(14px, 0.85vw, 32px)/1.3 Arial, "Liberation Sans", Helvetica, sans-serif; }
 h1 { margin: 0 0 0.2rem; font-size: 1.8em; }
 .name { font-weight: bold; }
 main { margin-top: 0.8rem; overflow-x: auto; }
-table { border-collapse: separate; border-spacing: 2px 3px; width: 100%; table-layout: fixed; }
+table { border-collapse: separate; border-spacing: 2px 3px; width: 100%; min-width: 72em;
+        table-layout: fixed; }
 caption { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
 th, td { padding: 0.25em 0.4em; vertical-align: top; text-align: left;
          overflow-wrap: break-word; }
 thead th { background: #1f3a5f; color: #fff; }
 thead th:nth-child(1) { width: 8em; }
+thead th:nth-child(1), tbody th { position: sticky; left: 0; }
 thead th:nth-child(2) { width: 3.6em; }
 tbody th, .places, .box { background: var(--fill); color: var(--ink); }
 .places { text-align: right; }

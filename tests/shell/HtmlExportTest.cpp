@@ -105,6 +105,13 @@ TEST_P(HtmlExport, saysInWordsWhatColoursSay)
     EXPECT_TRUE(words.contains("Semaine A"));
 }
 
+TEST_P(HtmlExport, keepsTheNameOfAClassInAGroupOnOneLine)
+{
+    database().execute(QStringList{"update emplois set Classe='L1 GM A' where Classe='G2'"});
+    const QString words = wordsOf(pageAfter({"--day", "0"}));
+    EXPECT_TRUE(words.contains("2 groupes : L1\u00a0GM\u00a0A, G3"));
+}
+
 TEST_P(HtmlExport, hidesTheCountersThatTheScreenHides)
 {
     desk.start();
