@@ -7,9 +7,11 @@
 #include "shell/Shell.h"
 
 #include <QFile>
+#include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <exception>
@@ -48,8 +50,11 @@ void printToFile(QPrinter& printer, const std::vector<print::Sheet>& sheets)
     const QString path = printer.outputFileName();
     const QTemporaryDir folder;
     printer.setOutputFileName(folder.filePath(QStringLiteral("plan.pdf")));
-    print::printSheets(printer, sheets);
     QFile made(printer.outputFileName());
+    {
+        const auto putBack = qScopeGuard([&] { printer.setOutputFileName(path); });
+        print::printSheets(printer, sheets);
+    }
     const QByteArray document = made.open(QIODevice::ReadOnly) ? made.readAll() : QByteArray();
     runtime::RunTimeError fault(runtime::ErrorNumber::PrinterError);
     if (!print::isWholePdf(document)) {
@@ -63,9 +68,11 @@ void printToFile(QPrinter& printer, const std::vector<print::Sheet>& sheets)
     }
 }
 
+/// While a preview shows its pages, the printer draws pictures, whatever its output will be.
 void printOn(QPrinter& printer, const std::vector<print::Sheet>& sheets)
 {
-    if (printer.outputFormat() == QPrinter::PdfFormat) {
+    if (printer.paintEngine()->type() == QPaintEngine::Pdf &&
+        printer.outputFormat() == QPrinter::PdfFormat) {
         printToFile(printer, sheets);
     } else {
         print::printSheets(printer, sheets);
@@ -172,7 +179,7 @@ void Printing::PrintPreview_Click()
     const std::vector<print::Sheet> sheets = shownSheet();
     QPrinter printer(QPrinter::HighResolution);
     static_cast<void>(prepare(printer, sheets));
-    m_dialogs.preview(printer, [&sheets](QPrinter& target) { print::printSheets(target, sheets); });
+    m_dialogs.preview(printer, [&sheets](QPrinter& target) { printOn(target, sheets); });
 }
 
 } // namespace app
