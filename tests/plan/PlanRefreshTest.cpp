@@ -32,6 +32,18 @@ TEST(PlanRefresh, asksAboutTenSlotsOfEveryRowButRowZero)
     EXPECT_EQ(desk.drawnRooms(), QStringList({"R01", "R02", "R03"}));
 }
 
+TEST(PlanRefresh, drawsRows1To19OfTwentyFiveRoomsWithNineteenLines)
+{
+    PlanDesk desk(25, "19");
+    desk.draw();
+    EXPECT_EQ(desk.form.Salle[0].caption, "R00");
+    EXPECT_EQ(desk.drawnRooms(),
+              QStringList({"R01", "R02", "R03", "R04", "R05", "R06", "R07", "R08", "R09", "R10",
+                           "R11", "R12", "R13", "R14", "R15", "R16", "R17", "R18", "R19"}));
+    EXPECT_EQ(desk.drawn().front().index, 1);
+    EXPECT_EQ(desk.drawn().back().index, 19);
+}
+
 TEST(PlanRefresh, drawsAnEmptyRoomSetAsAnEmptyPlan)
 {
     PlanDesk desk(0);
