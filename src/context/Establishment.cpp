@@ -42,11 +42,11 @@ void listPeriods(form::PlanForm& form, db::Connection& connection)
 } // namespace
 
 EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& database,
-                                      Periods& periods, RoomPage& page,
-                                      const QString& connectString, const QString& trancheSetting)
+                                      Periods& periods, RoomPage& page, const HeaderSource& source)
 {
-    runtime::during(QStringLiteral("Ouverture de la base de données"),
-                    [&] { database.open(connectString); });
+    runtime::during(
+        QStringLiteral("Ouverture de la base de données « %1 »").arg(source.databaseName),
+        [&] { database.open(source.ConnectString); });
     db::Connection& connection = database.Db();
     const EstablishmentHeader header =
         runtime::during(QStringLiteral("Lecture de la table « etablissement »"),
@@ -57,8 +57,8 @@ EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& databa
     runtime::during(QStringLiteral("Lecture des périodes (table « tranche »)"),
                     [&] { listPeriods(form, connection); });
     runtime::during(QStringLiteral("Choix de la période du paramètre « Tranche » (valeur « %1 »)")
-                        .arg(trancheSetting),
-                    [&] { periods.chooseByIdent(runtime::toInt32(trancheSetting)); });
+                        .arg(source.trancheSetting),
+                    [&] { periods.chooseByIdent(runtime::toInt32(source.trancheSetting)); });
     return header;
 }
 

@@ -18,13 +18,18 @@ struct EstablishmentHeader {
     std::int16_t AcademicYear = 0;
 };
 
+/// Which database the header is read from, and the period that it shows at first.
+struct HeaderSource {
+    QString databaseName; ///< what a message calls the database by; never a password
+    QString ConnectString;
+    QString trancheSetting; ///< the setting "Tranche", a period number
+};
+
 /// Opens the database and reads what the header shows: establishment, number of rooms, periods,
 /// and the period named by the settings with its dates.
-/// `trancheSetting` is the setting "Tranche", a period number.
 /// Errors: any database error, TypeMismatch or Overflow for a value that does not convert.
 [[nodiscard]] EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& database,
                                                     Periods& periods, RoomPage& page,
-                                                    const QString& connectString,
-                                                    const QString& trancheSetting);
+                                                    const HeaderSource& source);
 
 } // namespace context

@@ -52,10 +52,19 @@ QString RoomSet::roomQuery() const
     return QStringLiteral("select * from Salle ") + part + QStringLiteral(" order by nom");
 }
 
+QString RoomSet::filterInWords() const
+{
+    const QString zone = QStringLiteral("zone ") + m_form.cb_Locaux.text();
+    return m_form.ElemDep.isChecked()
+               ? zone + QStringLiteral(", département « %1 »").arg(m_form.Combo1.text())
+               : zone;
+}
+
 void RoomSet::FillRoomPage()
 {
-    const db::Recordset rooms = runtime::during(QStringLiteral("Lecture des salles"),
-                                                [&] { return m_database.Db().open(roomQuery()); });
+    const db::Recordset rooms =
+        runtime::during(QStringLiteral("Lecture des salles (%1)").arg(filterInWords()),
+                        [&] { return m_database.Db().open(roomQuery()); });
     fillRows(rooms);
     showRows();
 }

@@ -33,6 +33,8 @@ public:
 
 private:
     [[nodiscard]] QString departmentCondition() const;
+    /// The filter as a message names it.
+    [[nodiscard]] QString filterInWords() const;
     void fillRows(const db::Recordset& rooms);
     void showRows();
 

@@ -23,6 +23,29 @@ int TimeTextToTime(QString text)
         });
 }
 
+void refuseTooMany(qsizetype rooms)
+{
+    if (rooms > TimeSlots::kMaxRooms) {
+        runtime::RunTimeError error(runtime::ErrorNumber::SubscriptOutOfRange);
+        error.addActivity(QStringLiteral("Lecture des places de %1 salles (%2 au plus)")
+                              .arg(rooms)
+                              .arg(TimeSlots::kMaxRooms));
+        throw error;
+    }
+}
+
+std::int16_t placesOf(const db::Row& room)
+{
+    const db::Value& places = room.field(QStringLiteral("places"));
+    if (places.isNull()) {
+        return 0;
+    }
+    return runtime::during(
+        QStringLiteral("Lecture des places de la salle « %1 » (valeur « %2 »)")
+            .arg(room.field(QStringLiteral("Nom")).toJoinedText(), places.toJoinedText()),
+        [&] { return places.toInt16(); });
+}
+
 } // namespace
 
 TimeSlots::TimeSlots(form::PlanForm& form, db::Database& database)
@@ -66,27 +89,34 @@ void TimeSlots::LoadSlots()
 void TimeSlots::loadSlot(int index)
 {
     const QString key = QStringLiteral("Lundi") + QString::number(index + 1);
-    const db::Recordset found =
-        runtime::during(QStringLiteral("Lecture de l’horaire de la séance « %1 »").arg(key), [&] {
-            return m_database.Db().open(
-                QStringLiteral("select * from seances  where Seance='%1'").arg(key));
-        });
     const auto position = static_cast<std::size_t>(index);
     form::Label& total = m_form.Tot.at(position);
     total.visible = false; // the refresh shows it when it writes counts
-    m_slots.at(position).reset();
-    if (found.isEmpty()) {
+    std::optional<Slot>& slot = m_slots.at(position);
+    slot = runtime::during(
+        QStringLiteral("Lecture de l’horaire de la séance « %1 » (table « seances »)").arg(key),
+        [&] { return readSlot(key); });
+    if (!slot) {
         total.caption.clear();
         return;
+    }
+    total.place.left = TimeToX(slot->start);
+    total.place.width = runtime::nearestInteger(axis().widthOf(slot->minutes));
+    ++m_SlotCount;
+}
+
+std::optional<Slot> TimeSlots::readSlot(const QString& key)
+{
+    const db::Recordset found =
+        m_database.Db().open(QStringLiteral("select * from seances  where Seance='%1'").arg(key));
+    if (found.isEmpty()) {
+        return std::nullopt;
     }
     const QString start = found.first().field(QStringLiteral("Horaire1")).toText();
     const QString end = found.first().field(QStringLiteral("Horaire2")).toText();
     Slot slot{start, TimeTextToTime(start), 0};
     slot.minutes = runtime::minutesBetween(slot.startSeconds, TimeTextToTime(end));
-    total.place.left = TimeToX(start);
-    total.place.width = runtime::nearestInteger(axis().widthOf(slot.minutes));
-    m_slots.at(position) = slot;
-    ++m_SlotCount;
+    return slot;
 }
 
 void TimeSlots::loadRoomPlaces()
@@ -95,17 +125,13 @@ void TimeSlots::loadRoomPlaces()
     const QString sql =
         zone != u"0" ? QStringLiteral("select * from salle where Zone=%1  order by Nom ").arg(zone)
                      : QStringLiteral("select * from salle order by Nom ");
-    runtime::during(QStringLiteral("Lecture des places des salles"), [&] {
-        const db::Recordset rooms = m_database.Db().open(sql);
-        if (rooms.recordCount() > kMaxRooms) {
-            throw runtime::RunTimeError(runtime::ErrorNumber::SubscriptOutOfRange);
-        }
-        std::transform(rooms.rows().begin(), rooms.rows().end(), m_RoomPlaces.begin(),
-                       [](const db::Row& room) {
-                           const db::Value& places = room.field(QStringLiteral("places"));
-                           return places.isNull() ? std::int16_t{0} : places.toInt16();
-                       });
-    });
+    runtime::during(
+        QStringLiteral("Lecture des places des salles (table « salle », zone %1)").arg(zone), [&] {
+            const db::Recordset rooms = m_database.Db().open(sql);
+            refuseTooMany(rooms.recordCount());
+            std::transform(rooms.rows().begin(), rooms.rows().end(), m_RoomPlaces.begin(),
+                           placesOf);
+        });
 }
 
 const std::optional<Slot>& TimeSlots::slot(int number) const

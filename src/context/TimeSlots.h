@@ -59,6 +59,7 @@ public:
 
 private:
     void loadSlot(int index);
+    [[nodiscard]] std::optional<Slot> readSlot(const QString& key);
     void loadRoomPlaces();
 
     form::PlanForm& m_form;

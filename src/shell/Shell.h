@@ -20,6 +20,7 @@
 #include "plan/PlanRefresh.h"
 #include "plan/SubjectFilter.h"
 #include "runtime/RandomSource.h"
+#include "shell/DatabaseChoice.h"
 #include "shell/Settings.h"
 
 #include <QDate>
@@ -77,7 +78,8 @@ public:
     void Form_Unload();
     /// Gives every control the font of `Label20` and redraws.
     void Label20_Click();
-    /// The option controls take the window's background colour, the focus goes to `Colorer`.
+    /// Asks for the focus to go to `Colorer`. The backgrounds of the option controls need no
+    /// matching: the window's style sheet sets them, and nothing changes them.
     void MatchControlBackgrounds();
 
     [[nodiscard]] form::PlanForm& form() { return m_form; }
@@ -165,11 +167,8 @@ private:
     plan::PlanOptions m_options;
     appearance::CellOptions m_cellOptions;
 
-    QString m_ConnectString;
-    // Kept as they are for that shape of the state; nothing reads them.
-    QString m_DsnString;
-    QString m_DbPath;
-    bool m_SkinOn = false;
+    DatabaseChoice m_choice;
+    bool m_SkinOn = false; ///< kept for that shape of the state; nothing reads it
 
     QString m_PaletteAtStart;
     std::int16_t m_ShowTeacherAtStart = 1;

@@ -3,7 +3,6 @@
 
 #include "shell/Shell.h"
 
-#include "db/ConnectString.h"
 #include "plan/PlanGrid.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
@@ -56,8 +55,9 @@ void Shell::Form_Load()
     m_form.Total_L_P.setText(lines);
     m_RoomsPerPage = runtime::toInt16(m_form.Total_L_P.text());
     m_establishment =
-        context::LoadEstablishment(m_form, m_database, m_periods, m_page, m_ConnectString,
-                                   setting(QStringLiteral("Tranche"), QStringLiteral("1")));
+        context::LoadEstablishment(m_form, m_database, m_periods, m_page,
+                                   {m_choice.nameInMessages(), m_choice.strings.ConnectString,
+                                    setting(QStringLiteral("Tranche"), QStringLiteral("1"))});
     m_slots.LoadSlots();
     PlaceRoomRows();
     if (converted(QStringLiteral("Grille_Visible"),
@@ -80,18 +80,7 @@ void Shell::chooseDatabase()
     m_database.setUseMySql(useMySql);
     m_form.ImgSql.visible = useMySql;
     m_form.ImgAccess.visible = !useMySql;
-    const QString baseName = useMySql
-                                 ? setting(QStringLiteral("Base_Sql"), QStringLiteral("SaKalo"))
-                                 : setting(QStringLiteral("Base"), QStringLiteral("MonKalo"));
-    m_DbPath = useMySql ? baseName
-                        : setting(QStringLiteral("Path"),
-                                  m_environment.applicationFolder + QStringLiteral("\\Kalo.mdb"));
-    const db::ConnectStrings strings = runtime::during(
-        QStringLiteral("Préparation de la connexion à la base « %1 »").arg(baseName), [&] {
-            return db::BuildConnectString(baseName, useMySql, m_environment.applicationFolder);
-        });
-    m_ConnectString = strings.ConnectString;
-    m_DsnString = strings.DsnString;
+    m_choice = shell::chooseDatabase(m_settings, useMySql, m_environment.applicationFolder);
 }
 
 void Shell::readDisplayOptions()

@@ -74,8 +74,8 @@ TEST_P(ProgramFault, isARoomTooMany)
         rooms.append(QString("('R%1', 1, 20)").arg(room));
     }
     database().execute("INSERT INTO salle (Nom, Zone, places) VALUES " + rooms.join(", "));
-    EXPECT_EQ(errorOfExport(),
-              message(9, "Subscript out of range", "Lecture des places des salles"));
+    EXPECT_EQ(errorOfExport(), message(9, "Subscript out of range",
+                                       "Lecture des places de 257 salles (256 au plus)"));
 }
 
 TEST_P(ProgramFault, namesTheTimeThatIsNone)
@@ -111,7 +111,7 @@ TEST_P(ProgramFault, isAColumnThatIsMissing)
               message(3265,
                       "Item cannot be found in the collection corresponding to the requested name "
                       "or ordinal.",
-                      "Lecture des places des salles"));
+                      "Lecture des places des salles (table « salle », zone 0)"));
 }
 
 TEST_P(ProgramFault, isAColumnThatAQueryMisses)
@@ -120,7 +120,7 @@ TEST_P(ProgramFault, isAColumnThatAQueryMisses)
     const QString errors = errorOfExport({"--zone", "2"});
     EXPECT_TRUE(errors.startsWith("Run-time error '-2147217900':\n\n")) << errors.toStdString();
     EXPECT_TRUE(errors.contains("Zone")) << errors.toStdString();
-    EXPECT_TRUE(errors.endsWith("\n\nLecture des salles\n")) << errors.toStdString();
+    EXPECT_TRUE(errors.endsWith("\n\nLecture des salles (zone 2)\n")) << errors.toStdString();
 }
 
 TEST_P(ProgramFault, leavesTheDatabaseAsItWas)
@@ -179,10 +179,10 @@ protected:
         }
         return errors;
     }
-    static bool isConnectionFailure(const QString& errors)
+    static bool isConnectionFailure(const QString& errors, const QString& base)
     {
         return errors.startsWith("Run-time error '-2147467259':\n\n") &&
-               errors.endsWith("\n\nOuverture de la base de données\n");
+               errors.endsWith("\n\nOuverture de la base de données « " + base + " »\n");
     }
 
     TestDatabase database{DatabaseKind::Sqlite};
@@ -203,7 +203,7 @@ TEST_F(ProgramWithoutServer, namesNoPasswordWhenItIsWrong)
     const TestDatabase served(DatabaseKind::MariaDb);
     serve("127.0.0.1", "planning", "s3cr&tÉté", served.baseName(), MariaDbServer::shared().port());
     const QString errors = errorOfExport();
-    EXPECT_TRUE(isConnectionFailure(errors)) << errors.toStdString();
+    EXPECT_TRUE(isConnectionFailure(errors, "SaKalo")) << errors.toStdString();
     EXPECT_TRUE(errors.contains("planning")) << errors.toStdString(); // whose access is denied
 }
 
@@ -212,11 +212,11 @@ TEST_F(ProgramWithoutServer, saysThatNobodyAnswers)
     const SilentPort port;
     serve("127.0.0.1", "planning", "s3cr&t;Été", "base", port.number());
     const QString errors = errorOfExport();
-    EXPECT_TRUE(isConnectionFailure(errors)) << errors.toStdString();
+    EXPECT_TRUE(isConnectionFailure(errors, "SaKalo")) << errors.toStdString();
 }
 
 TEST_F(ProgramWithoutServer, saysThatTheDataSourceIsUnknown)
 {
     setup.set("Base", "Nulle Part");
-    EXPECT_TRUE(isConnectionFailure(errorOfExport()));
+    EXPECT_TRUE(isConnectionFailure(errorOfExport(), "Nulle Part"));
 }

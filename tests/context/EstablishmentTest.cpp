@@ -39,7 +39,7 @@ protected:
     EstablishmentHeader load(const QString& tranche = "1")
     {
         return context::LoadEstablishment(desk->form, desk->database, desk->periods, desk->page,
-                                          database().connectString(), tranche);
+                                          {"MonKalo", database().connectString(), tranche});
     }
 
     std::optional<ContextDesk> desk;
@@ -122,6 +122,18 @@ TEST_P(TheEstablishment, refusesAYearThatDoesNotFitSixteenBits)
 {
     database().execute("UPDATE etablissement SET `Année`=40000");
     EXPECT_EQ(errorNumberOf([&] { static_cast<void>(load()); }), ErrorNumber::Overflow);
+}
+
+TEST_P(TheEstablishment, namesTheDatabaseThatDoesNotOpenAndNoPassword)
+{
+    const runtime::RunTimeError error = errorOf([&] {
+        static_cast<void>(
+            context::LoadEstablishment(desk->form, desk->database, desk->periods, desk->page,
+                                       {"Nulle Part", "DSN=Nulle Part;PASSWORD=s3cr&t", "1"}));
+    });
+    EXPECT_EQ(error.number(), ErrorNumber::DatabaseFailure);
+    EXPECT_EQ(error.activity(), "Ouverture de la base de données « Nulle Part »");
+    EXPECT_FALSE(error.message().contains("s3cr&t")) << error.message().toStdString();
 }
 
 TEST_P(TheEstablishment, namesTheTableThatIsMissing)

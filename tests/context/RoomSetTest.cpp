@@ -194,7 +194,7 @@ TEST_P(TheRoomSet, failsWithoutTheDepartmentColumn)
     desk->rooms.FillRoomPage(); // not asked for yet
     const runtime::RunTimeError error = errorOf([&] { desk->form.ElemDep.setChecked(true); });
     EXPECT_EQ(error.number(), ErrorNumber::StatementRefused);
-    EXPECT_EQ(error.activity(), "Lecture des salles");
+    EXPECT_EQ(error.activity(), "Lecture des salles (zone 0, département « GC »)");
 }
 
 TEST_P(TheRoomSet, endsThePageAtARowThatCannotBeRead)
@@ -208,7 +208,10 @@ TEST_P(TheRoomSet, endsThePageAtARowThatCannotBeRead)
 TEST_P(TheRoomSet, failsWithoutItsTable)
 {
     database().execute("DROP TABLE salle");
-    EXPECT_EQ(errorNumberOf([&] { desk->rooms.FillRoomPage(); }), ErrorNumber::TableMissing);
+    desk->form.cb_Locaux.design(desk->form.cb_Locaux.items(), 3);
+    const runtime::RunTimeError error = errorOf([&] { desk->rooms.FillRoomPage(); });
+    EXPECT_EQ(error.number(), ErrorNumber::TableMissing);
+    EXPECT_EQ(error.activity(), "Lecture des salles (zone 3)");
 }
 
 TEMPORA_ON_BOTH_DATABASES(TheRoomSet);

@@ -160,9 +160,27 @@ TEST_P(TheSlots, areNeededWithTheirTableAndColumns)
     EXPECT_EQ(desk->slots.SlotCount(), 0);
     desk->slots.LoadSlots(); // without a row nothing asks for the column
     database().execute("INSERT INTO seances (Seance, Horaire1) VALUES ('Lundi1', '8h00')");
-    EXPECT_EQ(errorNumberOf([&] { desk->slots.LoadSlots(); }), ErrorNumber::ItemNotFound);
+    const runtime::RunTimeError noColumn = errorOf([&] { desk->slots.LoadSlots(); });
+    EXPECT_EQ(noColumn.number(), ErrorNumber::ItemNotFound);
+    EXPECT_EQ(noColumn.activity(),
+              "Lecture de l’horaire de la séance « Lundi1 » (table « seances »)");
     database().execute("DROP TABLE seances");
-    EXPECT_EQ(errorNumberOf([&] { desk->slots.LoadSlots(); }), ErrorNumber::TableMissing);
+    const runtime::RunTimeError noTable = errorOf([&] { desk->slots.LoadSlots(); });
+    EXPECT_EQ(noTable.number(), ErrorNumber::TableMissing);
+    EXPECT_EQ(noTable.activity(), noColumn.activity());
+}
+
+TEST_P(TheSlots, refuseATimeThatIsNullAndNameItsSlot)
+{
+    addFourSlots();
+    load();
+    for (const char* column : {"Horaire2", "Horaire1"}) {
+        database().execute(QString("UPDATE seances SET %1=NULL WHERE Seance='Lundi3'").arg(column));
+        const runtime::RunTimeError error = errorOf([&] { desk->slots.LoadSlots(); });
+        EXPECT_EQ(error.number(), ErrorNumber::InvalidUseOfNull) << column;
+        EXPECT_EQ(error.activity(),
+                  "Lecture de l’horaire de la séance « Lundi3 » (table « seances »)");
+    }
 }
 
 TEST_P(TheSlots, giveTheRoomsPlacesByName)
@@ -199,13 +217,15 @@ TEST_P(TheSlots, hold256RoomsAndNoMore)
     database().execute("INSERT INTO salle (Zone, Nom, places) VALUES (1, 'R256', 1)");
     const runtime::RunTimeError error = errorOf([&] { desk->slots.LoadSlots(); });
     EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(error.activity(), "Lecture des places des salles");
+    EXPECT_EQ(error.activity(), "Lecture des places de 257 salles (256 au plus)");
 }
 
 TEST_P(TheSlots, refusePlacesBeyondSixteenBits)
 {
     addRoom(1, "A1", 32768);
-    EXPECT_EQ(errorNumberOf([&] { load(); }), ErrorNumber::Overflow);
+    const runtime::RunTimeError error = errorOf([&] { load(); });
+    EXPECT_EQ(error.number(), ErrorNumber::Overflow);
+    EXPECT_EQ(error.activity(), "Lecture des places de la salle « A1 » (valeur « 32768 »)");
 }
 
 TEST_P(TheSlots, takeARoomWithoutPlacesForNone)

@@ -67,7 +67,7 @@ PlanDesk::PlanDesk(int roomCount, const QString& lines, int places)
     }
     layout.displayStyle = 3;
     static_cast<void>(context::LoadEstablishment(form, database, periods, page,
-                                                 m_testDatabase.connectString(), "1"));
+                                                 {"", m_testDatabase.connectString(), "1"}));
     slots.LoadSlots();
     plan::PlaceRoomRows(form);
     rooms.FillRoomPage();

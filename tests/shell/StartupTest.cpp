@@ -218,7 +218,7 @@ TEST_P(Startup, servesTwoHundredAndFiftySixRoomsAndRefusesOneMore)
     database().execute("INSERT INTO salle (Nom, Zone, places) VALUES ('R256', 1, 20)");
     const runtime::RunTimeError error = errorAtStart();
     EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(error.activity(), "Lecture des places des salles");
+    EXPECT_EQ(error.activity(), "Lecture des places de 257 salles (256 au plus)");
 }
 
 TEST_P(Startup, keepsTheSixteenSeanceTypesAndRefusesOneMore)
@@ -319,7 +319,7 @@ TEST(StartupChoice, withNoSettingsOpensTheDataSourceMonKalo)
     const runtime::RunTimeError error = errorOf([&] { static_cast<void>(desk.load()); });
     // This machine has no such data source: the name is in what the driver manager looked for.
     EXPECT_EQ(error.number(), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(error.activity(), "Ouverture de la base de données");
+    EXPECT_EQ(error.activity(), "Ouverture de la base de données « MonKalo »");
     EXPECT_TRUE(desk.form().ImgAccess.visible);
 }
 

@@ -1,0 +1,31 @@
+#include "shell/DatabaseChoice.h"
+
+#include "runtime/RunTimeError.h"
+
+namespace shell
+{
+
+QString DatabaseChoice::nameInMessages() const
+{
+    return BaseName.section(u';', 0, 0).trimmed();
+}
+
+DatabaseChoice chooseDatabase(const Settings& settings, bool useMySql,
+                              const QString& applicationFolder)
+{
+    DatabaseChoice choice;
+    if (useMySql) {
+        choice.BaseName = settings.get(QStringLiteral("Base_Sql"), QStringLiteral("SaKalo"));
+        choice.DbPath = choice.BaseName;
+    } else {
+        choice.BaseName = settings.get(QStringLiteral("Base"), QStringLiteral("MonKalo"));
+        choice.DbPath =
+            settings.get(QStringLiteral("Path"), applicationFolder + QStringLiteral("\\Kalo.mdb"));
+    }
+    choice.strings = runtime::during(
+        QStringLiteral("Préparation de la connexion à la base « %1 »").arg(choice.nameInMessages()),
+        [&] { return db::BuildConnectString(choice.BaseName, useMySql, applicationFolder); });
+    return choice;
+}
+
+} // namespace shell
