@@ -3,6 +3,7 @@
 #include "shell/Export.h"
 
 #include <QCommandLineParser>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
@@ -39,7 +40,7 @@ const std::vector<OptionText>& optionTexts()
         {"show", "class,teacher,subject,type,invigilator", "ce que montrent les cases, exactement"},
         {"subject", "NOM", "ne montre que cette matière"},
         {"makeup", nullptr, "coche « Date » : montre aussi les rattrapages"},
-        {"counting", nullptr, "coche « Comptage »"},
+        {"counting", nullptr, "coche « Comptage » : compte les places occupées"},
         {"day", "0..5", "jour de la semaine ; 0 pour lundi"},
         {"date", "AAAA-MM-JJ", "date affichée"},
         {"page", "1..9999", "page affichée"},
@@ -208,9 +209,17 @@ void readFiles(const Reader& reader, CommandLine& line)
              QStringLiteral("demande --export en .pdf, .csv ou .html"));
     }
     line.settingsFile = reader.text("settings");
-    if (reader.has("settings") && !QFileInfo(line.settingsFile).isFile()) {
+    if (!reader.has("settings")) {
+        return;
+    }
+    if (!QFileInfo(line.settingsFile).isFile()) {
         fail(QStringLiteral("settings"),
              QStringLiteral("le fichier « %1 » n’existe pas").arg(line.settingsFile));
+    }
+    if (QFile file(line.settingsFile); !file.open(QIODevice::ReadOnly)) {
+        fail(QStringLiteral("settings"),
+             QStringLiteral("le fichier « %1 » ne peut pas être lu (%2)")
+                 .arg(line.settingsFile, file.errorString()));
     }
 }
 

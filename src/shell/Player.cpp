@@ -87,25 +87,38 @@ void pickDate(form::PlanForm& form, QDate date)
     }
 }
 
-} // namespace
-
-void play(Shell& shell, const CommandLine& line)
+void playDay(Shell& shell, const CommandLine& line)
 {
     form::PlanForm& form = shell.form();
-    playPeriod(form, line);
-    playDisplay(form, line);
-    playRooms(form, line);
     if (line.counting) {
         form.Chk_Compt.setChecked(true);
     }
     if (line.day) {
         form.CbJour.setListIndex(*line.day);
-    }
-    if (line.date) {
+    } else if (line.date) {
         shell.keepDate();
         pickDate(form, *line.date);
+    } else if (line.makeup || line.counting) {
+        // Neither option redraws by itself; choosing the day again shows both.
+        form.CbJour.setListIndex(form.CbJour.listIndex());
     }
-    for (int page = 1; page < line.page; ++page) {
+}
+
+} // namespace
+
+void play(Shell& shell, const CommandLine& line)
+{
+    form::PlanForm& form = shell.form();
+    const auto step = [&](auto&& choose) {
+        if (form.visible) { // else it was closed in the middle of a redraw
+            choose();
+        }
+    };
+    step([&] { playPeriod(form, line); });
+    step([&] { playDisplay(form, line); });
+    step([&] { playRooms(form, line); });
+    step([&] { playDay(shell, line); });
+    for (int page = 1; page < line.page && form.visible; ++page) {
         form.Command3.press();
     }
 }

@@ -188,6 +188,48 @@ TEST_P(Player, showsTheMakeUpsOfADateThatThePickerShowsAlready)
     EXPECT_EQ(boxTexts(plan, "A2").keys(), QList<int>({1, 2}));
 }
 
+TEST_P(Player, showsMakeUpsWithoutADayOrADate)
+{
+    const QJsonObject plan = planAfter({"--makeup"});
+    EXPECT_EQ(plan["title"].toString(), "Occupation des Salles du 17/03/25");
+    EXPECT_EQ(boxTexts(plan, "A2"),
+              (QMap<int, QString>{{1, "G1\r\n Dupont/Durand\r\n [Algèbre]\r\n"},
+                                  {2, "G1\r\n Dupont\r\n [Algèbre]\r\n"}}));
+}
+
+TEST_P(Player, showsMakeUpsOnTheFirstDayOfAnExamWeek)
+{
+    const QJsonObject plan = planAfter({"--mode", "exam", "--makeup"});
+    EXPECT_EQ(plan["title"].toString(), "Occupation des Salles du 09/06/25");
+    EXPECT_EQ(plan["date"].toString(), "2025-06-09");
+}
+
+TEST_P(Player, countsWithoutADayOrADate)
+{
+    // Slot 1: A2 40 and C1 12; slot 2: B2 20; slots 3 and 4: B1 100.
+    EXPECT_EQ(totals(planAfter({"--counting"})),
+              QStringList({"52", "20", "100", "100", "-", "-", "-", "-", "-", "-", "-"}));
+}
+
+TEST_P(Player, countsFromTheFirstPageOnWithoutADayOrADate)
+{
+    const QStringList pages = {"--page", "2", "--counting", "--rooms-per-page", "2"};
+    const QStringList counted = totals(planAfter(pages + QStringList{"--day", "0"}));
+    EXPECT_EQ(counted.first(), "60");
+    EXPECT_EQ(totals(planAfter(pages)), counted);
+}
+
+TEST_P(Player, stopsWhenTheWindowIsClosedInTheMiddleOfARedraw)
+{
+    desk.start();
+    desk.whileYielding = [this] { desk.shell().Form_Unload(); };
+    shell::play(desk.shell(), shell::CommandLine::parse({"tempora", "--week", "A", "--zone", "2",
+                                                         "--day", "1", "--page", "2"}));
+    EXPECT_TRUE(desk.form().OptA.isSelected());
+    EXPECT_EQ(desk.form().cb_Locaux.text(), "0");
+    EXPECT_EQ(desk.form().CbJour.text(), "Lundi");
+}
+
 TEST_P(Player, showsNoDayOnASunday)
 {
     for (const QStringList& arguments :
