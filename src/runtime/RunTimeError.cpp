@@ -16,8 +16,12 @@ QString platformErrorText(ErrorNumber number)
         return QStringLiteral("Type mismatch");
     case ErrorNumber::FileNotFound:
         return QStringLiteral("File not found");
+    case ErrorNumber::PathFileAccess:
+        return QStringLiteral("Path/File access error");
     case ErrorNumber::InvalidUseOfNull:
         return QStringLiteral("Invalid use of Null");
+    case ErrorNumber::InvalidFileFormat:
+        return QStringLiteral("Invalid file format");
     case ErrorNumber::PrinterError:
         return QStringLiteral("Printer error");
     case ErrorNumber::ItemNotFound:

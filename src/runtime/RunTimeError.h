@@ -16,7 +16,9 @@ enum class ErrorNumber : int {
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
     FileNotFound = 53,
+    PathFileAccess = 75,
     InvalidUseOfNull = 94,
+    InvalidFileFormat = 321,
     PrinterError = 482,
     ItemNotFound = 3265,
     DatabaseFailure = -2147467259,  ///< 80004005: no connection, or the driver failed

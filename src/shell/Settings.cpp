@@ -1,6 +1,10 @@
 #include "shell/Settings.h"
 
+#include "runtime/RunTimeError.h"
+
+#include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QStringList>
 
 namespace shell
@@ -30,9 +34,26 @@ QString path(const QString& key)
     return QStringLiteral("Settings/") + key;
 }
 
+/// The files that the store is made of, for a message.
+QString filesOf(const QSettings& store)
+{
+    // A store of the user falls back to one that all users of a machine share.
+    const QStringList found =
+        store.organizationName().isEmpty()
+            ? QStringList()
+            : QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation,
+                                        QFileInfo(store.fileName()).fileName());
+    return (found.isEmpty() ? QStringList(store.fileName()) : found).join(QStringLiteral(" », « "));
+}
+
 } // namespace
 
-Settings::Settings(std::unique_ptr<QSettings> store) : m_store(std::move(store)) {}
+Settings::Settings(std::unique_ptr<QSettings> store) : m_store(std::move(store))
+{
+    static_cast<void>(m_store->allKeys()); // else a section is only read when it is asked for
+    check(QStringLiteral("Lecture des paramètres"));
+}
+
 Settings::~Settings() = default;
 Settings::Settings(Settings&&) noexcept = default;
 Settings& Settings::operator=(Settings&&) noexcept = default;
@@ -60,6 +81,19 @@ void Settings::save(const QString& key, const QString& value)
 {
     m_store->setValue(path(key), value);
     m_store->sync();
+    check(QStringLiteral("Enregistrement des paramètres"));
+}
+
+void Settings::check(const QString& activity) const
+{
+    if (m_store->status() == QSettings::NoError) {
+        return;
+    }
+    runtime::during(activity + QStringLiteral(" (« %1 »)").arg(filesOf(*m_store)), [this] {
+        throw runtime::RunTimeError(m_store->status() == QSettings::FormatError
+                                        ? runtime::ErrorNumber::InvalidFileFormat
+                                        : runtime::ErrorNumber::PathFileAccess);
+    });
 }
 
 } // namespace shell

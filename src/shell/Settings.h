@@ -14,18 +14,23 @@ class Settings
 public:
     /// The store of the platform: `Tempora.ini` in the user's configuration folder, on Windows the
     /// registry path of the platform's own settings functions.
+    /// Errors: PathFileAccess for a store that is there and cannot be read, InvalidFileFormat for a
+    /// file with a line that is no setting: what can be made of it would pass for the user's wish.
     [[nodiscard]] static Settings perUser();
-    /// An INI file with a section [Settings], in place of the per-user store.
+    /// An INI file with a section [Settings], in place of the per-user store. Errors: the same.
     [[nodiscard]] static Settings fromFile(const QString& path);
     ~Settings();
     Settings(Settings&&) noexcept;
     Settings& operator=(Settings&&) noexcept;
 
     [[nodiscard]] QString get(const QString& key, const QString& fallback) const;
+    /// Error: PathFileAccess when the store cannot be written.
     void save(const QString& key, const QString& value);
 
 private:
     explicit Settings(std::unique_ptr<QSettings> store);
+    void check(const QString& activity) const;
+
     std::unique_ptr<QSettings> m_store;
 };
 

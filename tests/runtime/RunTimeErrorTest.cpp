@@ -36,6 +36,10 @@ TEST(ARunTimeError, hasThePlatformsTextForEveryNumberThatIsNotTheDatabases)
     EXPECT_EQ(platformErrorText(ErrorNumber::SubscriptOutOfRange),
               QStringLiteral("Subscript out of range"));
     EXPECT_EQ(platformErrorText(ErrorNumber::FileNotFound), QStringLiteral("File not found"));
+    EXPECT_EQ(platformErrorText(ErrorNumber::PathFileAccess),
+              QStringLiteral("Path/File access error"));
+    EXPECT_EQ(platformErrorText(ErrorNumber::InvalidFileFormat),
+              QStringLiteral("Invalid file format"));
     EXPECT_EQ(platformErrorText(ErrorNumber::InvalidUseOfNull),
               QStringLiteral("Invalid use of Null"));
     EXPECT_EQ(platformErrorText(ErrorNumber::ItemNotFound),

@@ -1,6 +1,10 @@
 #include "shell/CommandLine.h"
 
 #include "support/RuntimeMatchers.h"
+#include "support/TestFolder.h"
+#include "support/WithoutPrivileges.h"
+
+#include <QFile>
 
 using namespace test;
 using shell::CommandLine;
@@ -260,6 +264,17 @@ INSTANTIATE_TEST_SUITE_P(
                 {"--seed", "2147483648"},
                 "--seed : valeur « 2147483648 » refusée ; valeurs acceptées : 0..2147483647"}),
     [](const auto& mistake) { return std::string(mistake.param.name); });
+
+TEST(CommandLine, refusesASettingsFileThatCannotBeRead)
+{
+    const QString path = processFolder() + "/locked.ini";
+    writeFile(path, "[Settings]\n");
+    QFile::setPermissions(path, QFile::WriteOwner);
+    const WithoutPrivileges ordinaryUser;
+    EXPECT_EQ(refusal({"--settings", path}),
+              "--settings : le fichier « " + path +
+                  " » ne peut pas être lu (Permission denied) ; valeurs acceptées : FICHIER.ini");
+}
 
 TEST(CommandLine, takesTheLastOfARepeatedOption)
 {

@@ -3,8 +3,12 @@
 #include "support/ProgramSetup.h"
 #include "support/RuntimeMatchers.h"
 #include "support/TestFolder.h"
+#include "support/WithoutPrivileges.h"
+
+#include <QFile>
 
 using namespace test;
+using runtime::ErrorNumber;
 using shell::Settings;
 
 namespace
@@ -61,6 +65,48 @@ TEST(Settings, writeWhatTheyReadBack)
     EXPECT_EQ(again.get("Total_L_P", ""), "20");
     EXPECT_EQ(again.get("Base", ""), "MonKalo");
     EXPECT_TRUE(fileText(path).contains("Total_L_P=20"));
+}
+
+TEST(Settings, areMissingWithTheirFileAndThatIsNoFault)
+{
+    const Settings settings = Settings::fromFile(processFolder() + "/absent.ini");
+    EXPECT_EQ(settings.get("Total_L_P", "19"), "19");
+}
+
+TEST(Settings, nameTheFileThatCannotBeRead)
+{
+    const QString path = processFolder() + "/unreadable.ini";
+    writeFile(path, "[Settings]\nTotal_L_P=12\n");
+    QFile::setPermissions(path, QFile::WriteOwner);
+    const WithoutPrivileges ordinaryUser;
+    const runtime::RunTimeError error =
+        errorOf([&] { static_cast<void>(Settings::fromFile(path)); });
+    EXPECT_EQ(error.number(), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(error.activity(), "Lecture des paramètres (« " + path + " »)");
+}
+
+TEST(Settings, nameTheFileThatIsNoneOfSettings)
+{
+    const QString path = processFolder() + "/letter.ini";
+    writeFile(path, "[Settings]\nTotal_L_P=12\nMadame, Monsieur\n");
+    const runtime::RunTimeError error =
+        errorOf([&] { static_cast<void>(Settings::fromFile(path)); });
+    EXPECT_EQ(error.number(), ErrorNumber::InvalidFileFormat);
+    EXPECT_EQ(error.activity(), "Lecture des paramètres (« " + path + " »)");
+}
+
+TEST(Settings, nameTheFileThatCannotBeWritten)
+{
+    const QString path = processFolder() + "/readonly.ini";
+    writeFile(path, "[Settings]\nTotal_L_P=12\n");
+    QFile::setPermissions(path, QFile::ReadOwner);
+    const WithoutPrivileges ordinaryUser;
+    Settings settings = Settings::fromFile(path);
+    EXPECT_EQ(settings.get("Total_L_P", "19"), "12");
+    const runtime::RunTimeError error = errorOf([&] { settings.save("Total_L_P", "13"); });
+    EXPECT_EQ(error.number(), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(error.activity(), "Enregistrement des paramètres (« " + path + " »)");
+    EXPECT_EQ(fileText(path), "[Settings]\nTotal_L_P=12\n");
 }
 
 TEST(Settings, leaveTheFileAloneUntilSomethingIsSaved)

@@ -1,4 +1,7 @@
 #include "shell/ShellDesk.h"
+#include "support/WithoutPrivileges.h"
+
+#include <QFile>
 
 using namespace test;
 
@@ -114,6 +117,19 @@ TEST_P(Shutdown, closesTheDatabaseAndHappensOnce)
     desk.setup.set("Total_L_P", "7");
     desk.shell().Form_Unload();
     EXPECT_EQ(desk.setup.saved("Total_L_P"), "7");
+}
+
+TEST_P(Shutdown, closesTheDatabaseAlsoWhenTheSettingsCannotBeSaved)
+{
+    desk.form().Total_L_P.setText("20");
+    QFile::setPermissions(desk.setup.settingsFile(), QFile::ReadOwner);
+    const WithoutPrivileges ordinaryUser;
+    const runtime::RunTimeError error = errorOf([&] { desk.shell().Form_Unload(); });
+    EXPECT_EQ(error.number(), runtime::ErrorNumber::PathFileAccess);
+    EXPECT_TRUE(error.activity().contains(desk.setup.settingsFile()))
+        << error.activity().toStdString();
+    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk.shell().database().Db()); }),
+              runtime::ErrorNumber::DatabaseFailure);
 }
 
 TEST_P(Shutdown, afterAStartThatFailedWritesNothing)
