@@ -1,6 +1,7 @@
 #include "app/PlClasse.h"
 
 #include "app/ErrorReport.h"
+#include "app/ExitCode.h"
 #include "app/HeaderBand.h"
 #include "app/HelpWindow.h"
 #include "app/OptionPanels.h"
@@ -26,6 +27,8 @@ namespace
 
 // Key code by which the form knows F2.
 constexpr int kFormKeyF2 = 113;
+// Size of the window when the user takes it out of full size.
+constexpr QSize kFirstSize(1280, 720);
 
 } // namespace
 
@@ -128,6 +131,20 @@ QString PlClasse::roomsShown() const
              rooms[static_cast<std::size_t>(last)].caption);
 }
 
+int PlClasse::run(const shell::CommandLine& line)
+{
+    if (!load()) {
+        return kFailed;
+    }
+    resize(kFirstSize);
+    showMaximized();
+    activate();
+    play(line);
+    // The first redraws serve events, too: by now the user may have closed the window.
+    const int code = hasEnded() ? kDone : QApplication::exec();
+    return m_failed ? kFailed : code;
+}
+
 bool PlClasse::load()
 {
     forward([this] {
@@ -152,39 +169,49 @@ void PlClasse::play(const shell::CommandLine& line)
 
 void PlClasse::forward(const std::function<void()>& action)
 {
-    if (m_failed) {
+    if (hasEnded()) {
         return;
     }
     try {
         action();
     } catch (const runtime::RunTimeError& error) {
         fail(error);
-        return;
     }
-    syncWidgets();
-    m_view->showAll();
+    if (!hasEnded()) {
+        syncWidgets();
+        m_view->showAll();
+    }
 }
 
 void PlClasse::fail(const runtime::RunTimeError& error)
 {
+    if (hasEnded()) {
+        return; // an action that was still under way
+    }
     m_failed = true;
     m_shell.refresh().abandon();
     reportRunTimeError(this, error);
-    QCoreApplication::exit(1);
+    QCoreApplication::exit(kFailed);
 }
 
 void PlClasse::syncWidgets()
 {
     m_mirror.sync();
+    serveFocusRequest();
     const form::PlanForm& form = m_shell.form();
-    if (form.colorerFocusRequests != m_focusRequests) {
-        m_focusRequests = form.colorerFocusRequests;
-        m_options->focusColorer();
-    }
     if (form.controlFontName != m_fontName) {
         m_fontName = form.controlFontName;
         setStyleSheet(windowStyleSheet() +
                       QStringLiteral("* { font-family: \"%1\"; }").arg(m_fontName));
+    }
+}
+
+void PlClasse::serveFocusRequest()
+{
+    const int requests = m_shell.form().colorerFocusRequests;
+    if (requests != m_focusRequests) {
+        m_focusRequests = requests;
+        m_options->focusColorer();
     }
 }
 
@@ -218,10 +245,22 @@ void PlClasse::keyPressEvent(QKeyEvent* event)
     QMainWindow::keyPressEvent(event);
 }
 
+void PlClasse::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    m_shell.Form_Resize();
+    serveFocusRequest(); // now: later it would take the focus from what the user has turned to
+}
+
 void PlClasse::closeEvent(QCloseEvent* event)
 {
-    if (!m_failed) {
-        forward([this] { m_shell.Form_Unload(); });
+    if (!hasEnded()) {
+        try {
+            m_shell.Form_Unload();
+        } catch (const runtime::RunTimeError& error) {
+            fail(error); // settings that cannot be saved; the window closes all the same
+        }
+        m_closed = true;
     }
     QMainWindow::closeEvent(event);
 }

@@ -27,6 +27,10 @@ public:
     PlClasse(shell::Settings settings, shell::Environment environment);
     ~PlClasse() override;
 
+    /// The whole life of the window: starts up, shows, plays the choices of the command line and
+    /// serves the user until the window is closed. Returns the program's exit code.
+    /// Error: shell::UsageError.
+    [[nodiscard]] int run(const shell::CommandLine& line);
     /// Starts the program up. False after a fault, which has been shown; nothing is saved then.
     [[nodiscard]] bool load();
     /// Draws the plan for the first time, once the window is shown.
@@ -34,6 +38,8 @@ public:
     /// Plays the choices of the command line. Error: shell::UsageError.
     void play(const shell::CommandLine& line);
     /// Runs an action of the user; an untrapped fault in it ends the program with exit code 1.
+    /// Once the window is closed nothing runs any more, and what an action meets that was still
+    /// under way, such as the closed database, is no fault.
     void forward(const std::function<void()>& action);
 
     [[nodiscard]] shell::Shell& shell() { return m_shell; }
@@ -43,6 +49,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     [[nodiscard]] shell::Environment tieToWindow(shell::Environment environment);
@@ -50,7 +57,9 @@ private:
     void buildStatusBar();
     [[nodiscard]] QString roomsShown() const;
     void syncWidgets();
+    void serveFocusRequest();
     void processEvents();
+    [[nodiscard]] bool hasEnded() const { return m_failed || m_closed; }
     void fail(const runtime::RunTimeError& error);
     void clickMarker(int marker);
     void showHelp();
@@ -67,6 +76,7 @@ private:
     int m_focusRequests = 0;
     QString m_fontName;
     bool m_failed = false;
+    bool m_closed = false;
 };
 
 } // namespace app

@@ -77,8 +77,8 @@ void PlanView::fit()
     m_lastRows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
     const QSize room(viewport()->width(), viewport()->height() - kTotalsHeight);
     m_target = fitPlan(form, m_shell.slots().axisEnd(), m_lastRows, room);
-    m_shell.Form_Resize(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
-                        viewport()->height() * m_target.TargetTwipsPerPixelY);
+    m_shell.layOut(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
+                   viewport()->height() * m_target.TargetTwipsPerPixelY);
     updateScrollBars();
     drawPicture();
 }

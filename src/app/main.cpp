@@ -1,4 +1,5 @@
 #include "app/ErrorReport.h"
+#include "app/ExitCode.h"
 #include "app/PlClasse.h"
 #include "app/PlatformTexts.h"
 #include "shell/CommandLine.h"
@@ -12,7 +13,9 @@
 namespace
 {
 
-enum ExitCode : int { kDone = 0, kFailed = 1, kUsage = 2 };
+using app::kDone;
+using app::kFailed;
+using app::kUsage;
 
 bool hasDisplay()
 {
@@ -73,14 +76,7 @@ void exportWithoutWindow(const shell::CommandLine& line)
 int runWindow(const shell::CommandLine& line)
 {
     app::PlClasse window(openSettings(line), environmentFor(line));
-    if (!window.load()) {
-        return kFailed;
-    }
-    window.resize(1280, 720);
-    window.showMaximized();
-    window.activate();
-    window.play(line);
-    return window.failed() ? kFailed : QApplication::exec();
+    return window.run(line);
 }
 
 /// The command line, read without a display: a mistake or --help needs none.

@@ -104,11 +104,16 @@ void Shell::Form_Activate()
     MatchControlBackgrounds();
 }
 
-void Shell::Form_Resize(int scaleWidth, int scaleHeight)
+void Shell::layOut(int scaleWidth, int scaleHeight)
 {
     m_form.scaleWidth = scaleWidth;
     m_form.scaleHeight = scaleHeight;
     m_slots.placeTotals(kTotalsMargin);
+    PlaceRoomRows();
+}
+
+void Shell::Form_Resize()
+{
     PlaceRoomRows();
     MatchControlBackgrounds();
 }
@@ -116,7 +121,7 @@ void Shell::Form_Resize(int scaleWidth, int scaleHeight)
 void Shell::fitPicture()
 {
     const form::Place& places = m_form.Cap.front().place;
-    Form_Resize(m_slots.axisEnd() + kAfterAxis + places.width + kAfterPlaces, m_form.scaleHeight);
+    layOut(m_slots.axisEnd() + kAfterAxis + places.width + kAfterPlaces, m_form.scaleHeight);
 }
 
 void Shell::Form_KeyDown(int keyCode)

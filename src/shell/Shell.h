@@ -68,13 +68,16 @@ public:
     void Form_Load();
     /// The window has been shown: the first drawing.
     void Form_Activate();
-    /// Inner size of the window's plan in twips.
-    void Form_Resize(int scaleWidth, int scaleHeight);
+    /// Lays rows and totals out for that inner size of the window's plan, in twips.
+    void layOut(int scaleWidth, int scaleHeight);
+    /// The window has another size.
+    void Form_Resize();
     /// Sizes the plan for a picture that holds all of it.
     void fitPicture();
     /// F2 (key code 113) switches pale colours; other keys do nothing.
     void Form_KeyDown(int keyCode);
     /// Closes the database and writes back the settings that changed. Closing twice does nothing.
+    /// Error: PathFileAccess when the settings cannot be saved; all else is done by then.
     void Form_Unload();
     /// Gives every control the font of `Label20` and redraws.
     void Label20_Click();

@@ -3,7 +3,7 @@
 namespace test
 {
 
-void TheWindow::open(QSize size)
+void TheWindow::create()
 {
     shell::Environment environment;
     environment.applicationFolder = setup.applicationFolder();
@@ -11,6 +11,11 @@ void TheWindow::open(QSize size)
     environment.seed = 1;
     m_window = std::make_unique<app::PlClasse>(shell::Settings::fromFile(setup.settingsFile()),
                                                std::move(environment));
+}
+
+void TheWindow::open(QSize size)
+{
+    create();
     ASSERT_TRUE(m_window->load());
     m_window->resize(size);
     m_window->show();

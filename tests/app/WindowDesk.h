@@ -33,7 +33,9 @@ class TheWindow : public testing::Test
 protected:
     TheWindow() { createTinyFaculty(database); }
 
-    /// Starts up with the settings as they are by then and shows the window.
+    /// Makes the window, not yet started up, with the settings as they are by then.
+    void create();
+    /// The same, started up and shown.
     void open(QSize size = {1366, 740});
 
     [[nodiscard]] app::PlClasse& window() { return *m_window; }

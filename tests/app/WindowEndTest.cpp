@@ -1,0 +1,143 @@
+// How the window begins with the options of the command line, and how it ends.
+
+#include "app/TemporaProcess.h"
+#include "app/WindowDesk.h"
+#include "support/WithoutPrivileges.h"
+
+#include <QFile>
+#include <QThread>
+#include <QTimer>
+
+using namespace test;
+
+namespace
+{
+
+/// The window from its start to its end, with the message boxes that it shows.
+class WindowsLife : public TheWindow
+{
+protected:
+    /// Runs the program; the exit code, -1 when it does not end.
+    int run(const QStringList& options = {})
+    {
+        constexpr int longestLifeMilliseconds = 60000;
+        QTimer watchdog;
+        watchdog.setSingleShot(true);
+        QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(-1); });
+        watchdog.start(longestLifeMilliseconds);
+        return window().run(shell::CommandLine::parse(QStringList{"tempora"} + options));
+    }
+    /// Once the program has drawn its first plan and waits for its user.
+    void whenItServes(const std::function<void()>& action)
+    {
+        QObject::connect(&m_poll, &QTimer::timeout, &m_poll, [this, action] {
+            if (QThread::currentThread()->loopLevel() > 0) {
+                m_poll.stop();
+                action();
+            }
+        });
+        m_poll.start(1);
+    }
+    /// As soon as a redraw lets events in.
+    void closeInTheNextRedraw()
+    {
+        QTimer::singleShot(0, &window(), [this] { window().close(); });
+    }
+
+    QStringList messages; ///< of the boxes that were shown
+    DialogAnswer answer{[this](QDialog& dialog) {
+        const auto* box = qobject_cast<QMessageBox*>(&dialog);
+        messages.append(box != nullptr ? box->objectName() + ": " + box->text() : "no box");
+        dialog.reject();
+    }};
+
+private:
+    QTimer m_poll;
+};
+
+} // namespace
+
+TEST_F(WindowsLife, beginsWithTheOptionsOfTheCommandLine)
+{
+    create();
+    QJsonObject shown;
+    whenItServes([&] {
+        shown = plan();
+        window().close();
+    });
+    EXPECT_EQ(run({"--date", "2025-03-18", "--makeup", "--zone", "1"}), 0);
+    EXPECT_EQ(shown["title"].toString(), "Occupation des Salles du 18/03/25");
+    EXPECT_EQ(boxTexts(shown, "A2").keys(), QList<int>({2}));
+    EXPECT_EQ(shownRooms(shown), QStringList({"A2"}));
+    EXPECT_EQ(messages, QStringList());
+}
+
+TEST_F(WindowsLife, doesNotBeginWithAChoiceThatTheDatabaseDoesNotHave)
+{
+    TemporaProcess program(setup);
+    program.environment.insert("DISPLAY", qEnvironmentVariable("DISPLAY"));
+    EXPECT_EQ(program.run({"--tranche", "Hiver"}), 2);
+    EXPECT_EQ(program.output(), "");
+    EXPECT_EQ(program.errors(),
+              "--tranche : « Hiver » n’existe pas ; valeurs acceptées : Printemps, Automne\n");
+}
+
+TEST_F(WindowsLife, endsWhenItIsClosedInItsFirstRedraw)
+{
+    create();
+    closeInTheNextRedraw();
+    EXPECT_EQ(run({"--day", "1", "--page", "2"}), 0);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(form().CbJour.text(), "Lundi"); // nothing is played any more
+    EXPECT_EQ(messages, QStringList());
+}
+
+TEST_F(WindowsLife, endsWithoutAFaultWhenItIsClosedBeforeTheDatabaseIsAskedAgain)
+{
+    open();
+    window().forward([&] {
+        form().Check2.setChecked(true);
+        form().OpExam.select();
+    });
+    closeInTheNextRedraw();
+    // The picker's new date redraws; the dates of the period are read after that.
+    window().forward([&] { form().OpEns.select(); });
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_FALSE(window().failed());
+    EXPECT_EQ(messages, QStringList());
+}
+
+TEST_F(WindowsLife, endsWithABoxAndOneAfterAFault)
+{
+    create();
+    const QString settings = setup.settingsText();
+    whenItServes([&] {
+        window().forward([&] { form().Total_L_P.setText("3"); });
+        database.execute("ALTER TABLE tranche RENAME TO periodes");
+        window().forward([&] { form().CbTranche.setListIndex(1); });
+        window().close();
+    });
+    EXPECT_EQ(run(), 1);
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_TRUE(messages[0].startsWith("RunTimeError: Run-time error '-2147217865':\n\n"))
+        << messages[0].toStdString();
+    EXPECT_TRUE(messages[0].endsWith("\n\nLecture de la période « Automne »"))
+        << messages[0].toStdString();
+    EXPECT_EQ(setup.settingsText(), settings);
+}
+
+TEST_F(WindowsLife, endsWithABoxAndOneWhenTheSettingsCannotBeSaved)
+{
+    create();
+    QFile::setPermissions(setup.settingsFile(), QFile::ReadOwner);
+    const WithoutPrivileges ordinaryUser;
+    whenItServes([&] {
+        window().forward([&] { form().Total_L_P.setText("3"); });
+        window().close();
+    });
+    EXPECT_EQ(run(), 1);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(messages, QStringList({"RunTimeError: Run-time error '75':\n\nPath/File access "
+                                     "error\n\nEnregistrement des paramètres (« " +
+                                     setup.settingsFile() + " »)"}));
+}
