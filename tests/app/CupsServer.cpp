@@ -161,22 +161,22 @@ void CupsServer::addQueue() const
 QStringList CupsServer::printedFiles() const
 {
     constexpr int longestWaitMilliseconds = 60000;
-    const auto files = [this] {
+    const auto documents = [this] {
         return QDir(outputFolder()).entryInfoList({QStringLiteral("*.pdf")}, QDir::Files);
     };
     QEventLoop loop;
     QFileSystemWatcher watcher({outputFolder()});
     QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &loop, [&] {
-        if (!files().isEmpty()) {
+        if (!documents().isEmpty()) {
             loop.quit();
         }
     });
-    if (files().isEmpty()) {
+    if (documents().isEmpty()) {
         QTimer::singleShot(longestWaitMilliseconds, &loop, &QEventLoop::quit);
         loop.exec();
     }
     QStringList paths;
-    for (const QFileInfo& file : files()) {
+    for (const QFileInfo& file : documents()) {
         paths.append(file.absoluteFilePath());
     }
     return paths;
