@@ -3,11 +3,13 @@
 #include "runtime/Numbers.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <algorithm>
 
 namespace app
 {
@@ -26,6 +28,15 @@ void setCaption(QAbstractButton* widget, const QString& caption)
     if (widget->text() != caption) {
         widget->setText(caption);
     }
+}
+
+/// The open list shows its items whole, also those for which the closed one is too narrow.
+void showWholeItems(QComboBox* widget)
+{
+    constexpr int scrollBarAndMargins = 30;
+    constexpr int widest = 600;
+    const int items = widget->view()->sizeHintForColumn(0) + scrollBarAndMargins;
+    widget->view()->setMinimumWidth(std::min(items, widest));
 }
 
 } // namespace
@@ -79,6 +90,7 @@ void FormMirror::bind(QComboBox* widget, form::List& control)
         if (!same) {
             widget->clear();
             widget->addItems(control.items());
+            showWholeItems(widget);
         }
         widget->setCurrentIndex(control.listIndex());
         showWidget(widget, control.visible);

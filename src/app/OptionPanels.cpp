@@ -24,6 +24,7 @@ namespace
 
 constexpr int kPanelRows = 4;
 constexpr int kRowPixels = 22;
+constexpr int kWidestList = 260;
 
 /// Makes the widgets of the panels: each has its control's name and is bound to it.
 class PanelBuilder
@@ -55,7 +56,25 @@ public:
         auto* widget = add<QComboBox>(name, control, accessibleName);
         widget->setAccessibleName(accessibleName);
         widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        widget->setIconSize({0, 0}); // no item has an icon: the room is the text's
         widget->setMinimumContentsLength(minimumCharacters);
+        m_mirror.follow([widget, accessibleName, &control] {
+            const QString text = control.text();
+            const QString toolTip =
+                text.isEmpty() ? accessibleName : accessibleName + QStringLiteral(" : ") + text;
+            if (widget->toolTip() != toolTip) {
+                widget->setToolTip(toolTip);
+            }
+        });
+        return widget;
+    }
+    /// A list as wide as its longest item, within reason.
+    QComboBox* wideList(const char* name, form::List& control, const QString& accessibleName,
+                        int minimumCharacters)
+    {
+        auto* widget = list(name, control, accessibleName, minimumCharacters);
+        widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        widget->setMaximumWidth(kWidestList);
         return widget;
     }
     QPushButton* button(const char* name, form::Button& control, const QString& toolTip)
@@ -95,15 +114,15 @@ Widget* keepPlace(Widget* widget)
 
 void addPeriodPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
-    QGridLayout* grid = addPanel(band, QStringLiteral("Période"), 2);
-    grid->addWidget(make.list("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 12),
-                    0, 0);
+    QGridLayout* grid = addPanel(band, QStringLiteral("Période"));
+    grid->addWidget(
+        make.wideList("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 15), 0, 0);
     grid->addWidget(make.radio("OpEns", form.OpEns, QStringLiteral("Emploi du temps hebdomadaire")),
                     1, 0);
     grid->addWidget(make.radio("OpExam", form.OpExam, QStringLiteral("Semaines d’examen")), 2, 0);
     grid->addWidget(
-        keepPlace(make.list("Combo10", form.Combo10, QStringLiteral("Semaine d’examen"), 12)), 3,
-        0);
+        keepPlace(make.wideList("Combo10", form.Combo10, QStringLiteral("Semaine d’examen"), 15)),
+        3, 0);
 }
 
 void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)

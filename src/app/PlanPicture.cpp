@@ -61,8 +61,7 @@ void PlanPicture::drawLastRow(const plan::PlanScene& scene)
     plan::PlanPainter plan(painter, scene);
     plan.paintGrid();
     plan.paintBoxesOf(row);
-    plan.paintRoomLabels();
-    plan.paintPlaces();
+    plan.paintLabelsOf(row);
     drawTotals(scene);
 }
 

@@ -204,17 +204,27 @@ void PlanView::mouseDoubleClickEvent(QMouseEvent* event)
     mousePressEvent(event); // what comes in the place of a quick second press
 }
 
+QString PlanView::rowToolTip(double y) const
+{
+    const std::vector<form::Label>& rooms = m_shell.form().Salle;
+    const auto room = std::find_if(rooms.begin(), rooms.end(), [y](const form::Label& label) {
+        return label.visible && y >= label.place.top && y < label.place.top + label.place.height;
+    });
+    if (room == rooms.end()) {
+        return {};
+    }
+    return room != rooms.begin()
+               ? room->caption // the label may be too narrow for it
+               : room->caption + QStringLiteral("\nSalle placée juste avant la première ligne du "
+                                                "plan : ses séances ne sont pas dessinées ici");
+}
+
 QString PlanView::toolTipAt(QPoint point) const
 {
     const Bands view = bands();
     const form::PlanForm& form = m_shell.form();
     if (view.names.contains(point) || view.places.contains(point)) {
-        const form::Place& zero = form.Salle.front().place;
-        const double y = m_target.TargetTwipsPerPixelY * toPlan(point).y();
-        return form.Salle.front().visible && y >= zero.top && y < zero.top + zero.height
-                   ? QStringLiteral("Salle placée juste avant la première ligne du plan : ses "
-                                    "séances ne sont pas dessinées ici")
-                   : QString();
+        return rowToolTip(m_target.TargetTwipsPerPixelY * toPlan(point).y());
     }
     if (!view.boxes.contains(point)) {
         return {};

@@ -64,6 +64,8 @@ private:
     void updateScrollBars();
     [[nodiscard]] QSize planSize() const;
     void drawPicture();
+    /// The tooltip of a row's name and places, `y` in twips of the plan.
+    [[nodiscard]] QString rowToolTip(double y) const;
 
     shell::Shell& m_shell;
     Forward m_forward;

@@ -84,17 +84,9 @@ Setting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& 
     return {kSmallestText, lines};
 }
 
-} // namespace
-
-void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
-                 const TextRuler& ruler)
+void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
+               Qt::Alignment alignment, const TextRuler& ruler)
 {
-    const QStringList written = writtenLines(text);
-    if (written.isEmpty() || area.width() < 4 || area.height() < 4) {
-        return;
-    }
-    const bool wordBreak = format == CellLayout::kWordBreak;
-    const Setting setting = fitText(ruler, written, area, wordBreak);
     const double scale = static_cast<double>(setting.pixels) / ruler.font().pixelSize();
     const double height = ruler.height() * scale;
     const double ascent = ruler.ascent() * scale;
@@ -107,17 +99,48 @@ void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int
     surface.setFont(font);
     surface.setClipRect(area.adjusted(-2, -1, 2, 1), Qt::IntersectClip);
     double top = area.top();
-    if (!wordBreak) {
+    if (alignment.testFlag(Qt::AlignVCenter)) {
         top += std::max(0.0, (area.height() - step * count) / 2);
     }
     for (const QString& line : setting.lines) {
         const QString shown = ruler.elided(line, area.width() / scale);
-        const double left =
-            wordBreak ? area.left() : area.left() + (area.width() - ruler.width(shown) * scale) / 2;
-        surface.drawText(QPointF(left, top + (step - height) / 2 + ascent), shown);
+        const double left = area.width() - ruler.width(shown) * scale;
+        const double indent = alignment.testFlag(Qt::AlignHCenter) ? left / 2
+                              : alignment.testFlag(Qt::AlignRight) ? left
+                                                                   : 0;
+        surface.drawText(QPointF(area.left() + indent, top + (step - height) / 2 + ascent), shown);
         top += step;
     }
     surface.restore();
+}
+
+bool holdsText(const QRectF& area)
+{
+    return area.width() >= 4 && area.height() >= 4;
+}
+
+} // namespace
+
+void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
+                 const TextRuler& ruler)
+{
+    const QStringList written = writtenLines(text);
+    if (written.isEmpty() || !holdsText(area)) {
+        return;
+    }
+    const bool wordBreak = format == CellLayout::kWordBreak;
+    drawLines(surface, area, fitText(ruler, written, area, wordBreak),
+              wordBreak ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignCenter, ruler);
+}
+
+void drawLabelText(QPainter& surface, const QRectF& area, const QString& text,
+                   Qt::AlignmentFlag side, const TextRuler& ruler)
+{
+    const QStringList written = writtenLines(text);
+    if (!written.isEmpty() && holdsText(area)) {
+        drawLines(surface, area, fitText(ruler, written, area, false), side | Qt::AlignVCenter,
+                  ruler);
+    }
 }
 
 } // namespace plan

@@ -16,6 +16,11 @@ namespace plan
 void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
                  const TextRuler& ruler);
 
+/// Sets a row's name or number in the same way, vertically centred, at the left or right end of
+/// the rectangle: in one line, else in a smaller size or in several lines, else cut.
+void drawLabelText(QPainter& surface, const QRectF& area, const QString& text,
+                   Qt::AlignmentFlag side, const TextRuler& ruler);
+
 /// The lines of a box text as written, without the blanks around them and without empty ones: a
 /// box text ends with a separator that would push its lines off the middle.
 [[nodiscard]] QStringList writtenLines(const QString& text);
@@ -28,7 +33,7 @@ void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int
 /// Width of the longest line.
 [[nodiscard]] double widest(const TextRuler& ruler, const QStringList& lines);
 
-/// Smallest font size in pixels that a box text shrinks to.
+/// Smallest font size in pixels that a box text or a label shrinks to.
 constexpr int kSmallestText = 9;
 
 } // namespace plan

@@ -1,6 +1,7 @@
 #include "plan/PlanPainter.h"
 
 #include "plan/AbsencePictures.h"
+#include "plan/BoxText.h"
 #include "plan/CellBox.h"
 #include "plan/Overlays.h"
 #include "plan/PlanGrid.h"
@@ -30,7 +31,8 @@ QColor toColor(form::Colour color)
 } // namespace
 
 PlanPainter::PlanPainter(QPainter& surface, const PlanScene& scene)
-    : m_surface(surface), m_scene(scene), m_ruler(textFont(kTextPixels))
+    : m_surface(surface), m_scene(scene), m_ruler(textFont(kTextPixels)),
+      m_labelRuler(textFont(kTextPixels, true)), m_rowZeroRuler(rowZeroFont())
 {
 }
 
@@ -39,6 +41,13 @@ QFont PlanPainter::textFont(int pixels, bool bold)
     QFont font(QStringLiteral("Arial"));
     font.setPixelSize(pixels);
     font.setBold(bold);
+    return font;
+}
+
+QFont PlanPainter::rowZeroFont()
+{
+    QFont font = textFont(kTextPixels);
+    font.setItalic(true);
     return font;
 }
 
@@ -136,7 +145,7 @@ void PlanPainter::paintOverlays(const OverlayPlaces& places, const PlanBox& box)
     m_surface.restore();
 }
 
-void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::Alignment alignment)
+void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side)
 {
     const QRectF place(
         m_scene.target.toPixelsX(label.place.left), m_scene.target.toPixelsY(label.place.top),
@@ -144,14 +153,20 @@ void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::Al
     // Row 0 is the room before the first drawn one: greyed, so that nobody takes it for free.
     m_surface.fillRect(place, isRowZero ? kGreyedFill : toColor(label.backColor));
     m_surface.setPen(isRowZero ? kGreyedInk : toColor(readableOn(label.backColor)));
-    QFont font = textFont(std::clamp(static_cast<int>(place.height()) - 1, 9, kTextPixels));
-    font.setItalic(isRowZero);
-    font.setBold(!isRowZero);
-    m_surface.setFont(font);
-    const QRectF inner = place.marginsRemoved(QMarginsF(5, 0, 5, 0));
-    m_surface.drawText(
-        inner, alignment | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-        QFontMetricsF(font).elidedText(label.caption, Qt::ElideRight, inner.width()));
+    drawLabelText(m_surface, place.marginsRemoved(QMarginsF(5, 0, 5, 0)), label.caption, side,
+                  isRowZero ? m_rowZeroRuler : m_labelRuler);
+}
+
+void PlanPainter::paintLabelsOf(const PlanRow& row)
+{
+    const auto index = static_cast<std::size_t>(row.index);
+    if (!m_scene.form.Salle.at(index).visible) {
+        return;
+    }
+    m_surface.save();
+    paintRowLabel(m_scene.form.Salle[index], row.index == 0, Qt::AlignLeft);
+    paintRowLabel(m_scene.form.Cap[index], row.index == 0, Qt::AlignRight);
+    m_surface.restore();
 }
 
 void PlanPainter::paintRoomLabels()

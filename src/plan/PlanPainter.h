@@ -37,6 +37,8 @@ public:
     void paintBoxesOf(const PlanRow& row);
     void paintRoomLabels();
     void paintPlaces();
+    /// Room name and places of one row of the content.
+    void paintLabelsOf(const PlanRow& row);
     void paintTotals();
 
     /// Bottom of the last row that is shown, in device pixels.
@@ -45,12 +47,15 @@ public:
 private:
     void paintBox(const PlanRow& row, const PlanBox& box);
     void paintOverlays(const OverlayPlaces& places, const PlanBox& box);
-    void paintRowLabel(const form::Label& label, bool isRowZero, Qt::Alignment alignment);
+    void paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side);
     [[nodiscard]] static QFont textFont(int pixels, bool bold = false);
+    [[nodiscard]] static QFont rowZeroFont();
 
     QPainter& m_surface;
     const PlanScene& m_scene;
     TextRuler m_ruler;
+    TextRuler m_labelRuler;
+    TextRuler m_rowZeroRuler;
 };
 
 } // namespace plan

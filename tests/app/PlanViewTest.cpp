@@ -67,3 +67,21 @@ TEST_F(ThePlansToolTips, leaveTheOutcomeOpenForSeveralClasses)
     EXPECT_TRUE(toolTipsOfBoth.ZAbs.endsWith("\n\n" + gestures))
         << toolTipsOfBoth.ZAbs.toStdString();
 }
+
+TEST_F(ThePlansToolTips, tellTheRoomOfARow)
+{
+    open();
+    const auto at = [this](std::size_t row) {
+        const form::Place& place = form().Salle.at(row).place;
+        return view()->toolTipAt(
+            view()
+                ->toViewport({view()->target().toPixelsX(place.width / 2),
+                              view()->target().toPixelsY(place.top + place.height / 2)})
+                .toPoint());
+    };
+    EXPECT_EQ(at(1), "A2");
+    EXPECT_EQ(at(4), "C1");
+    EXPECT_EQ(at(0), "A1\nSalle placée juste avant la première ligne du plan : ses séances ne sont "
+                     "pas dessinées ici");
+    EXPECT_EQ(at(5), ""); // no such room
+}

@@ -1,5 +1,7 @@
 #include "app/WindowDesk.h"
 
+#include <QStyleOptionComboBox>
+
 using test::TheWindow;
 
 TEST_F(TheWindow, fitsAScreenOf1366PixelsWhateverItShows)
@@ -17,4 +19,19 @@ TEST_F(TheWindow, fitsAScreenOf1366PixelsWhateverItShows)
     EXPECT_LE(width(), screenWidth);
     form().OpExam.select();
     EXPECT_LE(width(), screenWidth);
+}
+
+TEST_F(TheWindow, showsTheNameOfAPeriodWhole)
+{
+    const QString name = "Semestre 1 2026-2027";
+    database.execute("UPDATE tranche SET Tranche = '" + name + "' WHERE ident = 1");
+    open({1366, 740});
+    auto* list = control<QComboBox>("CbTranche");
+    EXPECT_EQ(list->currentText(), name);
+    EXPECT_EQ(list->toolTip(), "Période affichée : " + name);
+    QStyleOptionComboBox option;
+    option.initFrom(list);
+    const QRect field = list->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                      QStyle::SC_ComboBoxEditField, list);
+    EXPECT_GE(field.width(), list->fontMetrics().horizontalAdvance(name));
 }

@@ -25,6 +25,18 @@ Canvas written(const QString& text, int format = CellLayout::kCentredLines,
     return canvas;
 }
 
+Canvas label(const QString& text, const QRectF& place, Qt::AlignmentFlag side = Qt::AlignLeft)
+{
+    Canvas canvas;
+    canvas.draw([&](QPainter& painter) {
+        QFont font("Arial");
+        font.setPixelSize(13);
+        font.setBold(true);
+        plan::drawLabelText(painter, place, text, side, plan::TextRuler(font));
+    });
+    return canvas;
+}
+
 } // namespace
 
 TEST(BoxText, isCentredBothWays)
@@ -93,4 +105,40 @@ TEST(BoxText, shrinksToFitARowOfManyRooms)
         written("GC1 Dupont", CellLayout::kCentredLines, {100, 50, 150, 11}).touched();
     EXPECT_FALSE(ink.isEmpty());
     EXPECT_TRUE(QRect(98, 49, 154, 13).contains(ink));
+}
+
+TEST(LabelText, standsAtItsSideHalfwayDown)
+{
+    const QRect left = label("120", area).touched();
+    EXPECT_NEAR(left.left(), area.left(), 3);
+    EXPECT_NEAR(left.center().y(), area.center().y(), 4);
+    const QRect right = label("120", area, Qt::AlignRight).touched();
+    EXPECT_NEAR(right.right(), area.right(), 3);
+    EXPECT_NEAR(right.center().y(), area.center().y(), 4);
+}
+
+// A name that is cut looks the same whatever it goes on with.
+
+TEST(LabelText, takesTwoLinesForANameThatIsTooLongForOne)
+{
+    const QRectF narrow(100, 50, 90, 38);
+    const Canvas whole = label("Amphi Al Khwarizmi", narrow);
+    EXPECT_GT(whole.touched().height(), label("Amphi", narrow).touched().height() + 8);
+    EXPECT_NE(whole.image(), label("Amphi Al Khwarizmu", narrow).image());
+}
+
+TEST(LabelText, shrinksForANameThatIsALittleTooLongInALowRow)
+{
+    const QRectF low(100, 50, 105, 16);
+    const Canvas whole = label("Amphi Al Khwarizmi", low);
+    EXPECT_TRUE(QRect(98, 49, 109, 18).contains(whole.touched()));
+    EXPECT_NE(whole.image(), label("Amphi Al Khwarizmu", low).image());
+}
+
+TEST(LabelText, isCutWhereNothingElseHelps)
+{
+    const QRectF tiny(100, 50, 50, 13);
+    const Canvas cut = label("Amphi Al Khwarizmi", tiny);
+    EXPECT_FALSE(cut.touched().isEmpty());
+    EXPECT_EQ(cut.image(), label("Amphi Al Khwarizmu", tiny).image());
 }
