@@ -1,6 +1,7 @@
 // How long a refresh takes and how many statements it sends, one by one and fetched ahead, over the
 // databases and distances that the program meets. Writes a Markdown table to standard output:
-//   refresh_bench [small|middle|large]...
+//   refresh_bench [small|middle|large]... [--near]
+// With --near the server behind a delay is left out, which takes most of the time.
 
 #include "bench/DelayProxy.h"
 #include "bench/Faculty.h"
@@ -51,7 +52,7 @@ void report(const char* size, const char* where, const bench::Faculty& faculty, 
     std::fflush(stdout);
 }
 
-void measureSize(const char* size, const demo::FacultyOptions& options)
+void measureSize(const char* size, const demo::FacultyOptions& options, bool onlyNear)
 {
     {
         const bench::Faculty sqlite(options, test::DatabaseKind::Sqlite);
@@ -59,7 +60,7 @@ void measureSize(const char* size, const demo::FacultyOptions& options)
     }
     const bench::Faculty mariaDb(options, test::DatabaseKind::MariaDb);
     report(size, "MariaDB, same machine", mariaDb, 0, 15);
-    for (const int roundTrip : {5, 20}) {
+    for (const int roundTrip : onlyNear ? std::vector<int>() : std::vector<int>{5, 20}) {
         const bench::DelayProxy proxy(test::MariaDbServer::shared().port(),
                                       std::chrono::milliseconds(roundTrip));
         const QByteArray where = QByteArray("MariaDB, ") + QByteArray::number(roundTrip) + " ms";
@@ -72,7 +73,8 @@ void measureSize(const char* size, const demo::FacultyOptions& options)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    const QStringList asked = QCoreApplication::arguments().mid(1);
+    QStringList asked = QCoreApplication::arguments().mid(1);
+    const bool onlyNear = asked.removeAll(QStringLiteral("--near")) > 0;
     const QDate today = QDate::currentDate();
     std::puts("| faculty | database | statements, one by one | ms | statements, ahead | ms | times "
               "faster |\n|---|---|---:|---:|---:|---:|---:|");
@@ -82,7 +84,7 @@ int main(int argc, char* argv[])
         {"large", demo::largeFaculty(today)}};
     for (const auto& [name, options] : sizes) {
         if (asked.isEmpty() || asked.contains(QLatin1String(name))) {
-            measureSize(name, options);
+            measureSize(name, options, onlyNear);
         }
     }
     return 0;

@@ -3,9 +3,18 @@
 #include "runtime/RunTimeError.h"
 
 #include <algorithm>
+#include <map>
 
 namespace absences
 {
+namespace
+{
+
+constexpr int kClasses = 1;
+constexpr int kStudents = 2;
+
+} // namespace
+
 void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 {
     m_togglesBefore = m_plain.toggleCount();
@@ -14,57 +23,76 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
     m_starts = db::plainLiterals(questions.starts);
     m_classes.reset();
     m_students.reset();
-    if (!m_classNames.isEmpty() && !m_starts.isEmpty()) {
-        runtime::skipOnError([this] { fetchClasses(); });
-        runtime::skipOnError([this] { fetchStudents(); });
+    if (m_classNames.isEmpty() || m_starts.isEmpty()) {
+        return;
+    }
+    fetch({kClasses, kStudents});
+    if (!m_classes || !m_students) { // one of the tables may be missing
+        fetch({kClasses});
+        fetch({kStudents});
     }
 }
 
-void PageAbsences::fetchClasses()
-{
-    const db::MatchMasks classes(QStringLiteral("Classe"), m_classNames);
-    const db::MatchMasks starts(QStringLiteral("Debut"), m_starts);
-    const db::Recordset found = m_database.Db().open(
-        QStringLiteral("Select ") + classes.selectList(QStringLiteral("tempora_c")) +
-        QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) +
-        QStringLiteral(" from abscence Where Datex=") + m_database.dialect().dateLiteral(m_date) +
-        QStringLiteral(" and ") + classes.anyOf());
-    Recorded recorded;
-    for (const db::Row& row : found.rows()) {
-        for (const int name : classes.matches(row, 0)) {
-            for (const int start : starts.matches(row, classes.columnCount())) {
-                recorded.insert({m_classNames[name], m_starts[start]});
-            }
-        }
-    }
-    m_classes = std::move(recorded);
-}
-
-void PageAbsences::fetchStudents()
+/// The records of one table, as "Select" with its kind and its masks in front. A record of a class
+/// has no name; what stands in that place is not looked at.
+QString PageAbsences::query(int kind) const
 {
     const db::MatchMasks classes(QStringLiteral("Classe"), m_classNames);
     const db::MatchMasks names(QStringLiteral("Nom"), m_classNames);
-    const db::MatchMasks starts(QStringLiteral("HeureD"), m_starts);
-    const db::Recordset found = m_database.Db().open(
-        QStringLiteral("Select ") + classes.selectList(QStringLiteral("tempora_c")) +
-        QStringLiteral(", ") + names.selectList(QStringLiteral("tempora_n")) +
-        QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) +
-        QStringLiteral(" from etud_abs Where Jour=") + m_database.dialect().dateLiteral(m_date) +
-        QStringLiteral(" and ") + classes.anyOf());
-    Recorded recorded;
-    for (const db::Row& row : found.rows()) {
-        const std::vector<int> named = names.matches(row, classes.columnCount());
-        for (const int name : classes.matches(row, 0)) {
-            if (std::find(named.begin(), named.end(), name) == named.end()) {
-                continue; // about a single student, not about the class
-            }
-            for (const int start :
-                 starts.matches(row, classes.columnCount() + names.columnCount())) {
-                recorded.insert({m_classNames[name], m_starts[start]});
-            }
+    const bool ofClasses = kind == kClasses;
+    const db::MatchMasks starts(ofClasses ? QStringLiteral("Debut") : QStringLiteral("HeureD"),
+                                m_starts);
+    QString nameMasks = names.selectList(QStringLiteral("tempora_n"));
+    if (ofClasses) {
+        nameMasks = QStringLiteral("0") + QStringLiteral(", 0").repeated(names.columnCount() - 1);
+    }
+    const QString table = ofClasses ? QStringLiteral(" from abscence Where Datex=")
+                                    : QStringLiteral(" from etud_abs Where Jour=");
+    return QStringLiteral("Select ") + QString::number(kind) + QStringLiteral(" as tempora_t, ") +
+           classes.selectList(QStringLiteral("tempora_c")) + QStringLiteral(", ") + nameMasks +
+           QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) + table +
+           m_database.dialect().dateLiteral(m_date) + QStringLiteral(" and ") + classes.anyOf();
+}
+
+/// Fetches the records of these kinds; after a failure nothing is known of them.
+void PageAbsences::fetch(const std::vector<int>& kinds)
+{
+    runtime::skipOnError([&] {
+        QStringList queries;
+        for (const int kind : kinds) {
+            queries << query(kind);
+        }
+        const db::Recordset found =
+            m_database.Db().open(queries.join(QStringLiteral(" union all ")));
+        std::map<int, Recorded> recorded;
+        for (const int kind : kinds) {
+            recorded[kind] = {};
+        }
+        for (const db::Row& row : found.rows()) {
+            const int kind = row.field(0).toInt32();
+            keep(row, kind, recorded.at(kind));
+        }
+        for (auto& [kind, records] : recorded) {
+            (kind == kClasses ? m_classes : m_students) = std::move(records);
+        }
+    });
+}
+
+void PageAbsences::keep(const db::Row& row, int kind, Recorded& recorded) const
+{
+    const db::MatchMasks names({}, m_classNames);
+    const db::MatchMasks starts({}, m_starts);
+    const int firstName = 1 + names.columnCount();
+    const std::vector<int> named = names.matches(row, firstName);
+    for (const int name : names.matches(row, 1)) {
+        // A record that names somebody else is about a single student, not about the class.
+        if (kind == kStudents && std::find(named.begin(), named.end(), name) == named.end()) {
+            continue;
+        }
+        for (const int start : starts.matches(row, firstName + names.columnCount())) {
+            recorded.insert({m_classNames[name], m_starts[start]});
         }
     }
-    m_students = std::move(recorded);
 }
 
 bool PageAbsences::isPrepared(const plan::Marqueur& marker, const QString& className) const

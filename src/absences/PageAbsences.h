@@ -11,11 +11,12 @@
 #include <QString>
 #include <QStringList>
 #include <optional>
+#include <vector>
 
 namespace absences
 {
 
-/// Answers a refresh's questions about absences from two statements for the whole page. The
+/// Answers a refresh's questions about absences from one statement for the whole page. The
 /// database itself says which record is about which class and time. What it could not fetch, was
 /// not told of, or fetched before the user toggled an absence in the middle of the refresh, it
 /// leaves to the plain tests.
@@ -38,8 +39,9 @@ private:
     using Recorded = QSet<QPair<QString, QString>>; ///< class, start time
 
     [[nodiscard]] bool isPrepared(const plan::Marqueur& marker, const QString& className) const;
-    void fetchClasses();
-    void fetchStudents();
+    [[nodiscard]] QString query(int kind) const;
+    void fetch(const std::vector<int>& kinds);
+    void keep(const db::Row& row, int kind, Recorded& recorded) const;
 
     db::Database& m_database;
     AbsenceRecords& m_plain;

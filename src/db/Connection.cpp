@@ -1,5 +1,6 @@
 #include "db/Connection.h"
 
+#include "db/AccessPaths.h"
 #include "db/DeletionSql.h"
 #include "db/EmbeddedSql.h"
 #include "db/OdbcHandles.h"
@@ -53,6 +54,19 @@ public:
     {
         StatementHandle statement = executed(sql);
         return ResultReader(statement).countRows();
+    }
+
+    [[nodiscard]] std::optional<QStringList> accessPaths(const QString& sql)
+    {
+        switch (m_connection.product()) {
+        case Product::Sqlite:
+            return sqliteAccessPaths(open(QStringLiteral("explain query plan ") + sql));
+        case Product::MySql:
+            return mySqlAccessPaths(open(QStringLiteral("explain ") + sql));
+        case Product::Other:
+            break;
+        }
+        return std::nullopt;
     }
 
     void execute(const QString& sql) { static_cast<void>(executed(sql)); }
@@ -212,6 +226,11 @@ Recordset Connection::open(const QString& sql)
 int Connection::recordCount(const QString& sql)
 {
     return session().recordCount(sql);
+}
+
+std::optional<QStringList> Connection::accessPaths(const QString& sql)
+{
+    return session().accessPaths(sql);
 }
 
 void Connection::execute(const QString& sql)

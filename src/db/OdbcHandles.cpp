@@ -142,6 +142,7 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
         connect(withLockTimeout(connectString));
     }
     m_textForm = textFormFor(m_product);
+    m_sendsUtf8 = m_product == Product::MySql && asksServerForUtf8();
     m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);
     SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
 }
@@ -168,6 +169,23 @@ QString ConnectionHandle::info(SQLUSMALLINT what) const
     return SQL_SUCCEEDED(result)
                ? QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()))
                : QString();
+}
+
+/// The driver chooses the character set of results when it connects, by its version and options.
+bool ConnectionHandle::asksServerForUtf8() const
+{
+    constexpr std::size_t longestName = 64;
+    std::array<SQLWCHAR, longestName> name{};
+    const StatementHandle statement(*this);
+    const QString question = QStringLiteral("select @@character_set_results");
+    const bool answered =
+        SQL_SUCCEEDED(SQLExecDirectW(statement.get(), wide(question),
+                                     static_cast<SQLINTEGER>(question.size()))) &&
+        SQL_SUCCEEDED(SQLFetch(statement.get())) &&
+        SQL_SUCCEEDED(SQLGetData(statement.get(), 1, SQL_C_WCHAR, name.data(),
+                                 static_cast<SQLLEN>(name.size() * sizeof(SQLWCHAR)), nullptr));
+    return answered && QString::fromUtf16(reinterpret_cast<const char16_t*>(name.data()))
+                           .startsWith(u"utf8"); // utf8, utf8mb3, utf8mb4
 }
 
 QString ConnectionHandle::quoted(const QString& identifier) const

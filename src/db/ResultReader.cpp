@@ -69,12 +69,14 @@ Value valueOfType(const QString& text, SQLSMALLINT type)
     }
 }
 
-/// Reads one field piece by piece into `text`, whatever its length. False when it is null.
+/// Reads one field piece by piece, whatever its length: `append` gets each piece and whether more
+/// may follow. False when it is null.
 template <typename Unit, std::size_t Size, typename Append>
 bool readPieces(StatementHandle& statement, SQLUSMALLINT index, SQLSMALLINT cType,
                 std::array<Unit, Size>& buffer, Append append)
 {
-    constexpr SQLLEN roomForText = static_cast<SQLLEN>((Size - 1) * sizeof(Unit));
+    const std::size_t terminator = cType == SQL_C_BINARY ? 0 : 1;
+    const SQLLEN roomForText = static_cast<SQLLEN>((Size - terminator) * sizeof(Unit));
     for (bool first = true;; first = false) {
         SQLLEN length = 0;
         const SQLRETURN result = SQLGetData(statement.get(), index, cType, buffer.data(),
@@ -88,7 +90,8 @@ bool readPieces(StatementHandle& statement, SQLUSMALLINT index, SQLSMALLINT cTyp
         }
         const bool more = length == SQL_NO_TOTAL || length > roomForText;
         const SQLLEN bytes = more ? roomForText : length;
-        append(buffer.data(), static_cast<qsizetype>(bytes) / static_cast<qsizetype>(sizeof(Unit)));
+        append(buffer.data(), static_cast<qsizetype>(bytes) / static_cast<qsizetype>(sizeof(Unit)),
+               more);
         if (!more) {
             return true;
         }
@@ -172,7 +175,7 @@ Value ResultReader::read(SQLUSMALLINT index, SQLSMALLINT type)
     if (type == SQL_BIT && m_statement.connection().product() != Product::Sqlite) {
         return readBit(index);
     }
-    Value text = readText(index);
+    Value text = readText(index, type);
     return text.isNull() ? text : valueOfType(text.toText(), type);
 }
 
@@ -184,19 +187,66 @@ Value ResultReader::readBit(SQLUSMALLINT index)
     return length == SQL_NULL_DATA ? Value() : Value(bit != 0);
 }
 
-Value ResultReader::readText(SQLUSMALLINT index)
+/// SQLite's driver speaks UTF-8. A server's driver gives numbers and dates in characters that are
+/// the same in every character set; texts it gives as the bytes that the server sent, where these
+/// are known to be UTF-8.
+SQLSMALLINT ResultReader::cTypeForText(SQLSMALLINT type) const
 {
-    if (m_statement.connection().textForm() == TextForm::Utf8) {
+    const ConnectionHandle& connection = m_statement.connection();
+    if (connection.textForm() == TextForm::Utf8) {
+        return SQL_C_CHAR;
+    }
+    if (!connection.sendsUtf8()) {
+        return SQL_C_WCHAR;
+    }
+    switch (type) {
+    case SQL_CHAR:
+    case SQL_VARCHAR:
+    case SQL_LONGVARCHAR:
+    case SQL_WCHAR:
+    case SQL_WVARCHAR:
+    case SQL_WLONGVARCHAR:
+        return SQL_C_BINARY;
+    case SQL_TINYINT:
+    case SQL_SMALLINT:
+    case SQL_INTEGER:
+    case SQL_BIGINT:
+    case SQL_REAL:
+    case SQL_FLOAT:
+    case SQL_DOUBLE:
+    case SQL_DECIMAL:
+    case SQL_NUMERIC:
+    case SQL_TYPE_DATE:
+    case SQL_TYPE_TIMESTAMP:
+        return SQL_C_CHAR;
+    default:
+        return SQL_C_WCHAR;
+    }
+}
+
+Value ResultReader::readText(SQLUSMALLINT index, SQLSMALLINT type)
+{
+    const SQLSMALLINT cType = cTypeForText(type);
+    if (cType != SQL_C_WCHAR) {
         // Decoded as a whole: a piece may end within a character.
-        QByteArray bytes;
-        const bool there = readPieces(
-            m_statement, index, SQL_C_CHAR, m_narrowBuffer,
-            [&bytes](const char* piece, qsizetype length) { bytes.append(piece, length); });
-        return there ? Value(QString::fromUtf8(bytes)) : Value();
+        QByteArray pieces;
+        QString text;
+        const bool there = readPieces(m_statement, index, cType, m_narrowBuffer,
+                                      [&](const char* piece, qsizetype length, bool more) {
+                                          if (!more && pieces.isEmpty()) {
+                                              text = QString::fromUtf8(piece, length);
+                                          } else {
+                                              pieces.append(piece, length);
+                                          }
+                                      });
+        if (!pieces.isEmpty()) {
+            text = QString::fromUtf8(pieces);
+        }
+        return there ? Value(text) : Value();
     }
     QString text;
     const bool there = readPieces(m_statement, index, SQL_C_WCHAR, m_wideBuffer,
-                                  [&text](const char16_t* piece, qsizetype length) {
+                                  [&text](const char16_t* piece, qsizetype length, bool) {
                                       text.append(QStringView(piece, length));
                                   });
     return there ? Value(text) : Value();

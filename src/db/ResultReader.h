@@ -25,7 +25,7 @@ public:
     [[nodiscard]] SQLSMALLINT columnType(SQLUSMALLINT index);
     /// The field of the current row as text; null stays null. `index` counts from 1; fields are
     /// read in ascending order, each once.
-    [[nodiscard]] Value readText(SQLUSMALLINT index);
+    [[nodiscard]] Value readText(SQLUSMALLINT index) { return readText(index, SQL_WVARCHAR); }
 
 private:
     struct Column {
@@ -37,6 +37,8 @@ private:
     [[nodiscard]] Column describe(SQLUSMALLINT index);
     [[nodiscard]] Value read(SQLUSMALLINT index, SQLSMALLINT type);
     [[nodiscard]] Value readBit(SQLUSMALLINT index);
+    [[nodiscard]] Value readText(SQLUSMALLINT index, SQLSMALLINT type);
+    [[nodiscard]] SQLSMALLINT cTypeForText(SQLSMALLINT type) const;
 
     static constexpr std::size_t bufferUnits = 1024;
 

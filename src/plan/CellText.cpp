@@ -44,7 +44,10 @@ private:
 bool Composer::isRoom(const QString& column) const
 {
     bool same = false;
-    skipOnError([&] { same = m_row.field(column).toText() == m_room; });
+    skipOnError([&] {
+        const db::Value& value = m_row.field(column);
+        same = !value.isNull() && value.toText() == m_room;
+    });
     return same;
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "db/Database.h"
+#include "plan/PageCells.h"
 #include "plan/RowSource.h"
 
 #include <QHash>
-#include <QPair>
 #include <map>
-#include <vector>
 
 namespace plan
 {
@@ -16,10 +15,9 @@ namespace plan
 /// far away: there every statement costs a journey.
 ///
 /// No answer differs from the plain source's: the database itself says which row answers which
-/// question. Where several rows answer one question their order matters, and where a name was found
-/// under another spelling only the database knows what it equals; such questions are put once more,
-/// each in the plain statement's own words, all joined into one. What cannot be fetched is left to
-/// the plain source.
+/// question. Where a name was found under another spelling only the database knows what it equals;
+/// such questions are put once more, each in the plain statement's own words, all joined into one.
+/// What cannot be fetched is left to the plain source.
 class PageRowSource : public RowSource
 {
 public:
@@ -34,24 +32,16 @@ public:
     [[nodiscard]] db::Recordset classRows(const QString& className) override;
 
 private:
-    using Cell = QPair<QString, QString>; ///< room, slot key
-    using Cells = QHash<Cell, db::Recordset>;
-
     void fetchTimetable(RoomQuestion::Table table);
-    [[nodiscard]] Cells fetchCells(RoomQuestion::Table table, const QStringList& rooms,
-                                   const QStringList& keys);
-    void fetchInOrder(const std::vector<RoomQuestion>& questions, Cells& cells);
     void fetchStudents(const QStringList& classNames);
     void fetchClasses(const QStringList& classNames);
-    [[nodiscard]] std::vector<std::vector<db::Row>> openJoined(const QStringList& statements,
-                                                               db::Recordset& all);
     [[nodiscard]] QStringList allClasses() const;
     [[nodiscard]] PageFacts facts() const;
 
     db::Database& m_database;
     RowSource& m_plain;
     PageQuestions m_questions;
-    std::map<RoomQuestion::Table, Cells> m_cells;
+    std::map<RoomQuestion::Table, PageCells> m_cells;
     QHash<QString, int> m_studentRows;
     QHash<QString, db::Recordset> m_classRows;
 };

@@ -126,20 +126,20 @@ protected:
     }
 
     /// Compares one page, as a refresh asks for it. Returns the number of cells.
-    int comparePage(Way& plain, Way& ahead, const QString& tranche)
+    int comparePage(Way& plain, Way& ahead, const RandomTimetable& random, const QString& tranche)
     {
         QStringList keys;
         for (int slot = 1; slot <= 10; ++slot) {
             keys << m_form.CbJour.text() + QString::number(slot);
         }
-        const plan::PageFacts facts = ahead.lookup.prepare(RandomTimetable::rooms(), keys, tranche);
+        const plan::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, tranche);
         plan::AbsenceQuestions questions{m_form.DTPicker1.value(), {}, facts.starts};
         for (const QString& name : facts.classNames) {
             questions.classNames << plan::firstClass(name);
         }
         ahead.absences.prepare(questions);
         int cells = 0;
-        for (const QString& room : RandomTimetable::rooms()) {
+        for (const QString& room : random.rooms()) {
             for (const QString& key : keys) {
                 const Answer expected = ask(plain, room, key, tranche);
                 const Answer answer = ask(ahead, room, key, tranche);
@@ -176,7 +176,7 @@ TEST_P(PageSources, answerEveryCellAsThePlainOnesDo)
         Way ahead(tables, m_form, m_layout, m_names, true);
         for (int page = 0; page < 12 && !HasFailure(); ++page) {
             choose(random);
-            cells += comparePage(plain, ahead, QString::number(1 + random.pick(2)));
+            cells += comparePage(plain, ahead, random, QString::number(1 + random.pick(2)));
         }
     }
     // The comparison is worth something only if there is something to compare.
@@ -195,8 +195,7 @@ TEST_P(PageSources, needAtMostTenStatementsAPage)
     for (int slot = 1; slot <= 10; ++slot) {
         keys << QStringLiteral("Lundi%1").arg(slot);
     }
-    const plan::PageFacts facts =
-        ahead.lookup.prepare(RandomTimetable::rooms(), keys, QStringLiteral("1"));
+    const plan::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, QStringLiteral("1"));
     ahead.absences.prepare({RandomTimetable::date(), facts.classNames, facts.starts});
     EXPECT_LE(ahead.db.Db().statementCount() - before, 10);
     EXPECT_FALSE(facts.classNames.isEmpty());

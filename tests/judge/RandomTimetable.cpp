@@ -2,6 +2,8 @@
 
 #include "support/Timetable.h"
 
+#include <vector>
+
 namespace test
 {
 namespace
@@ -20,40 +22,72 @@ QStringList starts()
     return {"8h00", "8H00", "8:00", "9h30", kNull};
 }
 
+QStringList oddRooms()
+{
+    return {"A101", "a101",     "A101 ", "Á101", "E1",   "é1", "O'Brien",
+            "B\\2", "Amphi %1", "",      "Labo", "LABO", "C3", "c3 "};
+}
+
+QStringList oddClasses()
+{
+    return {"GC1", "gc1", "GC1 ", "GÇ1", "L2 \"B\"", "D'Arc", "M\\1", "", "INF", "Inf", kNull};
+}
+
+/// Plain names before the odd ones, so that these come in a later mask column.
+QStringList withManyBefore(const QStringList& names)
+{
+    constexpr int many = 25;
+    QStringList all;
+    for (int name = 1; name <= many; ++name) {
+        all << QStringLiteral("AA%1").arg(name);
+    }
+    return all + names;
+}
+
 } // namespace
-
-const QStringList& RandomTimetable::rooms()
-{
-    static const QStringList names = {"A101", "a101",     "A101 ", "Á101", "E1",   "é1", "O'Brien",
-                                      "B\\2", "Amphi %1", "",      "Labo", "LABO", "C3", "c3 "};
-    return names;
-}
-
-const QStringList& RandomTimetable::classes()
-{
-    static const QStringList names = {"GC1",  "gc1", "GC1 ", "GÇ1", "L2 \"B\"", "D'Arc",
-                                      "M\\1", "",    "INF",  "Inf", kNull};
-    return names;
-}
 
 QString RandomTimetable::anyOf(const QStringList& texts)
 {
     return texts[pick(static_cast<int>(texts.size()))];
 }
 
+/// Whether and how the tables are indexed decides the order in which rows are found.
+QStringList RandomTimetable::randomIndexes()
+{
+    const std::vector<QStringList> choices = {
+        {},
+        {"emplois (Tranche, Seance)", "ratrap (DateX, Seance)",
+         "examen (Tranche, Semaine, Seance)"},
+        {"emplois (Seance)", "ratrap (Seance)", "examen (Seance)"},
+        {"emplois (Tranche)", "ratrap (Tranche)", "examen (Salle)"},
+        {"emplois (Salle)", "emplois (XSalle)", "emplois (YSalle)", "emplois (SalleB)",
+         "emplois (XSalleB)", "emplois (YSalleB)"},
+        {"emplois (Seance, Classe)", "ratrap (Seance, Classe)", "examen (Seance, Classe)"},
+        {"emplois (Tranche, Seance, Salle, Classe)", "emplois (Salle)", "ratrap (Salle)",
+         "examen (Salle, Seance)"},
+    };
+    QStringList statements;
+    for (const QString& index : choices[pick(static_cast<int>(choices.size()))]) {
+        statements << QStringLiteral("create index i%1 on ").arg(statements.size()) + index;
+    }
+    return statements;
+}
+
 RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engine(seed)
 {
+    m_rooms = chance(20) ? withManyBefore(oddRooms()) : oddRooms();
+    m_classes = chance(20) ? withManyBefore(oddClasses()) : oddClasses();
     Timetable tables(database);
     const auto text = [](const QString& column, const QString& value) {
         return value == QLatin1String(kNull) ? Field(column, nullptr) : Field(column, value);
     };
-    const auto roomOrNull = [&] { return chance(60) ? QString(kNull) : anyOf(rooms()); };
+    const auto roomOrNull = [&] { return chance(60) ? QString(kNull) : anyOf(m_rooms); };
     const auto key = [&]() -> QString {
         const QString day = chance(90) ? "Lundi" : chance(50) ? "lundi" : "Mardi";
         return day + QString::number(1 + pick(4));
     };
     const auto course = [&] {
-        return Fields{text("Salle", chance(85) ? anyOf(rooms()) : kNull),
+        return Fields{text("Salle", chance(85) ? anyOf(m_rooms) : kNull),
                       text("XSalle", roomOrNull()),
                       text("YSalle", roomOrNull()),
                       text("SalleB", roomOrNull()),
@@ -64,7 +98,7 @@ RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engi
                       text("newnature", anyOf({"00", "10/20", "", kNull})),
                       chance(10) ? Field("TypeS1", nullptr) : Field("TypeS1", pick(18)),
                       Field("TypeS3B", pick(3)),
-                      text("Classe", anyOf(classes())),
+                      text("Classe", anyOf(m_classes)),
                       text("Enseignant1", anyOf({"Durand", "D'Or", "", kNull})),
                       text("Enseignant2", anyOf({"Martin", "", kNull})),
                       text("Enseignant1b", anyOf({"Petit", kNull})),
@@ -86,30 +120,33 @@ RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engi
     }
     for (int row = 0; row < 60; ++row) {
         tables.row("examen",
-                   {text("Salle", anyOf(rooms())), text("Seance", key()),
+                   {text("Salle", anyOf(m_rooms)), text("Seance", key()),
                     Field("Tranche", 1 + pick(2)), Field("Semaine", 1 + pick(2)),
                     text("newnature", "00"), Field("TypeS1", pick(16)), Field("TypeS3B", 0),
-                    text("Classe", anyOf(classes())), text("Enseignant1", "Durand"),
+                    text("Classe", anyOf(m_classes)), text("Enseignant1", "Durand"),
                     text("Resp1", anyOf({"Roux", kNull})), text("Resp2", anyOf({"Blanc", ""})),
                     text("matière", anyOf(subjects())), text("Debut", anyOf(starts())),
                     text("Durée", "60"), Field("Commune", false)});
     }
     for (int row = 0; row < 60; ++row) {
-        tables.row("etudiant", {text("classe", anyOf(classes())), text("Nom", "Élève")});
+        tables.row("etudiant", {text("classe", anyOf(m_classes)), text("Nom", "Élève")});
     }
     for (int row = 0; row < 14; ++row) {
         tables.row("classe",
-                   {text("Nom", anyOf(classes())),
+                   {text("Nom", anyOf(m_classes)),
                     chance(10) ? Field("Capacite", nullptr) : Field("Capacite", 10 * pick(9))});
     }
     for (int row = 0; row < 25; ++row) {
-        tables.row("abscence", {text("Classe", anyOf(classes())), text("Debut", anyOf(starts())),
+        tables.row("abscence", {text("Classe", anyOf(m_classes)), text("Debut", anyOf(starts())),
                                 Field("Datex", chance(80) ? date() : date().addDays(7))});
-        const QString className = anyOf(classes());
+        const QString className = anyOf(m_classes);
         tables.row("etud_abs", {text("Classe", className),
-                                text("Nom", chance(70) ? className : anyOf(classes())),
+                                text("Nom", chance(70) ? className : anyOf(m_classes)),
                                 text("HeureD", anyOf(starts())),
                                 Field("Jour", chance(80) ? date() : date().addDays(7))});
+    }
+    for (const QString& index : randomIndexes()) {
+        tables.statement(index);
     }
     tables.load();
     if (chance(30)) {

@@ -11,8 +11,9 @@ namespace test
 {
 
 /// A timetable database of odd rows: rooms and classes that differ only by case, accent or
-/// trailing blank, quotes in names, nulls, empty texts, several rows in one cell, and sometimes a
-/// column or a whole table missing. The same seed makes the same rows.
+/// trailing blank, quotes in names, nulls, empty texts, several rows in one cell, sometimes a
+/// column or a whole table missing, some index or other, more rooms or classes than a mask column
+/// holds. The same seed makes the same rows.
 class RandomTimetable
 {
 public:
@@ -21,8 +22,7 @@ public:
     /// The date that make-ups and absences are about.
     [[nodiscard]] static QDate date() { return {2026, 11, 16}; }
     /// Names as they are asked for.
-    [[nodiscard]] static const QStringList& rooms();
-    [[nodiscard]] static const QStringList& classes();
+    [[nodiscard]] const QStringList& rooms() const { return m_rooms; }
 
     /// A number from 0 to `count` - 1.
     [[nodiscard]] int pick(int count)
@@ -33,8 +33,11 @@ public:
 
 private:
     [[nodiscard]] QString anyOf(const QStringList& texts);
+    [[nodiscard]] QStringList randomIndexes();
 
     std::mt19937 m_engine;
+    QStringList m_rooms;
+    QStringList m_classes;
 };
 
 } // namespace test

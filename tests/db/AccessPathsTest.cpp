@@ -1,0 +1,145 @@
+#include "db/AccessPaths.h"
+
+#include "ConnectedTest.h"
+
+using namespace db;
+
+namespace
+{
+
+Recordset answer(const QStringList& columns, const std::vector<QStringList>& lines)
+{
+    const auto names = std::make_shared<const Columns>(columns);
+    std::vector<Row> rows;
+    for (const QStringList& line : lines) {
+        std::vector<Value> values;
+        for (const QString& text : line) {
+            values.emplace_back(text);
+        }
+        rows.emplace_back(names, std::move(values));
+    }
+    return {names, std::move(rows)};
+}
+
+Recordset sqliteAnswer(const QStringList& details)
+{
+    std::vector<QStringList> lines;
+    for (const QString& detail : details) {
+        lines.push_back({detail});
+    }
+    return answer({"detail"}, lines);
+}
+
+Recordset mySqlAnswer(const std::vector<QStringList>& lines)
+{
+    return answer({"type", "key", "key_len", "Extra"}, lines);
+}
+
+/// A query of several rows and keys, and one of its cells, on real tables.
+class AccessPath : public ConnectedTest
+{
+protected:
+    const QString page = "select * from t where a in ('x', 'y') and s in ('1', '2') and p = 3";
+    const QString cell = " union all select * from t where a = 'x' and s = '1' and p = 3";
+
+    void makeTable(const QStringList& indexes)
+    {
+        QStringList statements{"create table t (a varchar(20), s varchar(20), p integer)"};
+        // Enough rows for an index to be worth its while.
+        for (int row = 0; row < 400; ++row) {
+            statements << QString("insert into t values ('r%1', '%2', %3)")
+                              .arg(row % 20)
+                              .arg(row % 40)
+                              .arg(row % 5);
+        }
+        database().execute(statements + indexes);
+    }
+};
+
+} // namespace
+
+TEST(SqliteAccessPaths, nameTheWalkOfEachJoinedQuery)
+{
+    const QStringList one{"SEARCH emplois USING INDEX i (Tranche=? AND Seance=?)"};
+    EXPECT_EQ(sqliteAccessPaths(sqliteAnswer(one)), one);
+    EXPECT_EQ(sqliteAccessPaths(sqliteAnswer({"COMPOUND QUERY", "LEFT-MOST SUBQUERY",
+                                              "SCAN emplois", "UNION ALL", "SCAN emplois"})),
+              QStringList({"SCAN emplois", "SCAN emplois"}));
+}
+
+TEST(SqliteAccessPaths, areUnknownWhereSeveralIndexesServe)
+{
+    EXPECT_EQ(sqliteAccessPaths(
+                  sqliteAnswer({"MULTI-INDEX OR", "INDEX 1", "SEARCH t USING INDEX i (Salle=?)",
+                                "INDEX 2", "SEARCH t USING INDEX j (XSalle=?)"})),
+              std::nullopt);
+    EXPECT_EQ(sqliteAccessPaths(sqliteAnswer({"SCAN t", "USE TEMP B-TREE FOR ORDER BY"})),
+              std::nullopt);
+}
+
+TEST(MySqlAccessPaths, takeSeveralPointsOfAnIndexForTheWalkOfOne)
+{
+    const auto paths =
+        mySqlAccessPaths(mySqlAnswer({{"range", "i", "408", "Using index condition; Using where"},
+                                      {"ref", "i", "408", "Using where"}}));
+    ASSERT_TRUE(paths);
+    ASSERT_EQ(paths->size(), 2);
+    EXPECT_EQ(paths->at(0), paths->at(1));
+}
+
+TEST(MySqlAccessPaths, differByIndexAndByHowMuchOfItIsUsed)
+{
+    const auto paths = mySqlAccessPaths(mySqlAnswer({{"ref", "i", "408", "Using where"},
+                                                     {"ref", "i", "5", "Using where"},
+                                                     {"ref", "j", "408", "Using where"},
+                                                     {"ALL", "", "", "Using where"}}));
+    ASSERT_TRUE(paths);
+    EXPECT_EQ(QSet<QString>(paths->begin(), paths->end()).size(), 4);
+}
+
+TEST(MySqlAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
+{
+    EXPECT_EQ(
+        mySqlAccessPaths(mySqlAnswer({{"range", "i", "408", "Using where; Rowid-ordered scan"}})),
+        std::nullopt);
+    EXPECT_EQ(mySqlAccessPaths(mySqlAnswer({{"index_merge", "i,j", "403,403", "Using where"}})),
+              std::nullopt);
+    EXPECT_EQ(mySqlAccessPaths(mySqlAnswer({{"ref|filter", "i|j", "5|403", "Using where"}})),
+              std::nullopt);
+}
+
+TEST_P(AccessPath, isOneWithoutAnIndex)
+{
+    makeTable({});
+    const auto paths = connection().accessPaths(page + cell);
+    ASSERT_TRUE(paths);
+    ASSERT_EQ(paths->size(), 2);
+    EXPECT_EQ(paths->at(0), paths->at(1));
+}
+
+TEST_P(AccessPath, isOneAlongAnIndexOfTheOtherColumns)
+{
+    makeTable({"create index i on t (p, s)"});
+    const auto paths = connection().accessPaths(page + cell);
+    ASSERT_TRUE(paths);
+    ASSERT_EQ(paths->size(), 2);
+    EXPECT_EQ(paths->at(0), paths->at(1));
+    EXPECT_TRUE(paths->at(0).contains(QStringLiteral("i")));
+}
+
+TEST_P(AccessPath, isAnotherAlongAnotherIndex)
+{
+    makeTable({"create index i on t (p, s)"});
+    const auto paths = connection().accessPaths("select * from t where p = 3 and s = '1'"
+                                                " union all select * from t where s like 'x%'");
+    ASSERT_TRUE(paths);
+    EXPECT_NE(paths->at(0), paths->at(1));
+}
+
+TEST_P(AccessPath, needsTheTable)
+{
+    EXPECT_THROW(static_cast<void>(connection().accessPaths("select * from nowhere")),
+                 runtime::RunTimeError);
+}
+
+TEMPORA_ON_BOTH_DATABASES(AccessPath);
