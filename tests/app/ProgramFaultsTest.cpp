@@ -60,6 +60,25 @@ TEST_P(ProgramFault, namesTheSettingThatDoesNotConvert)
               message(6, "Overflow", "Lecture du paramètre « Total_L_P » (valeur « 99999 »)"));
 }
 
+TEST_P(ProgramFault, namesTheSettingsFileThatIsNone)
+{
+    writeFile(setup.settingsFile(), "[Settings]\nMadame, Monsieur\n");
+    EXPECT_EQ(errorOfExport(),
+              message(321, "Invalid file format",
+                      "Lecture des paramètres (« " + setup.settingsFile() + " »)"));
+}
+
+TEST_P(ProgramFault, namesTheUsersOwnSettingsFileThatIsNone)
+{
+    const QString own = program.configurationFolder() + "/Tempora.ini";
+    writeFile(own, setup.settingsText() + "Madame, Monsieur\n");
+    program.start({"--export", setup.path("plan.json")});
+    ASSERT_TRUE(program.waitForEnd());
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.errors(),
+              message(321, "Invalid file format", "Lecture des paramètres (« " + own + " »)"));
+}
+
 TEST_P(ProgramFault, namesTheSeanceTypeThatHasNoPlace)
 {
     database().execute("INSERT INTO typeseance (Ref, NomCourt) VALUES (16, 'Visite')");
