@@ -42,12 +42,12 @@ public:
         switch (event->type()) {
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
-            noteKey(static_cast<const QKeyEvent&>(*event));
+            noteKey(dynamic_cast<const QKeyEvent&>(*event));
             break;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
-            noteModifiers(static_cast<const QMouseEvent&>(*event).modifiers());
+            noteModifiers(dynamic_cast<const QMouseEvent&>(*event).modifiers());
             break;
         case QEvent::FocusIn:
             if (watched->isWindowType()) {

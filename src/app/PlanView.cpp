@@ -101,6 +101,10 @@ void PlanView::showProgress()
     if (rows.empty()) {
         return;
     }
+    if (rows.size() == 1) {
+        showAll(); // what the plan showed before goes as a whole: no row of another day stays
+        return;
+    }
     m_picture.drawLastRow(scene());
     const form::Place& place =
         m_shell.form().Salle.at(static_cast<std::size_t>(rows.back().index)).place;
@@ -251,12 +255,12 @@ QString PlanView::toolTipAt(QPoint point) const
 bool PlanView::viewportEvent(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) {
-        const auto* help = static_cast<QHelpEvent*>(event);
-        const QString text = toolTipAt(help->pos());
+        const auto& help = dynamic_cast<const QHelpEvent&>(*event);
+        const QString text = toolTipAt(help.pos());
         if (text.isEmpty()) {
             QToolTip::hideText();
         } else {
-            QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(text), viewport());
+            QToolTip::showText(help.globalPos(), Qt::convertFromPlainText(text), viewport());
         }
         return true;
     }

@@ -24,13 +24,14 @@ std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown, b
         return {};
     }
     const form::Place& origin = form.Label1[0].place;
+    // On paper the ticks are not a whole number of twips apart: each hour starts at its own.
     const int step = form.Label1[1].place.left - origin.left;
     const form::Place& last = form.Salle[static_cast<std::size_t>(rowsShown)].place;
     const int top = origin.top + origin.height;
     const int bottom = last.top + last.height;
     std::vector<GridLine> lines;
     for (int hour = 0; hour < form::PlanForm::kTicks; ++hour) {
-        const int left = origin.left + hour * step;
+        const int left = form.Label1.at(static_cast<std::size_t>(hour)).place.left;
         lines.push_back({left, top, left, bottom, kSlotLine});
         for (int quarter = 1; quarter <= 3; ++quarter) {
             const int x = left + quarter * step / 4;
@@ -38,8 +39,8 @@ std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown, b
         }
     }
     if (!targetIsPrinter) {
-        const int right = origin.left + form::PlanForm::kTicks * step;
-        for (int row = 0; row <= rowsShown; ++row) {
+        const int right = form.Label1.back().place.left + step;
+        for (int row = 0; row < rowsShown; ++row) {
             const form::Place& place = form.Salle[static_cast<std::size_t>(row)].place;
             const int y = place.top + place.height + kRowGap / 2;
             lines.push_back({origin.left, y, right, y, kRowLine});

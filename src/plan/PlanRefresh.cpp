@@ -22,6 +22,21 @@ constexpr int kSlots = 10;
 constexpr int kColorStep = 2;
 constexpr form::Colour kPlainRow = form::Colour::fromRgb(215, 215, 215);
 
+// Texts for errors are made only when there is one: this runs for every box.
+
+/// The number that `text` begins with, as `convert` rounds it. Error: Overflow, which then says
+/// what was read and from which text.
+template <typename Convert>
+auto converted(const char* what, const QString& text, Convert convert)
+{
+    try {
+        return convert(leadingNumber(text));
+    } catch (runtime::RunTimeError& error) {
+        error.addActivity(QStringLiteral("Lecture %1 « %2 »").arg(QString::fromUtf8(what), text));
+        throw;
+    }
+}
+
 } // namespace
 
 std::int16_t CountSlashParts(const QString& text)
@@ -147,7 +162,13 @@ void PlanRefresh::drawRow(int row)
     room.backColor = planRow.color;
     places.backColor = planRow.color;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        drawSlot(planRow, slot);
+        try {
+            drawSlot(planRow, slot);
+        } catch (runtime::RunTimeError& error) {
+            error.addPlace(QStringLiteral("Dessin de la salle « %1 », séance « %2 »")
+                               .arg(planRow.room, seanceKey(slot)));
+            throw;
+        }
     }
     m_content.rows.push_back(std::move(planRow));
     if (m_counting) {
@@ -175,8 +196,8 @@ void PlanRefresh::drawSlot(PlanRow& planRow, int slot)
         }
         m_c.totals.SlotSeats.at(entry) = m_c.slots.RoomPlaces(roomIndex);
         planRow.boxes.push_back(makeBox(planRow, slot, makeUp));
-    } else if (slot != 1 &&
-               m_c.slots.OverrunsIntoSlot(slot, nearestInteger(leadingNumber(durationBefore)))) {
+    } else if (slot != 1 && m_c.slots.OverrunsIntoSlot(
+                                slot, converted("de la durée", durationBefore, nearestInteger))) {
         // What began in the slot before still holds the room.
         m_c.totals.SlotSeats.at(entry) = m_c.slots.RoomPlaces(roomIndex);
     }
@@ -189,10 +210,8 @@ PlanBox PlanRefresh::makeBox(const PlanRow& row, int slot, bool makeUp)
     box.makeUp = makeUp;
     box.cell = m_c.lookup.cell();
     const double minutes = leadingNumber(box.cell.CellDuration);
-    box.x = runtime::during(
-        QStringLiteral("Dessin de la salle « %1 », séance « %2 »").arg(row.room).arg(slot),
-        [&] { return m_c.slots.TimeToX(box.cell.CellStart); });
-    box.minutes = nearestInteger(minutes);
+    box.x = m_c.slots.TimeToX(box.cell.CellStart);
+    box.minutes = converted("de la durée", box.cell.CellDuration, nearestInteger);
     box.width = m_c.slots.axis().widthOf(minutes);
     fillMarker(box);
     testAbsences(box);
@@ -210,13 +229,14 @@ void PlanRefresh::fillMarker(PlanBox& box)
     Marqueur& record = m_markers[static_cast<std::size_t>(m_MarkerCount - 1)];
     record.Classes = cell.CellClassList;
     record.Seance = cell.CellSeance;
-    record.Tranche = nearestInt16(m_c.periods.TrancheIdent());
+    record.Tranche = converted("du numéro de période", QString::number(m_c.periods.TrancheIdent()),
+                               nearestInt16);
     record.Matiere = cell.CellSubject;
     record.Salle = cell.CellRoom;
     record.Enseignant1 = cell.CellTeacher;
-    record.TypeS1 = nearestInt16(leadingNumber(cell.CellTypeA));
-    record.TypeS3B = nearestInt16(leadingNumber(cell.CellTypeB));
-    record.Duree = nearestInt16(leadingNumber(cell.CellDuration));
+    record.TypeS1 = converted("du type de séance", cell.CellTypeA, nearestInt16);
+    record.TypeS3B = converted("du type de séance", cell.CellTypeB, nearestInt16);
+    record.Duree = converted("de la durée", cell.CellDuration, nearestInt16);
     record.Commune = cell.CellCommon;
     record.Debut = cell.CellStart;
     record.Jour = m_c.form.DTPicker1.value();

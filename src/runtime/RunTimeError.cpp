@@ -49,6 +49,11 @@ void RunTimeError::addActivity(const QString& activity)
     }
 }
 
+void RunTimeError::addPlace(const QString& place)
+{
+    m_activity += m_activity.isEmpty() ? place : u'\n' + place;
+}
+
 QString RunTimeError::message() const
 {
     QString message = QStringLiteral("Run-time error '%1':\n\n%2")

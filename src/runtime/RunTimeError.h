@@ -44,6 +44,8 @@ public:
     [[nodiscard]] const QString& activity() const { return m_activity; }
     /// The innermost activity stays: it names the value at fault.
     void addActivity(const QString& activity);
+    /// Where in the plan that was, on a line of its own behind the activity.
+    void addPlace(const QString& place);
 
     /// "Run-time error '13':", an empty line, the text, and the activity when there is one.
     [[nodiscard]] QString message() const;

@@ -110,7 +110,9 @@ TEST_P(ProgramFault, namesTheStartOfACourseThatIsNoTime)
 {
     database().execute("UPDATE emplois SET Debut = 'matin' WHERE Salle = 'A2'");
     EXPECT_EQ(errorOfExport({"--day", "0"}),
-              message(13, "Type mismatch", "Lecture de l’heure « matin »"));
+              message(13, "Type mismatch",
+                      "Lecture de l’heure « matin »\n"
+                      "Dessin de la salle « A2 », séance « Lundi1 »"));
 }
 
 TEST_P(ProgramFault, namesTheTableThatIsMissing)

@@ -162,9 +162,11 @@ TEST_F(Pages, countFromZeroOnTheWayBack)
 TEST_F(Pages, stopCountingWhenTheNextOneIsAskedForOnTheLast)
 {
     lastPage();
+    form.Chk_Compt.setChecked(true);
     desk.totals.CountingOn = true;
     desk.paging.Command3_Click();
     EXPECT_FALSE(desk.totals.CountingOn);
+    EXPECT_TRUE(form.Chk_Compt.isChecked());
     EXPECT_FALSE(form.Command3.enabled);
 }
 
@@ -214,6 +216,14 @@ TEST_F(Pages, takeNewRandomColoursForOtherLines)
     desk.colors.set(5, {});
     form.Total_L_P.setText("5");
     EXPECT_NE(desk.colors.at(5), form::Colour{}); // drawn anew for row 5
+}
+
+TEST_F(Pages, startTheRandomNumbersAnewForOtherLines)
+{
+    // With a fixed seed a new start gives the first numbers again: what row 1 got at the start.
+    const form::Colour first = desk.colors.at(1);
+    form.Total_L_P.setText("5");
+    EXPECT_EQ(desk.colors.at(1), first);
 }
 
 TEST_F(Pages, keepTheColoursOfAPaletteForOtherLines)

@@ -66,9 +66,19 @@ TEST_F(PlanGrid, hasThreeGreenLinesInsideEveryHour)
 TEST_F(PlanGrid, separatesTheRowsByGreyLinesOnTheScreen)
 {
     const std::vector<GridLine> lines = of(planGridLines(form, 2, false), grey);
-    ASSERT_EQ(lines.size(), 3U);
+    ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0], (GridLine{1620, 679, 20820, 679, grey})); // in the middle of the gap
-    EXPECT_EQ(lines[2], (GridLine{1620, 1415, 20820, 1415, grey}));
+    EXPECT_EQ(lines[1], (GridLine{1620, 1047, 20820, 1047, grey}));
+}
+
+TEST_F(PlanGrid, startsEveryHourAtItsTick)
+{
+    // Paper: ticks at thirds of a twip, rounded each by itself.
+    form.Label1[1].place.left = 1620 + 1133;
+    form.Label1[11].place.left = 1620 + 12467;
+    const std::vector<GridLine> lines = planGridLines(form, 2, true);
+    EXPECT_EQ(of(lines, blue)[11], (GridLine{14087, 300, 14087, 1381, blue}));
+    EXPECT_EQ(of(lines, green)[33], (GridLine{14370, 300, 14370, 1381, green})); // + 1133 / 4
 }
 
 TEST_F(PlanGrid, hasNoGreyLinesOnThePrinter)

@@ -107,14 +107,18 @@ TEST(PlanRefresh, stopsAtAStartThatIsNoTime)
     desk.meeting(1, 3).set("Debut", "midi");
     const runtime::RunTimeError error = test::errorOf([&] { desk.draw(); });
     EXPECT_EQ(error.number(), ErrorNumber::TypeMismatch);
-    EXPECT_EQ(error.activity(), "Lecture de l’heure « midi »");
+    EXPECT_EQ(error.activity(), "Lecture de l’heure « midi »\n"
+                                "Dessin de la salle « R01 », séance « Lundi3 »");
 }
 
 TEST(PlanRefresh, stopsAtADurationBeyondSixteenBits)
 {
     PlanDesk desk(2);
     desk.meeting(1, 3).set("Durée", "32768");
-    EXPECT_EQ(test::errorNumberOf([&] { desk.draw(); }), ErrorNumber::Overflow);
+    const runtime::RunTimeError error = test::errorOf([&] { desk.draw(); });
+    EXPECT_EQ(error.number(), ErrorNumber::Overflow);
+    EXPECT_EQ(error.activity(), "Lecture de la durée « 32768 »\n"
+                                "Dessin de la salle « R01 », séance « Lundi3 »");
 }
 
 TEST(PlanRefresh, asksForMakeUpsOfFreeSlotsOnlyWhileDateIsTicked)

@@ -128,7 +128,10 @@ TEST_F(PlanTotals, forgetTheDurationOfAFilteredBox)
 TEST_F(PlanTotals, stopAtADurationThatIsNoInteger)
 {
     desk.meeting(1, 2).set("YSalle", "R02").set("Durée", "1e12").null("Salle");
-    EXPECT_EQ(test::errorNumberOf([&] { desk.draw(); }), ErrorNumber::Overflow);
+    const runtime::RunTimeError error = test::errorOf([&] { desk.draw(); });
+    EXPECT_EQ(error.number(), ErrorNumber::Overflow);
+    EXPECT_TRUE(error.activity().startsWith("Lecture de la durée « 1e12 »\n"))
+        << error.activity().toStdString();
 }
 
 TEST_F(PlanTotals, countTheTeachersWhereOnlyTeachersAreShown)

@@ -29,6 +29,17 @@ TEST(ARunTimeError, keepsTheInnermostActivity)
               QStringLiteral("Run-time error '6':\n\nOverflow\n\nLecture de « x »"));
 }
 
+TEST(ARunTimeError, tellsThePlaceBehindTheActivity)
+{
+    RunTimeError error(ErrorNumber::Overflow);
+    error.addPlace(QStringLiteral("Salle « A1 »"));
+    EXPECT_EQ(error.activity(), QStringLiteral("Salle « A1 »"));
+    RunTimeError another(ErrorNumber::Overflow);
+    another.addActivity(QStringLiteral("Lecture de « x »"));
+    another.addPlace(QStringLiteral("Salle « A1 »"));
+    EXPECT_EQ(another.activity(), QStringLiteral("Lecture de « x »\nSalle « A1 »"));
+}
+
 TEST(ARunTimeError, hasThePlatformsTextForEveryNumberThatIsNotTheDatabases)
 {
     EXPECT_EQ(platformErrorText(ErrorNumber::InvalidProcedureCall),
