@@ -75,7 +75,7 @@ std::vector<StudentClass> makeClasses(const FacultyOptions& options)
     long long total = 0;
     for (const StudentClass& one : classes) {
         const long long weight =
-            sizePerLevel.at(static_cast<std::size_t>(one.level)) * draw.between(85, 115);
+            1LL * sizePerLevel.at(static_cast<std::size_t>(one.level)) * draw.between(85, 115);
         weights.push_back(weight);
         registered.push_back(classes.size() == 1 || !draw.percent(4));
         total += registered.back() ? weight : 0;

@@ -44,7 +44,7 @@ private:
     const Faculty& m_faculty;
     int m_semester;
     std::vector<int> m_queue; // classes, the one that waited longest first
-    std::array<std::vector<int>, departmentCount * levelCount> m_modules; // by cohort
+    std::array<std::vector<int>, std::size_t{departmentCount} * levelCount> m_modules; // by cohort
     std::vector<std::vector<int>> m_practicals; // by cohort and laboratory
 };
 

@@ -48,7 +48,7 @@ EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& databa
         QStringLiteral("Ouverture de la base de données « %1 »").arg(source.databaseName),
         [&] { database.open(source.ConnectString); });
     db::Connection& connection = database.Db();
-    const EstablishmentHeader header =
+    EstablishmentHeader header =
         runtime::during(QStringLiteral("Lecture de la table « etablissement »"),
                         [&] { return readHeader(connection); });
     form.Label4[4].caption = header.EstablishmentName;

@@ -27,7 +27,7 @@ QString mySqlAccessPath(const Row& line)
     if (!isPlainWalk(textOf(line, QStringLiteral("Extra")))) {
         return {};
     }
-    const QString type = textOf(line, QStringLiteral("type"));
+    QString type = textOf(line, QStringLiteral("type"));
     if (type == u"ALL") {
         return type;
     }

@@ -17,17 +17,24 @@ QString folded(const QString& name)
 
 } // namespace
 
-Columns::Columns(QStringList names) : m_names(std::move(names)) {}
+Columns::Columns(QStringList names) : m_names(std::move(names))
+{
+    for (int i = count() - 1; i >= 0; --i) { // of two columns of one name the first is meant
+        m_positions.insert(m_names[i], i);
+    }
+}
 
 int Columns::position(const QString& name) const
 {
     // Nearly every caller writes the name as the table does: folding costs more than a search.
-    auto found = std::find(m_names.begin(), m_names.end(), name);
-    if (found == m_names.end()) {
-        found = std::find_if(
-            m_names.begin(), m_names.end(),
-            [wanted = folded(name)](const QString& each) { return folded(each) == wanted; });
+    const auto exact = m_positions.constFind(name);
+    if (exact != m_positions.constEnd()) {
+        return *exact;
     }
+    const auto found =
+        std::find_if(m_names.begin(), m_names.end(), [wanted = folded(name)](const QString& each) {
+            return folded(each) == wanted;
+        });
     if (found == m_names.end()) {
         throw runtime::RunTimeError(runtime::ErrorNumber::ItemNotFound);
     }

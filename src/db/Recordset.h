@@ -2,6 +2,7 @@
 
 #include "db/Value.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -24,9 +25,11 @@ public:
 
 private:
     QStringList m_names;
+    QHash<QString, int> m_positions; ///< of the names as they are spelt
 };
 
-/// One row of a result, a plain value that outlives the record set.
+/// One row of a result, a plain value that outlives the record set. Copies share the fields, which
+/// never change.
 class Row
 {
 public:
@@ -39,7 +42,7 @@ public:
 
 private:
     std::shared_ptr<const Columns> m_columns;
-    std::vector<Value> m_values;
+    std::shared_ptr<const std::vector<Value>> m_values;
 };
 
 /// A static client-side record set: all rows are read when it is opened, so its count is known,

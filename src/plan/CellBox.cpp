@@ -52,7 +52,9 @@ void drawHatching(QPainter& surface, const DrawingTarget& target, const QRect& b
     surface.save();
     surface.setClipRect(box, Qt::IntersectClip);
     surface.setPen(QPen(ink, kHatchLine * target.PixelsPerPoint));
-    for (double x = box.left() - box.height(); x < box.left() + box.width(); x += step) {
+    const int lines = static_cast<int>(std::ceil((box.width() + box.height()) / step));
+    for (int line = 0; line < lines; ++line) {
+        const double x = box.left() - box.height() + line * step;
         surface.drawLine(QPointF(x, box.top()),
                          QPointF(x + box.height(), box.top() + box.height()));
         surface.drawLine(QPointF(x, box.top() + box.height()),

@@ -162,9 +162,9 @@ void putInOrder(db::Connection& connection, const Crowded& crowded, PageCells& c
     for (const QPair<QString, QString>& cell : crowded.cells) {
         cells.remove(cell);
     }
-    std::vector<db::Recordset> found = openJoined(connection, crowded.queries);
+    const std::vector<db::Recordset> found = openJoined(connection, crowded.queries);
     for (std::size_t index = 0; index < found.size(); ++index) {
-        cells.insert(crowded.cells[index], std::move(found[index]));
+        cells.insert(crowded.cells[index], found[index]);
     }
 }
 

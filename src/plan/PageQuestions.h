@@ -18,6 +18,7 @@ struct PageQuestions {
     QString tranche;
     QString examWeek;
     QDate date;
+    bool listsOccupants = true; ///< boxes list classes or teachers
 
     /// One of the questions, on `table` or on the make-ups.
     [[nodiscard]] RoomQuestion question(RoomQuestion::Table askedTable, const QString& room,

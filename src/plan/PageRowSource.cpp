@@ -107,9 +107,9 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
     for (const QString& name : others) {
         statements << QStringLiteral("classe.* from classe Where Nom='") + name + u'\'';
     }
-    std::vector<db::Recordset> found = openJoined(m_database.Db(), statements);
+    const std::vector<db::Recordset> found = openJoined(m_database.Db(), statements);
     for (std::size_t index = 0; index < found.size(); ++index) {
-        m_classRows.insert(others[static_cast<qsizetype>(index)], std::move(found[index]));
+        m_classRows.insert(others[static_cast<qsizetype>(index)], found[index]);
     }
 }
 
@@ -135,8 +135,8 @@ PageFacts PageRowSource::facts() const
     for (const auto& [table, cells] : m_cells) {
         for (const db::Recordset& rows : cells) {
             if (!rows.isEmpty()) {
-                collect(rows.first(), QStringLiteral("Classe"), names);
-                collect(rows.rows().back(), QStringLiteral("Classe"), names);
+                collect(m_questions.listsOccupants ? rows.first() : rows.rows().back(),
+                        QStringLiteral("Classe"), names);
                 collect(rows.first(), QStringLiteral("Debut"), starts);
             }
         }

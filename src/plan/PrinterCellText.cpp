@@ -63,12 +63,12 @@ void PrinterCellText(QPainter& surface, const DrawingTarget& target, const QRect
     const double height = ruler.height() * setting.points / std::max(1, target.FontSize);
     const double step = std::min(height, rectangle.height() / count);
     const bool centred = format == CellLayout::kCentredLines;
+    const Qt::Alignment alignment = Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft);
     double top = rectangle.top() + (centred ? (rectangle.height() - step * count) / 2 : 0);
     for (const QString& line : setting.lines) {
-        surface.drawText(QRectF(rectangle.left(), top, rectangle.width(), step),
-                         (centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter |
-                             Qt::TextSingleLine | Qt::TextDontClip,
-                         line);
+        surface.drawText(
+            QRectF(rectangle.left(), top, rectangle.width(), step),
+            static_cast<int>(alignment.toInt()) | Qt::TextSingleLine | Qt::TextDontClip, line);
         top += step;
     }
     surface.restore();

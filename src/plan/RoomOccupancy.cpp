@@ -33,6 +33,7 @@ PageFacts OccupancyLookup::prepare(const QStringList& rooms, const QStringList& 
     questions.rooms = rooms;
     questions.seanceKeys = seanceKeys;
     questions.tranche = tranche;
+    questions.listsOccupants = m_form.XOpCl.isChecked() || m_form.XOpEns.isChecked();
     if (m_form.OpEns.isSelected()) {
         questions.makeUps = m_form.Check2.isChecked();
         questions.date = m_form.DTPicker1.value();

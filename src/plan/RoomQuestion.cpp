@@ -40,7 +40,7 @@ QString RoomQuestion::tableName() const
 
 QString RoomQuestion::periodCondition(const db::SqlDialect& dialect) const
 {
-    const QString period = QStringLiteral(" and Tranche =") + tranche;
+    QString period = QStringLiteral(" and Tranche =") + tranche;
     switch (table) {
     case Table::examen:
         return period + QStringLiteral(" and Semaine =") + examWeek;

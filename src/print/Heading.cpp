@@ -38,7 +38,7 @@ QString weekOf(const form::PlanForm& form)
 
 QString roomsOf(const form::PlanForm& form)
 {
-    const QString zone =
+    QString zone =
         form.cb_Locaux.text() == u"0" ? QString() : QStringLiteral("Zone ") + form.cb_Locaux.text();
     if (!form.ElemDep.isChecked()) {
         return zone;

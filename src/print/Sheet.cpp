@@ -177,6 +177,7 @@ std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages, const context::
                               const context::EstablishmentHeader& establishment)
 {
     std::vector<Sheet> sheets;
+    sheets.reserve(pages.size());
     for (plan::PlanPage& page : pages) {
         sheets.push_back(makeSheet(std::move(page), slots, establishment));
     }

@@ -77,6 +77,8 @@ QString csvLine(const QStringList& cells)
     return written.join(u';') + QStringLiteral("\r\n");
 }
 
+// All exports of pages have one signature; the PDF keeps its pages.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 QByteArray planAsCsv(const Shell& shell, std::vector<plan::PlanPage> pages)
 {
     QString text = QString(QChar(QChar::ByteOrderMark)) + csvLine(titles());

@@ -224,6 +224,8 @@ QString line(const QString& cssClass, const QStringList& parts)
 
 } // namespace
 
+// All exports of pages have one signature; the PDF keeps its pages.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 QByteArray planAsHtml(const Shell& shell, std::vector<plan::PlanPage> pages)
 {
     const print::Heading heading = print::headingOf(shell.form(), shell.establishment());
