@@ -1,5 +1,6 @@
 #include "plan/BoxText.h"
 
+#include "plan/MeasuredWords.h"
 #include "plan/RoomOccupancy.h"
 
 #include <algorithm>
@@ -30,32 +31,13 @@ double widest(const TextRuler& ruler, const QStringList& lines)
     return width;
 }
 
-QStringList brokenLines(const TextRuler& ruler, const QStringList& lines, double width)
-{
-    const double blank = ruler.width(QChar(u' '));
-    QStringList broken;
-    for (const QString& line : lines) {
-        double used = 0;
-        for (const QString& word : line.split(u' ')) {
-            const double needed = ruler.width(word);
-            if (used > 0 && used + blank + needed <= width) {
-                broken.last() += u' ' + word;
-                used += blank + needed;
-            } else {
-                broken.append(word);
-                used = needed;
-            }
-        }
-    }
-    return broken;
-}
-
 namespace
 {
 
 struct Setting {
     int pixels = 0;
     QStringList lines;
+    bool fits = true;
 };
 
 /// The largest font, down to the smallest legible one, with which all lines fit the area: as they
@@ -63,25 +45,25 @@ struct Setting {
 Setting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& area,
                 bool wordBreak)
 {
+    const MeasuredWords words(ruler, lines);
+    const MeasuredWords::Extent written{static_cast<int>(lines.size()), widest(ruler, lines)};
     const int start = std::max(ruler.font().pixelSize(), kSmallestText);
     for (int pixels = start; pixels >= kSmallestText; --pixels) {
         // The area as it looks at the ruler's own size.
         const double scale = static_cast<double>(ruler.font().pixelSize()) / pixels;
         const double width = area.width() * scale;
         const double height = (area.height() + 1) * scale;
-        const auto fits = [&](const QStringList& set) {
-            return ruler.height() * static_cast<double>(set.size()) <= height &&
-                   widest(ruler, set) <= width;
+        const auto fits = [&](const MeasuredWords::Extent& set) {
+            return ruler.height() * set.lines <= height && set.width <= width;
         };
-        if (!wordBreak && fits(lines)) {
+        if (!wordBreak && fits(written)) {
             return {pixels, lines};
         }
-        QStringList broken = brokenLines(ruler, lines, width);
-        if (fits(broken)) {
-            return {pixels, std::move(broken)};
+        if (fits(words.extent(width))) {
+            return {pixels, words.broken(width)};
         }
     }
-    return {kSmallestText, lines};
+    return {kSmallestText, lines, false};
 }
 
 void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
@@ -97,7 +79,9 @@ void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
     QFont font = ruler.font();
     font.setPixelSize(setting.pixels);
     surface.setFont(font);
-    surface.setClipRect(area.adjusted(-2, -1, 2, 1), Qt::IntersectClip);
+    if (!setting.fits) { // a clip costs as much as the text
+        surface.setClipRect(area.adjusted(-2, -1, 2, 1), Qt::IntersectClip);
+    }
     double top = area.top();
     if (alignment.testFlag(Qt::AlignVCenter)) {
         top += std::max(0.0, (area.height() - step * count) / 2);

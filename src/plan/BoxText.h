@@ -25,12 +25,7 @@ void drawLabelText(QPainter& surface, const QRectF& area, const QString& text,
 /// box text ends with a separator that would push its lines off the middle.
 [[nodiscard]] QStringList writtenLines(const QString& text);
 
-/// The lines broken between words so that they fit the width where they can. Widths are pixels at
-/// the ruler's own size, here and below.
-[[nodiscard]] QStringList brokenLines(const TextRuler& ruler, const QStringList& lines,
-                                      double width);
-
-/// Width of the longest line.
+/// Width of the longest line, in pixels at the ruler's own size.
 [[nodiscard]] double widest(const TextRuler& ruler, const QStringList& lines);
 
 /// Smallest font size in pixels that a box text or a label shrinks to.

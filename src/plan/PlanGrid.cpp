@@ -3,7 +3,10 @@
 #include "plan/RoomRows.h"
 
 #include <QColor>
+#include <QLineF>
+#include <QList>
 #include <algorithm>
+#include <iterator>
 
 namespace plan
 {
@@ -30,9 +33,11 @@ std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown, b
     const int top = origin.top + origin.height;
     const int bottom = last.top + last.height;
     std::vector<GridLine> lines;
-    for (int hour = 0; hour < form::PlanForm::kTicks; ++hour) {
-        const int left = form.Label1.at(static_cast<std::size_t>(hour)).place.left;
-        lines.push_back({left, top, left, bottom, kSlotLine});
+    for (const form::Label& tick : form.Label1) {
+        lines.push_back({tick.place.left, top, tick.place.left, bottom, kSlotLine});
+    }
+    for (const form::Label& tick : form.Label1) {
+        const int left = tick.place.left;
         for (int quarter = 1; quarter <= 3; ++quarter) {
             const int x = left + quarter * step / 4;
             lines.push_back({x, top, x, bottom, kQuarterLine});
@@ -57,12 +62,20 @@ void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,
     // A hairline on the screen; on paper that would be too thin to see.
     const double width =
         target.TargetIsPrinter ? std::max(1.0, kPaperLine * target.PixelsPerPoint) : 1.0;
-    for (const GridLine& line : lines) {
-        surface.setPen(
-            QPen(QColor(line.color.red(), line.color.green(), line.color.blue()), width));
-        surface.drawLine(
-            QPointF(target.toPixelsX(line.x1) + target.TargetXOffset, target.toPixelsY(line.y1)),
-            QPointF(target.toPixelsX(line.x2) + target.TargetXOffset, target.toPixelsY(line.y2)));
+    // Lines of one colour at once: the pen costs more than a line.
+    for (auto begin = lines.begin(); begin != lines.end();) {
+        const form::Colour color = begin->color;
+        const auto end = std::find_if(
+            begin, lines.end(), [color](const GridLine& line) { return !(line.color == color); });
+        QList<QLineF> drawn;
+        std::transform(begin, end, std::back_inserter(drawn), [&target](const GridLine& line) {
+            return QLineF(
+                target.toPixelsX(line.x1) + target.TargetXOffset, target.toPixelsY(line.y1),
+                target.toPixelsX(line.x2) + target.TargetXOffset, target.toPixelsY(line.y2));
+        });
+        surface.setPen(QPen(QColor(color.red(), color.green(), color.blue()), width));
+        surface.drawLines(drawn);
+        begin = end;
     }
     surface.restore();
 }

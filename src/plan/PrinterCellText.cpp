@@ -1,6 +1,7 @@
 #include "plan/PrinterCellText.h"
 
 #include "plan/BoxText.h"
+#include "plan/MeasuredWords.h"
 #include "plan/RoomOccupancy.h"
 #include "runtime/Numbers.h"
 
@@ -40,8 +41,9 @@ PrinterSetting printerSetting(const TextRuler& ruler, const DrawingTarget& targe
     while (points > 1 && !fits(written, points)) {
         --points;
     }
+    const MeasuredWords words(ruler, written);
     for (int larger = std::min(kLegible, start); larger > points; --larger) {
-        QStringList broken = brokenLines(ruler, written, seenAt(larger).width());
+        QStringList broken = words.broken(seenAt(larger).width());
         if (fits(broken, larger)) {
             return {larger, std::move(broken)};
         }

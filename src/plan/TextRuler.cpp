@@ -28,16 +28,21 @@ TextRuler::TextRuler(const QFont& font)
 
 double TextRuler::width(QChar character) const
 {
-    const auto known = m_widths.constFind(character);
-    if (known != m_widths.constEnd()) {
-        return *known;
+    const std::size_t code = character.unicode();
+    double& width = code < kLatin ? m_latin[code] : other(character);
+    if (width == kUnknown) {
+        width = QFontMetricsF(m_font).horizontalAdvance(character);
     }
-    const double width = QFontMetricsF(m_font).horizontalAdvance(character);
-    m_widths.insert(character, width);
     return width;
 }
 
-double TextRuler::width(const QString& text) const
+double& TextRuler::other(QChar character) const
+{
+    const auto known = m_others.find(character);
+    return known != m_others.end() ? *known : *m_others.insert(character, kUnknown);
+}
+
+double TextRuler::width(QStringView text) const
 {
     double sum = 0;
     for (const QChar character : text) {

@@ -3,6 +3,8 @@
 #include <QFont>
 #include <QHash>
 #include <QString>
+#include <cstddef>
+#include <vector>
 
 namespace plan
 {
@@ -18,7 +20,7 @@ public:
 
     [[nodiscard]] const QFont& font() const { return m_font; }
     /// Width in pixels at the font's own size.
-    [[nodiscard]] double width(const QString& text) const;
+    [[nodiscard]] double width(QStringView text) const;
     [[nodiscard]] double width(QChar character) const;
     /// Line height and ascent in pixels at the font's own size.
     [[nodiscard]] double height() const { return m_height; }
@@ -27,10 +29,16 @@ public:
     [[nodiscard]] QString elided(const QString& text, double width) const;
 
 private:
+    [[nodiscard]] double& other(QChar character) const;
+
     QFont m_font;
     double m_height;
     double m_ascent;
-    mutable QHash<QChar, double> m_widths;
+    // Widths asked for so far: nearly all characters are Latin ones, which need no search.
+    static constexpr std::size_t kLatin = 0x250;
+    static constexpr double kUnknown = -1;
+    mutable std::vector<double> m_latin = std::vector<double>(kLatin, kUnknown);
+    mutable QHash<QChar, double> m_others;
 };
 
 } // namespace plan
