@@ -1,13 +1,15 @@
 #include "absences/MarkerToolTips.h"
 
 #include "absences/Marking.h"
+#include "runtime/FrenchDate.h"
 
 namespace absences
 {
 namespace
 {
 
-/// "enregistrer l’absence de la classe L1", "enregistrer ou retirer l’absence de chaque classe".
+/// "enregistrer l’absence de la classe L1", "enregistrer ou retirer l’absence de chacune des
+/// classes L1, L2".
 QString outcome(const QStringList& classes, bool absent, const QString& absence)
 {
     if (classes.size() > 1) {
@@ -20,19 +22,21 @@ QString outcome(const QStringList& classes, bool absent, const QString& absence)
 
 } // namespace
 
-QString ZAbsToolTip(const plan::PlanBox& box)
+QString ZAbsToolTip(const plan::PlanBox& box, QDate day)
 {
+    const QString date = QStringLiteral(" le ") + runtime::frenchDayAndDate(day);
     QStringList classes = classNames(box.cell.CellClassList);
     classes.removeAll(QString());
     return QStringLiteral("Maj + clic : ") +
-           outcome(classes, box.classAbsent, QStringLiteral("l’absence")) +
+           outcome(classes, box.classAbsent, QStringLiteral("l’absence")) + date +
            QStringLiteral("\nCtrl + clic : ") +
-           outcome(classes, box.studentAbsent, QStringLiteral("l’absence d’étudiants"));
+           outcome(classes, box.studentAbsent, QStringLiteral("l’absence d’étudiants")) + date;
 }
 
-QString XAbsToolTip(const plan::PlanBox& box)
+QString XAbsToolTip(const plan::PlanBox& box, QDate day)
 {
-    return (box.classAbsent ? QStringLiteral("Classe absente\n") : QString()) + ZAbsToolTip(box);
+    return (box.classAbsent ? QStringLiteral("Classe absente\n") : QString()) +
+           ZAbsToolTip(box, day);
 }
 
 } // namespace absences

@@ -7,6 +7,7 @@
 #include "app/OptionPanels.h"
 #include "app/PlanView.h"
 #include "app/WindowStyle.h"
+#include "runtime/FrenchDate.h"
 #include "shell/Player.h"
 
 #include <QAction>
@@ -93,10 +94,18 @@ void PlClasse::buildStatusBar()
         return label;
     };
     form::PlanForm& form = m_shell.form();
-    auto* rooms = new QLabel;
-    rooms->setObjectName(QStringLiteral("PageInfo"));
-    statusBar()->addWidget(rooms);
-    m_mirror.follow([this, rooms] { rooms->setText(roomsShown()); });
+    const auto follow = [this](const QString& name, QString (PlClasse::*text)() const) {
+        auto* label = new QLabel;
+        label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
+        statusBar()->addWidget(label);
+        m_mirror.follow([this, label, text] { label->setText((this->*text)()); });
+        return label;
+    };
+    follow(QStringLiteral("MarkedDay"), &PlClasse::markedDay)
+        ->setToolTip(QStringLiteral("Date que marquent Maj + clic et Ctrl + clic sur une case"));
+    // Room names may be long: they are cut before the window grows wider than the screen.
+    follow(QStringLiteral("PageInfo"), &PlClasse::roomsShown)->setMinimumWidth(1);
     add(QStringLiteral("PeriodCaption"), QStringLiteral("Période n°"));
     m_mirror.bind(add(QStringLiteral("Label11"), QString()), form.Label11);
     auto* week = add(QStringLiteral("Semn"), QString());
@@ -129,6 +138,17 @@ QString PlClasse::roomsShown() const
     return QStringLiteral("Salles affichées : %1, de « %2 » à « %3 »")
         .arg(QString::number(last), rooms[1].caption,
              rooms[static_cast<std::size_t>(last)].caption);
+}
+
+QString PlClasse::markedDay() const
+{
+    for (const plan::PlanRow& row : m_shell.refresh().content().rows) {
+        if (!row.boxes.empty()) {
+            const plan::Marqueur& marker = m_shell.refresh().marker(row.boxes.front().marker);
+            return QStringLiteral("Absences du ") + runtime::frenchDayAndDate(marker.Jour);
+        }
+    }
+    return {};
 }
 
 int PlClasse::run(const shell::CommandLine& line)

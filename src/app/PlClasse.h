@@ -56,6 +56,8 @@ private:
     void buildContent();
     void buildStatusBar();
     [[nodiscard]] QString roomsShown() const;
+    /// The date that the gestures mark: that of the drawn boxes, not always the picker's.
+    [[nodiscard]] QString markedDay() const;
     void syncWidgets();
     void serveFocusRequest();
     void processEvents();

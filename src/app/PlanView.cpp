@@ -234,6 +234,7 @@ QString PlanView::toolTipAt(QPoint point) const
         return {};
     }
     const PlanHit hit = hitPlan(form, m_shell.refresh().content(), m_target, toPlan(point));
+    const auto day = [&] { return m_shell.refresh().marker(hit.box->marker).Jour; };
     switch (hit.part) {
     case PlanHit::Part::Nothing:
         return {};
@@ -244,12 +245,12 @@ QString PlanView::toolTipAt(QPoint point) const
     case PlanHit::Part::YAbs:
         return hit.box->absentToolTip; // empty when no students were absent
     case PlanHit::Part::XAbs:
-        return absences::XAbsToolTip(*hit.box);
+        return absences::XAbsToolTip(*hit.box, day());
     case PlanHit::Part::Box:
         break;
     }
     return boxToolTip(*hit.row, *hit.box) + QStringLiteral("\n\n") +
-           absences::ZAbsToolTip(*hit.box);
+           absences::ZAbsToolTip(*hit.box, day());
 }
 
 bool PlanView::viewportEvent(QEvent* event)

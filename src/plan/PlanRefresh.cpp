@@ -300,11 +300,17 @@ void PlanRefresh::addTotals()
     }
 }
 
-Marqueur& PlanRefresh::marker(int index)
+const Marqueur& PlanRefresh::marker(int index) const
 {
     if (index < 1 || index > static_cast<int>(m_markers.size())) {
         throw runtime::RunTimeError(runtime::ErrorNumber::SubscriptOutOfRange);
     }
+    return m_markers[static_cast<std::size_t>(index - 1)];
+}
+
+Marqueur& PlanRefresh::marker(int index)
+{
+    static_cast<void>(std::as_const(*this).marker(index)); // checks the index
     return m_markers[static_cast<std::size_t>(index - 1)];
 }
 

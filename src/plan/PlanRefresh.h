@@ -67,6 +67,7 @@ public:
     [[nodiscard]] int MarkerCount() const { return m_MarkerCount; }
     /// The record of a box, `index` from 1. Error: SubscriptOutOfRange.
     [[nodiscard]] Marqueur& marker(int index);
+    [[nodiscard]] const Marqueur& marker(int index) const;
     /// The box of a marker; null when the last refresh drew none with this index.
     [[nodiscard]] PlanBox* box(int marker);
 

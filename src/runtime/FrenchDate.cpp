@@ -2,6 +2,8 @@
 
 #include "runtime/RunTimeError.h"
 
+#include <QLocale>
+#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 
@@ -41,6 +43,12 @@ QString frenchLongDate(QDate date)
         .arg(date.year(), 4, 10, QLatin1Char('0'));
 }
 
+QString frenchDayAndDate(QDate date)
+{
+    return QLocale(QLocale::French, QLocale::France)
+        .toString(date, QStringLiteral("dddd dd/MM/yyyy"));
+}
+
 QDate fromFrenchLongDate(const QString& text)
 {
     const QStringList fields = text.split(u'/');
@@ -54,6 +62,31 @@ QDate fromFrenchLongDate(const QString& text)
         }
     }
     throw RunTimeError(ErrorNumber::TypeMismatch);
+}
+
+bool isDateSeparator(QChar character)
+{
+    return QStringLiteral("/.- ").contains(character);
+}
+
+QDate fromTypedDate(const QString& text, QDate shown)
+{
+    static const QRegularExpression joined(
+        QStringLiteral(R"(^(\d{2})(?:(\d{2})(\d{4}|\d{2})?)?$)"));
+    static const QRegularExpression separated(
+        QStringLiteral(R"(^(\d{1,2})(?:[/.\- ](\d{1,2})(?:[/.\- ](\d{4}|\d{2}))?)?$)"));
+    QRegularExpressionMatch match = joined.match(text);
+    if (!match.hasMatch()) {
+        match = separated.match(text);
+    }
+    if (!match.hasMatch()) {
+        return {};
+    }
+    const QString month = match.captured(2);
+    const QString year = match.captured(3);
+    const int century = year.size() == 2 ? 2000 : 0;
+    return {year.isEmpty() ? shown.year() : century + year.toInt(),
+            month.isEmpty() ? shown.month() : month.toInt(), match.captured(1).toInt()};
 }
 
 } // namespace runtime

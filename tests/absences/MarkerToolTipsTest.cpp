@@ -7,6 +7,8 @@ using namespace absences;
 namespace
 {
 
+const QDate tuesday(2026, 11, 24);
+
 plan::PlanBox boxOf(const QString& classList)
 {
     plan::PlanBox box;
@@ -19,34 +21,40 @@ plan::PlanBox boxOf(const QString& classList)
 TEST(MarkerToolTips, tellWhatAClickRecords)
 {
     const plan::PlanBox box = boxOf(QStringLiteral("L1-INFO"));
-    const QString gestures =
-        QStringLiteral("Maj + clic : enregistrer l’absence de la classe L1-INFO\n"
-                       "Ctrl + clic : enregistrer l’absence d’étudiants de la classe L1-INFO");
-    EXPECT_EQ(ZAbsToolTip(box), gestures);
-    EXPECT_EQ(XAbsToolTip(box), gestures);
+    const QString gestures = QStringLiteral(
+        "Maj + clic : enregistrer l’absence de la classe L1-INFO le mardi 24/11/2026\n"
+        "Ctrl + clic : enregistrer l’absence d’étudiants de la classe L1-INFO le mardi 24/11/2026");
+    EXPECT_EQ(ZAbsToolTip(box, tuesday), gestures);
+    EXPECT_EQ(XAbsToolTip(box, tuesday), gestures);
 }
 
 TEST(MarkerToolTips, tellWhatAClickTakesBack)
 {
     plan::PlanBox box = boxOf(QStringLiteral("L1-INFO"));
     box.classAbsent = true;
-    EXPECT_EQ(ZAbsToolTip(box),
-              QStringLiteral("Maj + clic : retirer l’absence de la classe L1-INFO\n"
-                             "Ctrl + clic : enregistrer l’absence d’étudiants de la classe "
-                             "L1-INFO"));
-    EXPECT_EQ(XAbsToolTip(box), QStringLiteral("Classe absente\n") + ZAbsToolTip(box));
+    EXPECT_EQ(
+        ZAbsToolTip(box, tuesday),
+        QStringLiteral("Maj + clic : retirer l’absence de la classe L1-INFO le mardi 24/11/2026\n"
+                       "Ctrl + clic : enregistrer l’absence d’étudiants de la classe "
+                       "L1-INFO le mardi 24/11/2026"));
+    EXPECT_EQ(XAbsToolTip(box, tuesday),
+              QStringLiteral("Classe absente\n") + ZAbsToolTip(box, tuesday));
     box.classAbsent = false;
     box.studentAbsent = true;
-    EXPECT_EQ(ZAbsToolTip(box),
-              QStringLiteral("Maj + clic : enregistrer l’absence de la classe L1-INFO\n"
-                             "Ctrl + clic : retirer l’absence d’étudiants de la classe L1-INFO"));
+    EXPECT_EQ(ZAbsToolTip(box, tuesday),
+              QStringLiteral(
+                  "Maj + clic : enregistrer l’absence de la classe L1-INFO le mardi 24/11/2026\n"
+                  "Ctrl + clic : retirer l’absence d’étudiants de la classe L1-INFO le mardi "
+                  "24/11/2026"));
 }
 
 TEST(MarkerToolTips, leaveTheOutcomeOpenWithSeveralClasses)
 {
-    const QString gestures = QStringLiteral(
-        "Maj + clic : enregistrer ou retirer l’absence de chacune des classes A, B\n"
-        "Ctrl + clic : enregistrer ou retirer l’absence d’étudiants de chacune des classes A, B");
-    EXPECT_EQ(ZAbsToolTip(boxOf(QStringLiteral("A\tB"))), gestures);
-    EXPECT_EQ(ZAbsToolTip(boxOf(QStringLiteral("A\tB\t"))), gestures);
+    const QString gestures =
+        QStringLiteral("Maj + clic : enregistrer ou retirer l’absence de chacune des classes A, B "
+                       "le mardi 24/11/2026\n"
+                       "Ctrl + clic : enregistrer ou retirer l’absence d’étudiants de chacune des "
+                       "classes A, B le mardi 24/11/2026");
+    EXPECT_EQ(ZAbsToolTip(boxOf(QStringLiteral("A\tB")), tuesday), gestures);
+    EXPECT_EQ(ZAbsToolTip(boxOf(QStringLiteral("A\tB\t")), tuesday), gestures);
 }

@@ -36,8 +36,9 @@ TEST_F(ThePlansToolTips, tellWhatIsRecordedAndWhatAClickDoes)
                      "VALUES ('G1', 'G1', '2025-03-17', '8h30')");
     open();
     const ToolTips toolTipsOfG1 = toolTips(0, 0); // A2 at 8h30
-    const QString gestures = "Maj + clic : retirer l’absence de la classe G1\n"
-                             "Ctrl + clic : retirer l’absence d’étudiants de la classe G1";
+    const QString gestures =
+        "Maj + clic : retirer l’absence de la classe G1 le lundi 17/03/2025\n"
+        "Ctrl + clic : retirer l’absence d’étudiants de la classe G1 le lundi 17/03/2025";
     EXPECT_EQ(toolTipsOfG1.XAbs, "Classe absente\n" + gestures);
     EXPECT_EQ(toolTipsOfG1.YAbs, "G1 Absent");
     EXPECT_EQ(toolTipsOfG1.ZAbs, "A2 – 8h30, 90 min\nG1\nDupont/Durand\n[Algèbre]\n\n" + gestures);
@@ -48,9 +49,11 @@ TEST_F(ThePlansToolTips, areEmptyAtTheTriangleWithoutAbsentStudents)
     open();
     const ToolTips toolTipsOfG1 = toolTips(0, 0);
     EXPECT_EQ(toolTipsOfG1.YAbs, "");
-    EXPECT_EQ(toolTipsOfG1.XAbs, "Classe absente\n"
-                                 "Maj + clic : retirer l’absence de la classe G1\n"
-                                 "Ctrl + clic : enregistrer l’absence d’étudiants de la classe G1");
+    EXPECT_EQ(
+        toolTipsOfG1.XAbs,
+        "Classe absente\n"
+        "Maj + clic : retirer l’absence de la classe G1 le lundi 17/03/2025\n"
+        "Ctrl + clic : enregistrer l’absence d’étudiants de la classe G1 le lundi 17/03/2025");
 }
 
 TEST_F(ThePlansToolTips, leaveTheOutcomeOpenForSeveralClasses)
@@ -59,13 +62,29 @@ TEST_F(ThePlansToolTips, leaveTheOutcomeOpenForSeveralClasses)
                      "VALUES ('G2', 'G2', '2025-03-17', '14h00')");
     open();
     const ToolTips toolTipsOfBoth = toolTips(1, 0); // B1 at 14h00
-    const QString gestures =
-        "Maj + clic : enregistrer ou retirer l’absence de chacune des classes G2, G3\n"
-        "Ctrl + clic : enregistrer ou retirer l’absence d’étudiants de chacune des classes G2, G3";
+    const QString gestures = "Maj + clic : enregistrer ou retirer l’absence de chacune des classes "
+                             "G2, G3 le lundi 17/03/2025\n"
+                             "Ctrl + clic : enregistrer ou retirer l’absence d’étudiants de "
+                             "chacune des classes G2, G3 le lundi 17/03/2025";
     EXPECT_EQ(toolTipsOfBoth.XAbs, gestures);
     EXPECT_EQ(toolTipsOfBoth.YAbs, "G2\tG3 Absent");
     EXPECT_TRUE(toolTipsOfBoth.ZAbs.endsWith("\n\n" + gestures))
         << toolTipsOfBoth.ZAbs.toStdString();
+}
+
+TEST_F(ThePlansToolTips, nameTheDateThatAClickMarksNotTheShownDay)
+{
+    open();
+    window().forward([this] {
+        form().CbJour.setListIndex(1);
+        form().OpExam.select();
+        form().OpEns.select(); // the picker goes back to Monday, the list of days does not
+    });
+    ASSERT_EQ(form().CbJour.text(), "Mardi");
+    ASSERT_EQ(form().DTPicker1.value(), QDate(2025, 3, 17));
+    EXPECT_TRUE(toolTips(0, 0).ZAbs.endsWith(" le lundi 17/03/2025"))
+        << toolTips(0, 0).ZAbs.toStdString();
+    EXPECT_EQ(control<QLabel>("MarkedDay")->text(), "Absences du lundi 17/03/2025");
 }
 
 TEST_F(ThePlansToolTips, tellTheRoomOfARow)
