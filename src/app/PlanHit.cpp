@@ -36,7 +36,8 @@ PlanHit hitPlan(const form::PlanForm& form, const plan::PlanContent& content,
             continue;
         }
         for (const plan::PlanBox& box : row.boxes) {
-            const auto places = plan::overlayPlaces(form, target, row.index, box);
+            const auto places =
+                plan::drawnPlaces(form, plan::overlayPlaces(form, target, row.index, box), box);
             const auto part = partAt(places, box.group && form.Check3.isChecked(), point);
             if (part != PlanHit::Part::Nothing) {
                 found = {part, &row, &box}; // boxes drawn later lie over earlier ones

@@ -19,6 +19,15 @@ constexpr double kOneLinePixels = 26;
 // A label no wider than this share of its box stands beside the text as well.
 constexpr double kSideLabelShare = 0.3;
 
+// A label that lies over more than this share of a picture hides it.
+constexpr double kHidingShare = 0.25;
+
+bool hides(const QRectF& label, const QRectF& picture)
+{
+    const QRectF common = label.intersected(picture);
+    return common.width() * common.height() > kHidingShare * picture.width() * picture.height();
+}
+
 } // namespace
 
 QFont overlayFont(const QString& text, double width)
@@ -67,12 +76,41 @@ OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& tar
     return places;
 }
 
+OverlayPlaces drawnPlaces(const form::PlanForm& form, OverlayPlaces places, const PlanBox& box)
+{
+    if (!box.group || !form.Check3.isChecked()) {
+        return places;
+    }
+    double way = 0;
+    double most = 0;
+    const auto makeWay = [&](const QRectF& picture) {
+        most = std::max(most, picture.left() - places.ZAbs.left());
+        if (hides(places.Labelz, picture)) {
+            way = std::max(way, picture.right() - places.Labelz.left());
+        }
+        if (box.group->atRight && hides(places.Label2, picture)) {
+            way = std::max(way, picture.right() - places.Label2.left());
+        }
+    };
+    if (box.studentAbsent) {
+        makeWay(places.YAbs);
+    }
+    if (box.classAbsent) {
+        most = 0; // it stands farther left
+        makeWay(places.XAbs);
+    }
+    way = std::clamp(way, 0.0, std::max(0.0, most));
+    places.XAbs.translate(-way, 0);
+    places.YAbs.translate(-way, 0);
+    return places;
+}
+
 QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& places,
                              const PlanBox& box)
 {
     QMarginsF reserved;
     if (box.studentAbsent) {
-        reserved.setRight(places.YAbs.width());
+        reserved.setRight(places.ZAbs.right() - places.YAbs.left());
     }
     if (box.classAbsent) {
         reserved.setRight(places.ZAbs.right() - places.XAbs.left());

@@ -26,7 +26,13 @@ struct OverlayPlaces {
 [[nodiscard]] OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& target,
                                           int row, const PlanBox& box);
 
-/// What the overlays that show something take from the box's text, in device pixels.
+/// The places as they are drawn: where a visible label would hide a picture that is shown, both
+/// pictures stand beside the label instead, moved left by the same way as far as the box reaches.
+[[nodiscard]] OverlayPlaces drawnPlaces(const form::PlanForm& form, OverlayPlaces places,
+                                        const PlanBox& box);
+
+/// What the overlays that show something take from the box's text, in device pixels. `places` are
+/// those that are drawn.
 [[nodiscard]] QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& places,
                                            const PlanBox& box);
 

@@ -104,7 +104,8 @@ void PlanPainter::paintBoxesOf(const PlanRow& row)
 void PlanPainter::paintBox(const PlanRow& row, const PlanBox& box)
 {
     const form::Place& room = m_scene.form.Salle[static_cast<std::size_t>(row.index)].place;
-    const OverlayPlaces places = overlayPlaces(m_scene.form, m_scene.target, row.index, box);
+    const OverlayPlaces places =
+        drawnPlaces(m_scene.form, overlayPlaces(m_scene.form, m_scene.target, row.index, box), box);
     BoxStyle style;
     style.fill = row.color;
     style.hatched = box.makeUp;

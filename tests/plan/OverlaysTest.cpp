@@ -127,3 +127,93 @@ TEST_F(Overlays, reserveALongLabelBelowTheTextOfAHighRow)
     EXPECT_DOUBLE_EQ(reserved().right(), places().Label2.width());
     EXPECT_DOUBLE_EQ(reserved().bottom(), places().Labelz.height());
 }
+
+namespace
+{
+
+/// The box of above in a row of 20 pixels, with a label over its pictures.
+class PicturesBesideALabel : public Overlays
+{
+protected:
+    PicturesBesideALabel()
+    {
+        group("1", "Dépassement 35/30");
+        labelled.ZAbs = {268, 100, 160, 20};
+        labelled.YAbs = {408, 100, 20, 20};
+        labelled.XAbs = {394, 100, 20, 20};
+        labelled.Label2 = {268, 100, 12, 12};
+        labelFrom(378);
+    }
+    void labelFrom(double left) { labelled.Labelz = {left, 108, 428 - left, 12}; }
+    void expectPictures(double leftOfXAbs, double leftOfYAbs) const
+    {
+        const OverlayPlaces drawn = drawnPlaces(form, labelled, box);
+        EXPECT_EQ(drawn.XAbs, QRectF(leftOfXAbs, 100, 20, 20));
+        EXPECT_EQ(drawn.YAbs, QRectF(leftOfYAbs, 100, 20, 20));
+        EXPECT_EQ(drawn.ZAbs, labelled.ZAbs);
+        EXPECT_EQ(drawn.Labelz, labelled.Labelz);
+    }
+
+    OverlayPlaces labelled;
+};
+
+} // namespace
+
+TEST_F(PicturesBesideALabel, endWhereTheLabelBegins)
+{
+    box.studentAbsent = true;
+    expectPictures(344, 358); // both 428 - 378 = 50 pixels to the left
+    box.classAbsent = true;
+    expectPictures(344, 358);
+    box.studentAbsent = false;
+    expectPictures(358, 372); // 414 - 378 = 36 pixels
+}
+
+TEST_F(PicturesBesideALabel, stayWhereNothingIsShown)
+{
+    expectPictures(394, 408);
+    box.classAbsent = box.studentAbsent = true;
+    form.Check3.setChecked(false);
+    expectPictures(394, 408);
+    form.Check3.setChecked(true);
+    box.group.reset();
+    expectPictures(394, 408);
+}
+
+TEST_F(PicturesBesideALabel, stayWhereTheLabelHidesLittleOfThem)
+{
+    box.classAbsent = true;
+    labelFrom(407); // 7 by 12 pixels of 20 by 20
+    expectPictures(394, 408);
+    labelFrom(405); // 9 by 12
+    expectPictures(385, 399);
+}
+
+TEST_F(PicturesBesideALabel, doNotLeaveTheBox)
+{
+    labelFrom(275);
+    box.studentAbsent = true;
+    expectPictures(254, 268); // only the shown one counts
+    box.classAbsent = true;
+    expectPictures(268, 282);
+}
+
+TEST_F(PicturesBesideALabel, makeWayForACounterAtTheRight)
+{
+    box.group->atRight = true;
+    box.studentAbsent = true;
+    labelled.Label2 = {412, 100, 16, 12}; // 16 by 12 pixels of the triangle's 20 by 20
+    labelled.Labelz = {418, 114, 10, 6};
+    expectPictures(378, 392);
+}
+
+TEST_F(PicturesBesideALabel, takeTheirRoomFromTheText)
+{
+    box.studentAbsent = true;
+    const auto right = [this] {
+        return reservedByOverlays(form, drawnPlaces(form, labelled, box), box).right();
+    };
+    EXPECT_DOUBLE_EQ(right(), 70); // 428 - 358
+    box.classAbsent = true;
+    EXPECT_DOUBLE_EQ(right(), 84); // 428 - 344
+}

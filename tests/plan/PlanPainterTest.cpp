@@ -113,6 +113,22 @@ TEST_F(APaintedPlan, showsTheGroupCountersOnlyWhileTheyAreTicked)
     EXPECT_NE(paint(&PlanPainter::paintBoxes).image(), shown);
 }
 
+TEST_F(APaintedPlan, showsAnAbsencePictureBesideTheLabelThatWouldHideIt)
+{
+    desk.meeting(1, 1);
+    desk.rows.students["GC1"] = 135;
+    desk.absences.students = {"GC1"};
+    desk.draw();
+    const auto orange = [this] {
+        return paint(&PlanPainter::paintBoxes).count(QColor(255, 170, 0), place(1, 1));
+    };
+    const int withLabels = orange();
+    PlanDesk::tick(desk.form.Check3, false);
+    const int alone = orange();
+    EXPECT_GT(alone, 50);
+    EXPECT_GT(withLabels, alone * 3 / 4); // at another fraction of a pixel
+}
+
 TEST_F(APaintedPlan, showsEachAbsencePicture)
 {
     desk.meeting(1, 1);
