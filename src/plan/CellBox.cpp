@@ -21,6 +21,8 @@ constexpr double kFrameLine = 0.5;
 constexpr double kTextGap = 1.5;
 constexpr double kHatchStep = 6.5;
 constexpr double kHatchLine = 0.5;
+// From this contrast of text and row on, crosses of the text's colour leave enough of it.
+constexpr double kAmpleContrast = 14;
 
 QColor toColor(form::Colour color)
 {
@@ -38,10 +40,22 @@ double luminance(form::Colour color)
            0.0722 * linear(color.blue());
 }
 
-/// Diagonal crosses, light enough for the text to stay readable over them.
-void drawHatching(QPainter& surface, const DrawingTarget& target, const QRect& box, QColor ink)
+/// The colour of the crosses on a row of this colour. A text that contrasts little with its row
+/// would lose more to crosses of its own colour: there they have the other one and help it. On very
+/// light and very dark rows only the text's colour shows.
+QColor hatchingOn(form::Colour fill)
 {
-    ink.setAlpha(64);
+    const form::Colour ink = readableOn(fill);
+    const bool likeText = contrastRatio(fill, ink) >= kAmpleContrast;
+    QColor color = toColor(likeText ? ink : readableOn(ink));
+    color.setAlpha(likeText ? 64 : 160);
+    return color;
+}
+
+/// Diagonal crosses that the text stays readable over.
+void drawHatching(QPainter& surface, const DrawingTarget& target, const QRect& box,
+                  const QColor& ink)
+{
     if (!target.TargetIsPrinter) {
         surface.setBrush(QBrush(ink, Qt::DiagCrossPattern));
         surface.drawRect(box);
@@ -122,7 +136,7 @@ void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle&
     surface.setBrush(fill);
     surface.drawRect(box);
     if (style.hatched) {
-        drawHatching(surface, target, box, ink);
+        drawHatching(surface, target, box, hatchingOn(style.fill));
     }
     surface.setBrush(Qt::NoBrush);
     surface.setPen(QPen(kFrame, target.TargetIsPrinter ? kFrameLine * target.PixelsPerPoint : 0));

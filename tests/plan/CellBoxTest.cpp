@@ -113,6 +113,27 @@ TEST(CellBox, isHatchedForAMakeUp)
     EXPECT_EQ(canvas.touched(), box);
 }
 
+TEST(CellBox, isHatchedSoThatItsTextStaysReadable)
+{
+    // White on purple has a contrast of 10.2, black on pink one of 4.8, black on yellow 16.7.
+    const Colour purple = Colour::fromRgb(85, 45, 125);
+    const Colour pink = Colour::fromRgb(190, 85, 130);
+    for (const auto& [fill, least] :
+         {std::pair(purple, 10.1), std::pair(pink, 4.8), std::pair(yellow, 7.0)}) {
+        const Canvas canvas = drawn(filled(fill, true), "");
+        double lowest = 21;
+        for (int y = inside.top(); y < inside.bottom(); ++y) {
+            for (int x = inside.left(); x < inside.right(); ++x) {
+                const QColor at = canvas.at(x, y);
+                const Colour color = Colour::fromRgb(at.red(), at.green(), at.blue());
+                lowest = std::min(lowest, contrastRatio(color, readableOn(fill)));
+            }
+        }
+        EXPECT_GE(lowest, least) << toColor(fill).name().toStdString();
+        EXPECT_LT(canvas.count(toColor(fill), inside), inside.width() * inside.height());
+    }
+}
+
 TEST(CellBox, isSolidAgainAfterAMakeUp)
 {
     Canvas canvas;
