@@ -1,11 +1,11 @@
 #include "app/OptionPanels.h"
 
+#include "app/DateField.h"
 #include "app/FormMirror.h"
 #include "shell/Shell.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -134,7 +134,7 @@ void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
                                               "hachurés")),
                     1, 0);
     auto* picker =
-        make.add<QDateEdit>("DTPicker1", form.DTPicker1, QStringLiteral("Date affichée"));
+        make.add<DateField>("DTPicker1", form.DTPicker1, QStringLiteral("Date affichée"));
     const QSignalBlocker quiet(picker);
     picker->setAccessibleName(QStringLiteral("Date affichée"));
     picker->setLocale(QLocale(QLocale::French, QLocale::France));
