@@ -84,6 +84,7 @@ run_tests() {
     unpack_print_server
     use_private_folders "$folder/home" # whatever a test writes, it is not the user's
     export UBSAN_OPTIONS=print_stacktrace=1
+    export LSAN_OPTIONS=suppressions=$project/tests/leaks.supp:print_suppressions=0
     ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "${ctest_options[@]}"
 }
 
