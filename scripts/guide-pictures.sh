@@ -15,12 +15,12 @@ makeup_day=2026-11-24
 day_options=(--date "$day" --week A)
 
 # The window's parts at 1366x768, as width x height + left + top.
-readonly panels_day=438x110+4+58
-readonly panel_boxes=114x110+439+58
-readonly panel_rooms=186x110+555+58
-readonly panel_page=144x110+742+58
-readonly panel_subject=169x110+1005+58
-readonly panel_print=190x110+1174+58
+readonly panels_day=424x110+4+58
+readonly panel_boxes=114x110+429+58
+readonly panel_rooms=186x110+544+58
+readonly panel_page=146x110+731+58
+readonly panel_subject=179x110+994+58
+readonly panel_print=188x110+1174+58
 
 prepare() {
     # shellcheck disable=SC2154 # common.sh sets it
@@ -150,7 +150,10 @@ take_shots() {
     done
     act() { xdotool mousemove 258 325 click 1; } # the counter of a box of five classes
     shot details Pastel 14 "${day_options[@]}"
-    act() { xdotool mousemove 190 593; } # a box of one class
+    act() { # a box of one class; its tooltip takes a while
+        xdotool mousemove 190 593 mousemove_relative 2 0
+        sleep 1.5
+    }
     shot tip Pastel 14 "${day_options[@]}"
     act() {
         xdotool mousemove 190 593
@@ -170,7 +173,7 @@ take_shots() {
 # The window with numbers on its parts.
 numbered_window() {
     local marks=() number=0 place part
-    for place in 470,38 375,150 92,210 455,180 300,551 1320,189 577,728 640,756; do
+    for place in 470,38 375,150 92,210 455,180 300,551 1320,189 577,728 760,756; do
         number=$((number + 1))
         marks+=(-fill '#c01020' -stroke white -strokewidth 2
             -draw "circle $place $((${place%,*} + 14)),${place#*,}"
@@ -204,8 +207,8 @@ palette_samples() {
 
 # gesture KEY SHOT: a box, the key to hold, and the box afterwards.
 gesture() {
-    beside "$(cut plan 148x44+117+572)" "$(key "$1")" "$(words 15 '+ clic  →')" \
-        "$(cut "$2" 148x44+117+572)"
+    beside "$(cut plan 148x44+117+568)" "$(key "$1")" "$(words 15 '+ clic  →')" \
+        "$(cut "$2" 148x44+117+568)"
 }
 
 printed_sheet() {
@@ -221,16 +224,16 @@ printed_sheet() {
 make_pictures() {
     keep plan "$(cut plan 1366x768+0+0)"
     keep fenetre "$(numbered_window)"
-    keep bulle "$(cut tip 480x146+100+570)"
+    keep bulle "$(cut tip 620x150+100+567)"
     keep jour "$(cut plan "$panels_day")"
-    keep rattrapage "$(below "$(cut makeup 308x110+4+58)" "$(cut makeup 480x88+877+315)")"
-    keep examen "$(cut exam 770x328+0+58)"
+    keep rattrapage "$(below "$(cut makeup 296x110+4+58)" "$(cut makeup 480x86+877+313)")"
+    keep examen "$(cut exam 770x297+0+58)"
     keep cases "$(box_variants)"
-    keep salles "$(beside "$(cut rooms "$panel_rooms")" "$(cut rooms 540x230+0+486)")"
-    keep page "$(beside "$(cut plan "$panel_page")" "$(cut plan 540x147+0+170)")"
-    keep depassement "$(below "$(cut plan 572x46+592+614)" "$(cut details 190x150+580+269)")"
-    keep totaux "$(cut counted 770x90+0+655)"
-    keep matiere "$(beside "$(cut subject "$panel_subject")" "$(cut subject 540x147+0+528)")"
+    keep salles "$(beside "$(cut rooms "$panel_rooms")" "$(cut rooms 540x212+0+483)")"
+    keep page "$(beside "$(cut plan "$panel_page")" "$(cut plan 540x143+0+170)")"
+    keep depassement "$(below "$(cut plan 572x44+592+611)" "$(cut details 190x150+580+269)")"
+    keep totaux "$(cut counted 770x93+0+652)"
+    keep matiere "$(beside "$(cut subject "$panel_subject")" "$(cut subject 540x128+0+525)")"
     keep impression "$(cut plan "$panel_print")"
     keep feuille "$(printed_sheet)"
     keep palettes "$(palette_samples)"
