@@ -22,7 +22,6 @@ namespace
 
 constexpr QColor kBandFill(246, 247, 250);
 constexpr QColor kBandEdge(190, 196, 208);
-constexpr int kTotalsHeight = PlanPicture::kTotalsHeight;
 
 QString boxToolTip(const plan::PlanRow& row, const plan::PlanBox& box)
 {
@@ -63,11 +62,20 @@ PlanView::Bands PlanView::bands() const
     const int top = static_cast<int>(m_target.toPixelsY(form.Salle.front().place.top)) - 1;
     const int left = static_cast<int>(m_target.toPixelsX(form.Label1.front().place.left)) - 4;
     const int right = static_cast<int>(m_target.toPixelsX(form.Cap.front().place.left)) - 3;
-    const int bottom = height - kTotalsHeight;
+    const int bottom = height - m_totalsHeight;
     return {QRect(left, 0, right - left, top), QRect(0, top, left, bottom - top),
             QRect(left, top, right - left, bottom - top),
             QRect(right, top, width - right, bottom - top),
-            QRect(left, bottom, right - left, kTotalsHeight)};
+            QRect(left, bottom, right - left, m_totalsHeight)};
+}
+
+int PlanView::totalsHeight() const
+{
+    const form::PlanForm& form = m_shell.form();
+    const bool needed = form.Chk_Compt.isChecked() ||
+                        std::any_of(form.Tot.begin(), form.Tot.end(),
+                                    [](const form::Label& total) { return total.visible; });
+    return needed ? PlanPicture::kTotalsHeight : 0;
 }
 
 void PlanView::fit()
@@ -75,7 +83,8 @@ void PlanView::fit()
     const form::PlanForm& form = m_shell.form();
     m_lastRowHeight = form.Salle.front().place.height;
     m_lastRows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
-    const QSize room(viewport()->width(), viewport()->height() - kTotalsHeight);
+    m_totalsHeight = totalsHeight();
+    const QSize room(viewport()->width(), viewport()->height() - m_totalsHeight);
     m_target = fitPlan(form, m_shell.slots().axisEnd(), m_lastRows, room);
     m_shell.layOut(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
                    viewport()->height() * m_target.TargetTwipsPerPixelY);
@@ -86,7 +95,7 @@ void PlanView::fit()
 void PlanView::updateScrollBars()
 {
     const Bands view = bands();
-    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 4;
+    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 1;
     const int end = static_cast<int>(std::ceil(m_target.toPixelsX(m_shell.slots().axisEnd())));
     verticalScrollBar()->setRange(0, std::max(0, bottom - (view.boxes.y() + view.boxes.height())));
     verticalScrollBar()->setPageStep(view.boxes.height());
@@ -117,7 +126,8 @@ void PlanView::showProgress()
 void PlanView::showAll()
 {
     const int rows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
-    if (rows != m_lastRows || m_shell.form().Salle.front().place.height != m_lastRowHeight) {
+    if (rows != m_lastRows || m_shell.form().Salle.front().place.height != m_lastRowHeight ||
+        totalsHeight() != m_totalsHeight) {
         fit();
     } else {
         drawPicture();
@@ -137,10 +147,10 @@ QPointF PlanView::toPlan(QPoint viewportPoint) const
 
 QSize PlanView::planSize() const
 {
-    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 4;
+    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 1;
     const int end = static_cast<int>(std::ceil(m_target.toPixelsX(m_shell.slots().axisEnd())));
     return {std::max(viewport()->width(), end + 1),
-            std::max(viewport()->height() - kTotalsHeight, bottom)};
+            std::max(viewport()->height() - m_totalsHeight, bottom)};
 }
 
 void PlanView::drawPicture()
@@ -168,11 +178,13 @@ void PlanView::paintEvent(QPaintEvent* event)
     copy(view.places, plan, view.places.topLeft() + QPoint(0, scrollY));
     const QRect ticks = view.ticks.adjusted(0, 0, view.places.width(), 0);
     copy(ticks, plan, ticks.topLeft() + QPoint(scrollX, 0));
-    copy(view.totals, m_picture.totals(), QPoint(view.totals.x() + scrollX, 0));
     painter.setPen(kBandEdge);
     painter.drawLine(view.boxes.left() - 1, view.boxes.top(), view.boxes.left() - 1,
                      view.boxes.top() + view.boxes.height());
-    painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
+    if (m_totalsHeight > 0) {
+        copy(view.totals, m_picture.totals(), QPoint(view.totals.x() + scrollX, 0));
+        painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
+    }
 }
 
 void PlanView::resizeEvent(QResizeEvent* event)

@@ -61,6 +61,8 @@ private:
     [[nodiscard]] Bands bands() const;
     [[nodiscard]] plan::PlanScene scene() const;
     [[nodiscard]] QPointF toPlan(QPoint viewportPoint) const;
+    /// Pixels that the totals line takes: none while there are no totals to come.
+    [[nodiscard]] int totalsHeight() const;
     void updateScrollBars();
     [[nodiscard]] QSize planSize() const;
     void drawPicture();
@@ -74,6 +76,7 @@ private:
     PlanPicture m_picture;
     int m_lastRowHeight = 0;
     int m_lastRows = 0;
+    int m_totalsHeight = 0;
 };
 
 } // namespace app

@@ -12,6 +12,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QScopeGuard>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <exception>
@@ -93,7 +94,9 @@ void showPreview(QWidget* window, QPrinter& printer, const std::function<void(QP
 {
     QPrintPreviewDialog dialog(&printer, window);
     dialog.setWindowTitle(QStringLiteral("Aperçu avant impression"));
-    dialog.resize(1100, 760);
+    constexpr QSize wanted(1100, 760);
+    constexpr QSize frame(16, 48); // what a window manager puts around it, at most about
+    dialog.resize(wanted.boundedTo(dialog.screen()->availableSize() - frame));
     std::exception_ptr fault;
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&](QPrinter* target) {
         try {

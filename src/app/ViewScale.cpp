@@ -12,7 +12,7 @@ namespace
 {
 
 // Twips between the end of the time axis and the places, and between those and the edge.
-constexpr int kAfterAxis = 60;
+constexpr int kAfterAxis = 100;
 constexpr int kAfterPlaces = 250;
 
 constexpr double kMostTwipsAcross = 18.0;
@@ -41,7 +41,7 @@ plan::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows, Q
     target.TargetTwipsPerPixelX =
         std::clamp(across / std::max(1, view.width()), kFewestTwipsAcross, kMostTwipsAcross);
     const form::Place& model = form.Salle.front().place;
-    const int down = model.top + rows * (model.height + plan::kRowGap);
+    const int down = model.top + rows * (model.height + plan::kRowGap) - plan::kRowGap;
     const int wanted =
         static_cast<int>(std::ceil(static_cast<double>(down) / std::max(1, view.height())));
     target.TargetTwipsPerPixelY = std::clamp(wanted, kFewestTwipsDown, mostTwipsDown(model.height));

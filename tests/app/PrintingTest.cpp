@@ -14,6 +14,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QScreen>
 #include <QTimer>
 #include <csignal>
 #include <sys/resource.h>
@@ -332,6 +333,9 @@ TEST_F(Printing, showsThePreviewOfThePlatform)
     app::Printing printing(desk.shell(), app::platformPrintDialogs(nullptr));
     int pages = 0;
     whenOpen<QPrintPreviewDialog>([&pages](QPrintPreviewDialog& dialog) {
+        // The offscreen platform's screen has 800 by 800 pixels.
+        EXPECT_LT(dialog.frameGeometry().width(), dialog.screen()->availableSize().width());
+        EXPECT_LT(dialog.frameGeometry().height(), dialog.screen()->availableSize().height());
         const auto* preview = dialog.findChild<QPrintPreviewWidget*>();
         pages = preview == nullptr ? -1 : preview->pageCount();
         dialog.reject();

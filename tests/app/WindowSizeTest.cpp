@@ -1,5 +1,6 @@
 #include "app/WindowDesk.h"
 
+#include <QScrollBar>
 #include <QStyleOptionComboBox>
 
 using test::TheWindow;
@@ -34,4 +35,29 @@ TEST_F(TheWindow, showsTheNameOfAPeriodWhole)
     const QRect field = list->style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                       QStyle::SC_ComboBoxEditField, list);
     EXPECT_GE(field.width(), list->fontMetrics().horizontalAdvance(name));
+}
+
+TEST_F(TheWindow, scrollsNeitherWayWhenAllRowsFit)
+{
+    open({1366, 740});
+    EXPECT_EQ(view()->horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(view()->verticalScrollBar()->maximum(), 0);
+    for (int width = 1280; width <= 1440; width += 7) {
+        window().resize(width, 740);
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(view()->horizontalScrollBar()->maximum(), 0) << width;
+    }
+}
+
+TEST_F(TheWindow, shows29RowsAtOnceOnASmallScreen)
+{
+    for (int room = 1; room <= 30; ++room) {
+        database.execute(QString("INSERT INTO salle (Nom, Zone, places) VALUES ('S%1', 1, 30)")
+                             .arg(room, 2, 10, QChar('0')));
+    }
+    open({1366, 740});
+    window().forward([this] { form().Total_L_P.setText("29"); });
+    ASSERT_EQ(window().shell().page().RowsShown, 29);
+    EXPECT_EQ(view()->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(view()->horizontalScrollBar()->maximum(), 0);
 }
