@@ -44,10 +44,13 @@ open_faculty() {
     printf '[MonKalo]\nDriver=SQLite3\nDatabase=%s\n' "$work/$1.sqlite" >"$ODBCINI"
 }
 
-# Mean and deviation of a command's wall time in milliseconds; the command is one word list.
+# Mean and deviation of the wall time of `$2`, one list of words, run `$1` times; what follows is
+# put in front.
 milliseconds() {
-    hyperfine --shell=none --warmup 2 --runs "$1" --style none --export-json "$work/times.json" \
-        "$2" >/dev/null
+    local runs=$1 command=$2
+    shift 2
+    "$@" hyperfine --shell=none --warmup 2 --runs "$runs" --style none \
+        --export-json "$work/times.json" "$command" >/dev/null
     awk '/"mean"/ { gsub(/[^0-9.e-]/, "", $2); printf "%.0f ms", $2 * 1000 }
          /"stddev"/ { gsub(/[^0-9.e-]/, "", $2); printf " ± %.0f", $2 * 1000 }' "$work/times.json"
 }
@@ -61,17 +64,11 @@ whole_processes() {
     printf -- '|---|---:|---:|---:|\n'
     for size in "${sizes[@]}"; do
         open_faculty "$size"
-        printf '| %s | %s | %s | %s |\n' "$size" "$(first_plan)" "$(peak_memory)" \
-            "$(QT_QPA_PLATFORM=offscreen milliseconds 5 \
-                "$bin/tempora --export $work/all.pdf --all-pages --rooms-per-page 19")"
+        printf '| %s | %s | %s | %s |\n' "$size" "$(milliseconds 10 "$bin/first_plan" under_x)" \
+            "$(peak_memory)" \
+            "$(milliseconds 5 "$bin/tempora --export $work/all.pdf --all-pages --rooms-per-page 19" \
+                env QT_QPA_PLATFORM=offscreen)"
     done
-}
-
-first_plan() {
-    export -f milliseconds
-    export work
-    # shellcheck disable=SC2016 # the inner shell expands
-    under_x bash -c 'milliseconds 10 "$1"' bash "$bin/first_plan"
 }
 
 peak_memory() {
