@@ -57,8 +57,7 @@ void drawHatching(QPainter& surface, const DrawingTarget& target, const QRect& b
                   const QColor& ink)
 {
     if (!target.TargetIsPrinter) {
-        surface.setBrush(QBrush(ink, Qt::DiagCrossPattern));
-        surface.drawRect(box);
+        surface.fillRect(box, QBrush(ink, Qt::DiagCrossPattern));
         return;
     }
     // A pattern is as fine as the printer's pixels, so on paper the lines are drawn one by one.
@@ -75,6 +74,21 @@ void drawHatching(QPainter& surface, const DrawingTarget& target, const QRect& b
                          QPointF(x + box.height(), box.top()));
     }
     surface.restore();
+}
+
+void drawFrame(QPainter& surface, const DrawingTarget& target, const QRect& box)
+{
+    if (target.TargetIsPrinter) {
+        surface.setBrush(Qt::NoBrush);
+        surface.setPen(QPen(kFrame, kFrameLine * target.PixelsPerPoint));
+        surface.drawRect(box.adjusted(0, 0, -1, -1));
+        return;
+    }
+    // Filling the pixels of the four sides is quicker than drawing them.
+    surface.fillRect(QRect(box.topLeft(), box.topRight()), kFrame);
+    surface.fillRect(QRect(box.bottomLeft(), box.bottomRight()), kFrame);
+    surface.fillRect(QRect(box.topLeft(), box.bottomLeft()), kFrame);
+    surface.fillRect(QRect(box.topRight(), box.bottomRight()), kFrame);
 }
 
 /// Where a box's text goes: off the frame and off the labels over the box.
@@ -130,18 +144,12 @@ void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle&
     }
     surface.save();
     surface.setRenderHint(QPainter::Antialiasing, false);
-    const QColor fill = toColor(style.fill);
-    const QColor ink = toColor(readableOn(style.fill));
-    surface.setPen(Qt::NoPen);
-    surface.setBrush(fill);
-    surface.drawRect(box);
+    surface.fillRect(box, toColor(style.fill));
     if (style.hatched) {
         drawHatching(surface, target, box, hatchingOn(style.fill));
     }
-    surface.setBrush(Qt::NoBrush);
-    surface.setPen(QPen(kFrame, target.TargetIsPrinter ? kFrameLine * target.PixelsPerPoint : 0));
-    surface.drawRect(box.adjusted(0, 0, -1, -1));
-    surface.setPen(ink);
+    drawFrame(surface, target, box);
+    surface.setPen(toColor(readableOn(style.fill)));
     const QRectF room = textRectangle(target, style, box);
     const QString shown = SanitizeCellText(text);
     if (target.TargetIsPrinter) {

@@ -82,14 +82,21 @@ void Hands::type(const QString& text) const
 
 bool Hands::choose(QComboBox* list, int index) const
 {
-    click(list);
+    // Pressed on the list and let go over the item. Two clicks would race: the list that opens
+    // under the first may take its release for a choice.
+    const QPoint handle = list->mapToGlobal(handleOf(list));
+    play(QString("mousemove %1 %2 mousedown 1").arg(handle.x()).arg(handle.y()));
     QAbstractItemView* view = list->view();
     if (!until(
             [view] { return view->isVisible() && view->window()->windowHandle()->isExposed(); })) {
         return false;
     }
     const QRect item = view->visualRect(list->model()->index(index, list->modelColumn()));
-    click(view->viewport()->mapToGlobal(item.center()));
+    moveTo(view->viewport()->mapToGlobal(item.center()));
+    if (!until([view, index] { return view->currentIndex().row() == index; })) {
+        return false;
+    }
+    play("mouseup 1");
     return until([view] { return !view->isVisible(); });
 }
 
