@@ -62,8 +62,8 @@ public:
         case Product::Sqlite:
             return sqliteAccessPaths(open(QStringLiteral("explain query plan ") + sql));
         case Product::MySql:
-            // In capitals: where "i" and "I" are no pair, as in Turkish, the driver does not know the
-            // word in small letters, takes the statement for one without rows and falls over.
+            // In capitals: where "i" and "I" are no pair, as in Turkish, the driver does not know
+            // the word in small letters, takes the statement for one without rows and falls over.
             return mySqlAccessPaths(open(QStringLiteral("EXPLAIN ") + sql));
         case Product::Other:
             break;
