@@ -16,7 +16,7 @@ EstablishmentHeader readHeader(db::Connection& connection)
         const db::Row& row = found.first();
         header.UniversityName = row.field(QStringLiteral("Université")).toJoinedText();
         header.EstablishmentName = row.field(QStringLiteral("Nom")).toJoinedText();
-        const db::Value& year = row.field(QStringLiteral("Année"));
+        const db::Value year = row.field(QStringLiteral("Année"));
         header.AcademicYear = year.isNull() ? std::int16_t{0} : year.toInt16();
     }
     return header;

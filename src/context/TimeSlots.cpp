@@ -36,7 +36,7 @@ void refuseTooMany(qsizetype rooms)
 
 std::int16_t placesOf(const db::Row& room)
 {
-    const db::Value& places = room.field(QStringLiteral("places"));
+    const db::Value places = room.field(QStringLiteral("places"));
     if (places.isNull()) {
         return 0;
     }

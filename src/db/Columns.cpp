@@ -20,16 +20,24 @@ QString folded(const QString& name)
 Columns::Columns(QStringList names) : m_names(std::move(names))
 {
     for (int i = count() - 1; i >= 0; --i) { // of two columns of one name the first is meant
-        m_positions.insert(m_names[i], i);
+        m_positions.insert_or_assign(m_names[i], i);
     }
+}
+
+std::size_t Columns::QuickHash::operator()(const QString& name) const
+{
+    constexpr std::size_t step = 31;
+    const auto length = static_cast<std::size_t>(name.size());
+    return name.isEmpty() ? 0
+                          : (length * step + name.front().unicode()) * step + name.back().unicode();
 }
 
 int Columns::position(const QString& name) const
 {
     // Nearly every caller writes the name as the table does: folding costs more than a search.
-    const auto exact = m_positions.constFind(name);
-    if (exact != m_positions.constEnd()) {
-        return *exact;
+    const auto exact = m_positions.find(name);
+    if (exact != m_positions.end()) {
+        return exact->second;
     }
     const auto found =
         std::find_if(m_names.begin(), m_names.end(), [wanted = folded(name)](const QString& each) {

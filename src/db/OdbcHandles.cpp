@@ -143,6 +143,7 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
     }
     m_textForm = textFormFor(m_product);
     m_sendsUtf8 = m_product == Product::MySql && asksServerForUtf8();
+    m_rereadsBoundFields = readsBoundFieldsInAnyOrder();
     m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);
     SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
 }
@@ -186,6 +187,15 @@ bool ConnectionHandle::asksServerForUtf8() const
                                  static_cast<SQLLEN>(name.size() * sizeof(SQLWCHAR)), nullptr));
     return answered && QString::fromUtf16(reinterpret_cast<const char16_t*>(name.data()))
                            .startsWith(u"utf8"); // utf8, utf8mb3, utf8mb4
+}
+
+bool ConnectionHandle::readsBoundFieldsInAnyOrder() const
+{
+    constexpr SQLUINTEGER needed = SQL_GD_BOUND | SQL_GD_ANY_COLUMN | SQL_GD_ANY_ORDER;
+    SQLUINTEGER extensions = 0;
+    return SQL_SUCCEEDED(SQLGetInfoW(get(), SQL_GETDATA_EXTENSIONS, &extensions, sizeof(extensions),
+                                     nullptr)) &&
+           (extensions & needed) == needed;
 }
 
 QString ConnectionHandle::quoted(const QString& identifier) const

@@ -99,6 +99,9 @@ public:
     /// Whether the bytes in which a server sends texts are known to be UTF-8. Its driver spends
     /// most of a fetch on turning them into UTF-16, text by text.
     [[nodiscard]] bool sendsUtf8() const { return m_sendsUtf8; }
+    /// Whether a field that is bound to a place in memory, and was too long for it, can be read
+    /// from its beginning, wherever it stands in the row.
+    [[nodiscard]] bool rereadsBoundFields() const { return m_rereadsBoundFields; }
     /// The name between the driver's own quotes.
     [[nodiscard]] QString quoted(const QString& identifier) const;
 
@@ -109,12 +112,14 @@ private:
     void connect(const QString& connectString);
     [[nodiscard]] QString info(SQLUSMALLINT what) const;
     [[nodiscard]] bool asksServerForUtf8() const;
+    [[nodiscard]] bool readsBoundFieldsInAnyOrder() const;
 
     QStringList m_passwords;
     OdbcHandle<SQL_HANDLE_DBC> m_handle;
     Product m_product = Product::Other;
     TextForm m_textForm = TextForm::Utf16;
     bool m_sendsUtf8 = false;
+    bool m_rereadsBoundFields = false;
     QString m_quote;
 };
 

@@ -1,102 +1,16 @@
 #include "db/ResultReader.h"
 
-#include <QRegularExpression>
+#include "db/BoundColumns.h"
+
+#include <optional>
 
 namespace db
 {
 namespace
 {
 
-/// The number that a text is as a whole, or the text itself.
-Value integerOrText(const QString& text)
-{
-    bool ok = false;
-    const qlonglong integer = text.toLongLong(&ok);
-    if (ok) {
-        return Value(std::int64_t{integer});
-    }
-    const double real = text.toDouble(&ok);
-    return ok ? Value(real) : Value(text);
-}
-
-Value realOrText(const QString& text)
-{
-    bool ok = false;
-    const double real = text.toDouble(&ok);
-    return ok ? Value(real) : Value(text);
-}
-
-Value booleanOrText(const QString& text)
-{
-    bool ok = false;
-    const qlonglong integer = text.toLongLong(&ok);
-    return ok ? Value(integer != 0) : Value(text);
-}
-
-/// A date, also where the column holds times and this one is midnight, as all dates of Access are.
-Value dateOrText(const QString& text)
-{
-    static const QRegularExpression form(
-        QStringLiteral("^([0-9]{4}-[0-9]{2}-[0-9]{2})(?: 00:00:00(?:\\.0*)?)?\\z"));
-    const QRegularExpressionMatch match = form.match(text);
-    const QDate date = QDate::fromString(match.captured(1), Qt::ISODate);
-    return date.isValid() ? Value(date) : Value(text);
-}
-
-Value valueOfType(const QString& text, SQLSMALLINT type)
-{
-    switch (type) {
-    case SQL_BIT:
-        return booleanOrText(text);
-    case SQL_TINYINT:
-    case SQL_SMALLINT:
-    case SQL_INTEGER:
-    case SQL_BIGINT:
-        return integerOrText(text);
-    case SQL_REAL:
-    case SQL_FLOAT:
-    case SQL_DOUBLE:
-    case SQL_DECIMAL:
-    case SQL_NUMERIC:
-        return realOrText(text);
-    case SQL_DATE: // the two of ODBC 2
-    case SQL_TIMESTAMP:
-    case SQL_TYPE_DATE:
-    case SQL_TYPE_TIMESTAMP:
-        return dateOrText(text);
-    default:
-        return Value(text);
-    }
-}
-
-/// Reads one field piece by piece, whatever its length: `append` gets each piece and whether more
-/// may follow. False when it is null.
-template <typename Unit, std::size_t Size, typename Append>
-bool readPieces(StatementHandle& statement, SQLUSMALLINT index, SQLSMALLINT cType,
-                std::array<Unit, Size>& buffer, Append append)
-{
-    const std::size_t terminator = cType == SQL_C_BINARY ? 0 : 1;
-    const SQLLEN roomForText = static_cast<SQLLEN>((Size - terminator) * sizeof(Unit));
-    for (bool first = true;; first = false) {
-        SQLLEN length = 0;
-        const SQLRETURN result = SQLGetData(statement.get(), index, cType, buffer.data(),
-                                            static_cast<SQLLEN>(Size * sizeof(Unit)), &length);
-        if (result == SQL_NO_DATA) {
-            return true;
-        }
-        statement.check(result);
-        if (first && length == SQL_NULL_DATA) {
-            return false;
-        }
-        const bool more = length == SQL_NO_TOTAL || length > roomForText;
-        const SQLLEN bytes = more ? roomForText : length;
-        append(buffer.data(), static_cast<qsizetype>(bytes) / static_cast<qsizetype>(sizeof(Unit)),
-               more);
-        if (!more) {
-            return true;
-        }
-    }
-}
+/// Binding takes a call for every column: it pays from some rows on.
+constexpr std::size_t rowsBeforeBinding = 4;
 
 } // namespace
 
@@ -105,25 +19,17 @@ Recordset ResultReader::readAll()
     if (!m_statement.fetch()) {
         return {};
     }
-    std::vector<SQLSMALLINT> types;
-    QStringList names;
-    const int count = columnCount();
-    for (int i = 1; i <= count; ++i) {
-        const Column column = describe(static_cast<SQLUSMALLINT>(i));
-        names << column.name;
-        types.push_back(column.type);
-    }
-    const auto columns = std::make_shared<const Columns>(std::move(names));
+    const std::shared_ptr<FetchedFields> fields = describeAll();
     std::vector<Row> rows;
+    std::optional<BoundColumns> bound;
     do {
-        std::vector<Value> values;
-        values.reserve(types.size());
-        for (std::size_t i = 0; i < types.size(); ++i) {
-            values.push_back(read(static_cast<SQLUSMALLINT>(i + 1), types[i]));
+        readRow(bound ? &*bound : nullptr, *fields);
+        rows.emplace_back(fields, rows.size());
+        if (rows.size() == rowsBeforeBinding && m_statement.connection().rereadsBoundFields()) {
+            bound.emplace(m_statement, fields->forms()); // for the next row
         }
-        rows.emplace_back(columns, std::move(values));
     } while (m_statement.fetch());
-    return {columns, std::move(rows)};
+    return {fields->columns(), std::move(rows)};
 }
 
 int ResultReader::countRows()
@@ -135,11 +41,19 @@ int ResultReader::countRows()
     return count;
 }
 
-int ResultReader::columnCount()
+std::shared_ptr<FetchedFields> ResultReader::describeAll()
 {
     SQLSMALLINT count = 0;
     m_statement.check(SQLNumResultCols(m_statement.get(), &count));
-    return count;
+    QStringList names;
+    std::vector<FieldForm> forms;
+    for (int index = 1; index <= count; ++index) {
+        const Column column = describe(static_cast<SQLUSMALLINT>(index));
+        names << column.name;
+        forms.push_back(formOf(column.type));
+    }
+    return std::make_shared<FetchedFields>(std::make_shared<const Columns>(std::move(names)),
+                                           std::move(forms));
 }
 
 ResultReader::Column ResultReader::describe(SQLUSMALLINT index)
@@ -150,16 +64,16 @@ ResultReader::Column ResultReader::describe(SQLUSMALLINT index)
     SQLSMALLINT nullable = 0;
     if (m_statement.connection().textForm() == TextForm::Utf8) {
         m_statement.check(SQLDescribeCol(m_statement.get(), index,
-                                         reinterpret_cast<SQLCHAR*>(m_narrowBuffer.data()),
-                                         static_cast<SQLSMALLINT>(m_narrowBuffer.size()), nullptr,
+                                         reinterpret_cast<SQLCHAR*>(m_buffer.data()),
+                                         static_cast<SQLSMALLINT>(bufferBytes), nullptr,
                                          &column.type, &size, &digits, &nullable));
-        column.name = QString::fromUtf8(m_narrowBuffer.data());
+        column.name = QString::fromUtf8(m_buffer.data());
     } else {
-        m_statement.check(SQLDescribeColW(m_statement.get(), index,
-                                          reinterpret_cast<SQLWCHAR*>(m_wideBuffer.data()),
-                                          static_cast<SQLSMALLINT>(m_wideBuffer.size()), nullptr,
-                                          &column.type, &size, &digits, &nullable));
-        column.name = QString::fromUtf16(m_wideBuffer.data());
+        auto* name = reinterpret_cast<SQLWCHAR*>(m_buffer.data());
+        m_statement.check(SQLDescribeColW(m_statement.get(), index, name,
+                                          static_cast<SQLSMALLINT>(bufferBytes / sizeof(SQLWCHAR)),
+                                          nullptr, &column.type, &size, &digits, &nullable));
+        column.name = QString::fromUtf16(reinterpret_cast<const char16_t*>(name));
     }
     return column;
 }
@@ -169,22 +83,13 @@ SQLSMALLINT ResultReader::columnType(SQLUSMALLINT index)
     return describe(index).type;
 }
 
-Value ResultReader::read(SQLUSMALLINT index, SQLSMALLINT type)
+FieldForm ResultReader::formOf(SQLSMALLINT type) const
 {
     // A server's BIT column read as text is a raw byte; SQLite's is what was stored there.
     if (type == SQL_BIT && m_statement.connection().product() != Product::Sqlite) {
-        return readBit(index);
+        return {type, SQL_C_BIT};
     }
-    Value text = readText(index, type);
-    return text.isNull() ? text : valueOfType(text.toText(), type);
-}
-
-Value ResultReader::readBit(SQLUSMALLINT index)
-{
-    unsigned char bit = 0;
-    SQLLEN length = 0;
-    m_statement.check(SQLGetData(m_statement.get(), index, SQL_C_BIT, &bit, sizeof(bit), &length));
-    return length == SQL_NULL_DATA ? Value() : Value(bit != 0);
+    return {type, cTypeForText(type)};
 }
 
 /// SQLite's driver speaks UTF-8. A server's driver gives numbers and dates in characters that are
@@ -224,32 +129,45 @@ SQLSMALLINT ResultReader::cTypeForText(SQLSMALLINT type) const
     }
 }
 
-Value ResultReader::readText(SQLUSMALLINT index, SQLSMALLINT type)
+/// `bound`: where the driver has put the row, if anywhere.
+void ResultReader::readRow(const BoundColumns* bound, FetchedFields& fields)
 {
-    const SQLSMALLINT cType = cTypeForText(type);
-    if (cType != SQL_C_WCHAR) {
-        // Decoded as a whole: a piece may end within a character.
-        QByteArray pieces;
-        QString text;
-        const bool there = readPieces(m_statement, index, cType, m_narrowBuffer,
-                                      [&](const char* piece, qsizetype length, bool more) {
-                                          if (!more && pieces.isEmpty()) {
-                                              text = QString::fromUtf8(piece, length);
-                                          } else {
-                                              pieces.append(piece, length);
-                                          }
-                                      });
-        if (!pieces.isEmpty()) {
-            text = QString::fromUtf8(pieces);
+    const std::vector<FieldForm>& forms = fields.forms();
+    for (std::size_t column = 0; column < forms.size(); ++column) {
+        if (bound == nullptr || !bound->take(column, fields)) {
+            read(static_cast<SQLUSMALLINT>(column + 1), forms[column], fields);
         }
-        return there ? Value(text) : Value();
     }
-    QString text;
-    const bool there = readPieces(m_statement, index, SQL_C_WCHAR, m_wideBuffer,
-                                  [&text](const char16_t* piece, qsizetype length, bool) {
-                                      text.append(QStringView(piece, length));
-                                  });
-    return there ? Value(text) : Value();
+}
+
+/// Reads one field piece by piece, whatever its length.
+void ResultReader::read(SQLUSMALLINT index, const FieldForm& form, FetchedFields& fields)
+{
+    const auto room = static_cast<SQLLEN>(bufferBytes - form.terminator());
+    for (bool more = true; more;) {
+        SQLLEN length = 0;
+        const SQLRETURN result = SQLGetData(m_statement.get(), index, form.cType, m_buffer.data(),
+                                            static_cast<SQLLEN>(bufferBytes), &length);
+        if (result == SQL_NO_DATA) {
+            break;
+        }
+        m_statement.check(result);
+        if (length == SQL_NULL_DATA) {
+            fields.endNull();
+            return;
+        }
+        more = length == SQL_NO_TOTAL || length > room;
+        fields.append(m_buffer.data(), static_cast<std::size_t>(more ? room : length));
+    }
+    fields.end();
+}
+
+Value ResultReader::readText(SQLUSMALLINT index)
+{
+    const FieldForm text{SQL_WVARCHAR, cTypeForText(SQL_WVARCHAR)};
+    FetchedFields field(std::make_shared<const Columns>(QStringList{QString()}), {text});
+    read(index, text, field);
+    return field.value(0, 0);
 }
 
 } // namespace db

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/FetchedFields.h"
 #include "db/OdbcHandles.h"
 #include "db/Recordset.h"
 
@@ -8,10 +9,9 @@
 namespace db
 {
 
-/// Reads the rows of an executed statement as values.
-///
-/// Fields are read as text wherever that loses nothing, because SQLite keeps the type of the value
-/// and not that of the column: a text in a column declared INTEGER must arrive as that text.
+class BoundColumns;
+
+/// Reads the rows of an executed statement.
 class ResultReader
 {
 public:
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] SQLSMALLINT columnType(SQLUSMALLINT index);
     /// The field of the current row as text; null stays null. `index` counts from 1; fields are
     /// read in ascending order, each once.
-    [[nodiscard]] Value readText(SQLUSMALLINT index) { return readText(index, SQL_WVARCHAR); }
+    [[nodiscard]] Value readText(SQLUSMALLINT index);
 
 private:
     struct Column {
@@ -33,18 +33,17 @@ private:
         SQLSMALLINT type = SQL_UNKNOWN_TYPE;
     };
 
-    [[nodiscard]] int columnCount();
     [[nodiscard]] Column describe(SQLUSMALLINT index);
-    [[nodiscard]] Value read(SQLUSMALLINT index, SQLSMALLINT type);
-    [[nodiscard]] Value readBit(SQLUSMALLINT index);
-    [[nodiscard]] Value readText(SQLUSMALLINT index, SQLSMALLINT type);
+    [[nodiscard]] std::shared_ptr<FetchedFields> describeAll();
+    void readRow(const BoundColumns* bound, FetchedFields& fields);
+    void read(SQLUSMALLINT index, const FieldForm& form, FetchedFields& fields);
+    [[nodiscard]] FieldForm formOf(SQLSMALLINT type) const;
     [[nodiscard]] SQLSMALLINT cTypeForText(SQLSMALLINT type) const;
 
-    static constexpr std::size_t bufferUnits = 1024;
+    static constexpr std::size_t bufferBytes = 2048;
 
     StatementHandle& m_statement;
-    std::array<char16_t, bufferUnits> m_wideBuffer{};
-    std::array<char, 2 * bufferUnits> m_narrowBuffer{};
+    alignas(char16_t) std::array<char, bufferBytes> m_buffer{};
 };
 
 } // namespace db

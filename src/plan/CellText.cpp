@@ -45,7 +45,7 @@ bool Composer::isRoom(const QString& column) const
 {
     bool same = false;
     skipOnError([&] {
-        const db::Value& value = m_row.field(column);
+        const db::Value value = m_row.field(column);
         same = !value.isNull() && value.toText() == m_room;
     });
     return same;

@@ -90,7 +90,7 @@ TEST_P(Reading, readsTextsOfEveryLengthAroundThatOfTheBuffer)
 {
     QStringList statements = {QStringLiteral("create table t (n integer, a text)")};
     QList<int> lengths;
-    for (int around : {1024, 2048, 4096}) {
+    for (int around : {128, 256, 1024, 2048, 4096}) {
         for (int length = around - 3; length <= around + 3; ++length) {
             lengths << length;
             statements << QStringLiteral("insert into t values (%1, '%2')")
@@ -103,6 +103,59 @@ TEST_P(Reading, readsTextsOfEveryLengthAroundThatOfTheBuffer)
     ASSERT_EQ(rows.recordCount(), lengths.size());
     for (const Row& row : rows.rows()) {
         EXPECT_EQ(row.field(1).toText(), QString(row.field(0).toInt32(), u'é'));
+    }
+}
+
+/// Behind the first few rows of a result the driver hands over whole rows, not fields.
+TEST_P(Reading, readsEveryRowOfAResultAlike)
+{
+    QStringList statements{QStringLiteral("create table t (n integer, a text, b varchar(20), "
+                                          "c bigint, d double, e decimal(10,2), f bit, g date, "
+                                          "h datetime, i text)")};
+    constexpr int rowCount = 12;
+    for (int row = 0; row < rowCount; ++row) {
+        statements << QStringLiteral("insert into t values (%1, 'é€😀', '', 9000000000, -1.5, "
+                                     "3.25, 1, '2007-03-15', '2007-03-15 08:30:00', '%2')")
+                          .arg(row)
+                          .arg(QString(300, u'é')); // longer than most fields of a timetable
+    }
+    database().execute(statements);
+    const Recordset rows = connection().open(QStringLiteral("select * from t order by n"));
+    ASSERT_EQ(rows.recordCount(), rowCount);
+    for (int row = 0; row < rowCount; ++row) {
+        const Row& found = rows.rows()[static_cast<std::size_t>(row)];
+        EXPECT_EQ(found.field(0), integer(row));
+        EXPECT_EQ(found.field(1), text("é€😀"));
+        EXPECT_EQ(found.field(2), text(""));
+        EXPECT_EQ(found.field(3), integer(9000000000));
+        EXPECT_EQ(found.field(4), Value(-1.5));
+        EXPECT_EQ(found.field(5).toText(), QStringLiteral("3.25"));
+        EXPECT_EQ(found.field(6), Value(true));
+        EXPECT_EQ(found.field(7), Value(QDate(2007, 3, 15)));
+        EXPECT_EQ(found.field(8), text("2007-03-15 08:30:00"));
+        EXPECT_EQ(found.field(9).toText(), QString(300, u'é'));
+    }
+}
+
+TEST_P(Reading, findsNoTraceOfTheRowBeforeInANull)
+{
+    QStringList statements{QStringLiteral("create table t (n integer, a text, b integer, c double, "
+                                          "d decimal(10,2), e bit, f date)")};
+    for (int row = 0; row < 10; ++row) {
+        statements << (row % 2 == 0 ? QStringLiteral("insert into t values (%1, 'plein', 5, 1.5, "
+                                                     "3.25, 1, '2007-03-15')")
+                                    : QStringLiteral("insert into t (n) values (%1)"))
+                          .arg(row);
+    }
+    database().execute(statements);
+    const Recordset rows = connection().open(QStringLiteral("select * from t order by n"));
+    ASSERT_EQ(rows.recordCount(), 10);
+    for (int row = 0; row < 10; ++row) {
+        for (int column = 1; column < 7; ++column) {
+            EXPECT_EQ(rows.rows()[static_cast<std::size_t>(row)].field(column).isNull(),
+                      row % 2 == 1)
+                << "row " << row << ", column " << column;
+        }
     }
 }
 
