@@ -21,6 +21,7 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
     m_date = questions.date;
     m_classNames = db::plainLiterals(questions.classNames);
     m_starts = db::plainLiterals(questions.starts);
+    m_classesAsked = QSet<QString>(m_classNames.begin(), m_classNames.end());
     m_classes.reset();
     m_students.reset();
     if (m_classNames.isEmpty() || m_starts.isEmpty()) {
@@ -98,7 +99,7 @@ void PageAbsences::keep(const db::Row& row, int kind, Recorded& recorded) const
 bool PageAbsences::isPrepared(const plan::Marqueur& marker, const QString& className) const
 {
     return m_plain.toggleCount() == m_togglesBefore && marker.Jour == m_date &&
-           m_classNames.contains(className) && m_starts.contains(marker.Debut);
+           m_classesAsked.contains(className) && m_starts.contains(marker.Debut);
 }
 
 bool PageAbsences::Existe_AbsClasse(const plan::Marqueur& marker, const QString& className)

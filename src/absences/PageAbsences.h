@@ -49,6 +49,7 @@ private:
     QDate m_date;
     QStringList m_classNames;
     QStringList m_starts;
+    QSet<QString> m_classesAsked; ///< the same names, to find one among many
     std::optional<Recorded> m_classes;
     std::optional<Recorded> m_students;
 };

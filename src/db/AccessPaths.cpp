@@ -21,31 +21,37 @@ bool isPlainWalk(const QString& remarks)
     });
 }
 
-/// The way of one line of MariaDB's answer; empty when it is of another kind.
-QString mySqlAccessPath(const Row& line)
+/// The way of one line of MariaDB's answer; nothing when it is of another kind.
+std::optional<AccessPath> mySqlAccessPath(const Row& line)
 {
+    const QString type = textOf(line, QStringLiteral("type"));
+    const QString key = textOf(line, QStringLiteral("key"));
+    const bool isOnlyWay = textOf(line, QStringLiteral("possible_keys")) == key;
     if (!isPlainWalk(textOf(line, QStringLiteral("Extra")))) {
-        return {};
+        return std::nullopt;
     }
-    QString type = textOf(line, QStringLiteral("type"));
     if (type == u"ALL") {
-        return type;
+        return AccessPath{type, isOnlyWay};
     }
     // With "in" the walk is a "range" of several points, with "=" it is a "ref" of one.
-    return type == u"ref" || type == u"range" ? textOf(line, QStringLiteral("key")) + u' ' +
-                                                    textOf(line, QStringLiteral("key_len"))
-                                              : QString();
+    if (type == u"ref" || type == u"range") {
+        return AccessPath{key + u' ' + textOf(line, QStringLiteral("key_len")), isOnlyWay};
+    }
+    return std::nullopt;
 }
 
 } // namespace
 
-std::optional<QStringList> sqliteAccessPaths(const Recordset& explained)
+AccessPaths sqliteAccessPaths(const Recordset& explained)
 {
-    QStringList paths;
+    std::vector<AccessPath> paths;
     for (const Row& line : explained.rows()) {
         const QString detail = textOf(line, QStringLiteral("detail"));
+        if (detail.contains(QLatin1String("COVERING INDEX"))) {
+            return std::nullopt;
+        }
         if (detail.startsWith(u"SEARCH ") || detail.startsWith(u"SCAN ")) {
-            paths << detail;
+            paths.push_back({detail, false});
         } else if (detail != u"COMPOUND QUERY" && detail != u"LEFT-MOST SUBQUERY" &&
                    detail != u"UNION ALL") {
             return std::nullopt; // rows gathered by several indexes, for one
@@ -54,14 +60,15 @@ std::optional<QStringList> sqliteAccessPaths(const Recordset& explained)
     return paths;
 }
 
-std::optional<QStringList> mySqlAccessPaths(const Recordset& explained)
+AccessPaths mySqlAccessPaths(const Recordset& explained)
 {
-    QStringList paths;
+    std::vector<AccessPath> paths;
     for (const Row& line : explained.rows()) {
-        paths << mySqlAccessPath(line);
-        if (paths.last().isEmpty()) {
+        const std::optional<AccessPath> path = mySqlAccessPath(line);
+        if (!path) {
             return std::nullopt;
         }
+        paths.push_back(*path);
     }
     return paths;
 }

@@ -56,7 +56,7 @@ public:
         return ResultReader(statement).countRows();
     }
 
-    [[nodiscard]] std::optional<QStringList> accessPaths(const QString& sql)
+    [[nodiscard]] AccessPaths accessPaths(const QString& sql)
     {
         switch (m_connection.product()) {
         case Product::Sqlite:
@@ -230,7 +230,7 @@ int Connection::recordCount(const QString& sql)
     return session().recordCount(sql);
 }
 
-std::optional<QStringList> Connection::accessPaths(const QString& sql)
+AccessPaths Connection::accessPaths(const QString& sql)
 {
     return session().accessPaths(sql);
 }

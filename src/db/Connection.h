@@ -1,11 +1,10 @@
 #pragma once
 
+#include "db/AccessPaths.h"
 #include "db/Recordset.h"
 
 #include <QString>
-#include <QStringList>
 #include <memory>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -32,9 +31,9 @@ public:
     [[nodiscard]] Recordset open(const QString& sql);
     /// Runs a query and counts its rows without reading their fields.
     [[nodiscard]] int recordCount(const QString& sql);
-    /// How the database would walk through its tables for the query, without running it; see
-    /// AccessPaths.h. Nothing where the database does not tell.
-    [[nodiscard]] std::optional<QStringList> accessPaths(const QString& sql);
+    /// How the database would walk through its table for the joined queries, without running them;
+    /// see AccessPaths.h. Nothing where the database does not tell.
+    [[nodiscard]] AccessPaths accessPaths(const QString& sql);
     /// Runs a statement that returns no rows.
     void execute(const QString& sql);
 

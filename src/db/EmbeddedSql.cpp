@@ -97,19 +97,24 @@ QString adaptToEmbedded(const QString& sql)
     }
     QString adapted;
     adapted.reserve(sql.size());
+    qsizetype copied = 0; // up to here
     for (qsizetype i = 0; i < sql.size();) {
+        QString instead;
         qsizetype behind = -1;
         if (sql[i] == u'#') {
-            behind = adaptDate(sql, i, adapted);
+            behind = adaptDate(sql, i, instead);
         } else if (sql[i] == u'i' || sql[i] == u'I') {
-            behind = adaptIsNull(sql, i, adapted);
+            behind = adaptIsNull(sql, i, instead);
         }
         if (behind < 0) {
-            behind = behindQuoted(sql, i);
-            adapted += QStringView(sql).mid(i, behind - i);
+            i = behindQuoted(sql, i);
+            continue;
         }
-        i = behind;
+        adapted += QStringView(sql).mid(copied, i - copied);
+        adapted += instead;
+        copied = i = behind;
     }
+    adapted += QStringView(sql).mid(copied);
     return adapted;
 }
 

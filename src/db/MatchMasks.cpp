@@ -10,9 +10,24 @@ namespace
 // Bits per column: their sum stays within 32 bits with a sign.
 constexpr int kBits = 30;
 
-QString quoted(const QString& text)
+// Characters of a text's question around its column and the text itself, at most.
+constexpr qsizetype kAround = 20;
+
+void appendQuoted(QString& sql, const QString& text)
 {
-    return u'\'' + text + u'\'';
+    sql += u'\'';
+    sql += text;
+    sql += u'\'';
+}
+
+/// Characters that a list takes which names every text, and the column with each.
+qsizetype lengthOfList(const QString& column, const QStringList& texts)
+{
+    qsizetype length = 0;
+    for (const QString& text : texts) {
+        length += column.size() + text.size() + kAround;
+    }
+    return length;
 }
 
 } // namespace
@@ -29,21 +44,27 @@ int MatchMasks::columnCount() const
 
 QString MatchMasks::selectList(const QString& alias) const
 {
-    QStringList columns;
+    QString sql;
+    sql.reserve(lengthOfList(m_column, m_texts));
     for (int first = 0; first < m_texts.size(); first += kBits) {
-        QStringList bits;
+        // Most of a course's rooms are null; asking that first spares the database the rest.
+        sql += first == 0 ? QStringLiteral("case when ") : QStringLiteral(", case when ");
+        sql += m_column;
+        sql += QStringLiteral(" is null then 0 else ");
         const int end = std::min(first + kBits, static_cast<int>(m_texts.size()));
         for (int index = first; index < end; ++index) {
-            bits << QStringLiteral("case when ") + m_column + u'=' + quoted(m_texts[index]) +
-                        QStringLiteral(" then ") + QString::number(1 << (index - first)) +
-                        QStringLiteral(" else 0 end");
+            sql += index == first ? QStringLiteral("(") : QStringLiteral("+(");
+            sql += m_column;
+            sql += u'=';
+            appendQuoted(sql, m_texts[index]);
+            sql += QStringLiteral(")*");
+            sql += QString::number(1 << (index - first));
         }
-        // Most of a course's rooms are null; asking that first spares the database the rest.
-        columns << QStringLiteral("case when ") + m_column +
-                       QStringLiteral(" is null then 0 else ") + bits.join(QStringLiteral(" + ")) +
-                       QStringLiteral(" end as ") + alias + QString::number(columns.size());
+        sql += QStringLiteral(" end as ");
+        sql += alias;
+        sql += QString::number(first / kBits);
     }
-    return columns.join(QStringLiteral(", "));
+    return sql;
 }
 
 QString MatchMasks::anyOf() const
@@ -51,11 +72,16 @@ QString MatchMasks::anyOf() const
     if (m_texts.isEmpty()) {
         return QStringLiteral("1=0");
     }
-    QStringList literals;
+    QString sql;
+    sql.reserve(lengthOfList(QString(), m_texts));
+    sql += m_column;
+    sql += QStringLiteral(" in (");
     for (const QString& text : m_texts) {
-        literals << quoted(text);
+        appendQuoted(sql, text);
+        sql += u',';
     }
-    return m_column + QStringLiteral(" in (") + literals.join(u',') + u')';
+    sql.back() = u')';
+    return sql;
 }
 
 std::vector<int> MatchMasks::matches(const Row& row, int firstColumn) const

@@ -4,19 +4,20 @@
 #include "plan/JoinedQueries.h"
 #include "runtime/RunTimeError.h"
 
-#include <QSet>
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 namespace plan
 {
 namespace
 {
 
-/// The room and the slot of every row, told by masks in front of its columns.
+/// The room and the slot of every row, told by masks in front of its columns. Rooms and keys count
+/// from 0, in the order in which they were given.
 class CellMasks
 {
 public:
+    /// A room without a name comes last, if at all.
     CellMasks(RoomQuestion::Table table, const QStringList& rooms, const QStringList& keys)
         : m_keys(QStringLiteral("Seance"), keys)
     {
@@ -31,22 +32,14 @@ public:
 
     [[nodiscard]] QString selectList() const
     {
-        QStringList lists{m_keys.selectList(QStringLiteral("tempora_k"))};
+        QString lists = m_keys.selectList(QStringLiteral("tempora_k"));
         for (std::size_t column = 0; column < m_rooms.size(); ++column) {
             if (m_rooms[column].columnCount() > 0) {
-                lists << m_rooms[column].selectList(QStringLiteral("tempora_r%1_").arg(column));
+                lists += QStringLiteral(", ");
+                lists += m_rooms[column].selectList(QStringLiteral("tempora_r%1_").arg(column));
             }
         }
-        return lists.join(QStringLiteral(", "));
-    }
-
-    [[nodiscard]] int columnCount() const
-    {
-        int count = m_keys.columnCount();
-        for (const db::MatchMasks& column : m_rooms) {
-            count += column.columnCount();
-        }
-        return count;
+        return lists;
     }
 
     [[nodiscard]] QString condition() const
@@ -63,17 +56,19 @@ public:
     template <typename Take>
     void forCells(const db::Row& row, Take take) const
     {
-        QSet<QString> rooms;
+        std::vector<int> rooms;
         int first = m_keys.columnCount();
         for (const db::MatchMasks& column : m_rooms) {
             for (const int room : column.matches(row, first)) {
-                rooms.insert(column.texts()[room]);
+                if (std::find(rooms.begin(), rooms.end(), room) == rooms.end()) {
+                    rooms.push_back(room);
+                }
             }
             first += column.columnCount();
         }
         for (const int key : m_keys.matches(row, 0)) {
-            for (const QString& room : rooms) {
-                take(room, m_keys.texts()[key]);
+            for (const int room : rooms) {
+                take(static_cast<std::size_t>(room), static_cast<std::size_t>(key));
             }
         }
     }
@@ -83,53 +78,40 @@ private:
     std::vector<db::MatchMasks> m_rooms;
 };
 
-/// A question about one cell, as it stands after the columns that are put in front of its own.
-QString cellQuery(const RoomQuestion& question, const db::SqlDialect& dialect)
+/// The rooms, one without a name behind the others.
+QStringList namelessLast(QStringList rooms)
 {
-    return question.tableName() + QStringLiteral(".* from ") + question.tableName() +
-           QStringLiteral(" WHERE") + question.condition(dialect);
+    if (rooms.removeAll(QString()) > 0) {
+        rooms << QString();
+    }
+    return rooms;
 }
 
-/// Whether the database would find the rows of these cells on the very walk through the table that
-/// brought the page's rows. `pageQuery` is that query, with `masks` columns in front.
-bool areOnTheWay(db::Connection& connection, const QString& pageQuery, int masks,
-                 const QStringList& cellQueries)
+/// What stands between the columns put in front of a table's own and the conditions.
+QString wholeRows(const RoomQuestion& question)
 {
-    if (cellQueries.size() >= kMostJoined) {
-        return false;
-    }
-    QString joined = pageQuery;
-    const QString select =
-        QStringLiteral(" union all Select ") + QStringLiteral("0, ").repeated(masks);
-    for (const QString& query : cellQueries) {
-        joined += select + query;
-    }
-    bool same = false;
-    runtime::skipOnError([&] {
-        const std::optional<QStringList> paths = connection.accessPaths(joined);
-        same = paths && paths->size() == cellQueries.size() + 1 &&
-               paths->count(paths->first()) == paths->size();
-    });
-    return same;
+    return question.tableName() + QStringLiteral(".* from ") + question.tableName() +
+           QStringLiteral(" WHERE");
 }
 
 /// Cells that several rows answer, and the questions about them.
 struct Crowded {
-    std::vector<QPair<QString, QString>> cells;
-    QStringList queries;
+    std::vector<std::optional<db::Recordset>*> cells;
+    std::vector<RoomQuestion> questions;
 };
 
-Crowded crowdedOf(const PageCells& cells, RoomQuestion question, const QStringList& rooms,
-                  const QStringList& keys, const db::SqlDialect& dialect)
+Crowded crowdedOf(PageCells& cells, RoomQuestion question)
 {
     Crowded crowded;
-    for (const QString& room : rooms) {
-        for (const QString& key : keys) {
-            if (cells.value({room, key}).recordCount() > 1) {
-                question.room = room;
-                question.seanceKey = key;
-                crowded.cells.emplace_back(room, key);
-                crowded.queries << cellQuery(question, dialect);
+    for (qsizetype room = 0; room < cells.rooms().size(); ++room) {
+        for (qsizetype key = 0; key < cells.keys().size(); ++key) {
+            std::optional<db::Recordset>& cell =
+                cells.at(static_cast<std::size_t>(room), static_cast<std::size_t>(key));
+            if (cell->recordCount() > 1) {
+                question.room = cells.rooms()[room];
+                question.seanceKey = cells.keys()[key];
+                crowded.cells.push_back(&cell);
+                crowded.questions.push_back(question);
             }
         }
     }
@@ -140,55 +122,84 @@ Crowded crowdedOf(const PageCells& cells, RoomQuestion question, const QStringLi
 PageCells sortedIntoCells(const db::Recordset& found, const CellMasks& masks,
                           const QStringList& rooms, const QStringList& keys)
 {
-    QHash<QPair<QString, QString>, std::vector<db::Row>> rowsOf;
+    const auto keyCount = static_cast<std::size_t>(keys.size());
+    std::vector<std::vector<db::Row>> rowsOf(static_cast<std::size_t>(rooms.size()) * keyCount);
     for (const db::Row& row : found.rows()) {
-        masks.forCells(row, [&](const QString& room, const QString& key) {
-            rowsOf[{room, key}].push_back(row);
+        masks.forCells(row, [&](std::size_t room, std::size_t key) {
+            rowsOf[room * keyCount + key].push_back(row);
         });
     }
-    PageCells cells;
-    for (const QString& room : rooms) {
-        for (const QString& key : keys) {
-            cells.insert({room, key}, db::Recordset(found.columns(), rowsOf.take({room, key})));
-        }
+    PageCells cells(rooms, keys);
+    for (std::size_t index = 0; index < rowsOf.size(); ++index) {
+        cells.at(index / keyCount, index % keyCount) =
+            db::Recordset(found.columns(), std::move(rowsOf[index]));
     }
     return cells;
 }
 
 /// Asks for these cells once more, each in the words of the plain statement, so that their rows
-/// come in that statement's order. Those that cannot be asked for are taken out.
-void putInOrder(db::Connection& connection, const Crowded& crowded, PageCells& cells)
+/// come in that statement's order. Those that cannot be asked for are left out.
+void putInOrder(db::Database& database, const Crowded& crowded)
 {
-    for (const QPair<QString, QString>& cell : crowded.cells) {
-        cells.remove(cell);
+    for (std::optional<db::Recordset>* cell : crowded.cells) {
+        cell->reset();
     }
-    const std::vector<db::Recordset> found = openJoined(connection, crowded.queries);
+    QStringList queries;
+    for (const RoomQuestion& question : crowded.questions) {
+        queries << wholeRows(question) + question.condition(database.dialect());
+    }
+    const std::vector<db::Recordset> found = openJoined(database.Db(), queries);
     for (std::size_t index = 0; index < found.size(); ++index) {
-        cells.insert(crowded.cells[index], found[index]);
+        *crowded.cells[index] = found[index];
     }
 }
 
 } // namespace
 
-PageCells fetchPageCells(db::Database& database, const RoomQuestion& page, const QStringList& rooms,
-                         const QStringList& keys)
+PageCells::PageCells(QStringList rooms, QStringList keys)
+    : m_rooms(std::move(rooms)), m_keys(std::move(keys)),
+      m_cells(static_cast<std::size_t>(m_rooms.size() * m_keys.size()))
 {
+}
+
+std::size_t PageCells::indexOf(std::size_t room, std::size_t key) const
+{
+    return room * static_cast<std::size_t>(m_keys.size()) + key;
+}
+
+std::optional<db::Recordset>& PageCells::at(std::size_t room, std::size_t key)
+{
+    return m_cells.at(indexOf(room, key));
+}
+
+std::optional<db::Recordset> PageCells::find(const QString& room, const QString& key) const
+{
+    const qsizetype roomIndex = m_rooms.indexOf(room);
+    const qsizetype keyIndex = m_keys.indexOf(key);
+    return roomIndex < 0 || keyIndex < 0 ? std::nullopt
+                                         : m_cells[indexOf(static_cast<std::size_t>(roomIndex),
+                                                           static_cast<std::size_t>(keyIndex))];
+}
+
+PageCells fetchPageCells(db::Database& database, WalkCheck& walk, const RoomQuestion& page,
+                         const QStringList& askedRooms, const QStringList& keys)
+{
+    const QStringList rooms = namelessLast(askedRooms);
     const CellMasks masks(page.table, rooms, keys);
-    const QString pageQuery = QStringLiteral("Select ") + masks.selectList() +
-                              QStringLiteral(", ") + page.tableName() + QStringLiteral(".* from ") +
-                              page.tableName() + QStringLiteral(" WHERE ") + masks.condition() +
-                              page.periodCondition(database.dialect());
-    PageCells cells = sortedIntoCells(database.Db().open(pageQuery), masks, rooms, keys);
-    const Crowded crowded = crowdedOf(cells, page, rooms, keys, database.dialect());
+    const QString condition = u' ' + masks.condition() + page.periodCondition(database.dialect());
+    PageCells cells =
+        sortedIntoCells(database.Db().open(QStringLiteral("Select ") + masks.selectList() +
+                                           QStringLiteral(", ") + wholeRows(page) + condition),
+                        masks, rooms, keys);
+    const Crowded crowded = crowdedOf(cells, page);
     if (crowded.cells.empty()) {
         return cells;
     }
     // Make-ups are few: asking for them again costs no more than asking about the way.
-    const bool inOrder =
-        page.table != RoomQuestion::Table::ratrap &&
-        areOnTheWay(database.Db(), pageQuery, masks.columnCount(), crowded.queries);
+    const bool inOrder = page.table != RoomQuestion::Table::ratrap &&
+                         walk.isSameWalk(database, condition, crowded.questions);
     if (!inOrder) {
-        putInOrder(database.Db(), crowded, cells);
+        putInOrder(database, crowded);
     }
     return cells;
 }

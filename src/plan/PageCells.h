@@ -2,17 +2,49 @@
 
 #include "db/Database.h"
 #include "plan/RoomQuestion.h"
+#include "plan/WalkCheck.h"
 
-#include <QHash>
-#include <QPair>
 #include <QStringList>
+#include <cstddef>
+#include <optional>
+#include <vector>
 
 namespace plan
 {
 
 /// The timetable rows of a page by room and slot key, as the plain statement would find them for
-/// each. A cell that is not in it is to be asked for.
-using PageCells = QHash<QPair<QString, QString>, db::Recordset>;
+/// each.
+class PageCells
+{
+public:
+    PageCells() = default; ///< Nothing is known
+    PageCells(QStringList rooms, QStringList keys);
+
+    [[nodiscard]] const QStringList& rooms() const { return m_rooms; }
+    [[nodiscard]] const QStringList& keys() const { return m_keys; }
+
+    /// Positions are those of room and key; both count from 0.
+    [[nodiscard]] std::optional<db::Recordset>& at(std::size_t room, std::size_t key);
+    /// Nothing for a cell that is to be asked for.
+    [[nodiscard]] std::optional<db::Recordset> find(const QString& room, const QString& key) const;
+    /// Calls `take` with the rows of each cell that has any, room by room.
+    template <typename Take>
+    void forTaken(Take take) const
+    {
+        for (const std::optional<db::Recordset>& rows : m_cells) {
+            if (rows && !rows->isEmpty()) {
+                take(*rows);
+            }
+        }
+    }
+
+private:
+    [[nodiscard]] std::size_t indexOf(std::size_t room, std::size_t key) const;
+
+    QStringList m_rooms;
+    QStringList m_keys;
+    std::vector<std::optional<db::Recordset>> m_cells;
+};
 
 /// Fetches them with three statements at most, make-ups with two. Rooms and keys
 /// are plain literals, `page` holds what all questions share.
@@ -23,7 +55,8 @@ using PageCells = QHash<QPair<QString, QString>, db::Recordset>;
 /// already; if not, the questions are put once more, each in the plain statement's own words.
 ///
 /// Error: any database error.
-[[nodiscard]] PageCells fetchPageCells(db::Database& database, const RoomQuestion& page,
-                                       const QStringList& rooms, const QStringList& keys);
+[[nodiscard]] PageCells fetchPageCells(db::Database& database, WalkCheck& walk,
+                                       const RoomQuestion& page, const QStringList& rooms,
+                                       const QStringList& keys);
 
 } // namespace plan

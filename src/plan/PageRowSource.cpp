@@ -5,25 +5,43 @@
 #include "runtime/RunTimeError.h"
 
 #include <QSet>
-#include <algorithm>
+#include <optional>
 
 namespace plan
 {
 namespace
 {
 
-/// Adds the text of a row's column; a table without the column, or a null, adds nothing.
-void collect(const db::Row& row, const QString& column, QSet<QString>& texts)
+/// Texts in the order in which they came, each once: the same page makes the same statements.
+class DistinctTexts
 {
-    runtime::skipOnError([&] { texts.insert(row.field(column).toText()); });
-}
+public:
+    /// Adds the text of a row's column; a table without the column, or a null, adds nothing.
+    void collect(const db::Row& row, const QString& column)
+    {
+        runtime::skipOnError([&] {
+            const QString text = row.field(column).toText();
+            const qsizetype known = m_known.size();
+            m_known.insert(text);
+            if (m_known.size() > known) {
+                m_texts << text;
+            }
+        });
+    }
 
-/// In a fixed order: the same page makes the same statements.
-QStringList sorted(const QSet<QString>& texts)
+    [[nodiscard]] const QStringList& texts() const { return m_texts; }
+
+private:
+    QSet<QString> m_known;
+    QStringList m_texts;
+};
+
+/// The wanted names that are not among the answers so far.
+template <typename Answers>
+QStringList unanswered(QStringList wanted, const Answers& answers)
 {
-    QStringList list = texts.values();
-    list.sort();
-    return list;
+    wanted.removeIf([&answers](const QString& name) { return answers.contains(name); });
+    return wanted;
 }
 
 } // namespace
@@ -38,7 +56,7 @@ PageFacts PageRowSource::prepare(const PageQuestions& questions)
     if (questions.makeUps) {
         fetchTimetable(RoomQuestion::Table::ratrap);
     }
-    const QStringList classNames = allClasses();
+    const QStringList classNames = db::plainLiterals(allClasses());
     if (!classNames.isEmpty()) {
         runtime::skipOnError([&] { fetchStudents(classNames); });
         runtime::skipOnError([&] { fetchClasses(classNames); });
@@ -52,8 +70,8 @@ void PageRowSource::fetchTimetable(RoomQuestion::Table table)
     const QStringList keys = db::plainLiterals(m_questions.seanceKeys);
     if (!rooms.isEmpty() && !keys.isEmpty()) {
         runtime::skipOnError([&] {
-            m_cells[table] =
-                fetchPageCells(m_database, m_questions.question(table, {}, {}), rooms, keys);
+            m_cells[table] = fetchPageCells(m_database, m_walk, m_questions.question(table, {}, {}),
+                                            rooms, keys);
         });
     }
 }
@@ -62,16 +80,16 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
 {
     // The database groups the spellings that it takes for equal. A name that comes back as it is
     // spelt here equals that group and no other.
-    const db::MatchMasks wanted(QStringLiteral("classe"), db::plainLiterals(classNames));
     const db::Recordset groups = m_database.Db().open(
-        QStringLiteral("Select classe as v, count(*) as n from etudiant WHERE ") + wanted.anyOf() +
+        QStringLiteral("Select classe as v, count(*) as n from etudiant WHERE ") +
+        db::MatchMasks(QStringLiteral("classe"), classNames).anyOf() +
         QStringLiteral(" group by classe"));
     QHash<QString, int> rows;
+    rows.reserve(classNames.size());
     for (const db::Row& group : groups.rows()) {
         rows.insert(group.field(0).toText(), group.field(1).toInt32());
     }
-    QStringList others = wanted.texts();
-    others.removeIf([&rows](const QString& name) { return rows.contains(name); });
+    const QStringList others = unanswered(classNames, rows);
     QStringList statements;
     for (const QString& name : others) {
         statements << QStringLiteral("count(*) as n from etudiant WHERE classe='") + name + u'\'';
@@ -81,28 +99,24 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
         rows.insert(others[static_cast<qsizetype>(index)],
                     counts[index].first().field(1).toInt32());
     }
-    for (const QString& name : wanted.texts()) {
-        if (rows.contains(name)) {
-            m_studentRows.insert(name, rows.value(name));
-        }
-    }
+    m_studentRows = std::move(rows);
 }
 
 void PageRowSource::fetchClasses(const QStringList& classNames)
 {
-    const db::MatchMasks wanted(QStringLiteral("Nom"), db::plainLiterals(classNames));
     // A group of one row has that row's capacity for its least one.
     const db::Recordset groups = m_database.Db().open(
         QStringLiteral("select Nom as v, count(*) as n, min(Capacite) as Capacite from classe "
                        "Where ") +
-        wanted.anyOf() + QStringLiteral(" group by Nom"));
+        db::MatchMasks(QStringLiteral("Nom"), classNames).anyOf() +
+        QStringLiteral(" group by Nom"));
+    m_classRows.reserve(classNames.size());
     for (const db::Row& group : groups.rows()) {
         if (group.field(1).toInt32() == 1) {
             m_classRows.insert(group.field(0).toText(), db::Recordset(groups.columns(), {group}));
         }
     }
-    QStringList others = wanted.texts();
-    others.removeIf([this](const QString& name) { return m_classRows.contains(name); });
+    const QStringList others = unanswered(classNames, m_classRows);
     QStringList statements;
     for (const QString& name : others) {
         statements << QStringLiteral("classe.* from classe Where Nom='") + name + u'\'';
@@ -115,33 +129,31 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
 
 QStringList PageRowSource::allClasses() const
 {
-    QSet<QString> names;
+    DistinctTexts names;
     for (const auto& [table, cells] : m_cells) {
-        for (const db::Recordset& rows : cells) {
+        cells.forTaken([&names](const db::Recordset& rows) {
             for (const db::Row& row : rows.rows()) {
-                collect(row, QStringLiteral("Classe"), names);
+                names.collect(row, QStringLiteral("Classe"));
             }
-        }
+        });
     }
-    return sorted(names);
+    return names.texts();
 }
 
 /// A box's markers are about the first class of its list: that of the first row or, when the box
 /// lists neither classes nor teachers, of the last.
 PageFacts PageRowSource::facts() const
 {
-    QSet<QString> names;
-    QSet<QString> starts;
+    DistinctTexts names;
+    DistinctTexts starts;
     for (const auto& [table, cells] : m_cells) {
-        for (const db::Recordset& rows : cells) {
-            if (!rows.isEmpty()) {
-                collect(m_questions.listsOccupants ? rows.first() : rows.rows().back(),
-                        QStringLiteral("Classe"), names);
-                collect(rows.first(), QStringLiteral("Debut"), starts);
-            }
-        }
+        cells.forTaken([&](const db::Recordset& rows) {
+            names.collect(m_questions.listsOccupants ? rows.first() : rows.rows().back(),
+                          QStringLiteral("Classe"));
+            starts.collect(rows.first(), QStringLiteral("Debut"));
+        });
     }
-    return {sorted(names), sorted(starts)};
+    return {names.texts(), starts.texts()};
 }
 
 db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
@@ -151,8 +163,9 @@ db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
         cells != m_cells.end() &&
         question == m_questions.question(question.table, question.room, question.seanceKey);
     if (prepared) {
-        const auto rows = cells->second.constFind({question.room, question.seanceKey});
-        if (rows != cells->second.constEnd()) {
+        const std::optional<db::Recordset> rows =
+            cells->second.find(question.room, question.seanceKey);
+        if (rows) {
             return *rows;
         }
     }

@@ -4,6 +4,8 @@
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 
+#include <optional>
+
 namespace plan
 {
 namespace
@@ -114,7 +116,7 @@ void OccupancyLookup::keepFacts(const db::Recordset& rows, const QString& room)
 void OccupancyLookup::keepOneClass(const db::Row& row)
 {
     skipOnError([&] {
-        const db::Value& className = row.field(QStringLiteral("Classe"));
+        const db::Value className = row.field(QStringLiteral("Classe"));
         // A single class ends with a line break where several are only joined by one: the
         // counter's details then open with a line of their own.
         m_cell.CellClasses = className.toJoinedText() + kLineEnd;
@@ -132,15 +134,20 @@ void OccupancyLookup::keepClasses(const db::Recordset& rows)
         if (m_form.XOpEns.isChecked()) {
             skipOnError([&] {
                 const QString teacher = row.field(QStringLiteral("Enseignant1")).toJoinedText();
-                line += line.isEmpty() ? teacher : u'\t' + teacher;
+                if (!line.isEmpty()) {
+                    line += u'\t';
+                }
+                line += teacher;
             });
         }
         if (m_cell.CellClasses.isEmpty()) {
             m_cell.CellClasses = line;
             m_cell.CellClassList = className;
         } else {
-            m_cell.CellClasses += kLineEnd + line;
-            m_cell.CellClassList += u'\t' + className;
+            m_cell.CellClasses += kLineEnd;
+            m_cell.CellClasses += line;
+            m_cell.CellClassList += u'\t';
+            m_cell.CellClassList += className;
         }
         addSizes(row);
     }
@@ -148,14 +155,18 @@ void OccupancyLookup::keepClasses(const db::Recordset& rows)
 
 void OccupancyLookup::addSizes(const db::Row& row)
 {
-    const QString column = QStringLiteral("Classe");
+    std::optional<QString> className; // a class without a name counts, a null does not
+    skipOnError([&] { className = row.field(QStringLiteral("Classe")).toText(); });
+    if (!className) {
+        return;
+    }
     skipOnError([&] {
-        m_cell.CellStudents = runtime::addInt16(m_cell.CellStudents,
-                                                StudentCount(m_source, row.field(column).toText()));
+        m_cell.CellStudents =
+            runtime::addInt16(m_cell.CellStudents, StudentCount(m_source, *className));
     });
     skipOnError([&] {
-        m_cell.CellCapacity = runtime::addInt16(
-            m_cell.CellCapacity, ClassCapacity(m_source, row.field(column).toText()));
+        m_cell.CellCapacity =
+            runtime::addInt16(m_cell.CellCapacity, ClassCapacity(m_source, *className));
     });
 }
 

@@ -52,10 +52,14 @@ QString RoomQuestion::periodCondition(const db::SqlDialect& dialect) const
     return period;
 }
 
+QString RoomQuestion::slotCondition(const db::SqlDialect& dialect) const
+{
+    return QStringLiteral(" Seance = '") + seanceKey + u'\'' + periodCondition(dialect);
+}
+
 QString RoomQuestion::condition(const db::SqlDialect& dialect) const
 {
-    return roomCondition() + QStringLiteral(" and Seance = '") + seanceKey + u'\'' +
-           periodCondition(dialect);
+    return roomCondition() + QStringLiteral(" and") + slotCondition(dialect);
 }
 
 QString RoomQuestion::sql(const db::SqlDialect& dialect) const

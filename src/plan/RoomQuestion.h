@@ -32,6 +32,8 @@ struct RoomQuestion {
     [[nodiscard]] QString tableName() const;
     /// The conditions that all questions of a page share; starts with " and".
     [[nodiscard]] QString periodCondition(const db::SqlDialect& dialect) const;
+    /// The conditions on slot and period; starts with a blank.
+    [[nodiscard]] QString slotCondition(const db::SqlDialect& dialect) const;
     /// All conditions, as they stand after "WHERE".
     [[nodiscard]] QString condition(const db::SqlDialect& dialect) const;
     /// The whole statement. No order is asked for: the database's first row decides the box.

@@ -32,11 +32,20 @@ Recordset sqliteAnswer(const QStringList& details)
 
 Recordset mySqlAnswer(const std::vector<QStringList>& lines)
 {
-    return answer({"type", "key", "key_len", "Extra"}, lines);
+    return answer({"type", "possible_keys", "key", "key_len", "Extra"}, lines);
+}
+
+QStringList walksOf(const std::vector<AccessPath>& paths)
+{
+    QStringList walks;
+    for (const AccessPath& path : paths) {
+        walks << path.walk;
+    }
+    return walks;
 }
 
 /// A query of several rows and keys, and one of its cells, on real tables.
-class AccessPath : public ConnectedTest
+class APath : public ConnectedTest
 {
 protected:
     const QString page = "select * from t where a in ('x', 'y') and s in ('1', '2') and p = 3";
@@ -61,10 +70,20 @@ protected:
 TEST(SqliteAccessPaths, nameTheWalkOfEachJoinedQuery)
 {
     const QStringList one{"SEARCH emplois USING INDEX i (Tranche=? AND Seance=?)"};
-    EXPECT_EQ(sqliteAccessPaths(sqliteAnswer(one)), one);
-    EXPECT_EQ(sqliteAccessPaths(sqliteAnswer({"COMPOUND QUERY", "LEFT-MOST SUBQUERY",
-                                              "SCAN emplois", "UNION ALL", "SCAN emplois"})),
-              QStringList({"SCAN emplois", "SCAN emplois"}));
+    const auto single = sqliteAccessPaths(sqliteAnswer(one));
+    ASSERT_TRUE(single);
+    EXPECT_EQ(walksOf(*single), one);
+    const auto joined = sqliteAccessPaths(sqliteAnswer(
+        {"COMPOUND QUERY", "LEFT-MOST SUBQUERY", "SCAN emplois", "UNION ALL", "SCAN emplois"}));
+    ASSERT_TRUE(joined);
+    EXPECT_EQ(walksOf(*joined), QStringList({"SCAN emplois", "SCAN emplois"}));
+}
+
+TEST(SqliteAccessPaths, neverSayThatThereIsNoOtherWay)
+{
+    const auto paths = sqliteAccessPaths(sqliteAnswer({"SCAN emplois"}));
+    ASSERT_TRUE(paths);
+    EXPECT_FALSE(paths->front().isOnlyWay);
 }
 
 TEST(SqliteAccessPaths, areUnknownWhereSeveralIndexesServe)
@@ -77,69 +96,89 @@ TEST(SqliteAccessPaths, areUnknownWhereSeveralIndexesServe)
               std::nullopt);
 }
 
+TEST(SqliteAccessPaths, areUnknownWhereAnIndexHoldsAllThatIsAsked)
+{
+    EXPECT_EQ(sqliteAccessPaths(sqliteAnswer({"SCAN t USING COVERING INDEX i"})), std::nullopt);
+    EXPECT_EQ(sqliteAccessPaths(sqliteAnswer({"SEARCH t USING COVERING INDEX i (Seance=?)"})),
+              std::nullopt);
+}
+
 TEST(MySqlAccessPaths, takeSeveralPointsOfAnIndexForTheWalkOfOne)
 {
-    const auto paths =
-        mySqlAccessPaths(mySqlAnswer({{"range", "i", "408", "Using index condition; Using where"},
-                                      {"ref", "i", "408", "Using where"}}));
+    const auto paths = mySqlAccessPaths(
+        mySqlAnswer({{"range", "i", "i", "408", "Using index condition; Using where"},
+                     {"ref", "i", "i", "408", "Using where"}}));
     ASSERT_TRUE(paths);
-    ASSERT_EQ(paths->size(), 2);
-    EXPECT_EQ(paths->at(0), paths->at(1));
+    EXPECT_EQ(walksOf(*paths), QStringList({"i 408", "i 408"}));
 }
 
 TEST(MySqlAccessPaths, differByIndexAndByHowMuchOfItIsUsed)
 {
-    const auto paths = mySqlAccessPaths(mySqlAnswer({{"ref", "i", "408", "Using where"},
-                                                     {"ref", "i", "5", "Using where"},
-                                                     {"ref", "j", "408", "Using where"},
-                                                     {"ALL", "", "", "Using where"}}));
+    const auto paths = mySqlAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
+                                                     {"ref", "i", "i", "5", "Using where"},
+                                                     {"ref", "j", "j", "408", "Using where"},
+                                                     {"ALL", "", "", "", "Using where"}}));
     ASSERT_TRUE(paths);
-    EXPECT_EQ(QSet<QString>(paths->begin(), paths->end()).size(), 4);
+    EXPECT_EQ(walksOf(*paths), QStringList({"i 408", "i 5", "j 408", "ALL"}));
+}
+
+TEST(MySqlAccessPaths, sayWhetherThereIsAnotherWay)
+{
+    const auto paths = mySqlAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
+                                                     {"ref", "i,j", "i", "408", "Using where"},
+                                                     {"ALL", "", "", "", "Using where"},
+                                                     {"ALL", "i", "", "", "Using where"}}));
+    ASSERT_TRUE(paths);
+    EXPECT_TRUE(paths->at(0).isOnlyWay);
+    EXPECT_FALSE(paths->at(1).isOnlyWay);
+    EXPECT_TRUE(paths->at(2).isOnlyWay);
+    EXPECT_FALSE(paths->at(3).isOnlyWay);
 }
 
 TEST(MySqlAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
 {
-    EXPECT_EQ(
-        mySqlAccessPaths(mySqlAnswer({{"range", "i", "408", "Using where; Rowid-ordered scan"}})),
-        std::nullopt);
-    EXPECT_EQ(mySqlAccessPaths(mySqlAnswer({{"index_merge", "i,j", "403,403", "Using where"}})),
-              std::nullopt);
-    EXPECT_EQ(mySqlAccessPaths(mySqlAnswer({{"ref|filter", "i|j", "5|403", "Using where"}})),
-              std::nullopt);
+    const QList<QStringList> lines = {{"range", "i", "i", "408", "Using where; Rowid-ordered scan"},
+                                      {"index_merge", "i,j", "i,j", "403,403", "Using where"},
+                                      {"ref|filter", "i,j", "i|j", "5|403", "Using where"},
+                                      {"ref", "i", "i", "408", "Using where; Using index"}};
+    for (const QStringList& line : lines) {
+        EXPECT_EQ(mySqlAccessPaths(mySqlAnswer({line})), std::nullopt)
+            << line.join(u' ').toStdString();
+    }
 }
 
-TEST_P(AccessPath, isOneWithoutAnIndex)
+TEST_P(APath, isOneWithoutAnIndex)
 {
     makeTable({});
     const auto paths = connection().accessPaths(page + cell);
     ASSERT_TRUE(paths);
     ASSERT_EQ(paths->size(), 2);
-    EXPECT_EQ(paths->at(0), paths->at(1));
+    EXPECT_EQ(paths->at(0).walk, paths->at(1).walk);
 }
 
-TEST_P(AccessPath, isOneAlongAnIndexOfTheOtherColumns)
+TEST_P(APath, isOneAlongAnIndexOfTheOtherColumns)
 {
     makeTable({"create index i on t (p, s)"});
     const auto paths = connection().accessPaths(page + cell);
     ASSERT_TRUE(paths);
     ASSERT_EQ(paths->size(), 2);
-    EXPECT_EQ(paths->at(0), paths->at(1));
-    EXPECT_TRUE(paths->at(0).contains(QStringLiteral("i")));
+    EXPECT_EQ(paths->at(0).walk, paths->at(1).walk);
+    EXPECT_TRUE(paths->at(0).walk.contains(QStringLiteral("i")));
 }
 
-TEST_P(AccessPath, isAnotherAlongAnotherIndex)
+TEST_P(APath, isAnotherAlongAnotherIndex)
 {
     makeTable({"create index i on t (p, s)"});
     const auto paths = connection().accessPaths("select * from t where p = 3 and s = '1'"
                                                 " union all select * from t where s like 'x%'");
     ASSERT_TRUE(paths);
-    EXPECT_NE(paths->at(0), paths->at(1));
+    EXPECT_NE(paths->at(0).walk, paths->at(1).walk);
 }
 
-TEST_P(AccessPath, needsTheTable)
+TEST_P(APath, needsTheTable)
 {
     EXPECT_THROW(static_cast<void>(connection().accessPaths("select * from nowhere")),
                  runtime::RunTimeError);
 }
 
-TEMPORA_ON_BOTH_DATABASES(AccessPath);
+TEMPORA_ON_BOTH_DATABASES(APath);
