@@ -73,6 +73,28 @@ QStringList RandomTimetable::randomIndexes()
     return statements;
 }
 
+/// Takes a table or a column away. SQLite keeps columns that an index needs.
+QString RandomTimetable::randomLoss(const QStringList& indexes)
+{
+    const auto isIndexed = [&indexes](const QString& table, const QString& column) {
+        return !indexes.filter(u' ' + table + u' ').filter(column).isEmpty();
+    };
+    QStringList losses = {"drop table etudiant", "drop table classe", "drop table abscence",
+                          "drop table etud_abs", "drop table examen"};
+    const std::vector<std::pair<QString, QString>> columns = {{"emplois", "XEnseignant1"},
+                                                              {"emplois", "Matièreb"},
+                                                              {"emplois", "Classe"},
+                                                              {"ratrap", "XSalle"},
+                                                              {"classe", "Capacite"}};
+    for (const auto& [table, column] : columns) {
+        if (!isIndexed(table, column)) {
+            losses << QStringLiteral("alter table ") + table + QStringLiteral(" drop column `") +
+                          column + u'`';
+        }
+    }
+    return anyOf(losses);
+}
+
 RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engine(seed)
 {
     m_rooms = chance(20) ? withManyBefore(oddRooms()) : oddRooms();
@@ -145,17 +167,13 @@ RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engi
                                 text("HeureD", anyOf(starts())),
                                 Field("Jour", chance(80) ? date() : date().addDays(7))});
     }
-    for (const QString& index : randomIndexes()) {
+    const QStringList indexes = randomIndexes();
+    for (const QString& index : indexes) {
         tables.statement(index);
     }
     tables.load();
     if (chance(30)) {
-        tables.statement(anyOf({"alter table emplois drop column `XEnseignant1`",
-                                "alter table emplois drop column `Matièreb`",
-                                "alter table classe drop column `Capacite`", "drop table etudiant",
-                                "drop table classe", "drop table abscence", "drop table etud_abs",
-                                "alter table ratrap drop column `XSalle`",
-                                "alter table emplois drop column `Classe`", "drop table examen"}));
+        tables.statement(randomLoss(indexes));
         tables.load();
     }
 }

@@ -34,6 +34,7 @@ public:
 private:
     [[nodiscard]] QString anyOf(const QStringList& texts);
     [[nodiscard]] QStringList randomIndexes();
+    [[nodiscard]] QString randomLoss(const QStringList& indexes);
 
     std::mt19937 m_engine;
     QStringList m_rooms;
