@@ -23,6 +23,8 @@ constexpr double kHatchStep = 6.5;
 constexpr double kHatchLine = 0.5;
 // From this contrast of text and row on, crosses of the text's colour leave enough of it.
 constexpr double kAmpleContrast = 14;
+// What a screen in a lit room adds to every luminance, as the contrast counts it.
+constexpr double kFlare = 0.05;
 
 QColor toColor(form::Colour color)
 {
@@ -114,14 +116,15 @@ QString SanitizeCellText(const QString& text)
 double contrastRatio(form::Colour first, form::Colour second)
 {
     const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
-    return (lighter + 0.05) / (darker + 0.05);
+    return (lighter + kFlare) / (darker + kFlare);
 }
 
 form::Colour readableOn(form::Colour background)
 {
     constexpr form::Colour black = form::Colour::fromRgb(0, 0, 0);
     constexpr form::Colour white = form::Colour::fromRgb(255, 255, 255);
-    return contrastRatio(background, black) >= contrastRatio(background, white) ? black : white;
+    const double light = luminance(background) + kFlare;
+    return light / kFlare >= (1 + kFlare) / light ? black : white;
 }
 
 QRect boxRectangle(const DrawingTarget& target, double x, double y, double minutes, int rowHeight)
