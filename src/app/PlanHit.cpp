@@ -31,13 +31,14 @@ PlanHit hitPlan(const form::PlanForm& form, const plan::PlanContent& content,
                 const plan::DrawingTarget& target, QPointF point)
 {
     PlanHit found;
+    const plan::OverlayFonts fonts;
     for (const plan::PlanRow& row : content.rows) {
         if (!form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
             continue;
         }
         for (const plan::PlanBox& box : row.boxes) {
-            const auto places =
-                plan::drawnPlaces(form, plan::overlayPlaces(form, target, row.index, box), box);
+            const auto places = plan::drawnPlaces(
+                form, plan::overlayPlaces(form, target, row.index, box, fonts), box);
             const auto part = partAt(places, box.group && form.Check3.isChecked(), point);
             if (part != PlanHit::Part::Nothing) {
                 found = {part, &row, &box}; // boxes drawn later lie over earlier ones

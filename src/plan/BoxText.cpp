@@ -75,10 +75,8 @@ void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
     const auto count = static_cast<double>(setting.lines.size());
     // Lines that do not fit move closer together before they are cut.
     const double step = std::min(height, std::max(area.height() / count, ascent));
+    const GlyphFont& font = ruler.inSize(setting.pixels);
     surface.save();
-    QFont font = ruler.font();
-    font.setPixelSize(setting.pixels);
-    surface.setFont(font);
     if (!setting.fits) { // a clip costs as much as the text
         surface.setClipRect(area.adjusted(-2, -1, 2, 1), Qt::IntersectClip);
     }
@@ -92,7 +90,7 @@ void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
         const double indent = alignment.testFlag(Qt::AlignHCenter) ? left / 2
                               : alignment.testFlag(Qt::AlignRight) ? left
                                                                    : 0;
-        surface.drawText(QPointF(area.left() + indent, top + (step - height) / 2 + ascent), shown);
+        font.draw(surface, {area.left() + indent, top + (step - height) / 2 + ascent}, shown);
         top += step;
     }
     surface.restore();

@@ -1,6 +1,6 @@
 #include "plan/Overlays.h"
 
-#include <QFontMetricsF>
+#include <QFont>
 #include <algorithm>
 
 namespace plan
@@ -30,22 +30,28 @@ bool hides(const QRectF& label, const QRectF& picture)
 
 } // namespace
 
-QFont overlayFont(const QString& text, double width)
+OverlayFonts::OverlayFonts()
 {
     QFont font(QStringLiteral("Arial"));
     font.setBold(true);
     for (int pixels = kOverlayFontPixels; pixels >= kSmallestOverlayFont; --pixels) {
         font.setPixelSize(pixels);
-        if (QFontMetricsF(font).horizontalAdvance(text) + 2 <= width) {
-            return font;
-        }
+        m_fonts.emplace_back(font);
     }
     font.setBold(false);
-    return font;
+    m_fonts.emplace_back(font);
+}
+
+const GlyphFont& OverlayFonts::fitting(const QString& text, double width) const
+{
+    const auto found = std::find_if(m_fonts.begin(), m_fonts.end(), [&](const GlyphFont& font) {
+        return font.width(text) + 2 <= width;
+    });
+    return found != m_fonts.end() ? *found : m_fonts.back();
 }
 
 OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& target, int row,
-                            const PlanBox& box)
+                            const PlanBox& box, const OverlayFonts& fonts)
 {
     const form::Place& room = form.Salle.at(static_cast<std::size_t>(row)).place;
     const int rowHeight = form.Salle.front().place.height;
@@ -60,11 +66,11 @@ OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& tar
     places.XAbs = picture(right - kClassPictureStep * size, size, size);
     places.ZAbs = picture(box.x, box.width, rowHeight);
     if (box.group) {
-        const QFontMetricsF metrics(overlayFont({}, places.ZAbs.width()));
-        const double height = std::min(metrics.height(), places.ZAbs.height());
+        const GlyphFont& font = fonts.fitting({}, places.ZAbs.width());
+        const double height = std::min(font.height(), places.ZAbs.height());
         // No wider than the box: a neighbour's is not theirs to cover.
         const auto widthFor = [&](const QString& text) {
-            return std::clamp(places.ZAbs.width(), 0.0, metrics.horizontalAdvance(text) + 6);
+            return std::clamp(places.ZAbs.width(), 0.0, font.width(text) + 6);
         };
         const double counter = widthFor(box.group->counter);
         const double size2 = widthFor(box.group->sizeLabel);

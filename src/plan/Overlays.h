@@ -2,15 +2,28 @@
 
 #include "form/PlanForm.h"
 #include "plan/DrawingTarget.h"
+#include "plan/GlyphFont.h"
 #include "plan/PlanContent.h"
 
-#include <QFont>
 #include <QMarginsF>
 #include <QRectF>
 #include <QString>
+#include <vector>
 
 namespace plan
 {
+
+/// The fonts of the two small labels over a box.
+class OverlayFonts
+{
+public:
+    OverlayFonts();
+    /// The largest one that the text's width (device pixels) allows, else the smallest.
+    [[nodiscard]] const GlyphFont& fitting(const QString& text, double width) const;
+
+private:
+    std::vector<GlyphFont> m_fonts; ///< from the largest to the smallest
+};
 
 /// Where the small pictures and labels over one box lie, in device pixels of a target.
 struct OverlayPlaces {
@@ -22,9 +35,10 @@ struct OverlayPlaces {
 };
 
 /// `row` is the row of the page the box stands in. The labels have a place whether or not
-/// "S. Groupées" shows them.
+/// "S. Groupées" shows them. Who asks for many boxes makes the fonts once.
 [[nodiscard]] OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& target,
-                                          int row, const PlanBox& box);
+                                          int row, const PlanBox& box,
+                                          const OverlayFonts& fonts = OverlayFonts());
 
 /// The places as they are drawn: where a visible label would hide a picture that is shown, both
 /// pictures stand beside the label instead, moved left by the same way as far as the box reaches.
@@ -35,8 +49,5 @@ struct OverlayPlaces {
 /// those that are drawn.
 [[nodiscard]] QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& places,
                                            const PlanBox& box);
-
-/// The font of the two small labels: as large as the text's width (device pixels) allows.
-[[nodiscard]] QFont overlayFont(const QString& text, double width);
 
 } // namespace plan

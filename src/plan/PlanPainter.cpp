@@ -7,7 +7,6 @@
 #include "plan/PlanGrid.h"
 
 #include <QColor>
-#include <QFontMetricsF>
 #include <algorithm>
 
 namespace plan
@@ -104,8 +103,9 @@ void PlanPainter::paintBoxesOf(const PlanRow& row)
 void PlanPainter::paintBox(const PlanRow& row, const PlanBox& box)
 {
     const form::Place& room = m_scene.form.Salle[static_cast<std::size_t>(row.index)].place;
-    const OverlayPlaces places =
-        drawnPlaces(m_scene.form, overlayPlaces(m_scene.form, m_scene.target, row.index, box), box);
+    const OverlayPlaces places = drawnPlaces(
+        m_scene.form, overlayPlaces(m_scene.form, m_scene.target, row.index, box, m_overlayFonts),
+        box);
     BoxStyle style;
     style.fill = row.color;
     style.hatched = box.makeUp;
@@ -129,21 +129,31 @@ void PlanPainter::paintOverlays(const OverlayPlaces& places, const PlanBox& box)
     if (!box.group || !m_scene.form.Check3.isChecked()) {
         return;
     }
-    m_surface.save();
-    const auto label = [this](const QRectF& place, const QColor& fill, const QString& text) {
-        if (place.isEmpty()) {
-            return; // a séance without a length
-        }
-        m_surface.fillRect(place, fill);
-        m_surface.setPen(Qt::white);
-        m_surface.setFont(overlayFont(text, place.width()));
-        const QFontMetricsF metrics(m_surface.font());
-        m_surface.drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
-                           metrics.elidedText(text, Qt::ElideRight, place.width()));
-    };
-    label(places.Label2, kCounterFill, box.group->counter);
-    label(places.Labelz, box.group->overfull ? kOverfullFill : kCounterFill, box.group->sizeLabel);
-    m_surface.restore();
+    m_surface.setPen(Qt::white);
+    paintOverlayLabel(places.Label2, kCounterFill, box.group->counter);
+    paintOverlayLabel(places.Labelz, box.group->overfull ? kOverfullFill : kCounterFill,
+                      box.group->sizeLabel);
+}
+
+void PlanPainter::paintOverlayLabel(const QRectF& place, const QColor& fill, const QString& text)
+{
+    if (place.isEmpty()) {
+        return; // a séance without a length
+    }
+    const GlyphFont& font = m_overlayFonts.fitting(text, place.width());
+    const QString shown = font.elided(text, place.width());
+    QRectF line(0, 0, font.width(shown), font.height());
+    line.moveCenter(place.center());
+    m_surface.fillRect(place, fill);
+    const bool cut = line.width() > place.width() || line.height() > place.height();
+    if (cut) {
+        m_surface.save();
+        m_surface.setClipRect(place, Qt::IntersectClip);
+    }
+    font.draw(m_surface, {line.left(), line.top() + font.ascent()}, shown);
+    if (cut) {
+        m_surface.restore();
+    }
 }
 
 void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side)

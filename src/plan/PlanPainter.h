@@ -7,6 +7,7 @@
 #include "plan/RoomOccupancy.h"
 #include "plan/TextRuler.h"
 
+#include <QColor>
 #include <QFont>
 #include <QPainter>
 
@@ -47,6 +48,7 @@ public:
 private:
     void paintBox(const PlanRow& row, const PlanBox& box);
     void paintOverlays(const OverlayPlaces& places, const PlanBox& box);
+    void paintOverlayLabel(const QRectF& place, const QColor& fill, const QString& text);
     void paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side);
     [[nodiscard]] static QFont textFont(int pixels, bool bold = false);
     [[nodiscard]] static QFont rowZeroFont();
@@ -56,6 +58,7 @@ private:
     TextRuler m_ruler;
     TextRuler m_labelRuler;
     TextRuler m_rowZeroRuler;
+    OverlayFonts m_overlayFonts;
 };
 
 } // namespace plan

@@ -65,4 +65,15 @@ QString TextRuler::elided(const QString& text, double available) const
     return text.left(kept).trimmed() + u'…';
 }
 
+const GlyphFont& TextRuler::inSize(int pixels) const
+{
+    const auto known = m_sizes.find(pixels);
+    if (known != m_sizes.end()) {
+        return known->second;
+    }
+    QFont font = m_font;
+    font.setPixelSize(pixels);
+    return m_sizes.emplace(pixels, font).first->second;
+}
+
 } // namespace plan

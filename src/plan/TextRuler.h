@@ -1,9 +1,12 @@
 #pragma once
 
+#include "plan/GlyphFont.h"
+
 #include <QFont>
 #include <QHash>
 #include <QString>
 #include <cstddef>
+#include <map>
 #include <vector>
 
 namespace plan
@@ -27,6 +30,8 @@ public:
     [[nodiscard]] double ascent() const { return m_ascent; }
     /// The text, or as much of it as fits the width (at the font's own size) with an ellipsis.
     [[nodiscard]] QString elided(const QString& text, double width) const;
+    /// The font in that size, to draw with; made once.
+    [[nodiscard]] const GlyphFont& inSize(int pixels) const;
 
 private:
     [[nodiscard]] double& other(QChar character) const;
@@ -39,6 +44,7 @@ private:
     static constexpr double kUnknown = -1;
     mutable std::vector<double> m_latin = std::vector<double>(kLatin, kUnknown);
     mutable QHash<QChar, double> m_others;
+    mutable std::map<int, GlyphFont> m_sizes;
 };
 
 } // namespace plan

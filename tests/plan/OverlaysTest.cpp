@@ -40,6 +40,22 @@ protected:
 
 } // namespace
 
+TEST(OverlayFonts, areAsLargeAsTheTextsWidthAllows)
+{
+    const OverlayFonts fonts;
+    const QString text = "Dépassement 195/200";
+    const GlyphFont& largest = fonts.fitting(text, 1000);
+    const double width = largest.width(text) + 2; // a pixel of room at each side
+    EXPECT_EQ(&fonts.fitting(text, width), &largest);
+    EXPECT_EQ(&fonts.fitting({}, 2), &largest);
+    const GlyphFont& smaller = fonts.fitting(text, width - 1);
+    EXPECT_LT(smaller.height(), largest.height());
+    // The smallest one is no longer bold, so it is narrower at the same height.
+    const GlyphFont& smallest = fonts.fitting(text, 10);
+    EXPECT_EQ(smallest.height(), smaller.height());
+    EXPECT_LT(smallest.width(text), smaller.width(text));
+}
+
 TEST_F(Overlays, makeThePicturesAsHighAsALowRow)
 {
     const double top = 713 / 15.0; // 345 + 368 twips
