@@ -76,8 +76,8 @@ void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
     // Lines that do not fit move closer together before they are cut.
     const double step = std::min(height, std::max(area.height() / count, ascent));
     const GlyphFont& font = ruler.inSize(setting.pixels);
-    surface.save();
     if (!setting.fits) { // a clip costs as much as the text
+        surface.save();
         surface.setClipRect(area.adjusted(-2, -1, 2, 1), Qt::IntersectClip);
     }
     double top = area.top();
@@ -93,7 +93,9 @@ void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
         font.draw(surface, {area.left() + indent, top + (step - height) / 2 + ascent}, shown);
         top += step;
     }
-    surface.restore();
+    if (!setting.fits) {
+        surface.restore();
+    }
 }
 
 bool holdsText(const QRectF& area)

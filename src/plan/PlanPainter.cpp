@@ -141,8 +141,13 @@ void PlanPainter::paintOverlayLabel(const QRectF& place, const QColor& fill, con
         return; // a séance without a length
     }
     const GlyphFont& font = m_overlayFonts.fitting(text, place.width());
-    const QString shown = font.elided(text, place.width());
-    QRectF line(0, 0, font.width(shown), font.height());
+    QString shown = text;
+    double width = font.width(text);
+    if (width > place.width()) {
+        shown = font.elided(text, place.width());
+        width = font.width(shown);
+    }
+    QRectF line(0, 0, width, font.height());
     line.moveCenter(place.center());
     m_surface.fillRect(place, fill);
     const bool cut = line.width() > place.width() || line.height() > place.height();
