@@ -21,23 +21,22 @@ bool isPlainWalk(const QString& remarks)
     });
 }
 
-/// The way of one line of MariaDB's answer; nothing when it is of another kind.
-std::optional<AccessPath> mySqlAccessPath(const Row& line)
+/// The walk of one line of MariaDB's answer; empty when it is of another kind. Parts of a table are
+/// walked through one after the other for one point of an index, but side by side for several.
+QString mySqlWalk(const Row& line)
 {
     const QString type = textOf(line, QStringLiteral("type"));
-    const QString key = textOf(line, QStringLiteral("key"));
-    const bool isOnlyWay = textOf(line, QStringLiteral("possible_keys")) == key;
-    if (!isPlainWalk(textOf(line, QStringLiteral("Extra")))) {
-        return std::nullopt;
+    if (!isPlainWalk(textOf(line, QStringLiteral("Extra"))) ||
+        !textOf(line, QStringLiteral("partitions")).isEmpty()) {
+        return {};
     }
     if (type == u"ALL") {
-        return AccessPath{type, isOnlyWay};
+        return type;
     }
     // With "in" the walk is a "range" of several points, with "=" it is a "ref" of one.
-    if (type == u"ref" || type == u"range") {
-        return AccessPath{key + u' ' + textOf(line, QStringLiteral("key_len")), isOnlyWay};
-    }
-    return std::nullopt;
+    return type == u"ref" || type == u"range" ? textOf(line, QStringLiteral("key")) + u' ' +
+                                                    textOf(line, QStringLiteral("key_len"))
+                                              : QString();
 }
 
 } // namespace
@@ -51,7 +50,7 @@ AccessPaths sqliteAccessPaths(const Recordset& explained)
             return std::nullopt;
         }
         if (detail.startsWith(u"SEARCH ") || detail.startsWith(u"SCAN ")) {
-            paths.push_back({detail, false});
+            paths.push_back({{}, detail, false});
         } else if (detail != u"COMPOUND QUERY" && detail != u"LEFT-MOST SUBQUERY" &&
                    detail != u"UNION ALL") {
             return std::nullopt; // rows gathered by several indexes, for one
@@ -64,11 +63,12 @@ AccessPaths mySqlAccessPaths(const Recordset& explained)
 {
     std::vector<AccessPath> paths;
     for (const Row& line : explained.rows()) {
-        const std::optional<AccessPath> path = mySqlAccessPath(line);
-        if (!path) {
-            return std::nullopt;
+        if (textOf(line, QStringLiteral("select_type")) == u"UNION RESULT") {
+            continue; // not a walk through a table
         }
-        paths.push_back(*path);
+        paths.push_back(
+            {textOf(line, QStringLiteral("table")), mySqlWalk(line),
+             textOf(line, QStringLiteral("possible_keys")) == textOf(line, QStringLiteral("key"))});
     }
     return paths;
 }

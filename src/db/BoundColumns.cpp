@@ -2,20 +2,31 @@
 
 namespace db
 {
-
-BoundColumns::BoundColumns(StatementHandle& statement, const std::vector<FieldForm>& forms)
-    : m_statement(statement), m_places(forms.size() * kPlace), m_lengths(forms.size())
+namespace
 {
+
+/// What MariaDB's driver cannot put into UTF-16 it leaves out of a bound place without a word, so
+/// that the text of a row before stays there; and it never takes back that a bit was null.
+bool canBeBound(const FieldForm& form)
+{
+    return form.cType == SQL_C_CHAR || form.cType == SQL_C_BINARY;
+}
+
+} // namespace
+
+// Delegates, so that what was bound is undone when a column is refused.
+BoundColumns::BoundColumns(StatementHandle& statement, const std::vector<FieldForm>& forms)
+    : BoundColumns(statement)
+{
+    m_places.resize(forms.size() * kPlace);
+    m_lengths.resize(forms.size(), kElsewhere);
     for (std::size_t column = 0; column < forms.size(); ++column) {
-        m_room.push_back(kPlace - forms[column].terminator());
-        if (forms[column].cType == SQL_C_BIT) {
-            // MariaDB's driver never takes back that a bit was null in a row before.
-            m_lengths[column] = kElsewhere;
-            continue;
+        m_capacity.push_back(kPlace - forms[column].terminator());
+        if (canBeBound(forms[column])) {
+            m_statement.check(SQLBindCol(m_statement.get(), static_cast<SQLUSMALLINT>(column + 1),
+                                         forms[column].cType, &m_places[column * kPlace],
+                                         static_cast<SQLLEN>(kPlace), &m_lengths[column]));
         }
-        m_statement.check(SQLBindCol(m_statement.get(), static_cast<SQLUSMALLINT>(column + 1),
-                                     forms[column].cType, &m_places[column * kPlace],
-                                     static_cast<SQLLEN>(kPlace), &m_lengths[column]));
     }
 }
 
@@ -31,7 +42,7 @@ bool BoundColumns::take(std::size_t column, FetchedFields& fields) const
         fields.endNull();
         return true;
     }
-    if (length < 0 || static_cast<std::size_t>(length) > m_room[column]) {
+    if (length < 0 || static_cast<std::size_t>(length) > m_capacity[column]) {
         return false;
     }
     fields.append(&m_places[column * kPlace], static_cast<std::size_t>(length));

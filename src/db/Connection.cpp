@@ -64,7 +64,11 @@ public:
         case Product::MySql:
             // In capitals: where "i" and "I" are no pair, as in Turkish, the driver does not know
             // the word in small letters, takes the statement for one without rows and falls over.
-            return mySqlAccessPaths(open(QStringLiteral("EXPLAIN ") + sql));
+            // MySQL tells of partitions unasked, and does not know the word.
+            return mySqlAccessPaths(
+                open((m_connection.isMariaDb() ? QStringLiteral("EXPLAIN PARTITIONS ")
+                                               : QStringLiteral("EXPLAIN ")) +
+                     sql));
         case Product::Other:
             break;
         }

@@ -25,6 +25,8 @@ public:
     void close() { m_connection.reset(); }
 
     [[nodiscard]] const SqlDialect& dialect() const { return m_dialect; }
+    /// Whether the connection is open and its driver the embedded SQLite.
+    [[nodiscard]] bool isEmbedded() const { return m_connection && m_connection->isEmbedded(); }
     /// Error: DatabaseFailure when the connection is not open.
     [[nodiscard]] Connection& Db()
     {

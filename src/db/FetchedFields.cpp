@@ -112,7 +112,7 @@ Value FetchedFields::value(std::size_t row, std::size_t column) const
                                static_cast<qsizetype>(end.position - start));
     const FieldForm& form = m_forms[column];
     if (form.cType == SQL_C_BIT) {
-        return Value(bytes.front() != 0);
+        return Value(!bytes.isEmpty() && bytes.front() != 0);
     }
     return valueOfType(textOf(bytes, form.cType), form.type);
 }

@@ -142,7 +142,9 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
         connect(withLockTimeout(connectString));
     }
     m_textForm = textFormFor(m_product);
-    m_sendsUtf8 = m_product == Product::MySql && asksServerForUtf8();
+    if (m_product == Product::MySql) {
+        askServer();
+    }
     m_rereadsBoundFields = readsBoundFieldsInAnyOrder();
     m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);
     SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
@@ -172,21 +174,26 @@ QString ConnectionHandle::info(SQLUSMALLINT what) const
                : QString();
 }
 
-/// The driver chooses the character set of results when it connects, by its version and options.
-bool ConnectionHandle::asksServerForUtf8() const
+/// The driver chooses the character set of results when it connects, by its version and options;
+/// what it says of the server is its own product's name. Without an answer neither is known.
+void ConnectionHandle::askServer()
 {
-    constexpr std::size_t longestName = 64;
-    std::array<SQLWCHAR, longestName> name{};
+    constexpr std::size_t longestAnswer = 256;
+    std::array<SQLWCHAR, longestAnswer> text{};
     const StatementHandle statement(*this);
-    const QString question = QStringLiteral("select @@character_set_results");
+    const QString question =
+        QStringLiteral("select concat_ws(' ', @@character_set_results, @@version)");
     const bool answered =
         SQL_SUCCEEDED(SQLExecDirectW(statement.get(), wide(question),
                                      static_cast<SQLINTEGER>(question.size()))) &&
         SQL_SUCCEEDED(SQLFetch(statement.get())) &&
-        SQL_SUCCEEDED(SQLGetData(statement.get(), 1, SQL_C_WCHAR, name.data(),
-                                 static_cast<SQLLEN>(name.size() * sizeof(SQLWCHAR)), nullptr));
-    return answered && QString::fromUtf16(reinterpret_cast<const char16_t*>(name.data()))
-                           .startsWith(u"utf8"); // utf8, utf8mb3, utf8mb4
+        SQL_SUCCEEDED(SQLGetData(statement.get(), 1, SQL_C_WCHAR, text.data(),
+                                 static_cast<SQLLEN>(text.size() * sizeof(SQLWCHAR)), nullptr));
+    if (answered) {
+        const QString answer = QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()));
+        m_sendsUtf8 = answer.startsWith(u"utf8"); // utf8, utf8mb3, utf8mb4
+        m_isMariaDb = answer.contains(u"mariadb", Qt::CaseInsensitive);
+    }
 }
 
 bool ConnectionHandle::readsBoundFieldsInAnyOrder() const

@@ -99,6 +99,8 @@ public:
     /// Whether the bytes in which a server sends texts are known to be UTF-8. Its driver spends
     /// most of a fetch on turning them into UTF-16, text by text.
     [[nodiscard]] bool sendsUtf8() const { return m_sendsUtf8; }
+    /// Whether the server is MariaDB and not MySQL, whatever the driver.
+    [[nodiscard]] bool isMariaDb() const { return m_isMariaDb; }
     /// Whether a field that is bound to a place in memory, and was too long for it, can be read
     /// from its beginning, wherever it stands in the row.
     [[nodiscard]] bool rereadsBoundFields() const { return m_rereadsBoundFields; }
@@ -111,7 +113,7 @@ public:
 private:
     void connect(const QString& connectString);
     [[nodiscard]] QString info(SQLUSMALLINT what) const;
-    [[nodiscard]] bool asksServerForUtf8() const;
+    void askServer();
     [[nodiscard]] bool readsBoundFieldsInAnyOrder() const;
 
     QStringList m_passwords;
@@ -119,6 +121,7 @@ private:
     Product m_product = Product::Other;
     TextForm m_textForm = TextForm::Utf16;
     bool m_sendsUtf8 = false;
+    bool m_isMariaDb = false;
     bool m_rereadsBoundFields = false;
     QString m_quote;
 };

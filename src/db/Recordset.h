@@ -25,8 +25,8 @@ public:
     [[nodiscard]] const QStringList& names() const { return m_names; }
 
 private:
-    /// Looks at a name's length and ends alone: a page asks for names thousands of times, and the
-    /// few of a table seldom agree in these.
+    /// Looks at a name's length and ends alone: a page asks for names thousands of times, and to
+    /// hash them whole took a sixteenth of a refresh. The few of a table seldom agree in these.
     struct QuickHash {
         [[nodiscard]] std::size_t operator()(const QString& name) const;
     };

@@ -143,7 +143,7 @@ void ResultReader::readRow(const BoundColumns* bound, FetchedFields& fields)
 /// Reads one field piece by piece, whatever its length.
 void ResultReader::read(SQLUSMALLINT index, const FieldForm& form, FetchedFields& fields)
 {
-    const auto room = static_cast<SQLLEN>(bufferBytes - form.terminator());
+    const auto capacity = static_cast<SQLLEN>(bufferBytes - form.terminator());
     for (bool more = true; more;) {
         SQLLEN length = 0;
         const SQLRETURN result = SQLGetData(m_statement.get(), index, form.cType, m_buffer.data(),
@@ -156,8 +156,8 @@ void ResultReader::read(SQLUSMALLINT index, const FieldForm& form, FetchedFields
             fields.endNull();
             return;
         }
-        more = length == SQL_NO_TOTAL || length > room;
-        fields.append(m_buffer.data(), static_cast<std::size_t>(more ? room : length));
+        more = length == SQL_NO_TOTAL || length > capacity;
+        fields.append(m_buffer.data(), static_cast<std::size_t>(more ? capacity : length));
     }
     fields.end();
 }

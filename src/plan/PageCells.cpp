@@ -97,12 +97,12 @@ QString wholeRows(const RoomQuestion& question)
 /// Cells that several rows answer, and the questions about them.
 struct Crowded {
     std::vector<std::optional<db::Recordset>*> cells;
-    std::vector<RoomQuestion> questions;
+    WalkCheck::TableCells asked;
 };
 
-Crowded crowdedOf(PageCells& cells, RoomQuestion question)
+Crowded crowdedOf(PageCells& cells, RoomQuestion question, const QString& pageCondition)
 {
-    Crowded crowded;
+    Crowded crowded{{}, {pageCondition, {}}};
     for (qsizetype room = 0; room < cells.rooms().size(); ++room) {
         for (qsizetype key = 0; key < cells.keys().size(); ++key) {
             std::optional<db::Recordset>& cell =
@@ -111,7 +111,7 @@ Crowded crowdedOf(PageCells& cells, RoomQuestion question)
                 question.room = cells.rooms()[room];
                 question.seanceKey = cells.keys()[key];
                 crowded.cells.push_back(&cell);
-                crowded.questions.push_back(question);
+                crowded.asked.questions.push_back(question);
             }
         }
     }
@@ -139,18 +139,36 @@ PageCells sortedIntoCells(const db::Recordset& found, const CellMasks& masks,
 
 /// Asks for these cells once more, each in the words of the plain statement, so that their rows
 /// come in that statement's order. Those that cannot be asked for are left out.
-void putInOrder(db::Database& database, const Crowded& crowded)
+void askAgain(db::Database& database, const Crowded& crowded)
 {
-    for (std::optional<db::Recordset>* cell : crowded.cells) {
-        cell->reset();
-    }
     QStringList queries;
-    for (const RoomQuestion& question : crowded.questions) {
+    for (const RoomQuestion& question : crowded.asked.questions) {
         queries << wholeRows(question) + question.condition(database.dialect());
     }
     const std::vector<db::Recordset> found = openJoined(database.Db(), queries);
     for (std::size_t index = 0; index < found.size(); ++index) {
         *crowded.cells[index] = found[index];
+    }
+}
+
+/// Sees to it that the rows of each crowded cell are in order, or the cell is left out.
+void putInOrder(db::Database& database, WalkCheck& walk, const std::vector<Crowded>& tables)
+{
+    std::vector<WalkCheck::TableCells> asked;
+    for (const Crowded& crowded : tables) {
+        asked.push_back(crowded.asked);
+    }
+    const std::vector<WalkCheck::Answer> answers = walk.ask(database, asked);
+    for (std::size_t table = 0; table < tables.size(); ++table) {
+        if (answers[table] == WalkCheck::Answer::SameWalk) {
+            continue;
+        }
+        for (std::optional<db::Recordset>* cell : tables[table].cells) {
+            cell->reset();
+        }
+        if (answers[table] == WalkCheck::Answer::OtherWalk) {
+            runtime::skipOnError([&] { askAgain(database, tables[table]); });
+        }
     }
 }
 
@@ -181,27 +199,33 @@ std::optional<db::Recordset> PageCells::find(const QString& room, const QString&
                                                            static_cast<std::size_t>(keyIndex))];
 }
 
-PageCells fetchPageCells(db::Database& database, WalkCheck& walk, const RoomQuestion& page,
-                         const QStringList& askedRooms, const QStringList& keys)
+std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database, WalkCheck& walk,
+                                                        const std::vector<RoomQuestion>& pages,
+                                                        const QStringList& askedRooms,
+                                                        const QStringList& keys)
 {
     const QStringList rooms = namelessLast(askedRooms);
-    const CellMasks masks(page.table, rooms, keys);
-    const QString condition = u' ' + masks.condition() + page.periodCondition(database.dialect());
-    PageCells cells =
-        sortedIntoCells(database.Db().open(QStringLiteral("Select ") + masks.selectList() +
-                                           QStringLiteral(", ") + wholeRows(page) + condition),
-                        masks, rooms, keys);
-    const Crowded crowded = crowdedOf(cells, page);
-    if (crowded.cells.empty()) {
-        return cells;
+    std::map<RoomQuestion::Table, PageCells> found;
+    std::vector<Crowded> crowded;
+    for (const RoomQuestion& page : pages) {
+        runtime::skipOnError([&] {
+            const CellMasks masks(page.table, rooms, keys);
+            const QString condition =
+                u' ' + masks.condition() + page.periodCondition(database.dialect());
+            const db::Recordset rows =
+                database.Db().open(QStringLiteral("Select ") + masks.selectList() +
+                                   QStringLiteral(", ") + wholeRows(page) + condition);
+            PageCells& cells = found[page.table] = sortedIntoCells(rows, masks, rooms, keys);
+            Crowded ofTable = crowdedOf(cells, page, condition);
+            if (!ofTable.cells.empty()) {
+                crowded.push_back(std::move(ofTable));
+            }
+        });
     }
-    // Make-ups are few: asking for them again costs no more than asking about the way.
-    const bool inOrder = page.table != RoomQuestion::Table::ratrap &&
-                         walk.isSameWalk(database, condition, crowded.questions);
-    if (!inOrder) {
-        putInOrder(database, crowded);
+    if (!crowded.empty()) {
+        putInOrder(database, walk, crowded);
     }
-    return cells;
+    return found;
 }
 
 } // namespace plan

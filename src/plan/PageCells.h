@@ -6,6 +6,7 @@
 
 #include <QStringList>
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -46,17 +47,16 @@ private:
     std::vector<std::optional<db::Recordset>> m_cells;
 };
 
-/// Fetches them with three statements at most, make-ups with two. Rooms and keys
-/// are plain literals, `page` holds what all questions share.
+/// Fetches the rows of a page from several tables: a statement for each, one about all of their
+/// orders, and perhaps another for each. `pages` holds what all questions on a table share; rooms
+/// and keys are plain literals. A table that cannot be asked is left out.
 ///
 /// The database itself says which row answers which question. Where several rows answer one, their
 /// order matters, and none is asked for. The database is then asked how it would walk through the
 /// table for these questions: when that is how it came by the page's rows, they are in order
 /// already; if not, the questions are put once more, each in the plain statement's own words.
-///
-/// Error: any database error.
-[[nodiscard]] PageCells fetchPageCells(db::Database& database, WalkCheck& walk,
-                                       const RoomQuestion& page, const QStringList& rooms,
-                                       const QStringList& keys);
+[[nodiscard]] std::map<RoomQuestion::Table, PageCells>
+fetchPageCells(db::Database& database, WalkCheck& walk, const std::vector<RoomQuestion>& pages,
+               const QStringList& rooms, const QStringList& keys);
 
 } // namespace plan

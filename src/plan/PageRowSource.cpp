@@ -36,6 +36,31 @@ private:
     QStringList m_texts;
 };
 
+/// Names that several groups bear: not every type of column groups by what its values look like.
+QSet<QString> namesOfSeveral(const db::Recordset& groups)
+{
+    QSet<QString> known;
+    QSet<QString> several;
+    for (const db::Row& group : groups.rows()) {
+        const QString name = group.field(0).toText();
+        (known.contains(name) ? several : known).insert(name);
+    }
+    return several;
+}
+
+/// Whether it does not matter which of the rows comes first.
+bool haveOneCapacity(const db::Recordset& rows)
+{
+    bool same = true;
+    runtime::skipOnError([&] { // without the column there is none at all
+        const QString column = QStringLiteral("Capacite");
+        for (const db::Row& row : rows.rows()) {
+            same = same && row.field(column) == rows.first().field(column);
+        }
+    });
+    return same;
+}
+
 /// The wanted names that are not among the answers so far.
 template <typename Answers>
 QStringList unanswered(QStringList wanted, const Answers& answers)
@@ -52,10 +77,7 @@ PageFacts PageRowSource::prepare(const PageQuestions& questions)
     m_cells.clear();
     m_studentRows.clear();
     m_classRows.clear();
-    fetchTimetable(questions.table);
-    if (questions.makeUps) {
-        fetchTimetable(RoomQuestion::Table::ratrap);
-    }
+    fetchTimetable();
     const QStringList classNames = db::plainLiterals(allClasses());
     if (!classNames.isEmpty()) {
         runtime::skipOnError([&] { fetchStudents(classNames); });
@@ -64,16 +86,18 @@ PageFacts PageRowSource::prepare(const PageQuestions& questions)
     return facts();
 }
 
-void PageRowSource::fetchTimetable(RoomQuestion::Table table)
+void PageRowSource::fetchTimetable()
 {
     const QStringList rooms = db::plainLiterals(m_questions.rooms);
     const QStringList keys = db::plainLiterals(m_questions.seanceKeys);
-    if (!rooms.isEmpty() && !keys.isEmpty()) {
-        runtime::skipOnError([&] {
-            m_cells[table] = fetchPageCells(m_database, m_walk, m_questions.question(table, {}, {}),
-                                            rooms, keys);
-        });
+    if (rooms.isEmpty() || keys.isEmpty()) {
+        return;
     }
+    std::vector<RoomQuestion> pages{m_questions.question(m_questions.table, {}, {})};
+    if (m_questions.makeUps) {
+        pages.push_back(m_questions.question(RoomQuestion::Table::ratrap, {}, {}));
+    }
+    m_cells = fetchPageCells(m_database, m_walk, pages, rooms, keys);
 }
 
 void PageRowSource::fetchStudents(const QStringList& classNames)
@@ -88,6 +112,9 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
     rows.reserve(classNames.size());
     for (const db::Row& group : groups.rows()) {
         rows.insert(group.field(0).toText(), group.field(1).toInt32());
+    }
+    for (const QString& name : namesOfSeveral(groups)) {
+        rows.remove(name);
     }
     const QStringList others = unanswered(classNames, rows);
     QStringList statements;
@@ -116,6 +143,9 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
             m_classRows.insert(group.field(0).toText(), db::Recordset(groups.columns(), {group}));
         }
     }
+    for (const QString& name : namesOfSeveral(groups)) {
+        m_classRows.remove(name);
+    }
     const QStringList others = unanswered(classNames, m_classRows);
     QStringList statements;
     for (const QString& name : others) {
@@ -123,7 +153,10 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
     }
     const std::vector<db::Recordset> found = openJoined(m_database.Db(), statements);
     for (std::size_t index = 0; index < found.size(); ++index) {
-        m_classRows.insert(others[static_cast<qsizetype>(index)], found[index]);
+        // A server's view may lose its order among joined questions.
+        if (m_database.isEmbedded() || haveOneCapacity(found[index])) {
+            m_classRows.insert(others[static_cast<qsizetype>(index)], found[index]);
+        }
     }
 }
 

@@ -32,7 +32,7 @@ public:
     [[nodiscard]] db::Recordset classRows(const QString& className) override;
 
 private:
-    void fetchTimetable(RoomQuestion::Table table);
+    void fetchTimetable();
     void fetchStudents(const QStringList& classNames);
     void fetchClasses(const QStringList& classNames);
     [[nodiscard]] QStringList allClasses() const;

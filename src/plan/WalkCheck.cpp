@@ -11,106 +11,104 @@ namespace plan
 namespace
 {
 
-/// How the database would walk for each of the conditions on the table. A column that all of them
-/// name but those of a slot is selected: an index of slots must not seem to hold all that is asked.
-db::AccessPaths pathsOf(db::Connection& connection, const RoomQuestion& page,
-                        const QStringList& conditions)
+QStringList conditionsOfEach(const WalkCheck::TableCells& cells, const db::SqlDialect& dialect)
 {
-    const QString select =
-        QStringLiteral("Select Salle from ") + page.tableName() + QStringLiteral(" WHERE");
-    db::AccessPaths paths;
-    runtime::skipOnError([&] {
-        paths = connection.accessPaths(select +
-                                       conditions.join(QStringLiteral(" union all ") + select));
-    });
-    const bool complete = paths && static_cast<qsizetype>(paths->size()) == conditions.size();
-    return complete ? paths : std::nullopt;
-}
-
-bool areOneWalk(const std::vector<db::AccessPath>& paths)
-{
-    return std::all_of(paths.begin(), paths.end(), [&paths](const db::AccessPath& path) {
-        return path.walk == paths.front().walk;
-    });
-}
-
-/// Rooms that are alike in this differ in plain letters only: their questions are of one form, and
-/// what the table's character set lacks of one name it lacks of the other.
-QString kindOf(const QString& room)
-{
-    if (room.isEmpty()) {
-        return QStringLiteral("-");
+    QStringList conditions{cells.pageCondition};
+    for (const RoomQuestion& question : cells.questions) {
+        conditions << question.condition(dialect);
     }
-    constexpr char16_t firstBeyondAscii = 0x80;
-    std::set<QChar> special;
-    for (const QChar character : room) {
-        if (character >= firstBeyondAscii) {
-            special.insert(character);
+    return conditions;
+}
+
+/// Explaining a hundred questions takes a server as long as answering them. Where it knows one way
+/// only, and walks it for a slot without asking for the room, then the room does not decide the
+/// way: it is enough to ask about each slot, and about each room once.
+QStringList conditionsOfSamples(const WalkCheck::TableCells& cells, const db::SqlDialect& dialect)
+{
+    QStringList conditions{cells.pageCondition};
+    QSet<QString> keysAsked;
+    QSet<QString> roomsAsked;
+    for (const RoomQuestion& question : cells.questions) {
+        if (!keysAsked.contains(question.seanceKey)) {
+            keysAsked.insert(question.seanceKey);
+            conditions << question.slotCondition(dialect);
+        }
+        if (!roomsAsked.contains(question.room)) {
+            roomsAsked.insert(question.room);
+            conditions << question.condition(dialect);
         }
     }
-    QString kind;
-    for (const QChar character : special) {
-        kind += character;
-    }
-    return kind;
+    return conditions;
 }
 
 } // namespace
 
-bool WalkCheck::isSameWalk(db::Database& database, const QString& pageCondition,
-                           const std::vector<RoomQuestion>& cells)
+bool WalkCheck::asksAboutEach(const db::Database& database, const TableCells& cells) const
 {
     // The embedded database does not tell whether there is another way.
-    if (database.Db().isEmbedded() || m_severalWays.contains(cells.front().table)) {
-        return isSameForEach(database, pageCondition, cells);
-    }
-    return isSameForSamples(database, pageCondition, cells);
+    return database.isEmbedded() || m_severalWays.contains(cells.questions.front().table);
 }
 
-bool WalkCheck::isSameForEach(db::Database& database, const QString& pageCondition,
-                              const std::vector<RoomQuestion>& cells) const
+std::vector<WalkCheck::Answer> WalkCheck::ask(db::Database& database,
+                                              const std::vector<TableCells>& tables)
 {
-    if (static_cast<qsizetype>(cells.size()) >= kMostJoined) {
-        return false;
+    const Answer untold = database.isEmbedded() ? Answer::OtherWalk : Answer::Unknown;
+    std::vector<Answer> answers(tables.size(), untold);
+    QStringList queries;
+    std::vector<std::size_t> ends; // of each table's queries
+    for (const TableCells& cells : tables) {
+        // A column is selected that an index of slots does not hold.
+        const QString select = QStringLiteral("Select Salle from ") +
+                               cells.questions.front().tableName() + QStringLiteral(" WHERE");
+        const QStringList conditions = asksAboutEach(database, cells)
+                                           ? conditionsOfEach(cells, database.dialect())
+                                           : conditionsOfSamples(cells, database.dialect());
+        for (const QString& condition : conditions) {
+            queries << select + condition;
+        }
+        ends.push_back(static_cast<std::size_t>(queries.size()));
     }
-    QStringList conditions{pageCondition};
-    for (const RoomQuestion& cell : cells) {
-        conditions << cell.condition(database.dialect());
+    if (queries.size() > kMostJoined) {
+        return answers;
     }
-    const db::AccessPaths paths = pathsOf(database.Db(), cells.front(), conditions);
-    return paths && areOneWalk(*paths);
+    runtime::skipOnError([&] {
+        const db::AccessPaths paths =
+            database.Db().accessPaths(queries.join(QStringLiteral(" union all ")));
+        if (!paths || static_cast<qsizetype>(paths->size()) != queries.size()) {
+            return;
+        }
+        auto path = paths->begin();
+        for (std::size_t table = 0; table < tables.size(); ++table) {
+            const auto end = paths->begin() + static_cast<std::ptrdiff_t>(ends[table]);
+            answers[table] =
+                judge(tables[table], {path, end}, !asksAboutEach(database, tables[table]));
+            path = end;
+        }
+    });
+    return answers;
 }
 
-/// Explaining a hundred questions takes a server as long as answering them. Where it knows one way
-/// only, and walks it for a slot without asking for the room, then the room cannot change the way:
-/// it is enough to ask about each slot, and about one room of each kind.
-bool WalkCheck::isSameForSamples(db::Database& database, const QString& pageCondition,
-                                 const std::vector<RoomQuestion>& cells)
+WalkCheck::Answer WalkCheck::judge(const TableCells& cells,
+                                   const std::vector<db::AccessPath>& paths, bool areSamples)
 {
-    QStringList conditions{pageCondition};
-    QSet<QString> slotsAsked;
-    QSet<QString> kindsAsked;
-    for (const RoomQuestion& cell : cells) {
-        if (!slotsAsked.contains(cell.seanceKey)) {
-            slotsAsked.insert(cell.seanceKey);
-            conditions << cell.slotCondition(database.dialect());
-        }
-        const QString kind = kindOf(cell.room);
-        if (!kindsAsked.contains(kind)) {
-            kindsAsked.insert(kind);
-            conditions << cell.condition(database.dialect());
-        }
+    const RoomQuestion& question = cells.questions.front();
+    const auto all = [&paths](auto holds) {
+        return std::all_of(paths.begin(), paths.end(), holds);
+    };
+    if (!all([&](const db::AccessPath& path) {
+            return path.table.isEmpty() ||
+                   path.table.compare(question.tableName(), Qt::CaseInsensitive) == 0;
+        })) {
+        return Answer::Unknown;
     }
-    const db::AccessPaths paths = pathsOf(database.Db(), cells.front(), conditions);
-    if (!paths) {
-        return false;
+    if (areSamples && !all([](const db::AccessPath& path) { return path.isOnlyWay; })) {
+        m_severalWays.insert(question.table);
+        return Answer::OtherWalk;
     }
-    const bool oneWay = std::all_of(paths->begin(), paths->end(),
-                                    [](const db::AccessPath& path) { return path.isOnlyWay; });
-    if (!oneWay) {
-        m_severalWays.insert(cells.front().table); // from the next page on each cell is asked about
-    }
-    return oneWay && areOneWalk(*paths);
+    const QString& walk = paths.front().walk;
+    const bool same =
+        !walk.isEmpty() && all([&](const db::AccessPath& path) { return path.walk == walk; });
+    return same ? Answer::SameWalk : Answer::OtherWalk;
 }
 
 } // namespace plan

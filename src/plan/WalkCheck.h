@@ -16,17 +16,28 @@ namespace plan
 class WalkCheck
 {
 public:
-    /// Whether that holds for all of these cells, which share their table and period.
-    /// `pageCondition` stands after "WHERE" in the page's query. Sends one statement at most; what
-    /// cannot be found out does not hold.
-    [[nodiscard]] bool isSameWalk(db::Database& database, const QString& pageCondition,
-                                  const std::vector<RoomQuestion>& cells);
+    /// Cells that the page's query on one table has brought rows for.
+    struct TableCells {
+        QString pageCondition;               ///< of that query, as it stands after "WHERE"
+        std::vector<RoomQuestion> questions; ///< at least one; they share table and period
+    };
+
+    enum class Answer {
+        SameWalk,  ///< for all of the cells
+        OtherWalk, ///< for some of them, or perhaps so
+        Unknown,   ///< What is asked may be a view, which can have an order of its own.
+    };
+
+    /// An answer for each table, by one statement. Of a table for which a server knows several ways
+    /// it finds out only that the first time, and answers OtherWalk; from then on it asks about
+    /// each cell of that table.
+    [[nodiscard]] std::vector<Answer> ask(db::Database& database,
+                                          const std::vector<TableCells>& tables);
 
 private:
-    [[nodiscard]] bool isSameForEach(db::Database& database, const QString& pageCondition,
-                                     const std::vector<RoomQuestion>& cells) const;
-    [[nodiscard]] bool isSameForSamples(db::Database& database, const QString& pageCondition,
-                                        const std::vector<RoomQuestion>& cells);
+    [[nodiscard]] bool asksAboutEach(const db::Database& database, const TableCells& cells) const;
+    [[nodiscard]] Answer judge(const TableCells& cells, const std::vector<db::AccessPath>& paths,
+                               bool areSamples);
 
     /// Tables with more than one index that a cell could be looked up by.
     std::set<RoomQuestion::Table> m_severalWays;

@@ -30,9 +30,16 @@ Recordset sqliteAnswer(const QStringList& details)
     return answer({"detail"}, lines);
 }
 
+/// Each line tells type, possible keys, key, its length and remarks; about an undivided table.
 Recordset mySqlAnswer(const std::vector<QStringList>& lines)
 {
-    return answer({"type", "possible_keys", "key", "key_len", "Extra"}, lines);
+    std::vector<QStringList> whole;
+    for (const QStringList& line : lines) {
+        whole.push_back(QStringList{"SIMPLE", "emplois", ""} + line);
+    }
+    return answer(
+        {"select_type", "table", "partitions", "type", "possible_keys", "key", "key_len", "Extra"},
+        whole);
 }
 
 QStringList walksOf(const std::vector<AccessPath>& paths)
@@ -137,14 +144,32 @@ TEST(MySqlAccessPaths, sayWhetherThereIsAnotherWay)
 
 TEST(MySqlAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
 {
-    const QList<QStringList> lines = {{"range", "i", "i", "408", "Using where; Rowid-ordered scan"},
+    const auto paths =
+        mySqlAccessPaths(mySqlAnswer({{"range", "i", "i", "408", "Using where; Rowid-ordered scan"},
                                       {"index_merge", "i,j", "i,j", "403,403", "Using where"},
                                       {"ref|filter", "i,j", "i|j", "5|403", "Using where"},
-                                      {"ref", "i", "i", "408", "Using where; Using index"}};
-    for (const QStringList& line : lines) {
-        EXPECT_EQ(mySqlAccessPaths(mySqlAnswer({line})), std::nullopt)
-            << line.join(u' ').toStdString();
-    }
+                                      {"ref", "i", "i", "408", "Using where; Using index"}}));
+    ASSERT_TRUE(paths);
+    EXPECT_EQ(walksOf(*paths), QStringList({"", "", "", ""}));
+}
+
+TEST(MySqlAccessPaths, areUnknownOnATableInParts)
+{
+    const auto paths = mySqlAccessPaths(answer(
+        {"select_type", "table", "partitions", "type", "possible_keys", "key", "key_len", "Extra"},
+        {{"SIMPLE", "emplois", "p0,p1", "ref", "i", "i", "408", "Using where"}}));
+    ASSERT_TRUE(paths);
+    EXPECT_EQ(walksOf(*paths), QStringList({""}));
+}
+
+TEST(MySqlAccessPaths, nameTheTableAndPassOverTheUnionItself)
+{
+    const auto paths = mySqlAccessPaths(answer(
+        {"select_type", "table", "partitions", "type", "possible_keys", "key", "key_len", "Extra"},
+        {{"PRIMARY", "courses", "", "ALL", "", "", "", "Using where"},
+         {"UNION RESULT", "<union1,2>", "", "ALL", "", "", "", ""}}));
+    ASSERT_TRUE(paths);
+    EXPECT_EQ(*paths, (std::vector<AccessPath>{{"courses", "ALL", true}}));
 }
 
 TEST_P(APath, isOneWithoutAnIndex)

@@ -137,6 +137,27 @@ TEST_P(Reading, readsEveryRowOfAResultAlike)
     }
 }
 
+TEST_P(Reading, neverTakesTheTextOfAnotherRowForBytesThatAreNone)
+{
+    QStringList statements{QStringLiteral("create table t (n integer, a varbinary(20))")};
+    for (int row = 0; row < 8; ++row) {
+        statements << QStringLiteral("insert into t values (%1, '%2')").arg(row).arg(row + 1000);
+    }
+    statements << QStringLiteral("insert into t values (8, x'41e942')"); // no UTF-8
+    database().execute(statements);
+    // What cannot be read is refused by the server's driver; SQLite's gives what there is.
+    try {
+        const Recordset rows = connection().open(QStringLiteral("select a from t order by n"));
+        ASSERT_EQ(rows.recordCount(), 9);
+        EXPECT_EQ(rows.rows()[7].field(0), text("1007"));
+        EXPECT_NE(rows.rows()[8].field(0), text("1007"));
+        EXPECT_FALSE(database().usesMySql());
+    } catch (const runtime::RunTimeError& error) {
+        EXPECT_TRUE(database().usesMySql());
+        EXPECT_EQ(error.number(), ErrorNumber::StatementRefused);
+    }
+}
+
 TEST_P(Reading, findsNoTraceOfTheRowBeforeInANull)
 {
     QStringList statements{QStringLiteral("create table t (n integer, a text, b integer, c double, "

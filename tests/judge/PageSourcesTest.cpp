@@ -184,6 +184,46 @@ TEST_P(PageSources, answerEveryCellAsThePlainOnesDo)
     EXPECT_GT(absent, 0);
 }
 
+TEST_P(PageSources, leaveViewsTheirOwnOrder)
+{
+    RandomTimetable random(database(), 7);
+    database().execute({"alter table emplois rename to courses",
+                        "create view emplois as select * from courses order by Classe",
+                        "alter table ratrap rename to additions",
+                        "create view ratrap as select * from additions order by Classe desc",
+                        "alter table classe rename to groupes",
+                        "create view classe as select * from groupes order by Capacite desc"});
+    Way plain(database(), m_form, m_layout, m_names, false);
+    Way ahead(database(), m_form, m_layout, m_names, true);
+    for (int page = 0; page < 8 && !HasFailure(); ++page) {
+        choose(random);
+        comparePage(plain, ahead, random, QString::number(1 + page % 2));
+    }
+    EXPECT_GT(occupied, 50);
+}
+
+TEST_P(PageSources, countStudentsOfAClassThatIsOneOfAList)
+{
+    if (!database().usesMySql()) {
+        GTEST_SKIP() << "SQLite has no such columns";
+    }
+    RandomTimetable random(database(), 7);
+    database().execute({"drop table etudiant",
+                        "create table etudiant (Nom varchar(20), classe enum('', 'L1', 'L2'))",
+                        "insert into etudiant values ('a', 'L1'), ('b', 'L2'), ('c', ''), "
+                        "('d', 'L1'), ('e', '')",
+                        // a value that is not of the list is kept as another empty text
+                        "set sql_mode=''; insert into etudiant values ('f', 'L9'), ('g', 'L9')",
+                        "update emplois set Classe = case when Tranche = 1 then 'L1' else '' end"});
+    Way plain(database(), m_form, m_layout, m_names, false);
+    Way ahead(database(), m_form, m_layout, m_names, true);
+    for (int page = 0; page < 6 && !HasFailure(); ++page) {
+        choose(random);
+        comparePage(plain, ahead, random, QString::number(1 + page % 2));
+    }
+    EXPECT_GT(occupied, 30);
+}
+
 TEST_P(PageSources, needAtMostTenStatementsAPage)
 {
     RandomTimetable random(database(), 7);

@@ -11,8 +11,9 @@ namespace
 class TheWalk : public test::OnBothDatabases
 {
 protected:
-    /// A timetable with these indexes, large enough for one to be worth its while.
-    void make(const QStringList& indexes)
+    /// A timetable with these indexes and other changes, large enough for an index to be worth its
+    /// while.
+    void make(const QStringList& changes)
     {
         QStringList statements{
             "create table emplois (Salle varchar(20), XSalle varchar(20), YSalle varchar(20), "
@@ -26,7 +27,7 @@ protected:
                               .arg(row % 5)
                               .arg(row);
         }
-        database().execute(statements + indexes);
+        database().execute(statements + changes);
         m_database.open(database().connectString());
     }
 
@@ -40,12 +41,17 @@ protected:
     }
 
     /// Whether the cells come the way of the page that asks about all of them.
-    [[nodiscard]] bool isSame(const std::vector<RoomQuestion>& cells)
+    [[nodiscard]] WalkCheck::Answer answer()
     {
-        return m_walk.isSameWalk(m_database,
-                                 " (Salle in ('R1','R2','Amphi é') or XSalle in ('R1','R2','Amphi "
-                                 "é')) and Seance in ('Lundi1','Lundi2') and Tranche =3",
-                                 cells);
+        const QString page =
+            " (Salle in ('R1','R2','Amphi é') or XSalle in ('R1','R2','Amphi é')) and Seance in "
+            "('Lundi1','Lundi2') and Tranche =3";
+        return ask({{page, m_cells}}).front();
+    }
+    [[nodiscard]] std::vector<WalkCheck::Answer>
+    ask(const std::vector<WalkCheck::TableCells>& tables)
+    {
+        return m_walk.ask(m_database, tables);
     }
 
     [[nodiscard]] long long statements() { return m_database.Db().statementCount(); }
@@ -64,20 +70,20 @@ private:
 TEST_P(TheWalk, isTheSameThroughTheWholeTable)
 {
     make({});
-    EXPECT_TRUE(isSame(m_cells));
+    EXPECT_EQ(answer(), WalkCheck::Answer::SameWalk);
 }
 
 TEST_P(TheWalk, isTheSameAlongTheSlots)
 {
     make({"create index i on emplois (Tranche, Seance)"});
-    EXPECT_TRUE(isSame(m_cells));
+    EXPECT_EQ(answer(), WalkCheck::Answer::SameWalk);
 }
 
 TEST_P(TheWalk, takesOneStatementToCheck)
 {
     make({"create index i on emplois (Tranche, Seance)"});
     const long long before = statements();
-    EXPECT_TRUE(isSame(m_cells));
+    EXPECT_EQ(answer(), WalkCheck::Answer::SameWalk);
     EXPECT_EQ(statements(), before + 1);
 }
 
@@ -85,24 +91,62 @@ TEST_P(TheWalk, isUnknownWhereAnIndexHoldsAllThatTheQuestionsName)
 {
     make({"create index i on emplois (Tranche, Seance, Salle, XSalle, YSalle, SalleB, XSalleB, "
           "YSalleB)"});
-    EXPECT_FALSE(isSame(m_cells));
+    EXPECT_EQ(answer(), WalkCheck::Answer::OtherWalk);
 }
 
 TEST_P(TheWalk, isUnknownWithoutTheTable)
 {
     make({"drop table emplois"});
-    EXPECT_FALSE(isSame(m_cells));
+    EXPECT_NE(answer(), WalkCheck::Answer::SameWalk);
 }
 
 TEST_P(TheWalk, isFoundOutCellByCellWhereThereAreSeveralWays)
 {
     make({"create index i on emplois (Tranche, Seance)", "create index j on emplois (Seance)"});
     // A server is asked about samples first, and tells that these are not enough.
-    const bool first = isSame(m_cells);
-    EXPECT_EQ(first, !database().usesMySql());
+    EXPECT_EQ(answer(),
+              database().usesMySql() ? WalkCheck::Answer::OtherWalk : WalkCheck::Answer::SameWalk);
     const long long before = statements();
-    EXPECT_TRUE(isSame(m_cells));
+    EXPECT_EQ(answer(), WalkCheck::Answer::SameWalk);
     EXPECT_EQ(statements(), before + 1);
+}
+
+TEST_P(TheWalk, isAskedAboutForAllTablesAtOnce)
+{
+    make({"create index i on emplois (Tranche, Seance)"});
+    std::vector<RoomQuestion> exams = m_cells;
+    for (RoomQuestion& question : exams) {
+        question.examWeek = "1";
+        question.table = RoomQuestion::Table::examen; // a table that is not there
+    }
+    const QString page = " Salle in ('R1','R2') and Seance in ('Lundi1') and Tranche =3";
+    const auto without = ask({{page, m_cells}, {page, exams}});
+    EXPECT_NE(without[0], WalkCheck::Answer::SameWalk);
+    EXPECT_NE(without[1], WalkCheck::Answer::SameWalk);
+    database().execute(QStringLiteral("create table examen as select emplois.*, 1 as Semaine from "
+                                      "emplois"));
+    const long long before = statements();
+    EXPECT_EQ(ask({{page, m_cells}, {page, exams}}), std::vector(2, WalkCheck::Answer::SameWalk));
+    EXPECT_EQ(statements(), before + 1);
+}
+
+TEST_P(TheWalk, throughAViewIsNotTrusted)
+{
+    make({"alter table emplois rename to courses",
+          "create view emplois as select * from courses order by Classe"});
+    // SQLite tells that it sorts.
+    EXPECT_EQ(answer(),
+              database().usesMySql() ? WalkCheck::Answer::Unknown : WalkCheck::Answer::OtherWalk);
+}
+
+TEST_P(TheWalk, throughTheIndexOfATableInPartsIsNotTrusted)
+{
+    if (!database().usesMySql()) {
+        GTEST_SKIP() << "SQLite has no tables in parts";
+    }
+    make({"create index i on emplois (Tranche, Seance)",
+          "alter table emplois partition by key (Classe) partitions 3"});
+    EXPECT_EQ(answer(), WalkCheck::Answer::OtherWalk);
 }
 
 TEMPORA_ON_BOTH_DATABASES(TheWalk);
