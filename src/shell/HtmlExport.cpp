@@ -3,120 +3,27 @@
 #include "plan/BoxText.h"
 #include "plan/CellBox.h"
 #include "print/Heading.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TimeOfDay.h"
+#include "shell/BoxWords.h"
 #include "shell/HtmlText.h"
+#include "shell/SlotColumns.h"
 
-#include <set>
+#include <algorithm>
 
 namespace shell
 {
 namespace
 {
 
-constexpr int kSecondsPerMinute = 60;
-
-/// The table's columns: the day's slots, and those that a box stands in although the day does not
-/// have them.
-std::vector<int> slotColumns(const Shell& shell, const std::vector<plan::PlanPage>& pages)
-{
-    std::set<int> columns;
-    for (int number = 1; number <= form::PlanForm::kSlotLabels; ++number) {
-        if (shell.slots().slot(number)) {
-            columns.insert(number);
-        }
-    }
-    for (const plan::PlanPage& page : pages) {
-        for (const plan::PlanRow& row : page.content.rows) {
-            for (const plan::PlanBox& box : row.boxes) {
-                columns.insert(box.slot);
-            }
-        }
-    }
-    return {columns.begin(), columns.end()};
-}
-
 QString stretchText(const QString& start, int minutes)
 {
-    QString text = start;
-    runtime::skipOnError([&] {
-        const int end = runtime::secondsOfDay(runtime::normaliseTimeText(start)) / 60 + minutes;
-        text += QStringLiteral("–%1h%2").arg(end / 60).arg(end % 60, 2, 10, QLatin1Char('0'));
-    });
-    return text;
-}
-
-const plan::PlanBox* boxAt(const plan::PlanRow& row, int slot)
-{
-    for (const plan::PlanBox& box : row.boxes) {
-        if (box.slot == slot) {
-            return &box;
-        }
-    }
-    return nullptr;
-}
-
-/// How many columns a box covers: its own and those that it reaches into, as long as they are free.
-std::size_t columnsOf(const Shell& shell, const plan::PlanRow& row, const plan::PlanBox& box,
-                      const std::vector<int>& columns, std::size_t column)
-{
-    std::size_t count = 1;
-    runtime::skipOnError([&] {
-        const int end = runtime::secondsOfDay(runtime::normaliseTimeText(box.cell.CellStart)) +
-                        box.minutes * kSecondsPerMinute;
-        while (column + count < columns.size()) {
-            const int next = columns[column + count];
-            const auto& slot = shell.slots().slot(next);
-            if (!slot || slot->startSeconds >= end || boxAt(row, next) != nullptr) {
-                break;
-            }
-            ++count;
-        }
-    });
-    return count;
+    const QString end = endText(start, minutes);
+    return end.isEmpty() ? start : start + u'–' + end;
 }
 
 QString paragraph(const QString& cssClass, const QString& text)
 {
     return QStringLiteral("<div class=\"") + cssClass + QStringLiteral("\">") + escaped(text) +
            QStringLiteral("</div>");
-}
-
-/// What the group counter stands for: on the screen a click tells the classes. No line ends within
-/// a class's name.
-QString groupText(const plan::PlanBox& box)
-{
-    QStringList parts;
-    if (box.cell.CellRowCount != 1) {
-        QString classes = box.cell.CellClassList;
-        QStringList names = plan::writtenLines(classes.replace(u'\t', u'\n'));
-        names.replaceInStrings(QStringLiteral(" "), QString(QChar::Nbsp));
-        parts << box.group->counter + QStringLiteral(" groupes : ") +
-                     names.join(QStringLiteral(", "));
-    }
-    if (!box.group->overfull) {
-        parts << box.group->sizeLabel + QStringLiteral("\u00a0étudiants");
-    }
-    return print::joined(parts);
-}
-
-/// What the screen says by colour, hatching and pictures.
-QStringList remarks(const form::PlanForm& form, const plan::PlanBox& box)
-{
-    QStringList words;
-    if (box.makeUp) {
-        words << QStringLiteral("Rattrapage");
-    }
-    if (box.group && box.group->overfull && form.Check3.isChecked()) {
-        words << box.group->sizeLabel;
-    }
-    if (box.classAbsent) {
-        words << QStringLiteral("Classe absente");
-    }
-    if (box.studentAbsent) {
-        words << QStringLiteral("Étudiants absents");
-    }
-    return words;
 }
 
 /// `columnTime` heads the box's column: a box of the same time need not repeat it.
@@ -130,10 +37,11 @@ QString boxHtml(const form::PlanForm& form, const plan::PlanBox& box, const QStr
     for (const QString& line : plan::writtenLines(plan::SanitizeCellText(box.cell.CellText))) {
         html += QStringLiteral("<div>") + escaped(line) + QStringLiteral("</div>");
     }
-    if (box.group && form.Check3.isChecked()) {
-        html += paragraph(QStringLiteral("note"), groupText(box));
+    const QString group = print::joined(groupWords(form, box));
+    if (!group.isEmpty()) {
+        html += paragraph(QStringLiteral("note"), group);
     }
-    for (const QString& remark : remarks(form, box)) {
+    for (const QString& remark : remarkWords(form, box)) {
         html += paragraph(QStringLiteral("remark"), remark);
     }
     return html;
@@ -158,7 +66,7 @@ QString rowHtml(const Shell& shell, const plan::PlanRow& row, const std::vector<
             ++column;
             continue;
         }
-        const std::size_t count = columnsOf(shell, row, *box, columns, column);
+        const std::size_t count = columnsOf(shell.slots(), row, *box, columns, column);
         const QString span = count > 1 ? QStringLiteral(" colspan=\"%1\"").arg(count) : QString();
         html += QStringLiteral("<td class=\"%1\"%2>%3</td>")
                     .arg(box->makeUp ? QStringLiteral("box makeup") : QStringLiteral("box"), span,
@@ -199,7 +107,11 @@ QString totalsRow(const plan::PlanPage& page, const std::vector<int>& columns)
 QString tableHtml(const Shell& shell, const std::vector<plan::PlanPage>& pages,
                   const QString& title)
 {
-    const std::vector<int> columns = slotColumns(shell, pages);
+    std::vector<std::reference_wrapper<const plan::PlanContent>> contents;
+    for (const plan::PlanPage& page : pages) {
+        contents.emplace_back(page.content);
+    }
+    const std::vector<int> columns = slotColumns(shell.slots(), contents);
     QString rows;
     for (const plan::PlanPage& page : pages) {
         for (const plan::PlanRow& row : page.content.rows) {
