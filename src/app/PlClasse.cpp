@@ -47,7 +47,12 @@ PlClasse::PlClasse(shell::Settings settings, shell::Environment environment)
     buildStatusBar();
 }
 
-PlClasse::~PlClasse() = default;
+PlClasse::~PlClasse()
+{
+    // While a widget goes, a screen reader may still be told of it: the plan must be there to ask.
+    m_closed = true;
+    const std::unique_ptr<QWidget> content(takeCentralWidget());
+}
 
 shell::Environment PlClasse::tieToWindow(shell::Environment environment)
 {

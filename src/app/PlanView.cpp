@@ -1,6 +1,7 @@
 #include "app/PlanView.h"
 
 #include "absences/MarkerToolTips.h"
+#include "app/PlanAccess.h"
 #include "app/PlanHit.h"
 #include "app/ViewScale.h"
 #include "shell/Shell.h"
@@ -43,10 +44,10 @@ PlanView::PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick
     : m_shell(shell), m_forward(std::move(forward)), m_markerClick(std::move(markerClick))
 {
     setObjectName(QStringLiteral("PlanView"));
-    setAccessibleName(QStringLiteral("Plan des salles"));
     setFrameShape(QFrame::NoFrame);
     viewport()->setMouseTracking(true);
     setMinimumHeight(160);
+    offerPlanToScreenReaders();
 }
 
 plan::PlanScene PlanView::scene() const
@@ -111,7 +112,7 @@ void PlanView::showProgress()
         return;
     }
     if (rows.size() == 1) {
-        showAll(); // what the plan showed before goes as a whole: no row of another day stays
+        drawAll(); // what the plan showed before goes as a whole: no row of another day stays
         return;
     }
     m_picture.drawLastRow(scene());
@@ -124,6 +125,12 @@ void PlanView::showProgress()
 }
 
 void PlanView::showAll()
+{
+    drawAll();
+    tellScreenReaders(*this);
+}
+
+void PlanView::drawAll()
 {
     const int rows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
     if (rows != m_lastRows || m_shell.form().Salle.front().place.height != m_lastRowHeight ||
@@ -263,6 +270,35 @@ QString PlanView::toolTipAt(QPoint point) const
     }
     return boxToolTip(*hit.row, *hit.box) + QStringLiteral("\n\n") +
            absences::ZAbsToolTip(*hit.box, day());
+}
+
+QRect PlanView::inViewport(const PlanTable::Cell& cell) const
+{
+    const QPointF scrolled(cell.column == 0 ? 0 : horizontalScrollBar()->value(),
+                           verticalScrollBar()->value());
+    return table().placeOf(cell).translated(-scrolled).toRect();
+}
+
+QRect PlanView::onScreen(const PlanTable::Cell& cell) const
+{
+    const QRect place = inViewport(cell);
+    return place.isNull() ? QRect() : QRect(viewport()->mapToGlobal(place.topLeft()), place.size());
+}
+
+bool PlanView::isInSight(const PlanTable::Cell& cell) const
+{
+    const Bands view = bands();
+    return (cell.column == 0 ? view.names : view.boxes).intersects(inViewport(cell));
+}
+
+std::optional<PlanTable::Cell> PlanView::cellUnder(QPoint screenPoint) const
+{
+    const QPoint point = viewport()->mapFromGlobal(screenPoint);
+    const Bands view = bands();
+    if (view.names.contains(point) || view.places.contains(point)) {
+        return table().roomAtHeight(toPlan(point).y());
+    }
+    return view.boxes.contains(point) ? table().cellUnder(toPlan(point)) : std::nullopt;
 }
 
 bool PlanView::viewportEvent(QEvent* event)

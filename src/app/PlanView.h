@@ -1,10 +1,12 @@
 #pragma once
 
 #include "app/PlanPicture.h"
+#include "app/PlanTable.h"
 #include "plan/PlanPainter.h"
 
 #include <QAbstractScrollArea>
 #include <functional>
+#include <optional>
 
 namespace shell
 {
@@ -30,7 +32,7 @@ public:
     void fit();
     /// Repaints what a refresh has drawn since the last call.
     void showProgress();
-    /// Repaints everything.
+    /// Repaints everything and tells screen readers what has changed.
     void showAll();
 
     /// The target that the view draws with.
@@ -39,6 +41,15 @@ public:
     [[nodiscard]] QPointF toViewport(QPointF planPoint) const;
     /// The tooltip at a point of the viewport; empty where there is none.
     [[nodiscard]] QString toolTipAt(QPoint point) const;
+
+    /// The plan in words, to be asked at once and not kept.
+    [[nodiscard]] PlanTable table() const { return {m_shell, m_target}; }
+    /// Where a cell of the table lies on the screen, also one that is scrolled out of sight.
+    [[nodiscard]] QRect onScreen(const PlanTable::Cell& cell) const;
+    /// Whether some of the cell is scrolled into view.
+    [[nodiscard]] bool isInSight(const PlanTable::Cell& cell) const;
+    /// What the view shows at a point of the screen: over the names and places it is the room.
+    [[nodiscard]] std::optional<PlanTable::Cell> cellUnder(QPoint screenPoint) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -66,6 +77,9 @@ private:
     void updateScrollBars();
     [[nodiscard]] QSize planSize() const;
     void drawPicture();
+    void drawAll();
+    /// Where a cell lies in the viewport; the rooms' names stay when the boxes scroll sideways.
+    [[nodiscard]] QRect inViewport(const PlanTable::Cell& cell) const;
     /// The tooltip of a row's name and places, `y` in twips of the plan.
     [[nodiscard]] QString rowToolTip(double y) const;
 

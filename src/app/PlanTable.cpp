@@ -1,0 +1,222 @@
+#include "app/PlanTable.h"
+
+#include "app/PlanHit.h"
+#include "plan/BoxText.h"
+#include "plan/CellBox.h"
+#include "plan/Overlays.h"
+#include "print/Heading.h"
+#include "runtime/FrenchDate.h"
+#include "shell/BoxWords.h"
+#include "shell/Shell.h"
+#include "shell/SlotColumns.h"
+
+#include <algorithm>
+
+namespace app
+{
+namespace
+{
+
+/// Read aloud: a dash between two times would be swallowed.
+QString timeWords(const QString& start, int minutes)
+{
+    const QString end = shell::endText(start, minutes);
+    return end.isEmpty() ? start : start + QStringLiteral(" à ") + end;
+}
+
+/// Like what is drawn, in one line.
+QString inOneLine(QStringList parts)
+{
+    for (QString& part : parts) {
+        part = part.simplified();
+    }
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+PlanTable::PlanTable(const shell::Shell& shell, const plan::DrawingTarget& target)
+    : m_shell(shell), m_target(target),
+      m_slots(shell::slotColumns(shell.slots(), {shell.refresh().content()}))
+{
+    for (const plan::PlanRow& row : shell.refresh().content().rows) {
+        if (shell.form().Salle.at(static_cast<std::size_t>(row.index)).visible) {
+            m_rows.push_back(&row);
+        }
+    }
+}
+
+const plan::PlanRow& PlanTable::rowOf(const Cell& cell) const
+{
+    return *m_rows.at(static_cast<std::size_t>(cell.row));
+}
+
+int PlanTable::slotOf(const Cell& cell) const
+{
+    return m_slots.at(static_cast<std::size_t>(cell.column - 1));
+}
+
+const plan::PlanBox* PlanTable::boxOf(const Cell& cell) const
+{
+    return cell.column == 0 ? nullptr : shell::boxAt(rowOf(cell), slotOf(cell));
+}
+
+std::vector<PlanTable::Cell> PlanTable::cellsOf(int row) const
+{
+    std::vector<Cell> cells{{row, 0, 1}};
+    while (cells.back().column + cells.back().span < columnCount()) {
+        Cell cell{row, cells.back().column + cells.back().span, 1};
+        if (const plan::PlanBox* box = boxOf(cell)) {
+            cell.span =
+                static_cast<int>(shell::columnsOf(m_shell.slots(), rowOf(cell), *box, m_slots,
+                                                  static_cast<std::size_t>(cell.column - 1)));
+        }
+        cells.push_back(cell);
+    }
+    return cells;
+}
+
+std::optional<PlanTable::Cell> PlanTable::cellAt(int row, int column) const
+{
+    if (row < 0 || row >= rowCount()) {
+        return std::nullopt;
+    }
+    for (const Cell& cell : cellsOf(row)) {
+        if (column >= cell.column && column < cell.column + cell.span) {
+            return cell;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PlanTable::Cell> PlanTable::roomAtHeight(double y) const
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        const QRectF place = placeOf({row, 0, 1});
+        if (y >= place.top() && y < place.bottom()) {
+            return Cell{row, 0, 1};
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PlanTable::Cell> PlanTable::cellUnder(QPointF point) const
+{
+    const PlanHit hit = hitPlan(m_shell.form(), m_shell.refresh().content(), m_target, point);
+    if (hit.box != nullptr) {
+        const auto row = std::find(m_rows.begin(), m_rows.end(), hit.row) - m_rows.begin();
+        const auto column =
+            std::find(m_slots.begin(), m_slots.end(), hit.box->slot) - m_slots.begin();
+        return cellAt(static_cast<int>(row), static_cast<int>(column) + 1);
+    }
+    const auto room = roomAtHeight(point.y());
+    if (!room) {
+        return std::nullopt;
+    }
+    for (const Cell& cell : cellsOf(room->row)) {
+        if (cell.column > 0 && boxOf(cell) == nullptr && placeOf(cell).contains(point)) {
+            return cell;
+        }
+    }
+    return std::nullopt;
+}
+
+QString PlanTable::nameOf(const Cell& cell) const
+{
+    const plan::PlanRow& row = rowOf(cell);
+    if (cell.column == 0) {
+        return inOneLine({row.room, row.places + QStringLiteral(" places")});
+    }
+    const plan::PlanBox* box = boxOf(cell);
+    if (box == nullptr) {
+        return inOneLine({row.room, columnTitle(cell.column), QStringLiteral("pas de case")});
+    }
+    QStringList parts{row.room, timeWords(box->cell.CellStart, box->minutes)};
+    parts += plan::writtenLines(plan::SanitizeCellText(box->cell.CellText));
+    parts += shell::groupWords(m_shell.form(), *box);
+    parts += shell::remarkWords(m_shell.form(), *box);
+    return inOneLine(parts);
+}
+
+QRectF PlanTable::placeOf(const Cell& cell) const
+{
+    const form::PlanForm& form = m_shell.form();
+    const plan::PlanRow& row = rowOf(cell);
+    const auto inPixels = [this](const form::Place& across, const form::Place& down) {
+        return QRectF(m_target.toPixelsX(across.left), m_target.toPixelsY(down.top),
+                      m_target.toPixelsX(across.width), m_target.toPixelsY(down.height));
+    };
+    const form::Place& room = form.Salle.at(static_cast<std::size_t>(row.index)).place;
+    if (cell.column == 0) {
+        return inPixels(room, room);
+    }
+    if (const plan::PlanBox* box = boxOf(cell)) {
+        return plan::overlayPlaces(form, m_target, row.index, *box).ZAbs;
+    }
+    const int slot = slotOf(cell);
+    return m_shell.slots().slot(slot)
+               ? inPixels(form.Tot.at(static_cast<std::size_t>(slot - 1)).place, room)
+               : QRectF();
+}
+
+QString PlanTable::slotTitle(int slot) const
+{
+    const auto& facts = m_shell.slots().slot(slot);
+    return facts ? timeWords(facts->start, facts->minutes) : QStringLiteral("séance %1").arg(slot);
+}
+
+QString PlanTable::columnTitle(int column) const
+{
+    if (column < 0 || column >= columnCount()) {
+        return {};
+    }
+    return column == 0 ? QStringLiteral("Salle") : slotTitle(slotOf({0, column, 1}));
+}
+
+QStringList PlanTable::words() const
+{
+    QStringList words;
+    for (int row = 0; row < rowCount(); ++row) {
+        for (const Cell& cell : cellsOf(row)) {
+            words << nameOf(cell);
+        }
+    }
+    return words;
+}
+
+QString PlanTable::title() const
+{
+    const form::PlanForm& form = m_shell.form();
+    const print::Heading heading = print::headingOf(form, m_shell.establishment());
+    const QString day = form.DTPicker1.visible ? runtime::frenchDayAndDate(form.DTPicker1.value())
+                                               : form.CbJour.text();
+    QString title =
+        inOneLine({QStringLiteral("Plan des salles"), day, heading.period, heading.choice});
+    return title.replace(QStringLiteral(" · "), QStringLiteral(", ")); // for reading aloud
+}
+
+QString PlanTable::note() const
+{
+    const form::PlanForm& form = m_shell.form();
+    QStringList sentences;
+    const form::Label& rowZero = form.Salle.front();
+    if (rowZero.visible) {
+        sentences << QStringLiteral("Première ligne, grisée, hors du tableau : %1. Ses séances ne "
+                                    "sont pas dessinées ici.")
+                         .arg(rowZero.caption);
+    }
+    QStringList totals;
+    for (int slot = 1; slot <= form::PlanForm::kSlotLabels; ++slot) {
+        const form::Label& total = form.Tot.at(static_cast<std::size_t>(slot - 1));
+        if (total.visible) {
+            totals << slotTitle(slot) + QStringLiteral(" : ") + total.caption;
+        }
+    }
+    if (!totals.isEmpty()) {
+        sentences << QStringLiteral("Places occupées, %1.").arg(totals.join(QStringLiteral(", ")));
+    }
+    return sentences.join(u' ');
+}
+
+} // namespace app
