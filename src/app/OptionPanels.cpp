@@ -4,6 +4,8 @@
 #include "app/FormMirror.h"
 #include "shell/Shell.h"
 
+#include <QAbstractItemView>
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -55,6 +57,7 @@ public:
     {
         auto* widget = add<QComboBox>(name, control, accessibleName);
         widget->setAccessibleName(accessibleName);
+        widget->view()->setAccessibleName(accessibleName);
         widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         widget->setIconSize({0, 0}); // no item has an icon: the room is the text's
         widget->setMinimumContentsLength(minimumCharacters);
@@ -125,6 +128,22 @@ void addPeriodPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
         3, 0);
 }
 
+/// The toolkit's calendar has two buttons that are mere arrows, and gives none of its parts a name.
+void nameCalendarParts(QCalendarWidget& calendar)
+{
+    calendar.setAccessibleName(QStringLiteral("Calendrier"));
+    const auto name = [&calendar](const char* part, const QString& accessibleName) {
+        auto* widget = calendar.findChild<QWidget*>(QString::fromLatin1(part));
+        if (widget != nullptr) { // the names of the parts are the toolkit's own affair
+            widget->setAccessibleName(accessibleName);
+        }
+    };
+    name("qt_calendar_prevmonth", QStringLiteral("Mois précédent"));
+    name("qt_calendar_nextmonth", QStringLiteral("Mois suivant"));
+    name("qt_calendar_yearedit", QStringLiteral("Année"));
+    name("qt_calendar_calendarview", QStringLiteral("Jours du mois"));
+}
+
 void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Jour"));
@@ -140,6 +159,7 @@ void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     picker->setLocale(QLocale(QLocale::French, QLocale::France));
     picker->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
     picker->setCalendarPopup(true);
+    nameCalendarParts(*picker->calendarWidget());
     grid->addWidget(keepPlace(picker), 2, 0);
 }
 
