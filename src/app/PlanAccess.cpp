@@ -196,6 +196,8 @@ QAccessibleInterface* PlanTableAccess::accessOf(const std::optional<PlanTable::C
     const auto [entry, isNew] = m_cells.try_emplace({cell->row, cell->column}, 0);
     if (isNew) {
         auto access = std::make_unique<PlanCellAccess>(*this, cell->row, cell->column);
+        // The toolkit owns it from here on.
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
         entry->second = QAccessible::registerAccessibleInterface(access.release());
     }
     return QAccessible::accessibleInterface(entry->second);

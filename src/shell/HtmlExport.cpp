@@ -108,6 +108,7 @@ QString tableHtml(const Shell& shell, const std::vector<plan::PlanPage>& pages,
                   const QString& title)
 {
     std::vector<std::reference_wrapper<const plan::PlanContent>> contents;
+    contents.reserve(pages.size());
     for (const plan::PlanPage& page : pages) {
         contents.emplace_back(page.content);
     }

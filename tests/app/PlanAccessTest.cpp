@@ -213,8 +213,8 @@ TEST_F(ThePlanAsATable, findsTheCellUnderAPointOfTheScreen)
     }
     const form::Place& places = desk.form().Cap.at(3).place; // at the right: B2's
     const QPoint inPlaces = view->viewport()->mapToGlobal(
-        view->toViewport({view->target().toPixelsX(places.left + places.width / 2),
-                          view->target().toPixelsY(places.top + places.height / 2)})
+        view->toViewport({view->target().toPixelsX(places.left + places.width / 2.0),
+                          view->target().toPixelsY(places.top + places.height / 2.0)})
             .toPoint());
     EXPECT_EQ(access()->childAt(inPlaces.x(), inPlaces.y()), cell(2, 0));
     const QPoint corner = view->viewport()->mapToGlobal(QPoint(2, 2)); // left of the hours
