@@ -115,10 +115,10 @@ void PlanPainter::paintBox(const PlanRow& row, const PlanBox& box)
     style.reserved = reservedByOverlays(m_scene.form, places, box);
     DrawCellBox(m_surface, m_scene.target, style, m_scene.target.toPixelsX(box.x),
                 m_scene.target.toPixelsY(room.top), box.minutes, box.cell.CellText);
-    paintOverlays(places, box);
+    paintOverlays(places, box, row.color);
 }
 
-void PlanPainter::paintOverlays(const OverlayPlaces& places, const PlanBox& box)
+void PlanPainter::paintOverlays(const OverlayPlaces& places, const PlanBox& box, form::Colour under)
 {
     if (box.classAbsent) {
         paintClassAbsent(m_surface, places.XAbs);
@@ -129,13 +129,16 @@ void PlanPainter::paintOverlays(const OverlayPlaces& places, const PlanBox& box)
     if (!box.group || !m_scene.form.Check3.isChecked()) {
         return;
     }
+    // The labels are dark: on a row as dark as that they would have no end.
+    const bool isEdged = toColor(readableOn(under)) == Qt::white;
     m_surface.setPen(Qt::white);
-    paintOverlayLabel(places.Label2, kCounterFill, box.group->counter);
-    paintOverlayLabel(places.Labelz, box.group->overfull ? kOverfullFill : kCounterFill,
+    paintOverlayLabel(places.Label2, kCounterFill, isEdged, box.group->counter);
+    paintOverlayLabel(places.Labelz, box.group->overfull ? kOverfullFill : kCounterFill, isEdged,
                       box.group->sizeLabel);
 }
 
-void PlanPainter::paintOverlayLabel(const QRectF& place, const QColor& fill, const QString& text)
+void PlanPainter::paintOverlayLabel(const QRectF& place, const QColor& fill, bool isEdged,
+                                    const QString& text)
 {
     if (place.isEmpty()) {
         return; // a séance without a length
@@ -149,7 +152,10 @@ void PlanPainter::paintOverlayLabel(const QRectF& place, const QColor& fill, con
     }
     QRectF line(0, 0, width, font.height());
     line.moveCenter(place.center());
-    m_surface.fillRect(place, fill);
+    if (isEdged) {
+        m_surface.fillRect(place, Qt::white);
+    }
+    m_surface.fillRect(isEdged ? place.adjusted(1, 1, -1, -1) : place, fill);
     const bool cut = line.width() > place.width() || line.height() > place.height();
     if (cut) {
         m_surface.save();

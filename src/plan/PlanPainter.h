@@ -47,8 +47,9 @@ public:
 
 private:
     void paintBox(const PlanRow& row, const PlanBox& box);
-    void paintOverlays(const OverlayPlaces& places, const PlanBox& box);
-    void paintOverlayLabel(const QRectF& place, const QColor& fill, const QString& text);
+    void paintOverlays(const OverlayPlaces& places, const PlanBox& box, form::Colour under);
+    void paintOverlayLabel(const QRectF& place, const QColor& fill, bool isEdged,
+                           const QString& text);
     void paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side);
     [[nodiscard]] static QFont textFont(int pixels, bool bold = false);
     [[nodiscard]] static QFont rowZeroFont();

@@ -2,6 +2,7 @@
 
 #include "plan/Canvas.h"
 #include "plan/CellBox.h"
+#include "plan/Overlays.h"
 #include "plan/PlanDesk.h"
 #include "support/RuntimeMatchers.h"
 
@@ -111,6 +112,26 @@ TEST_F(APaintedPlan, showsTheGroupCountersOnlyWhileTheyAreTicked)
     const QImage shown = paint(&PlanPainter::paintBoxes).image();
     PlanDesk::tick(desk.form.Check3, false);
     EXPECT_NE(paint(&PlanPainter::paintBoxes).image(), shown);
+}
+
+TEST_F(APaintedPlan, givesTheGroupCountersAnEdgeOnADarkRow)
+{
+    desk.meeting(1, 1);
+    desk.rows.students["GC1"] = 135;
+    desk.form.Colorer.setChecked(true);
+    desk.colors.PaletteName = "Contraste";
+    const auto leftEdge = [this](form::Colour row) {
+        desk.colors.set(3, row); // row 1 has the palette's fourth colour
+        desk.draw();
+        const QRect label =
+            overlayPlaces(desk.form, DrawingTarget(), 1, desk.box(1), OverlayFonts())
+                .Label2.toRect();
+        const Canvas canvas = paint(&PlanPainter::paintBoxes);
+        EXPECT_LT(canvas.at(label.left() + 1, label.center().y()).lightness(), 80);
+        return canvas.at(label.left(), label.center().y());
+    };
+    EXPECT_EQ(leftEdge(form::Colour::fromRgb(10, 30, 80)), QColor(Qt::white));
+    EXPECT_LT(leftEdge(yellow).lightness(), 80);
 }
 
 TEST_F(APaintedPlan, showsAnAbsencePictureBesideTheLabelThatWouldHideIt)
