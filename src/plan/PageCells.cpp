@@ -102,7 +102,7 @@ struct Crowded {
 
 Crowded crowdedOf(PageCells& cells, RoomQuestion question, const QString& pageCondition)
 {
-    Crowded crowded{{}, {pageCondition, {}}};
+    Crowded crowded{{}, {pageCondition, {}, false}};
     for (qsizetype room = 0; room < cells.rooms().size(); ++room) {
         for (qsizetype key = 0; key < cells.keys().size(); ++key) {
             std::optional<db::Recordset>& cell =
@@ -212,12 +212,17 @@ std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database, 
             const CellMasks masks(page.table, rooms, keys);
             const QString condition =
                 u' ' + masks.condition() + page.periodCondition(database.dialect());
-            const db::Recordset rows =
-                database.Db().open(QStringLiteral("Select ") + masks.selectList() +
-                                   QStringLiteral(", ") + wholeRows(page) + condition);
+            QString select = QStringLiteral("Select ") + masks.selectList() + QStringLiteral(", ");
+            if (database.isEmbedded()) {
+                select += WalkCheck::whatLooksAtTexts() + QStringLiteral(" as tempora_w, ");
+            }
+            const db::Recordset rows = database.Db().open(select + wholeRows(page) + condition);
             PageCells& cells = found[page.table] = sortedIntoCells(rows, masks, rooms, keys);
             Crowded ofTable = crowdedOf(cells, page, condition);
             if (!ofTable.cells.empty()) {
+                ofTable.asked.anyTextsDo =
+                    database.isEmbedded() &&
+                    rows.first().field(QStringLiteral("tempora_w")).toInt32() == 0;
                 crowded.push_back(std::move(ofTable));
             }
         });

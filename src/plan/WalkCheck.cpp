@@ -20,6 +20,21 @@ QStringList conditionsOfEach(const WalkCheck::TableCells& cells, const db::SqlDi
     return conditions;
 }
 
+/// One question with the name of a room and one without, which has a form of its own.
+QStringList conditionsOfForms(const WalkCheck::TableCells& cells, const db::SqlDialect& dialect)
+{
+    QStringList conditions{cells.pageCondition};
+    for (const bool nameless : {false, true}) {
+        const auto found = std::find_if(
+            cells.questions.begin(), cells.questions.end(),
+            [nameless](const RoomQuestion& each) { return each.room.isEmpty() == nameless; });
+        if (found != cells.questions.end()) {
+            conditions << found->condition(dialect);
+        }
+    }
+    return conditions;
+}
+
 /// Explaining a hundred questions takes a server as long as answering them. Where it knows one way
 /// only, and walks it for a slot without asking for the room, then the room does not decide the
 /// way: it is enough to ask about each slot, and about each room once.
@@ -49,6 +64,22 @@ bool WalkCheck::asksAboutEach(const db::Database& database, const TableCells& ce
     return database.isEmbedded() || m_severalWays.contains(cells.questions.front().table);
 }
 
+QStringList WalkCheck::conditionsFor(const db::Database& database, const TableCells& cells) const
+{
+    if (cells.anyTextsDo) {
+        return conditionsOfForms(cells, database.dialect());
+    }
+    return asksAboutEach(database, cells) ? conditionsOfEach(cells, database.dialect())
+                                          : conditionsOfSamples(cells, database.dialect());
+}
+
+QString WalkCheck::whatLooksAtTexts()
+{
+    return QStringLiteral(
+        "(select count(*) from sqlite_master where name in ('sqlite_stat3', "
+        "'sqlite_stat4') or type='index' and (sql like '%where%' or sql like '%(%(%'))");
+}
+
 std::vector<WalkCheck::Answer> WalkCheck::ask(db::Database& database,
                                               const std::vector<TableCells>& tables)
 {
@@ -60,10 +91,7 @@ std::vector<WalkCheck::Answer> WalkCheck::ask(db::Database& database,
         // A column is selected that an index of slots does not hold.
         const QString select = QStringLiteral("Select Salle from ") +
                                cells.questions.front().tableName() + QStringLiteral(" WHERE");
-        const QStringList conditions = asksAboutEach(database, cells)
-                                           ? conditionsOfEach(cells, database.dialect())
-                                           : conditionsOfSamples(cells, database.dialect());
-        for (const QString& condition : conditions) {
+        for (const QString& condition : conditionsFor(database, cells)) {
             queries << select + condition;
         }
         ends.push_back(static_cast<std::size_t>(queries.size()));

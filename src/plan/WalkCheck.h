@@ -20,7 +20,13 @@ public:
     struct TableCells {
         QString pageCondition;               ///< of that query, as it stands after "WHERE"
         std::vector<RoomQuestion> questions; ///< at least one; they share table and period
+        /// The database would walk the same way whatever texts stand in a question.
+        bool anyTextsDo = false;
     };
+
+    /// A query of one number for SQLite: 0 when no text can change a walk there. Only an index of
+    /// some of the rows or of more than columns, and samples of what columns hold, look at texts.
+    [[nodiscard]] static QString whatLooksAtTexts();
 
     enum class Answer {
         SameWalk,  ///< for all of the cells
@@ -35,6 +41,8 @@ public:
                                           const std::vector<TableCells>& tables);
 
 private:
+    [[nodiscard]] QStringList conditionsFor(const db::Database& database,
+                                            const TableCells& cells) const;
     [[nodiscard]] bool asksAboutEach(const db::Database& database, const TableCells& cells) const;
     [[nodiscard]] Answer judge(const TableCells& cells, const std::vector<db::AccessPath>& paths,
                                bool areSamples);

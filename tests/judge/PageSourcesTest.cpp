@@ -202,6 +202,40 @@ TEST_P(PageSources, leaveViewsTheirOwnOrder)
     EXPECT_GT(occupied, 50);
 }
 
+TEST_P(PageSources, keepTheOrderOfAnIndexOfOneRoom)
+{
+    if (database().usesMySql()) {
+        GTEST_SKIP() << "MariaDB has no such indexes";
+    }
+    RandomTimetable random(database(), 7);
+    const QString indexed = random.rooms()[4]; // behind another one with as many exams
+    QStringList statements{
+        "create index q on examen (Seance)",
+        QStringLiteral("create index p on examen (Tranche, Semaine, Seance, Classe desc) where "
+                       "Salle = '%1'")
+            .arg(indexed)};
+    for (const QString& room : {random.rooms()[0], indexed}) {
+        for (int exam = 0; exam < 9; ++exam) {
+            statements << QStringLiteral(
+                              "insert into examen (Salle, Seance, Tranche, Semaine, "
+                              "newnature, TypeS1, Classe, Durée) values ('%1', 'Lundi1', "
+                              "1, 1, '00', 1, 'C%2', '60')")
+                              .arg(room)
+                              .arg(exam);
+        }
+    }
+    database().execute(statements);
+    Way plain(database(), m_form, m_layout, m_names, false);
+    Way ahead(database(), m_form, m_layout, m_names, true);
+    choose(random);
+    m_form.OpExam.select();
+    m_form.CbJour.setListIndex(0);
+    m_form.Check1.setChecked(false);
+    m_form.Semn.caption = "1";
+    comparePage(plain, ahead, random, "1");
+    EXPECT_GT(occupied, 1);
+}
+
 TEST_P(PageSources, countStudentsOfAClassThatIsOneOfAList)
 {
     if (!database().usesMySql()) {

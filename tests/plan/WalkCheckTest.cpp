@@ -111,6 +111,33 @@ TEST_P(TheWalk, isFoundOutCellByCellWhereThereAreSeveralWays)
     EXPECT_EQ(statements(), before + 1);
 }
 
+TEST_P(TheWalk, isOneForAllTextsUnlessAnIndexLooksAtThem)
+{
+    if (database().usesMySql()) {
+        GTEST_SKIP() << "a server tells by itself what could serve a question";
+    }
+    const auto looks = [this](const QString& change) {
+        database().execute(change);
+        db::Connection connection(database().connectString());
+        return connection.open(QStringLiteral("select ") + WalkCheck::whatLooksAtTexts())
+                   .first()
+                   .field(0)
+                   .toInt32() != 0;
+    };
+    make({"create index i on emplois (Tranche, Seance)"});
+    EXPECT_FALSE(looks("create index j on emplois (Salle collate nocase desc)"));
+    EXPECT_TRUE(looks("create index k on emplois (Seance) where Salle = 'R1'"));
+    EXPECT_TRUE(looks("drop index k; create index k on emplois (lower(Salle))"));
+    EXPECT_FALSE(looks("drop index k"));
+}
+
+TEST_P(TheWalk, isFoundOutByOneQuestionOfEachFormWhereTextsDoNotMatter)
+{
+    make({"create index i on emplois (Tranche, Seance)"});
+    const QString page = " Salle in ('R1') and Seance in ('Lundi1') and Tranche =3";
+    EXPECT_EQ(ask({{page, m_cells, true}}), std::vector(1, WalkCheck::Answer::SameWalk));
+}
+
 TEST_P(TheWalk, isAskedAboutForAllTablesAtOnce)
 {
     make({"create index i on emplois (Tranche, Seance)"});
