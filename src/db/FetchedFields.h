@@ -12,8 +12,8 @@ namespace db
 
 /// How the fields of a column come from the driver.
 struct FieldForm {
-    SQLSMALLINT type =
-        SQL_UNKNOWN_TYPE; ///< of the column as the driver describes it, an SQL_… code
+    /// Of the column as the driver describes it, an SQL_… code.
+    SQLSMALLINT type = SQL_UNKNOWN_TYPE;
     /// What the driver is asked for: SQL_C_CHAR or SQL_C_BINARY (UTF-8), SQL_C_WCHAR (UTF-16) or
     /// SQL_C_BIT.
     SQLSMALLINT cType = SQL_C_WCHAR;

@@ -100,9 +100,10 @@ struct Crowded {
     WalkCheck::TableCells asked;
 };
 
-Crowded crowdedOf(PageCells& cells, RoomQuestion question, const QString& pageCondition)
+/// `asked` has no questions yet.
+Crowded crowdedOf(PageCells& cells, RoomQuestion question, WalkCheck::TableCells asked)
 {
-    Crowded crowded{{}, {pageCondition, {}, false}};
+    Crowded crowded{{}, std::move(asked)};
     for (qsizetype room = 0; room < cells.rooms().size(); ++room) {
         for (qsizetype key = 0; key < cells.keys().size(); ++key) {
             std::optional<db::Recordset>& cell =
@@ -217,12 +218,11 @@ std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database, 
                 select += WalkCheck::whatLooksAtTexts() + QStringLiteral(" as tempora_w, ");
             }
             const db::Recordset rows = database.Db().open(select + wholeRows(page) + condition);
+            const bool anyTextsDo = database.isEmbedded() && !rows.isEmpty() &&
+                                    rows.first().field(QStringLiteral("tempora_w")).toInt32() == 0;
             PageCells& cells = found[page.table] = sortedIntoCells(rows, masks, rooms, keys);
-            Crowded ofTable = crowdedOf(cells, page, condition);
+            Crowded ofTable = crowdedOf(cells, page, {condition, {}, anyTextsDo});
             if (!ofTable.cells.empty()) {
-                ofTable.asked.anyTextsDo =
-                    database.isEmbedded() &&
-                    rows.first().field(QStringLiteral("tempora_w")).toInt32() == 0;
                 crowded.push_back(std::move(ofTable));
             }
         });

@@ -30,16 +30,23 @@ Recordset sqliteAnswer(const QStringList& details)
     return answer({"detail"}, lines);
 }
 
-/// Each line tells type, possible keys, key, its length and remarks; about an undivided table.
+/// Each line tells kind of select, table, partitions, type, possible keys, key, its length and
+/// remarks.
+Recordset mySqlLines(const std::vector<QStringList>& lines)
+{
+    return answer(
+        {"select_type", "table", "partitions", "type", "possible_keys", "key", "key_len", "Extra"},
+        lines);
+}
+
+/// The same without the first three: about an undivided table.
 Recordset mySqlAnswer(const std::vector<QStringList>& lines)
 {
     std::vector<QStringList> whole;
     for (const QStringList& line : lines) {
         whole.push_back(QStringList{"SIMPLE", "emplois", ""} + line);
     }
-    return answer(
-        {"select_type", "table", "partitions", "type", "possible_keys", "key", "key_len", "Extra"},
-        whole);
+    return mySqlLines(whole);
 }
 
 QStringList walksOf(const std::vector<AccessPath>& paths)
@@ -155,19 +162,17 @@ TEST(MySqlAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
 
 TEST(MySqlAccessPaths, areUnknownOnATableInParts)
 {
-    const auto paths = mySqlAccessPaths(answer(
-        {"select_type", "table", "partitions", "type", "possible_keys", "key", "key_len", "Extra"},
-        {{"SIMPLE", "emplois", "p0,p1", "ref", "i", "i", "408", "Using where"}}));
+    const auto paths = mySqlAccessPaths(
+        mySqlLines({{"SIMPLE", "emplois", "p0,p1", "ref", "i", "i", "408", "Using where"}}));
     ASSERT_TRUE(paths);
     EXPECT_EQ(walksOf(*paths), QStringList({""}));
 }
 
 TEST(MySqlAccessPaths, nameTheTableAndPassOverTheUnionItself)
 {
-    const auto paths = mySqlAccessPaths(answer(
-        {"select_type", "table", "partitions", "type", "possible_keys", "key", "key_len", "Extra"},
-        {{"PRIMARY", "courses", "", "ALL", "", "", "", "Using where"},
-         {"UNION RESULT", "<union1,2>", "", "ALL", "", "", "", ""}}));
+    const auto paths =
+        mySqlAccessPaths(mySqlLines({{"PRIMARY", "courses", "", "ALL", "", "", "", "Using where"},
+                                     {"UNION RESULT", "<union1,2>", "", "ALL", "", "", "", ""}}));
     ASSERT_TRUE(paths);
     EXPECT_EQ(*paths, (std::vector<AccessPath>{{"courses", "ALL", true}}));
 }

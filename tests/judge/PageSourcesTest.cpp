@@ -155,6 +155,17 @@ protected:
         return cells;
     }
 
+    /// Compares some pages of the test's own database, with options at random.
+    void comparePages(RandomTimetable& random, int pages)
+    {
+        Way plain(database(), m_form, m_layout, m_names, false);
+        Way ahead(database(), m_form, m_layout, m_names, true);
+        for (int page = 0; page < pages && !HasFailure(); ++page) {
+            choose(random);
+            comparePage(plain, ahead, random, QString::number(1 + page % 2));
+        }
+    }
+
     form::PlanForm m_form;
     plan::CellLayout m_layout;
     plan::SeanceTypeShortNames m_names;
@@ -193,12 +204,7 @@ TEST_P(PageSources, leaveViewsTheirOwnOrder)
                         "create view ratrap as select * from additions order by Classe desc",
                         "alter table classe rename to groupes",
                         "create view classe as select * from groupes order by Capacite desc"});
-    Way plain(database(), m_form, m_layout, m_names, false);
-    Way ahead(database(), m_form, m_layout, m_names, true);
-    for (int page = 0; page < 8 && !HasFailure(); ++page) {
-        choose(random);
-        comparePage(plain, ahead, random, QString::number(1 + page % 2));
-    }
+    comparePages(random, 8);
     EXPECT_GT(occupied, 50);
 }
 
@@ -249,12 +255,7 @@ TEST_P(PageSources, countStudentsOfAClassThatIsOneOfAList)
                         // a value that is not of the list is kept as another empty text
                         "set sql_mode=''; insert into etudiant values ('f', 'L9'), ('g', 'L9')",
                         "update emplois set Classe = case when Tranche = 1 then 'L1' else '' end"});
-    Way plain(database(), m_form, m_layout, m_names, false);
-    Way ahead(database(), m_form, m_layout, m_names, true);
-    for (int page = 0; page < 6 && !HasFailure(); ++page) {
-        choose(random);
-        comparePage(plain, ahead, random, QString::number(1 + page % 2));
-    }
+    comparePages(random, 6);
     EXPECT_GT(occupied, 30);
 }
 
