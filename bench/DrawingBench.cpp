@@ -1,7 +1,7 @@
 // How long it takes to lay out and paint a full page of 29 rows.
 
 #include "bench/Faculty.h"
-#include "plan/PlanPainter.h"
+#include "paint/PlanPainter.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -26,12 +26,12 @@ shell::Shell& fullPage()
 
 void paintPage(benchmark::State& state)
 {
-    const plan::PlanScene scene = fullPage().scene(plan::DrawingTarget());
+    const paint::PlanScene scene = fullPage().scene(paint::DrawingTarget());
     QImage image(1366, 620, QImage::Format_RGB32);
     for (auto iteration : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
-        plan::PlanPainter plan(painter, scene);
+        paint::PlanPainter plan(painter, scene);
         plan.paintTicks();
         plan.paintGrid();
         plan.paintBoxes();

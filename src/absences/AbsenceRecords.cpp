@@ -61,9 +61,9 @@ QString adding(const QString& record)
 QString endTime(const QString& start, int minutes)
 {
     constexpr int kMinutesOfDay = 24 * 60;
-    const int startMinutes = runtime::secondsOfDay(runtime::normaliseTimeText(start)) / 60;
     // Added twice: the remainder of a negative number is negative.
-    const int end = ((startMinutes + minutes) % kMinutesOfDay + kMinutesOfDay) % kMinutesOfDay;
+    const int end =
+        (runtime::endMinute(start, minutes) % kMinutesOfDay + kMinutesOfDay) % kMinutesOfDay;
     return QStringLiteral("%1:%2")
         .arg(end / 60, 2, 10, QChar(u'0'))
         .arg(end % 60, 2, 10, QChar(u'0'));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "db/Database.h"
-#include "plan/AbsenceTests.h"
+#include "plan/AbsenceSource.h"
 #include "plan/Marqueur.h"
 
 #include <QString>
@@ -15,7 +15,7 @@ namespace absences
 ///
 /// Values stand between single quotes as they are: a class name that holds an apostrophe is refused
 /// by the database, and nothing is written.
-class AbsenceRecords : public plan::AbsenceTests
+class AbsenceRecords : public plan::AbsenceSource
 {
 public:
     /// `database` outlives the records.

@@ -1,6 +1,6 @@
 #include "absences/MarkerToolTips.h"
 
-#include "absences/Marking.h"
+#include "plan/ClassList.h"
 #include "runtime/FrenchDate.h"
 
 namespace absences
@@ -25,7 +25,7 @@ QString outcome(const QStringList& classes, bool absent, const QString& absence)
 QString ZAbsToolTip(const plan::PlanBox& box, QDate day)
 {
     const QString date = QStringLiteral(" le ") + runtime::frenchDayAndDate(day);
-    QStringList classes = classNames(box.cell.CellClassList);
+    QStringList classes = plan::classNames(box.cell.CellClassList);
     classes.removeAll(QString());
     return QStringLiteral("Maj + clic : ") +
            outcome(classes, box.classAbsent, QStringLiteral("l’absence")) + date +

@@ -1,29 +1,22 @@
 #include "absences/Marking.h"
 
-#include "runtime/Numbers.h"
+#include "plan/ClassList.h"
 
 namespace absences
 {
 
-QStringList classNames(const QString& classes)
-{
-    QStringList names = classes.split(u'\t');
-    names.last() = runtime::trimBlanks(names.last());
-    return names;
-}
-
 void Marking::Marquer_AbsClasses(int index)
 {
-    plan::Marqueur& marker = m_plan.marker(index);
-    for (const QString& className : classNames(marker.Classes)) {
+    plan::Marqueur& marker = m_plan.markers().at(index);
+    for (const QString& className : plan::classNames(marker.Classes)) {
         m_records.Basculer_AbsClasse(marker, className);
     }
 }
 
 void Marking::Marquer_AbsEtuds(int index)
 {
-    plan::Marqueur& marker = m_plan.marker(index);
-    for (const QString& className : classNames(marker.Classes)) {
+    plan::Marqueur& marker = m_plan.markers().at(index);
+    for (const QString& className : plan::classNames(marker.Classes)) {
         m_records.Basculer_AbsEtud(marker, className, className);
         tellStudentAbsence(index);
     }
@@ -50,21 +43,21 @@ void Marking::showClassAbsence(int index)
 {
     if (plan::PlanBox* box = m_plan.box(index)) {
         // The class toggled last decides.
-        box->classAbsent = m_plan.marker(index).AbsClasse;
+        box->classAbsent = m_plan.markers().at(index).AbsClasse;
     }
 }
 
 void Marking::showStudentAbsence(int index)
 {
     if (plan::PlanBox* box = m_plan.box(index)) {
-        box->studentAbsent = m_plan.marker(index).AbsEtud;
+        box->studentAbsent = m_plan.markers().at(index).AbsEtud;
     }
 }
 
 void Marking::tellStudentAbsence(int index)
 {
     if (plan::PlanBox* box = m_plan.box(index)) {
-        const plan::Marqueur& marker = m_plan.marker(index);
+        const plan::Marqueur& marker = m_plan.markers().at(index);
         // All classes of the box are named, whichever was toggled.
         box->absentToolTip = marker.AbsEtud ? plan::studentAbsentToolTip(marker) : QString();
     }

@@ -52,8 +52,4 @@ private:
     AsyncKeyState& m_keys;
 };
 
-/// The names in a list joined by tabs. Only the last one (a single one, too) is trimmed. A list
-/// that ends with a tab has a last name that is empty.
-[[nodiscard]] QStringList classNames(const QString& classes);
-
 } // namespace absences

@@ -3,7 +3,7 @@
 #include "absences/AbsenceRecords.h"
 #include "db/Database.h"
 #include "db/MatchMasks.h"
-#include "plan/AbsenceTests.h"
+#include "plan/AbsenceSource.h"
 
 #include <QDate>
 #include <QPair>
@@ -20,7 +20,7 @@ namespace absences
 /// database itself says which record is about which class and time. What it could not fetch, was
 /// not told of, or fetched before the user toggled an absence in the middle of the refresh, it
 /// leaves to the plain tests.
-class PageAbsences : public plan::AbsenceTests
+class PageAbsences : public plan::AbsenceSource
 {
 public:
     /// Both outlive this one.

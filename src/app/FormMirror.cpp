@@ -54,14 +54,14 @@ void FormMirror::bind(QAbstractButton* widget, form::CheckBox& control)
     });
 }
 
-void FormMirror::bind(QAbstractButton* widget, form::OptionButton& control)
+void FormMirror::bind(QAbstractButton* widget, form::OptionButton<form::OptionGroup> control)
 {
     widget->setAutoExclusive(false); // the controls know their groups
     connect(widget, &QAbstractButton::clicked, this,
-            [this, &control] { m_forward([&control] { control.select(); }); });
-    follow([widget, &control] {
+            [this, control] { m_forward([control] { control.select(); }); });
+    follow([widget, control] {
         const QSignalBlocker quiet(widget);
-        setCaption(widget, control.caption);
+        setCaption(widget, control.caption());
         widget->setChecked(control.isSelected());
     });
 }

@@ -27,7 +27,7 @@ public:
     explicit FormMirror(Forward forward) : m_forward(std::move(forward)) {}
 
     void bind(QAbstractButton* widget, form::CheckBox& control);
-    void bind(QAbstractButton* widget, form::OptionButton& control);
+    void bind(QAbstractButton* widget, form::OptionButton<form::OptionGroup> control);
     void bind(QAbstractButton* widget, form::Button& control);
     void bind(QComboBox* widget, form::List& control);
     void bind(QDateEdit* widget, form::DatePicker& control);

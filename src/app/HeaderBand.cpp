@@ -1,7 +1,7 @@
 #include "app/HeaderBand.h"
 
 #include "app/FormMirror.h"
-#include "shell/Shell.h"
+#include "engine/Engine.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,19 +24,19 @@ QLabel* label(const QString& name, const QString& role)
 
 } // namespace
 
-HeaderBand::HeaderBand(shell::Shell& shell, FormMirror& mirror, QAction* help)
+HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help)
 {
     setObjectName(QStringLiteral("HeaderBand"));
     setAttribute(Qt::WA_StyledBackground);
-    form::PlanForm& form = shell.form();
+    form::PlanForm& form = engine.form();
 
     auto* names = new QVBoxLayout;
     names->setSpacing(0);
     auto* establishment = label(QStringLiteral("Label4_4"), QStringLiteral("name"));
     mirror.bind(establishment, form.Label4[4]);
     auto* university = label(QStringLiteral("University"), QStringLiteral("note"));
-    mirror.follow([university, &shell] {
-        const auto& header = shell.establishment();
+    mirror.follow([university, &engine] {
+        const auto& header = engine.state().establishment;
         university->setText(header.UniversityName +
                             (header.AcademicYear != 0
                                  ? QStringLiteral(" · ") + QString::number(header.AcademicYear)
@@ -58,7 +58,7 @@ HeaderBand::HeaderBand(shell::Shell& shell, FormMirror& mirror, QAction* help)
     }
     auto* period = label(QStringLiteral("PeriodName"), QStringLiteral("name"));
     mirror.follow([period, &form] {
-        period->setText(form.OpExam.isSelected()
+        period->setText(form.OpExam().isSelected()
                             ? form.CbTranche.text() + QStringLiteral(" – ") + form.Combo10.text()
                             : form.CbTranche.text());
     });

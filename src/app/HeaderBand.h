@@ -4,9 +4,9 @@
 
 class QAction;
 
-namespace shell
+namespace engine
 {
-class Shell;
+class Engine;
 }
 
 namespace app
@@ -19,7 +19,7 @@ class HeaderBand : public QWidget
 {
 public:
     /// `help` opens the guide.
-    HeaderBand(shell::Shell& shell, FormMirror& mirror, QAction* help);
+    HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help);
 };
 
 } // namespace app

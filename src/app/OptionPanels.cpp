@@ -2,7 +2,7 @@
 
 #include "app/DateField.h"
 #include "app/FormMirror.h"
-#include "shell/Shell.h"
+#include "engine/Engine.h"
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
@@ -48,7 +48,8 @@ public:
     {
         return add<QCheckBox>(name, control, toolTip);
     }
-    QRadioButton* radio(const char* name, form::OptionButton& control, const QString& toolTip = {})
+    QRadioButton* radio(const char* name, form::OptionButton<form::OptionGroup> control,
+                        const QString& toolTip = {})
     {
         return add<QRadioButton>(name, control, toolTip);
     }
@@ -120,9 +121,9 @@ void addPeriodPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     QGridLayout* grid = addPanel(band, QStringLiteral("Période"));
     grid->addWidget(
         make.wideList("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 15), 0, 0);
-    grid->addWidget(make.radio("OpEns", form.OpEns, QStringLiteral("Emploi du temps hebdomadaire")),
-                    1, 0);
-    grid->addWidget(make.radio("OpExam", form.OpExam, QStringLiteral("Semaines d’examen")), 2, 0);
+    grid->addWidget(
+        make.radio("OpEns", form.OpEns(), QStringLiteral("Emploi du temps hebdomadaire")), 1, 0);
+    grid->addWidget(make.radio("OpExam", form.OpExam(), QStringLiteral("Semaines d’examen")), 2, 0);
     grid->addWidget(
         keepPlace(make.wideList("Combo10", form.Combo10, QStringLiteral("Semaine d’examen"), 15)),
         3, 0);
@@ -167,9 +168,9 @@ void addWeekPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Semaine"));
     grid->addWidget(
-        make.radio("OptFixe", form.OptFixe, QStringLiteral("Les deux semaines ensemble")), 0, 0);
-    grid->addWidget(make.radio("OptA", form.OptA), 1, 0);
-    grid->addWidget(make.radio("OptB", form.OptB), 2, 0);
+        make.radio("OptFixe", form.OptFixe(), QStringLiteral("Les deux semaines ensemble")), 0, 0);
+    grid->addWidget(make.radio("OptA", form.OptA()), 1, 0);
+    grid->addWidget(make.radio("OptB", form.OptB()), 2, 0);
 }
 
 void addBoxPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
@@ -241,9 +242,10 @@ QCheckBox* addViewPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& f
     return colorer;
 }
 
-void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror, shell::Shell& shell)
+void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror,
+                     engine::Engine& engine)
 {
-    form::PlanForm& form = shell.form();
+    form::PlanForm& form = engine.form();
     QGridLayout* grid = addPanel(band, QStringLiteral("Matière et couleurs"), 2);
     grid->addWidget(make.check("Check1", form.Check1,
                                QStringLiteral("Ne montrer que les séances d’une matière")),
@@ -269,9 +271,9 @@ void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror, 
     grid->addWidget(frame, 1, 0, 2, 2);
 }
 
-void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, shell::Shell& shell)
+void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, engine::Engine& engine)
 {
-    form::PlanForm& form = shell.form();
+    form::PlanForm& form = engine.form();
     QGridLayout* grid = addPanel(band, QStringLiteral("Impression"));
     grid->addWidget(
         make.button("Command1", form.Command1, QStringLiteral("Imprimer la page affichée")), 0, 0);
@@ -290,14 +292,14 @@ void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, shell::Shell& shell)
 
 } // namespace
 
-OptionPanels::OptionPanels(shell::Shell& shell, FormMirror& mirror)
+OptionPanels::OptionPanels(engine::Engine& engine, FormMirror& mirror)
 {
     setObjectName(QStringLiteral("Picture1"));
     auto* band = new QHBoxLayout(this);
     band->setContentsMargins(6, 2, 6, 4);
     band->setSpacing(5);
     PanelBuilder make(mirror);
-    form::PlanForm& form = shell.form();
+    form::PlanForm& form = engine.form();
     addPeriodPanel(band, make, form);
     addDayPanel(band, make, form);
     addWeekPanel(band, make, form);
@@ -305,8 +307,8 @@ OptionPanels::OptionPanels(shell::Shell& shell, FormMirror& mirror)
     addRoomPanel(band, make, form);
     addPagePanel(band, make, form);
     m_colorer = addViewPanel(band, make, form);
-    addSubjectPanel(band, make, mirror, shell);
-    addPrintPanel(band, make, shell);
+    addSubjectPanel(band, make, mirror, engine);
+    addPrintPanel(band, make, engine);
 }
 
 void OptionPanels::focusColorer()

@@ -2,9 +2,9 @@
 
 #include <QWidget>
 
-namespace shell
+namespace engine
 {
-class Shell;
+class Engine;
 }
 
 namespace app
@@ -16,7 +16,7 @@ class FormMirror;
 class OptionPanels : public QWidget
 {
 public:
-    OptionPanels(shell::Shell& shell, FormMirror& mirror);
+    OptionPanels(engine::Engine& engine, FormMirror& mirror);
 
     /// Brings a control that the mouse cannot reach into view: the first option of the band.
     void focusColorer();

@@ -33,11 +33,10 @@ constexpr QSize kFirstSize(1280, 720);
 
 } // namespace
 
-PlClasse::PlClasse(shell::Settings settings, shell::Environment environment)
-    : m_guide(environment.applicationFolder + QStringLiteral("/docs/guide.md")),
-      m_shell(std::move(settings), tieToWindow(std::move(environment))), m_keys(makeKeyState()),
-      m_marking(m_shell.refresh(), m_shell.absences(), *m_keys),
-      m_printing(m_shell, platformPrintDialogs(this)),
+PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
+    : m_guide(surroundings.applicationFolder + QStringLiteral("/docs/guide.md")),
+      m_shell(std::move(settings), tieToWindow(std::move(surroundings))), m_keys(makeKeyState()),
+      m_printing(m_shell.engine(), platformPrintDialogs(this)),
       m_mirror([this](const std::function<void()>& action) { forward(action); })
 {
     setObjectName(QStringLiteral("PlClasse"));
@@ -54,20 +53,20 @@ PlClasse::~PlClasse()
     const std::unique_ptr<QWidget> content(takeCentralWidget());
 }
 
-shell::Environment PlClasse::tieToWindow(shell::Environment environment)
+engine::Surroundings PlClasse::tieToWindow(engine::Surroundings surroundings)
 {
-    environment.processEvents = [this] { processEvents(); };
-    environment.showMessage = [this](const QString& title, const QString& text) {
+    surroundings.processEvents = [this] { processEvents(); };
+    surroundings.showMessage = [this](const QString& title, const QString& text) {
         QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, this);
         box.setTextFormat(Qt::PlainText);
         box.exec();
     };
-    environment.openFile = [this](const QString& startFolder, const QString& filter) {
+    surroundings.openFile = [this](const QString& startFolder, const QString& filter) {
         return QFileDialog::getOpenFileName(
             this, QStringLiteral("Choisir une palette"), startFolder,
             QStringLiteral("Palettes (%1)").arg(filter.section(u'|', 1)));
     };
-    return environment;
+    return surroundings;
 }
 
 void PlClasse::buildContent()
@@ -80,8 +79,8 @@ void PlClasse::buildContent()
     help->setShortcut(Qt::Key_F1);
     help->setToolTip(QStringLiteral("Ouvrir le guide (F1)"));
     connect(help, &QAction::triggered, this, [this] { showHelp(); });
-    column->addWidget(new HeaderBand(m_shell, m_mirror, help));
-    m_options = new OptionPanels(m_shell, m_mirror);
+    column->addWidget(new HeaderBand(m_shell.engine(), m_mirror, help));
+    m_options = new OptionPanels(m_shell.engine(), m_mirror);
     column->addWidget(m_options);
     m_view = new PlanView(
         m_shell, [this](const std::function<void()>& action) { forward(action); },
@@ -115,7 +114,7 @@ void PlClasse::buildStatusBar()
     m_mirror.bind(add(QStringLiteral("Label11"), QString()), form.Label11);
     auto* week = add(QStringLiteral("Semn"), QString());
     m_mirror.follow([week, &form] {
-        week->setVisible(form.OpExam.isSelected());
+        week->setVisible(form.OpExam().isSelected());
         week->setText(QStringLiteral("Semaine d’examen ") + form.Semn.caption);
     });
     m_mirror.bindVisible(add(QStringLiteral("ImgAccess"), QStringLiteral("Base locale (ODBC)")),
@@ -135,21 +134,20 @@ void PlClasse::buildStatusBar()
 
 QString PlClasse::roomsShown() const
 {
-    const int last = m_shell.page().RowsShown;
+    const context::RoomPage& page = m_shell.engine().state().page;
+    const int last = page.RowsShown;
     if (last < 1 || last >= form::PlanForm::kRows) {
         return QStringLiteral("Aucune salle affichée");
     }
-    const auto& rooms = m_shell.form().Salle;
     return QStringLiteral("Salles affichées : %1, de « %2 » à « %3 »")
-        .arg(QString::number(last), rooms[1].caption,
-             rooms[static_cast<std::size_t>(last)].caption);
+        .arg(QString::number(last), page.room(1).name, page.room(last).name);
 }
 
 QString PlClasse::markedDay() const
 {
-    for (const plan::PlanRow& row : m_shell.refresh().content().rows) {
+    for (const plan::PlanRow& row : m_shell.engine().content().rows) {
         if (!row.boxes.empty()) {
-            const plan::Marqueur& marker = m_shell.refresh().marker(row.boxes.front().marker);
+            const plan::Marqueur& marker = m_shell.engine().markers().at(row.boxes.front().marker);
             return QStringLiteral("Absences du ") + runtime::frenchDayAndDate(marker.Jour);
         }
     }
@@ -214,7 +212,7 @@ void PlClasse::fail(const runtime::RunTimeError& error)
         return; // an action that was still under way
     }
     m_failed = true;
-    m_shell.refresh().abandon();
+    m_shell.engine().abandonRefresh();
     reportRunTimeError(this, error);
     QCoreApplication::exit(kFailed);
 }
@@ -248,7 +246,7 @@ void PlClasse::processEvents()
 
 void PlClasse::clickMarker(int marker)
 {
-    forward([this, marker] { m_marking.Clic_Marqueur(marker); });
+    forward([this, marker] { m_shell.engine().clickMarker(marker, *m_keys); });
 }
 
 void PlClasse::showHelp()

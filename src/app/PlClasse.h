@@ -1,6 +1,5 @@
 #pragma once
 
-#include "absences/Marking.h"
 #include "app/FormMirror.h"
 #include "app/KeyState.h"
 #include "app/Printing.h"
@@ -24,7 +23,7 @@ class PlClasse : public QMainWindow
 {
 public:
     /// `applicationFolder` holds `app_data` and `Styles`.
-    PlClasse(shell::Settings settings, shell::Environment environment);
+    PlClasse(shell::Settings settings, engine::Surroundings surroundings);
     ~PlClasse() override;
 
     /// The whole life of the window: starts up, shows, plays the choices of the command line and
@@ -52,7 +51,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    [[nodiscard]] shell::Environment tieToWindow(shell::Environment environment);
+    [[nodiscard]] engine::Surroundings tieToWindow(engine::Surroundings surroundings);
     void buildContent();
     void buildStatusBar();
     [[nodiscard]] QString roomsShown() const;
@@ -69,7 +68,6 @@ private:
     QString m_guide; ///< path of the guide
     shell::Shell m_shell;
     std::unique_ptr<absences::AsyncKeyState> m_keys;
-    absences::Marking m_marking;
     Printing m_printing;
     FormMirror m_mirror;
     OptionPanels* m_options = nullptr;

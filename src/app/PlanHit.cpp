@@ -1,14 +1,14 @@
 #include "app/PlanHit.h"
 
 #include "form/PlanForm.h"
-#include "plan/Overlays.h"
+#include "paint/Overlays.h"
 
 namespace app
 {
 namespace
 {
 
-PlanHit::Part partAt(const plan::OverlayPlaces& places, bool labelsShown, QPointF point)
+PlanHit::Part partAt(const paint::OverlayPlaces& places, bool labelsShown, QPointF point)
 {
     if (labelsShown && places.Label2.contains(point)) {
         return PlanHit::Part::Counter;
@@ -28,17 +28,17 @@ PlanHit::Part partAt(const plan::OverlayPlaces& places, bool labelsShown, QPoint
 } // namespace
 
 PlanHit hitPlan(const form::PlanForm& form, const plan::PlanContent& content,
-                const plan::DrawingTarget& target, QPointF point)
+                const paint::DrawingTarget& target, QPointF point)
 {
     PlanHit found;
-    const plan::OverlayFonts fonts;
+    const paint::OverlayFonts fonts;
     for (const plan::PlanRow& row : content.rows) {
         if (!form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
             continue;
         }
         for (const plan::PlanBox& box : row.boxes) {
-            const auto places = plan::drawnPlaces(
-                form, plan::overlayPlaces(form, target, row.index, box, fonts), box);
+            const auto places = paint::drawnPlaces(
+                form, paint::overlayPlaces(form, target, row.index, box, fonts), box);
             const auto part = partAt(places, box.group && form.Check3.isChecked(), point);
             if (part != PlanHit::Part::Nothing) {
                 found = {part, &row, &box}; // boxes drawn later lie over earlier ones

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plan/DrawingTarget.h"
+#include "paint/DrawingTarget.h"
 #include "plan/PlanContent.h"
 
 #include <QPointF>
@@ -32,6 +32,6 @@ struct PlanHit {
 /// `point` is in device pixels of the target, unscrolled. The labels lie over the pictures, the
 /// pictures over the band.
 [[nodiscard]] PlanHit hitPlan(const form::PlanForm& form, const plan::PlanContent& content,
-                              const plan::DrawingTarget& target, QPointF point);
+                              const paint::DrawingTarget& target, QPointF point);
 
 } // namespace app

@@ -7,11 +7,10 @@ namespace app
 namespace
 {
 
-constexpr QColor kBandFill(246, 247, 250);
 constexpr QColor kPlanFill(255, 255, 255);
 
 /// The band between the names and the places, where boxes lie, at the height of `row` twips.
-QRectF boxStrip(const plan::PlanScene& scene, int top, int height)
+QRectF boxStrip(const paint::PlanScene& scene, int top, int height)
 {
     const form::PlanForm& form = scene.form;
     const double left = scene.target.toPixelsX(form.Label1.front().place.left) - 4;
@@ -23,13 +22,13 @@ QPixmap blank(QSize size, double ratio)
 {
     QPixmap pixmap(size * ratio);
     pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(kBandFill);
+    pixmap.fill(PlanPicture::kBandFill);
     return pixmap;
 }
 
 } // namespace
 
-void PlanPicture::draw(const plan::PlanScene& scene, QSize size, double ratio)
+void PlanPicture::draw(const paint::PlanScene& scene, QSize size, double ratio)
 {
     m_plan = blank(size, ratio);
     m_totals = blank({size.width(), kTotalsHeight}, ratio);
@@ -38,7 +37,7 @@ void PlanPicture::draw(const plan::PlanScene& scene, QSize size, double ratio)
     QRectF area = boxStrip(scene, first.top, first.height);
     area.setBottom(size.height());
     painter.fillRect(area, kPlanFill);
-    plan::PlanPainter plan(painter, scene);
+    paint::PlanPainter plan(painter, scene);
     plan.paintTicks();
     plan.paintGrid();
     plan.paintBoxes();
@@ -47,7 +46,7 @@ void PlanPicture::draw(const plan::PlanScene& scene, QSize size, double ratio)
     drawTotals(scene);
 }
 
-void PlanPicture::drawLastRow(const plan::PlanScene& scene)
+void PlanPicture::drawLastRow(const paint::PlanScene& scene)
 {
     if (m_plan.isNull() || scene.content.rows.empty()) {
         return;
@@ -58,19 +57,19 @@ void PlanPicture::drawLastRow(const plan::PlanScene& scene)
     painter.setClipRect(QRectF(0, scene.target.toPixelsY(place.top) - 1, m_plan.width(),
                                scene.target.toPixelsY(place.height) + 2));
     painter.fillRect(boxStrip(scene, place.top, place.height).adjusted(0, -1, 0, 1), kPlanFill);
-    plan::PlanPainter plan(painter, scene);
+    paint::PlanPainter plan(painter, scene);
     plan.paintGrid();
     plan.paintBoxesOf(row);
     plan.paintLabelsOf(row);
     drawTotals(scene);
 }
 
-void PlanPicture::drawTotals(const plan::PlanScene& scene)
+void PlanPicture::drawTotals(const paint::PlanScene& scene)
 {
     m_totals.fill(kBandFill);
     QPainter painter(&m_totals);
     painter.translate(0, 2);
-    plan::PlanPainter(painter, scene).paintTotals();
+    paint::PlanPainter(painter, scene).paintTotals();
 }
 
 } // namespace app

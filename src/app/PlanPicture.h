@@ -1,7 +1,8 @@
 #pragma once
 
-#include "plan/PlanPainter.h"
+#include "paint/PlanPainter.h"
 
+#include <QColor>
 #include <QPixmap>
 #include <QSize>
 
@@ -15,12 +16,14 @@ class PlanPicture
 public:
     /// Height of the totals band, in device-independent pixels.
     static constexpr int kTotalsHeight = 26;
+    /// What lies behind the bands around the boxes.
+    static constexpr QColor kBandFill{246, 247, 250};
 
     /// Draws everything anew. `size` covers rows and time axis, `ratio` is the screen's device
     /// pixel ratio.
-    void draw(const plan::PlanScene& scene, QSize size, double ratio);
+    void draw(const paint::PlanScene& scene, QSize size, double ratio);
     /// Draws the last row of the scene's content and the totals anew; other rows stay.
-    void drawLastRow(const plan::PlanScene& scene);
+    void drawLastRow(const paint::PlanScene& scene);
 
     /// Ticks, names, boxes and places, at their places in the window.
     [[nodiscard]] const QPixmap& plan() const { return m_plan; }
@@ -28,7 +31,7 @@ public:
     [[nodiscard]] const QPixmap& totals() const { return m_totals; }
 
 private:
-    void drawTotals(const plan::PlanScene& scene);
+    void drawTotals(const paint::PlanScene& scene);
 
     QPixmap m_plan;
     QPixmap m_totals;

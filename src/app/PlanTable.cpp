@@ -1,14 +1,12 @@
 #include "app/PlanTable.h"
 
 #include "app/PlanHit.h"
-#include "plan/BoxText.h"
-#include "plan/CellBox.h"
-#include "plan/Overlays.h"
+#include "paint/Overlays.h"
+#include "plan/BoxLines.h"
+#include "plan/BoxWords.h"
+#include "plan/SlotColumns.h"
 #include "print/Heading.h"
 #include "runtime/FrenchDate.h"
-#include "shell/BoxWords.h"
-#include "shell/Shell.h"
-#include "shell/SlotColumns.h"
 
 #include <algorithm>
 
@@ -20,7 +18,7 @@ namespace
 /// Read aloud: a dash between two times would be swallowed.
 QString timeWords(const QString& start, int minutes)
 {
-    const QString end = shell::endText(start, minutes);
+    const QString end = plan::endText(start, minutes);
     return end.isEmpty() ? start : start + QStringLiteral(" à ") + end;
 }
 
@@ -36,12 +34,13 @@ QString inOneLine(QStringList parts)
 
 } // namespace
 
-PlanTable::PlanTable(const shell::Shell& shell, const plan::DrawingTarget& target)
-    : m_shell(shell), m_target(target),
-      m_slots(shell::slotColumns(shell.slots(), {shell.refresh().content()}))
+PlanTable::PlanTable(const plan::PlanState& state, const plan::PlanContent& content,
+                     const paint::DrawingTarget& target)
+    : m_state(state), m_content(content), m_target(target),
+      m_slots(plan::slotColumns(state.slots, {content}))
 {
-    for (const plan::PlanRow& row : shell.refresh().content().rows) {
-        if (shell.form().Salle.at(static_cast<std::size_t>(row.index)).visible) {
+    for (const plan::PlanRow& row : content.rows) {
+        if (state.form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
             m_rows.push_back(&row);
         }
     }
@@ -59,7 +58,7 @@ int PlanTable::slotOf(const Cell& cell) const
 
 const plan::PlanBox* PlanTable::boxOf(const Cell& cell) const
 {
-    return cell.column == 0 ? nullptr : shell::boxAt(rowOf(cell), slotOf(cell));
+    return cell.column == 0 ? nullptr : plan::boxAt(rowOf(cell), slotOf(cell));
 }
 
 std::vector<PlanTable::Cell> PlanTable::cellsOf(int row) const
@@ -69,8 +68,8 @@ std::vector<PlanTable::Cell> PlanTable::cellsOf(int row) const
         Cell cell{row, cells.back().column + cells.back().span, 1};
         if (const plan::PlanBox* box = boxOf(cell)) {
             cell.span =
-                static_cast<int>(shell::columnsOf(m_shell.slots(), rowOf(cell), *box, m_slots,
-                                                  static_cast<std::size_t>(cell.column - 1)));
+                static_cast<int>(plan::columnsOf(m_state.slots, rowOf(cell), *box, m_slots,
+                                                 static_cast<std::size_t>(cell.column - 1)));
         }
         cells.push_back(cell);
     }
@@ -103,7 +102,7 @@ std::optional<PlanTable::Cell> PlanTable::roomAtHeight(double y) const
 
 std::optional<PlanTable::Cell> PlanTable::cellUnder(QPointF point) const
 {
-    const PlanHit hit = hitPlan(m_shell.form(), m_shell.refresh().content(), m_target, point);
+    const PlanHit hit = hitPlan(m_state.form, m_content, m_target, point);
     if (hit.box != nullptr) {
         const auto row = std::find(m_rows.begin(), m_rows.end(), hit.row) - m_rows.begin();
         const auto column =
@@ -134,14 +133,14 @@ QString PlanTable::nameOf(const Cell& cell) const
     }
     QStringList parts{row.room, timeWords(box->cell.CellStart, box->minutes)};
     parts += plan::writtenLines(plan::SanitizeCellText(box->cell.CellText));
-    parts += shell::groupWords(m_shell.form(), *box);
-    parts += shell::remarkWords(m_shell.form(), *box);
+    parts += plan::groupWords(m_state.form, *box);
+    parts += plan::remarkWords(m_state.form, *box);
     return inOneLine(parts);
 }
 
 QRectF PlanTable::placeOf(const Cell& cell) const
 {
-    const form::PlanForm& form = m_shell.form();
+    const form::PlanForm& form = m_state.form;
     const plan::PlanRow& row = rowOf(cell);
     const auto inPixels = [this](const form::Place& across, const form::Place& down) {
         return QRectF(m_target.toPixelsX(across.left), m_target.toPixelsY(down.top),
@@ -152,17 +151,17 @@ QRectF PlanTable::placeOf(const Cell& cell) const
         return inPixels(room, room);
     }
     if (const plan::PlanBox* box = boxOf(cell)) {
-        return plan::overlayPlaces(form, m_target, row.index, *box).ZAbs;
+        return paint::overlayPlaces(form, m_target, row.index, *box).ZAbs;
     }
     const int slot = slotOf(cell);
-    return m_shell.slots().slot(slot)
+    return m_state.slots.slot(slot)
                ? inPixels(form.Tot.at(static_cast<std::size_t>(slot - 1)).place, room)
                : QRectF();
 }
 
 QString PlanTable::slotTitle(int slot) const
 {
-    const auto& facts = m_shell.slots().slot(slot);
+    const auto& facts = m_state.slots.slot(slot);
     return facts ? timeWords(facts->start, facts->minutes) : QStringLiteral("séance %1").arg(slot);
 }
 
@@ -187,8 +186,8 @@ QStringList PlanTable::words() const
 
 QString PlanTable::title() const
 {
-    const form::PlanForm& form = m_shell.form();
-    const print::Heading heading = print::headingOf(form, m_shell.establishment());
+    const form::PlanForm& form = m_state.form;
+    const print::Heading heading = print::headingOf(form, m_state.establishment);
     const QString day = form.DTPicker1.visible ? runtime::frenchDayAndDate(form.DTPicker1.value())
                                                : form.CbJour.text();
     QString title =
@@ -198,7 +197,7 @@ QString PlanTable::title() const
 
 QString PlanTable::note() const
 {
-    const form::PlanForm& form = m_shell.form();
+    const form::PlanForm& form = m_state.form;
     QStringList sentences;
     const form::Label& rowZero = form.Salle.front();
     if (rowZero.visible) {

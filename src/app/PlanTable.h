@@ -1,7 +1,8 @@
 #pragma once
 
-#include "plan/DrawingTarget.h"
+#include "paint/DrawingTarget.h"
 #include "plan/PlanContent.h"
+#include "plan/PlanState.h"
 
 #include <QPointF>
 #include <QRectF>
@@ -9,11 +10,6 @@
 #include <QStringList>
 #include <optional>
 #include <vector>
-
-namespace shell
-{
-class Shell;
-}
 
 namespace app
 {
@@ -32,7 +28,8 @@ public:
     };
 
     /// `target` is the one that the plan was drawn with.
-    PlanTable(const shell::Shell& shell, const plan::DrawingTarget& target);
+    PlanTable(const plan::PlanState& state, const plan::PlanContent& content,
+              const paint::DrawingTarget& target);
 
     [[nodiscard]] int rowCount() const { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] int columnCount() const { return static_cast<int>(m_slots.size()) + 1; }
@@ -67,8 +64,9 @@ private:
     [[nodiscard]] const plan::PlanBox* boxOf(const Cell& cell) const;
     [[nodiscard]] QString slotTitle(int slot) const;
 
-    const shell::Shell& m_shell;
-    plan::DrawingTarget m_target;
+    const plan::PlanState& m_state;
+    const plan::PlanContent& m_content;
+    paint::DrawingTarget m_target;
     std::vector<const plan::PlanRow*> m_rows;
     std::vector<int> m_slots; ///< slot numbers of the columns from 1 on
 };

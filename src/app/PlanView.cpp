@@ -4,6 +4,8 @@
 #include "app/PlanAccess.h"
 #include "app/PlanHit.h"
 #include "app/ViewScale.h"
+#include "context/AxisLabels.h"
+#include "plan/RoomRows.h"
 #include "shell/Shell.h"
 
 #include <QHelpEvent>
@@ -21,12 +23,11 @@ namespace app
 namespace
 {
 
-constexpr QColor kBandFill(246, 247, 250);
 constexpr QColor kBandEdge(190, 196, 208);
 
 QString boxToolTip(const plan::PlanRow& row, const plan::PlanBox& box)
 {
-    const plan::RoomCell& cell = box.cell;
+    const lookup::RoomCell& cell = box.cell;
     QStringList lines;
     lines << QStringLiteral("%1 – %2, %3 min").arg(row.room, cell.CellStart, cell.CellDuration);
     for (const QString& line : cell.CellText.split(QStringLiteral("\r\n"), Qt::SkipEmptyParts)) {
@@ -41,7 +42,8 @@ QString boxToolTip(const plan::PlanRow& row, const plan::PlanBox& box)
 } // namespace
 
 PlanView::PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick)
-    : m_shell(shell), m_forward(std::move(forward)), m_markerClick(std::move(markerClick))
+    : m_shell(shell), m_engine(shell.engine()), m_forward(std::move(forward)),
+      m_markerClick(std::move(markerClick))
 {
     setObjectName(QStringLiteral("PlanView"));
     setFrameShape(QFrame::NoFrame);
@@ -50,14 +52,19 @@ PlanView::PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick
     offerPlanToScreenReaders();
 }
 
-plan::PlanScene PlanView::scene() const
+paint::PlanScene PlanView::scene() const
 {
-    return m_shell.scene(m_target);
+    return paint::sceneOf(m_engine.state(), m_engine.content(), m_target);
+}
+
+int PlanView::axisEnd() const
+{
+    return context::axisEnd(m_engine.form(), m_engine.state().slots);
 }
 
 PlanView::Bands PlanView::bands() const
 {
-    const form::PlanForm& form = m_shell.form();
+    const form::PlanForm& form = m_engine.form();
     const int width = viewport()->width();
     const int height = viewport()->height();
     const int top = static_cast<int>(m_target.toPixelsY(form.Salle.front().place.top)) - 1;
@@ -72,7 +79,7 @@ PlanView::Bands PlanView::bands() const
 
 int PlanView::totalsHeight() const
 {
-    const form::PlanForm& form = m_shell.form();
+    const form::PlanForm& form = m_engine.form();
     const bool needed = form.Chk_Compt.isChecked() ||
                         std::any_of(form.Tot.begin(), form.Tot.end(),
                                     [](const form::Label& total) { return total.visible; });
@@ -81,12 +88,12 @@ int PlanView::totalsHeight() const
 
 void PlanView::fit()
 {
-    const form::PlanForm& form = m_shell.form();
+    const form::PlanForm& form = m_engine.form();
     m_lastRowHeight = form.Salle.front().place.height;
-    m_lastRows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
+    m_lastRows = std::max<int>(m_engine.state().page.RowsShown, 0) + 1;
     m_totalsHeight = totalsHeight();
     const QSize room(viewport()->width(), viewport()->height() - m_totalsHeight);
-    m_target = fitPlan(form, m_shell.slots().axisEnd(), m_lastRows, room);
+    m_target = fitPlan(form, axisEnd(), m_lastRows, room);
     m_shell.layOut(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
                    viewport()->height() * m_target.TargetTwipsPerPixelY);
     updateScrollBars();
@@ -96,18 +103,19 @@ void PlanView::fit()
 void PlanView::updateScrollBars()
 {
     const Bands view = bands();
-    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 1;
-    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(m_shell.slots().axisEnd())));
+    const int bottom = static_cast<int>(std::ceil(paint::PlanPainter::rowsBottom(scene()))) + 1;
+    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(axisEnd())));
     verticalScrollBar()->setRange(0, std::max(0, bottom - (view.boxes.y() + view.boxes.height())));
     verticalScrollBar()->setPageStep(view.boxes.height());
-    verticalScrollBar()->setSingleStep(static_cast<int>(m_target.toPixelsY(m_lastRowHeight + 68)));
+    verticalScrollBar()->setSingleStep(
+        static_cast<int>(m_target.toPixelsY(m_lastRowHeight + plan::kRowGap)));
     horizontalScrollBar()->setRange(0, std::max(0, end - (view.boxes.x() + view.boxes.width())));
     horizontalScrollBar()->setPageStep(view.boxes.width());
 }
 
 void PlanView::showProgress()
 {
-    const auto& rows = m_shell.refresh().content().rows;
+    const auto& rows = m_engine.content().rows;
     if (rows.empty()) {
         return;
     }
@@ -117,7 +125,7 @@ void PlanView::showProgress()
     }
     m_picture.drawLastRow(scene());
     const form::Place& place =
-        m_shell.form().Salle.at(static_cast<std::size_t>(rows.back().index)).place;
+        m_engine.form().Salle.at(static_cast<std::size_t>(rows.back().index)).place;
     const int top = static_cast<int>(m_target.toPixelsY(place.top)) - verticalScrollBar()->value();
     const int height = static_cast<int>(m_target.toPixelsY(place.height)) + 2;
     viewport()->update(0, top - 1, viewport()->width(), height + 2);
@@ -132,8 +140,8 @@ void PlanView::showAll()
 
 void PlanView::drawAll()
 {
-    const int rows = std::max<int>(m_shell.page().RowsShown, 0) + 1;
-    if (rows != m_lastRows || m_shell.form().Salle.front().place.height != m_lastRowHeight ||
+    const int rows = std::max<int>(m_engine.state().page.RowsShown, 0) + 1;
+    if (rows != m_lastRows || m_engine.form().Salle.front().place.height != m_lastRowHeight ||
         totalsHeight() != m_totalsHeight) {
         fit();
     } else {
@@ -154,8 +162,8 @@ QPointF PlanView::toPlan(QPoint viewportPoint) const
 
 QSize PlanView::planSize() const
 {
-    const int bottom = static_cast<int>(std::ceil(plan::PlanPainter::rowsBottom(scene()))) + 1;
-    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(m_shell.slots().axisEnd())));
+    const int bottom = static_cast<int>(std::ceil(paint::PlanPainter::rowsBottom(scene()))) + 1;
+    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(axisEnd())));
     return {std::max(viewport()->width(), end + 1),
             std::max(viewport()->height() - m_totalsHeight, bottom)};
 }
@@ -170,7 +178,7 @@ void PlanView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
     painter.setClipRegion(event->region());
-    painter.fillRect(viewport()->rect(), kBandFill);
+    painter.fillRect(viewport()->rect(), PlanPicture::kBandFill);
     const Bands view = bands();
     const int scrollX = horizontalScrollBar()->value();
     const int scrollY = verticalScrollBar()->value();
@@ -212,11 +220,11 @@ void PlanView::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton || !bands().boxes.contains(event->position().toPoint())) {
         return;
     }
-    const PlanHit hit = hitPlan(m_shell.form(), m_shell.refresh().content(), m_target,
-                                toPlan(event->position().toPoint()));
+    const PlanHit hit =
+        hitPlan(m_engine.form(), m_engine.content(), m_target, toPlan(event->position().toPoint()));
     if (hit.part == PlanHit::Part::Counter) {
         const plan::GroupCounter group = *hit.box->group;
-        m_forward([this, group] { m_shell.options().Label2_Click(group); });
+        m_forward([this, group] { m_engine.Label2_Click(group); });
     } else if (hit.box != nullptr && hit.part != PlanHit::Part::Size) {
         m_markerClick(hit.box->marker);
     }
@@ -229,7 +237,7 @@ void PlanView::mouseDoubleClickEvent(QMouseEvent* event)
 
 QString PlanView::rowToolTip(double y) const
 {
-    const std::vector<form::Label>& rooms = m_shell.form().Salle;
+    const std::vector<form::Label>& rooms = m_engine.form().Salle;
     const auto room = std::find_if(rooms.begin(), rooms.end(), [y](const form::Label& label) {
         return label.visible && y >= label.place.top && y < label.place.top + label.place.height;
     });
@@ -242,18 +250,29 @@ QString PlanView::rowToolTip(double y) const
                                                 "plan : ses séances ne sont pas dessinées ici");
 }
 
+QString PlanView::totalsToolTip() const
+{
+    return m_engine.state().totals.isOld
+               ? QStringLiteral("Places occupées, comptées avant le dernier choix.\n"
+                                "Choisir le jour les compte à nouveau.")
+               : QString();
+}
+
 QString PlanView::toolTipAt(QPoint point) const
 {
     const Bands view = bands();
-    const form::PlanForm& form = m_shell.form();
+    const form::PlanForm& form = m_engine.form();
     if (view.names.contains(point) || view.places.contains(point)) {
         return rowToolTip(m_target.TargetTwipsPerPixelY * toPlan(point).y());
+    }
+    if (view.totals.contains(point)) {
+        return totalsToolTip();
     }
     if (!view.boxes.contains(point)) {
         return {};
     }
-    const PlanHit hit = hitPlan(form, m_shell.refresh().content(), m_target, toPlan(point));
-    const auto day = [&] { return m_shell.refresh().marker(hit.box->marker).Jour; };
+    const PlanHit hit = hitPlan(form, m_engine.content(), m_target, toPlan(point));
+    const auto day = [&] { return m_engine.markers().at(hit.box->marker).Jour; };
     switch (hit.part) {
     case PlanHit::Part::Nothing:
         return {};

@@ -2,7 +2,8 @@
 
 #include "app/PlanPicture.h"
 #include "app/PlanTable.h"
-#include "plan/PlanPainter.h"
+#include "engine/Engine.h"
+#include "paint/PlanPainter.h"
 
 #include <QAbstractScrollArea>
 #include <functional>
@@ -36,14 +37,17 @@ public:
     void showAll();
 
     /// The target that the view draws with.
-    [[nodiscard]] const plan::DrawingTarget& target() const { return m_target; }
+    [[nodiscard]] const paint::DrawingTarget& target() const { return m_target; }
     /// Where a point of the plan (device pixels, unscrolled) lies in the viewport.
     [[nodiscard]] QPointF toViewport(QPointF planPoint) const;
     /// The tooltip at a point of the viewport; empty where there is none.
     [[nodiscard]] QString toolTipAt(QPoint point) const;
 
     /// The plan in words, to be asked at once and not kept.
-    [[nodiscard]] PlanTable table() const { return {m_shell, m_target}; }
+    [[nodiscard]] PlanTable table() const
+    {
+        return {m_engine.state(), m_engine.content(), m_target};
+    }
     /// Where a cell of the table lies on the screen, also one that is scrolled out of sight.
     [[nodiscard]] QRect onScreen(const PlanTable::Cell& cell) const;
     /// Whether some of the cell is scrolled into view.
@@ -69,8 +73,10 @@ private:
         QRect totals;
     };
 
+    /// End of the time axis in twips.
+    [[nodiscard]] int axisEnd() const;
     [[nodiscard]] Bands bands() const;
-    [[nodiscard]] plan::PlanScene scene() const;
+    [[nodiscard]] paint::PlanScene scene() const;
     [[nodiscard]] QPointF toPlan(QPoint viewportPoint) const;
     /// Pixels that the totals line takes: none while there are no totals to come.
     [[nodiscard]] int totalsHeight() const;
@@ -82,11 +88,14 @@ private:
     [[nodiscard]] QRect inViewport(const PlanTable::Cell& cell) const;
     /// The tooltip of a row's name and places, `y` in twips of the plan.
     [[nodiscard]] QString rowToolTip(double y) const;
+    /// That the totals are old, where they are.
+    [[nodiscard]] QString totalsToolTip() const;
 
     shell::Shell& m_shell;
+    engine::Engine& m_engine;
     Forward m_forward;
     MarkerClick m_markerClick;
-    plan::DrawingTarget m_target;
+    paint::DrawingTarget m_target;
     PlanPicture m_picture;
     int m_lastRowHeight = 0;
     int m_lastRows = 0;

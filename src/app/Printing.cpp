@@ -1,10 +1,10 @@
 #include "app/Printing.h"
 
+#include "engine/Engine.h"
+#include "files/WholeFile.h"
 #include "print/PdfDocument.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
-#include "shell/Export.h"
-#include "shell/Shell.h"
 
 #include <QFile>
 #include <QPaintEngine>
@@ -62,8 +62,8 @@ void printToFile(QPrinter& printer, const std::vector<print::Sheet>& sheets)
         throw fault;
     }
     try {
-        shell::writeWholeFile(path, document);
-    } catch (const shell::ExportError& reason) {
+        files::writeWholeFile(path, document);
+    } catch (const files::ExportError& reason) {
         fault.addActivity(QString::fromUtf8(reason.what()));
         throw fault;
     }
@@ -123,25 +123,20 @@ PrintDialogs platformPrintDialogs(QWidget* window)
         }};
 }
 
-Printing::Printing(shell::Shell& shell, PrintDialogs dialogs)
-    : m_shell(shell), m_dialogs(std::move(dialogs))
+Printing::Printing(engine::Engine& engine, PrintDialogs dialogs)
+    : m_engine(engine), m_dialogs(std::move(dialogs))
 {
-    m_shell.form().Command1.click = [this] { Command1_Click(); };
-    m_shell.form().PrintPreview.click = [this] { PrintPreview_Click(); };
-    m_shell.form().PrintAllPages.click = [this] { PrintAllPages_Click(); };
-}
-
-std::vector<print::Sheet> Printing::sheetsOf(std::vector<plan::PlanPage> pages) const
-{
-    return print::makeSheets(std::move(pages), m_shell.slots(), m_shell.establishment());
+    m_engine.form().Command1.click = [this] { Command1_Click(); };
+    m_engine.form().PrintPreview.click = [this] { PrintPreview_Click(); };
+    m_engine.form().PrintAllPages.click = [this] { PrintAllPages_Click(); };
 }
 
 std::vector<print::Sheet> Printing::shownSheet()
 {
-    m_shell.refresh().finishRows(); // one that waits for this click to end has rows to colour
+    m_engine.finishRefresh(); // one that waits for this click to end has rows to colour
     std::vector<plan::PlanPage> pages;
-    pages.push_back(m_shell.shownPage());
-    return sheetsOf(std::move(pages));
+    pages.push_back(m_engine.shownPage());
+    return print::makeSheets(std::move(pages));
 }
 
 void Printing::Command1_Click()
@@ -151,7 +146,7 @@ void Printing::Command1_Click()
 
 void Printing::PrintAllPages_Click()
 {
-    print(sheetsOf(m_shell.allPages()));
+    print(print::makeSheets(m_engine.allPages()));
 }
 
 void Printing::print(std::vector<print::Sheet> sheets)

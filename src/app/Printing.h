@@ -9,9 +9,9 @@
 class QPrinter;
 class QWidget;
 
-namespace shell
+namespace engine
 {
-class Shell;
+class Engine;
 }
 
 namespace app
@@ -34,7 +34,7 @@ class Printing
 {
 public:
     /// Ties the buttons of the program's form to this object; both live as long as the window.
-    Printing(shell::Shell& shell, PrintDialogs dialogs);
+    Printing(engine::Engine& engine, PrintDialogs dialogs);
 
     /// "Imprimer": the page that the window shows, on one sheet.
     /// Error: PrinterError; so below.
@@ -47,10 +47,9 @@ public:
 
 private:
     [[nodiscard]] std::vector<print::Sheet> shownSheet();
-    [[nodiscard]] std::vector<print::Sheet> sheetsOf(std::vector<plan::PlanPage> pages) const;
     void print(std::vector<print::Sheet> sheets);
 
-    shell::Shell& m_shell;
+    engine::Engine& m_engine;
     PrintDialogs m_dialogs;
 };
 

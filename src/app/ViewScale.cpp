@@ -11,10 +11,6 @@ namespace app
 namespace
 {
 
-// Twips between the end of the time axis and the places, and between those and the edge.
-constexpr int kAfterAxis = 100;
-constexpr int kAfterPlaces = 250;
-
 constexpr double kMostTwipsAcross = 18.0;
 constexpr double kFewestTwipsAcross = 8.0;
 constexpr int kFewestTwipsDown = 9;
@@ -34,10 +30,10 @@ int mostTwipsDown(int rowHeight)
 
 } // namespace
 
-plan::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows, QSize view)
+paint::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows, QSize view)
 {
-    plan::DrawingTarget target = print::UseScreenTarget();
-    const double across = axisEnd + kAfterAxis + form.Cap.front().place.width + kAfterPlaces;
+    paint::DrawingTarget target = print::UseScreenTarget();
+    const double across = plan::widthWithPlaces(form, axisEnd);
     target.TargetTwipsPerPixelX =
         std::clamp(across / std::max(1, view.width()), kFewestTwipsAcross, kMostTwipsAcross);
     const form::Place& model = form.Salle.front().place;

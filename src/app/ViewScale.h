@@ -1,7 +1,7 @@
 #pragma once
 
 #include "form/PlanForm.h"
-#include "plan/DrawingTarget.h"
+#include "paint/DrawingTarget.h"
 
 #include <QSize>
 
@@ -11,7 +11,7 @@ namespace app
 /// The screen target with which the plan fills a view of this many pixels: the whole time axis
 /// across and, where they stay legible, all rows of the page down. What then does not fit scrolls.
 /// `axisEnd` is the end of the time axis in twips, `rows` the number of rows with row 0.
-[[nodiscard]] plan::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows,
-                                          QSize view);
+[[nodiscard]] paint::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows,
+                                           QSize view);
 
 } // namespace app

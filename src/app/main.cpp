@@ -2,6 +2,7 @@
 #include "app/ExitCode.h"
 #include "app/PlClasse.h"
 #include "app/PlatformTexts.h"
+#include "files/WholeFile.h"
 #include "shell/CommandLine.h"
 #include "shell/Export.h"
 #include "shell/Player.h"
@@ -53,19 +54,19 @@ shell::Settings openSettings(const shell::CommandLine& line)
                                        : shell::Settings::fromFile(line.settingsFile);
 }
 
-shell::Environment environmentFor(const shell::CommandLine& line)
+engine::Surroundings surroundingsFor(const shell::CommandLine& line)
 {
-    shell::Environment environment;
-    environment.applicationFolder = QCoreApplication::applicationDirPath();
-    environment.seed = line.seed;
-    environment.plain = line.plain;
-    return environment;
+    engine::Surroundings surroundings;
+    surroundings.applicationFolder = QCoreApplication::applicationDirPath();
+    surroundings.seed = line.seed;
+    surroundings.plain = line.plain;
+    return surroundings;
 }
 
 /// An export plays on a program of its own: it saves no settings.
 void exportWithoutWindow(const shell::CommandLine& line)
 {
-    shell::Shell shell(openSettings(line), environmentFor(line));
+    shell::Shell shell(openSettings(line), surroundingsFor(line));
     shell.Form_Load();
     shell.fitPicture();
     shell.Form_Activate();
@@ -75,7 +76,7 @@ void exportWithoutWindow(const shell::CommandLine& line)
 
 int runWindow(const shell::CommandLine& line)
 {
-    app::PlClasse window(openSettings(line), environmentFor(line));
+    app::PlClasse window(openSettings(line), surroundingsFor(line));
     return window.run(line);
 }
 
@@ -132,7 +133,7 @@ int main(int argc, char* argv[])
     } catch (const runtime::RunTimeError& error) {
         app::reportRunTimeError(nullptr, error);
         return kFailed;
-    } catch (const shell::ExportError& error) {
+    } catch (const files::ExportError& error) {
         app::writeError(QString::fromUtf8(error.what()));
         return kFailed;
     } catch (const shell::UsageError& error) {

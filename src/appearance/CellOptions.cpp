@@ -1,6 +1,6 @@
 #include "appearance/CellOptions.h"
 
-#include "runtime/Numbers.h"
+#include "context/RoomPage.h"
 
 namespace appearance
 {
@@ -18,11 +18,6 @@ constexpr int kOneLineHeight = 300;
 constexpr int kTwoLinesHeight = 400;
 constexpr int kThreeLinesHeight = 700;
 constexpr int kManyRoomsHeight = 200;
-
-double roomsPerPage(const form::PlanForm& form)
-{
-    return runtime::leadingNumber(form.Total_L_P.text());
-}
 
 int heightFor(int lines)
 {
@@ -52,20 +47,20 @@ void Adapter_Cellules(form::PlanForm& form, plan::CellLayout& layout)
 {
     layout.displayStyle = (form.XpMat.isChecked() ? 1 : 0) + (form.XOpEns.isChecked() ? 1 : 0) +
                           (form.XOpCl.isChecked() ? 1 : 0);
-    if (roomsPerPage(form) < kManyRooms) {
+    if (context::linesPerPage(form) < kManyRooms) {
         form.Salle.front().place.height = heightFor(layout.displayStyle);
         layout.CellSeparator = QStringLiteral("\r\n");
     } else {
-        if (roomsPerPage(form) > kMostRooms) {
+        if (context::linesPerPage(form) > kMostRooms) {
             form.Total_L_P.setText(QStringLiteral("29"));
         }
         form.Salle.front().place.height = kManyRoomsHeight;
         layout.CellSeparator.clear();
     }
-    layout.CellTextFormat = layout.displayStyle >= 2 && roomsPerPage(form) < kCentredFrom
+    layout.CellTextFormat = layout.displayStyle >= 2 && context::linesPerPage(form) < kCentredFrom
                                 ? plan::CellLayout::kWordBreak
                                 : plan::CellLayout::kCentredLines;
-    hideRowsBeyond(form, roomsPerPage(form));
+    hideRowsBeyond(form, context::linesPerPage(form));
 }
 
 CellOptions::CellOptions(form::PlanForm& form, plan::CellLayout& layout, plan::Paging& paging,

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "form/PlanForm.h"
+#include "plan/CellLayout.h"
 #include "plan/Paging.h"
 #include "plan/PlanRefresh.h"
-#include "plan/RoomOccupancy.h"
 
 namespace appearance
 {

@@ -22,13 +22,10 @@ EstablishmentHeader readHeader(db::Connection& connection)
     return header;
 }
 
-void countRooms(form::PlanForm& form, db::Connection& connection, RoomPage& page)
+void countRooms(form::PlanForm& form, StartReads& reads, RoomPage& page)
 {
-    const QString zone = form.cb_Locaux.text();
-    page.RoomTotal = connection.recordCount(
-        zone != u"0" ? QStringLiteral("select * from salle where Zone=%1").arg(zone)
-                     : QStringLiteral("select * from salle  "));
-    form.Command3.enabled = page.RoomTotal > runtime::leadingNumber(form.Total_L_P.text());
+    page.RoomTotal = reads.roomCount(form.cb_Locaux.text());
+    form.Command3.enabled = page.RoomTotal > linesPerPage(form);
 }
 
 void listPeriods(form::PlanForm& form, db::Connection& connection)
@@ -42,7 +39,8 @@ void listPeriods(form::PlanForm& form, db::Connection& connection)
 } // namespace
 
 EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& database,
-                                      Periods& periods, RoomPage& page, const HeaderSource& source)
+                                      StartReads& reads, Periods& periods, RoomPage& page,
+                                      const HeaderSource& source)
 {
     runtime::during(
         QStringLiteral("Ouverture de la base de données « %1 »").arg(source.databaseName),
@@ -53,7 +51,7 @@ EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& databa
                         [&] { return readHeader(connection); });
     form.Label4[4].caption = header.EstablishmentName;
     runtime::during(QStringLiteral("Comptage des salles (table « salle »)"),
-                    [&] { countRooms(form, connection, page); });
+                    [&] { countRooms(form, reads, page); });
     runtime::during(QStringLiteral("Lecture des périodes (table « tranche »)"),
                     [&] { listPeriods(form, connection); });
     runtime::during(QStringLiteral("Choix de la période du paramètre « Tranche » (valeur « %1 »)")

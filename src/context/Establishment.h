@@ -2,6 +2,7 @@
 
 #include "context/Periods.h"
 #include "context/RoomPage.h"
+#include "context/StartReads.h"
 #include "db/Database.h"
 #include "form/PlanForm.h"
 
@@ -29,7 +30,7 @@ struct HeaderSource {
 /// and the period named by the settings with its dates.
 /// Errors: any database error, TypeMismatch or Overflow for a value that does not convert.
 [[nodiscard]] EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& database,
-                                                    Periods& periods, RoomPage& page,
-                                                    const HeaderSource& source);
+                                                    StartReads& reads, Periods& periods,
+                                                    RoomPage& page, const HeaderSource& source);
 
 } // namespace context

@@ -28,25 +28,21 @@ QString dateCaption(const db::Value& date)
 
 } // namespace
 
-Periods::Periods(form::PlanForm& form, db::Database& database, Totals& totals, PlanActions& plan,
-                 std::function<QDate()> today)
-    : m_form(form), m_database(database), m_totals(totals), m_plan(plan), m_today(std::move(today))
+Periods::Periods(form::PlanForm& form, ViewedPeriod& viewed, db::Database& database, Totals& totals,
+                 PlanActions& plan, std::function<QDate()> today)
+    : m_form(form), m_viewed(viewed), m_database(database), m_totals(totals), m_plan(plan),
+      m_today(std::move(today))
 {
-}
-
-QDate Periods::shownDate() const
-{
-    const int day = m_form.CbJour.listIndex();
-    return day < 0 ? m_form.DTPicker1.value() : m_CurrentDate.addDays(day);
 }
 
 void Periods::chooseByIdent(std::int32_t ident)
 {
+    m_viewed.labelledIdent = ident;
     m_form.Label11.caption = QString::number(ident);
     const db::Recordset found = m_database.Db().open(
         QStringLiteral("select * from tranche where ident=") + m_form.Label11.caption);
     if (!found.isEmpty()) {
-        m_form.CbTranche.selectText(found.first().field(kName).toJoinedText());
+        m_form.CbTranche.showText(found.first().field(kName).toJoinedText());
     }
     readPeriodDates();
 }
@@ -54,7 +50,7 @@ void Periods::chooseByIdent(std::int32_t ident)
 void Periods::showCurrentWeek()
 {
     m_form.DTPicker1.setValue(MondayOnOrBefore(m_today()));
-    m_CurrentDate = m_form.DTPicker1.value();
+    m_viewed.CurrentDate = m_form.DTPicker1.value();
 }
 
 db::Recordset Periods::periodRow()
@@ -68,8 +64,9 @@ db::Recordset Periods::periodRow()
 
 void Periods::setTrancheIdent(const db::Value& ident)
 {
-    m_TrancheIdent = ident.toInt32();
-    m_form.Label11.caption = QString::number(m_TrancheIdent);
+    m_viewed.TrancheIdent = ident.toInt32();
+    m_viewed.labelledIdent = m_viewed.TrancheIdent;
+    m_form.Label11.caption = QString::number(m_viewed.labelledIdent);
 }
 
 void Periods::readPeriodDates()
@@ -87,64 +84,57 @@ void Periods::readPeriodDates()
         });
 }
 
+void Periods::readExamDates(const db::Row& weeks)
+{
+    m_viewed.ExamWeek1Start = weeks.field(kExamWeek1).toDate();
+    m_viewed.ExamWeek2Start = weeks.field(kExamWeek2).toDate();
+    m_viewed.ControlWeekStart = weeks.field(kControlWeek).toDate();
+    setTrancheIdent(weeks.field(kIdent));
+}
+
+void Periods::reckonExamDates(const db::Row& period)
+{
+    m_viewed.ExamWeek1Start = NextMondayAfter(period.field(kLastDay).toDate());
+    m_viewed.ExamWeek2Start = PlusOneWeek(m_viewed.ExamWeek1Start);
+    // Controls are held early in the period, so their week is counted from its first day, the exams
+    // from its last.
+    m_viewed.ControlWeekStart = NextMondayAfter(PlusFourWeeks(period.field(kFirstDay).toDate()));
+    setTrancheIdent(period.field(kIdent));
+}
+
 void Periods::LoadExamWeeks()
 {
-    runtime::during(QStringLiteral("Lecture des semaines d’examen de la période « %1 »")
-                        .arg(m_form.Label11.caption),
+    const QString ident = QString::number(m_viewed.labelledIdent);
+    runtime::during(QStringLiteral("Lecture des semaines d’examen de la période « %1 »").arg(ident),
                     [&] {
                         const db::Recordset exams = m_database.Db().open(
-                            QStringLiteral("select * from dat_exam where Tranche=") +
-                            m_form.Label11.caption);
+                            QStringLiteral("select * from dat_exam where Tranche=") + ident);
                         if (!exams.isEmpty()) {
-                            const db::Row& weeks = exams.first();
-                            m_ExamWeek1Start = weeks.field(kExamWeek1).toDate();
-                            m_ExamWeek2Start = weeks.field(kExamWeek2).toDate();
-                            m_ControlWeekStart = weeks.field(kControlWeek).toDate();
-                            setTrancheIdent(weeks.field(kIdent));
+                            readExamDates(exams.first());
                             return;
                         }
                         const db::Recordset found = periodRow();
                         if (!found.isEmpty()) {
-                            const db::Row& period = found.first();
-                            m_ExamWeek1Start = NextMondayAfter(period.field(kLastDay).toDate());
-                            m_ExamWeek2Start = PlusOneWeek(m_ExamWeek1Start);
-                            // Controls are held early in the period, so their week is counted from
-                            // its first day, the exams from its last.
-                            m_ControlWeekStart =
-                                NextMondayAfter(PlusFourWeeks(period.field(kFirstDay).toDate()));
-                            setTrancheIdent(period.field(kIdent));
+                            reckonExamDates(found.first());
                         }
                     });
 }
 
 void Periods::Afficher_Dates()
 {
-    if (m_form.OpEns.isSelected()) {
+    if (m_form.OpEns().isSelected()) {
         return;
     }
-    QDate weekStart;
-    switch (runtime::nearestInteger(runtime::leadingNumber(m_form.Semn.caption))) {
-    case 1:
-        weekStart = m_ExamWeek1Start;
-        break;
-    case 2:
-        weekStart = m_ExamWeek2Start;
-        break;
-    case 3:
-        weekStart = m_ControlWeekStart;
-        break;
-    default:
-        break;
-    }
+    const QDate weekStart = m_viewed.examWeekStart();
     if (!weekStart.isValid()) {
         return; // no period, so no exam week: the labels and the week stay as they are
     }
     m_form.Label4[1].caption = runtime::frenchLongDate(weekStart);
     m_form.Label4[3].caption = runtime::frenchLongDate(PlusFiveDays(weekStart));
-    m_CurrentDate = runtime::fromFrenchLongDate(m_form.Label4[1].caption);
+    m_viewed.CurrentDate = weekStart;
     if (m_form.visible && !m_PickerChangeBusy) {
         // One day further than the day list's own rule: an exam week opens on its second day.
-        m_form.DTPicker1.setValue(m_CurrentDate.addDays(m_form.CbJour.listIndex() + 1));
+        m_form.DTPicker1.setValue(weekStart.addDays(m_form.CbJour.listIndex() + 1));
     }
 }
 
@@ -160,7 +150,7 @@ void Periods::yieldTo(const std::function<void()>& events)
 void Periods::CbTranche_Click()
 {
     readPeriodDates();
-    if (m_form.visible && m_form.OpExam.isSelected()) {
+    if (m_form.visible && m_form.OpExam().isSelected()) {
         LoadExamWeeks();
         Afficher_Dates();
     }
@@ -172,7 +162,7 @@ void Periods::CbJour_Click()
 {
     m_DayChangeBusy = true;
     if (m_form.visible && !m_PickerChangeBusy) {
-        m_form.DTPicker1.setValue(m_CurrentDate.addDays(m_form.CbJour.listIndex()));
+        m_form.DTPicker1.setValue(m_viewed.CurrentDate.addDays(m_form.CbJour.listIndex()));
     }
     ResetTotals(m_form, m_totals);
     m_plan.RefreshPlan();
@@ -186,7 +176,7 @@ void Periods::DTPicker1_Change()
     }
     // The week comes first: the day list's click redraws the plan, and whoever looks at the shown
     // date or chooses another day in the middle of that means the picked week.
-    m_CurrentDate = MondayOnOrBefore(m_form.DTPicker1.value());
+    m_viewed.CurrentDate = MondayOnOrBefore(m_form.DTPicker1.value());
     m_PickerChangeBusy = true;
     if (m_form.DTPicker1.visible) {
         m_form.CbJour.setListIndex(dayListIndex(m_form.DTPicker1.value()));
@@ -204,14 +194,15 @@ void Periods::Combo10_Click()
     if (!m_form.Combo10.visible) {
         return;
     }
-    m_form.Semn.caption = QString::number(m_form.Combo10.listIndex() + 1);
+    m_viewed.examWeek = m_form.Combo10.listIndex() + 1;
+    m_form.Semn.caption = QString::number(m_viewed.examWeek);
     Afficher_Dates();
     m_plan.RefreshPlan();
 }
 
 void Periods::OpEns_Click()
 {
-    if (!m_form.OpEns.isSelected()) {
+    if (!m_form.OpEns().isSelected()) {
         return;
     }
     m_form.Combo10.visible = false;
@@ -219,13 +210,16 @@ void Periods::OpEns_Click()
     m_form.XOpEns.caption = QStringLiteral("Enseignant");
     m_form.Chk_Type.visible = true;
     m_form.DTPicker1.setValue(MondayOnOrBefore(m_today()));
+    if (!m_form.OpEns().isSelected()) {
+        return; // the picker's redraw served a press of "Examen", whose dates are to stay
+    }
     readPeriodDates();
     m_plan.RefreshPlan();
 }
 
 void Periods::OpExam_Click()
 {
-    if (!m_form.OpExam.isSelected()) {
+    if (!m_form.OpExam().isSelected()) {
         return;
     }
     m_form.Combo10.visible = true;

@@ -2,6 +2,7 @@
 
 #include "context/PlanActions.h"
 #include "context/Totals.h"
+#include "context/ViewedPeriod.h"
 #include "db/Database.h"
 #include "form/PlanForm.h"
 
@@ -18,17 +19,9 @@ namespace context
 class Periods
 {
 public:
-    /// `today` gives the current date.
-    Periods(form::PlanForm& form, db::Database& database, Totals& totals, PlanActions& plan,
-            std::function<QDate()> today);
-
-    /// First day (Monday) of the shown week; in exam mode the first day of the chosen exam week.
-    [[nodiscard]] QDate CurrentDate() const { return m_CurrentDate; }
-    /// Number of the chosen period, 0 for none.
-    [[nodiscard]] std::int32_t TrancheIdent() const { return m_TrancheIdent; }
-    /// The shown date: as many days after `CurrentDate` as the day list says. The list does not
-    /// hold Sunday; then it is the picked date.
-    [[nodiscard]] QDate shownDate() const;
+    /// `today` gives the current date. All references outlive this.
+    Periods(form::PlanForm& form, ViewedPeriod& viewed, db::Database& database, Totals& totals,
+            PlanActions& plan, std::function<QDate()> today);
 
     /// At start-up: selects the period with this number and reads its dates. An unknown number
     /// leaves no period.
@@ -40,10 +33,6 @@ public:
     void LoadExamWeeks();
     /// Shows the chosen exam week; does nothing in teaching mode.
     void Afficher_Dates();
-
-    [[nodiscard]] QDate ExamWeek1Start() const { return m_ExamWeek1Start; }
-    [[nodiscard]] QDate ExamWeek2Start() const { return m_ExamWeek2Start; }
-    [[nodiscard]] QDate ControlWeekStart() const { return m_ControlWeekStart; }
 
     /// Lets waiting events run in the middle of a redraw. Neither control is writing into the
     /// other at that moment, so an event that comes in then is not taken for an echo.
@@ -59,20 +48,18 @@ public:
 
 private:
     void readPeriodDates();
+    void readExamDates(const db::Row& weeks);
+    void reckonExamDates(const db::Row& period);
     void setTrancheIdent(const db::Value& ident);
     [[nodiscard]] db::Recordset periodRow();
 
     form::PlanForm& m_form;
+    ViewedPeriod& m_viewed;
     db::Database& m_database;
     Totals& m_totals;
     PlanActions& m_plan;
     std::function<QDate()> m_today;
 
-    QDate m_CurrentDate;
-    std::int32_t m_TrancheIdent = 0;
-    QDate m_ExamWeek1Start;
-    QDate m_ExamWeek2Start;
-    QDate m_ControlWeekStart;
     bool m_DayChangeBusy = false;    ///< the day list is writing into the date picker
     bool m_PickerChangeBusy = false; ///< the date picker is writing into the day list
 };

@@ -71,7 +71,7 @@ void RoomSet::FillRoomPage()
 
 void RoomSet::fillRows(const db::Recordset& rooms)
 {
-    const double lines = runtime::leadingNumber(m_form.Total_L_P.text());
+    const double lines = linesPerPage(m_form);
     // Later pages skip one room more than their start says: it is the page buttons' extra step
     // (0, P, 2P + 1, ...) that they make up for.
     // A start before the list, which a negative number of lines leads to, skips nothing.
@@ -81,10 +81,9 @@ void RoomSet::fillRows(const db::Recordset& rooms)
     while (filled <= lines && filled < form::PlanForm::kRows &&
            skipped + filled < rooms.recordCount()) {
         const db::Row& room = rooms.rows()[static_cast<std::size_t>(skipped + filled)];
-        const auto row = static_cast<std::size_t>(filled);
         const bool read = runtime::skipOnError([&] {
-            m_form.Salle[row].caption = room.field(QStringLiteral("Nom")).toJoinedText();
-            m_form.Cap[row].caption = room.field(QStringLiteral("places")).toJoinedText();
+            m_page.setName(m_form, filled, room.field(QStringLiteral("Nom")).toJoinedText());
+            m_page.setPlaces(m_form, filled, room.field(QStringLiteral("places")).toJoinedText());
         });
         if (!read) {
             break;
@@ -99,7 +98,7 @@ void RoomSet::fillRows(const db::Recordset& rooms)
 
 void RoomSet::showRows()
 {
-    const double lines = runtime::leadingNumber(m_form.Total_L_P.text());
+    const double lines = linesPerPage(m_form);
     int row = 0;
     for (; row <= lines; ++row) {
         setVisible(m_form, row, true);
@@ -107,7 +106,7 @@ void RoomSet::showRows()
     const int firstHidden = m_page.RowsShown + 1;
     const bool lastPage = row == m_page.RoomTotal || m_page.RoomTotal - lines <= m_page.PageOffset;
     if (lastPage && firstHidden >= 0 && firstHidden < form::PlanForm::kRows) {
-        m_form.Salle[static_cast<std::size_t>(firstHidden)].caption.clear();
+        m_page.setName(m_form, firstHidden, QString());
     }
     for (int hidden = firstHidden; hidden <= lines; ++hidden) {
         setVisible(m_form, hidden, false);

@@ -5,14 +5,22 @@
 namespace context
 {
 
+/// Minutes that one slot width stands for.
+constexpr int kSlotMinutes = 90;
+
+/// Width in twips of a stretch of time, not yet rounded, where a slot of 90 minutes takes
+/// `slotWidth`.
+[[nodiscard]] constexpr double widthOf(double minutes, int slotWidth)
+{
+    return slotWidth * minutes / kSlotMinutes;
+}
+
 /// The one mapping from a time of day to a horizontal position of the plan. A plain value: the
 /// printed sheet uses one of its own beside the screen's.
 struct TimeAxis {
     /// Twips that 90 minutes take on the screen and on the printed sheet.
     static constexpr int kScreenSlotWidth = 2400;
     static constexpr int kPrinterSlotWidth = 1700;
-    /// Minutes that one `SlotWidth` stands for.
-    static constexpr int kSlotMinutes = 90;
 
     QString originCaption; ///< time of day at the origin, for example 8h00
     int originLeft = 0;    ///< twips from the window's left edge to the origin
@@ -26,7 +34,7 @@ struct TimeAxis {
     /// Width in twips of a stretch of time; not yet rounded.
     [[nodiscard]] double widthOf(double minutes) const
     {
-        return SlotWidth * minutes / kSlotMinutes;
+        return context::widthOf(minutes, SlotWidth);
     }
 };
 

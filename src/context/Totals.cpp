@@ -7,9 +7,24 @@ void Totals::clear(form::PlanForm& form)
 {
     SlotSeats.fill(0);
     SlotTeacherCount.fill(0);
+    sums.fill(0);
+    isOld = false;
     for (form::Label& total : form.Tot) {
         total.caption = QStringLiteral("0000");
         total.visible = false;
+    }
+}
+
+void Totals::addRoom(form::PlanForm& form, bool teachers)
+{
+    for (std::size_t slot = 0; slot < kSlots; ++slot) {
+        sums.at(slot) += SlotSeats.at(slot);
+        form::Label& total = form.Tot.at(slot);
+        total.caption = QString::number(sums.at(slot));
+        if (teachers) {
+            total.caption += u'/' + QString::number(SlotTeacherCount.at(slot));
+        }
+        total.visible = sums.at(slot) != 0;
     }
 }
 

@@ -8,15 +8,23 @@
 namespace context
 {
 
-/// The counts behind the totals line, one entry per slot of the day.
+/// The counts behind the totals line, one entry per slot of the day. The captions of `Tot` are
+/// written from them, never read back.
 struct Totals {
-    std::array<std::int16_t, form::PlanForm::kSlotLabels> SlotSeats{};        ///< seats taken
-    std::array<std::int16_t, form::PlanForm::kSlotLabels> SlotTeacherCount{}; ///< teachers counted
+    static constexpr std::size_t kSlots = form::PlanForm::kSlotLabels;
+
+    std::array<std::int16_t, kSlots> SlotSeats{};        ///< taken in the room counted last
+    std::array<std::int16_t, kSlots> SlotTeacherCount{}; ///< teachers counted
+    std::array<std::int32_t, kSlots> sums{};             ///< seats taken in all rooms counted
     /// Whether the next refresh counts at all.
     bool CountingOn = false;
+    /// The line was counted before the last choice: a refresh that does not count left it standing.
+    bool isOld = false;
 
     /// Starts the totals line from zero and hides it. Leaves `CountingOn` alone.
     void clear(form::PlanForm& form);
+    /// Adds the room counted last to the line; with `teachers` their counts stand behind the seats.
+    void addRoom(form::PlanForm& form, bool teachers);
 };
 
 /// Clears the totals line; counting starts again when "Comptage" is ticked.

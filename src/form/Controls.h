@@ -7,21 +7,43 @@
 #include <QStringList>
 #include <functional>
 #include <utility>
+#include <vector>
 
 /// The window's controls as small values. A setter raises the control's event, so that a test or
 /// the command line plays the same events as a user; the real window only mirrors them.
 namespace form
 {
 
-/// What a control does when its event is raised. An empty event does nothing.
-using Event = std::function<void()>;
-
-inline void raise(const Event& event)
+/// What a control does when it is used. Without a handler it does nothing.
+///
+/// It is wiring and not a value: a copied control starts without a handler, and one that is
+/// assigned keeps its own. So whatever is done to a copy of the window's controls, the window does
+/// not notice.
+class Event
 {
-    if (event) {
-        event();
+public:
+    using Handler = std::function<void()>;
+
+    Event() = default;
+    ~Event() = default;
+    Event(const Event& /*other*/) noexcept {}
+    Event& operator=(const Event& /*other*/) noexcept { return *this; } // NOLINT: keeps its own
+    Event& operator=(Handler handler)
+    {
+        m_handler = std::move(handler);
+        return *this;
     }
-}
+
+    void raise() const
+    {
+        if (m_handler) {
+            m_handler();
+        }
+    }
+
+private:
+    Handler m_handler;
+};
 
 /// Where a control lies, in twips (1/1440 inch) from the window's inner top left corner.
 struct Place {
@@ -67,9 +89,12 @@ public:
     {
         if (checked != m_checked) {
             m_checked = checked;
-            raise(click);
+            click.raise();
         }
     }
+
+    /// The value as the window's design gives it; raises nothing.
+    void design(bool checked) { m_checked = checked; }
 
     QString caption;
     bool visible = true;
@@ -79,38 +104,51 @@ private:
     bool m_checked;
 };
 
-/// Option buttons of one group: exactly one of them is selected.
+/// Option buttons of one group: exactly one of them is selected, the first one at first.
 class OptionGroup
 {
-    friend class OptionButton;
+public:
+    explicit OptionGroup(QStringList captions)
+        : m_captions(std::move(captions)), m_clicks(static_cast<std::size_t>(m_captions.size()))
+    {
+    }
+
+    /// Position of the selected button, 0 upward.
+    [[nodiscard]] int selected() const { return m_selected; }
+    [[nodiscard]] const QString& caption(int button) const { return m_captions.at(button); }
+    /// Selects the button and raises its click, unless it is selected already.
+    void select(int button)
+    {
+        if (m_selected != button) {
+            m_selected = button;
+            click(button).raise();
+        }
+    }
+    [[nodiscard]] Event& click(int button) { return m_clicks.at(static_cast<std::size_t>(button)); }
+
+private:
+    QStringList m_captions;
+    std::vector<Event> m_clicks;
     int m_selected = 0;
 };
 
+/// One button of a group, under the name that it has in the window. `Group` is OptionGroup, const
+/// or not; it outlives the button.
+template <typename Group>
 class OptionButton
 {
 public:
-    /// The button at `index` of its group; the one at index 0 is selected at first.
-    OptionButton(OptionGroup& group, int index, QString text)
-        : caption(std::move(text)), m_group(group), m_index(index)
-    {
-    }
+    OptionButton(Group& group, int button) : m_group(group), m_button(button) {}
 
-    [[nodiscard]] bool isSelected() const { return m_group.m_selected == m_index; }
+    [[nodiscard]] const QString& caption() const { return m_group.caption(m_button); }
+    [[nodiscard]] bool isSelected() const { return m_group.selected() == m_button; }
     /// Unselects the group's other buttons and raises `click`, unless it is selected already.
-    void select()
-    {
-        if (!isSelected()) {
-            m_group.m_selected = m_index;
-            raise(click);
-        }
-    }
-
-    QString caption;
-    Event click;
+    void select() const { m_group.select(m_button); }
+    [[nodiscard]] Event& click() const { return m_group.click(m_button); }
 
 private:
-    OptionGroup& m_group;
-    int m_index;
+    Group& m_group;
+    int m_button;
 };
 
 /// A drop-down list.
@@ -128,7 +166,7 @@ public:
     void setListIndex(int index)
     {
         m_listIndex = index >= 0 && index < m_items.size() ? index : -1;
-        raise(click);
+        click.raise();
     }
     /// Selects the item with exactly this text and raises `click`. False, with nothing changed,
     /// when there is none.
@@ -140,6 +178,12 @@ public:
         }
         setListIndex(index);
         return true;
+    }
+    /// Selects the item with exactly this text and raises nothing; without one nothing changes.
+    void showText(const QString& text)
+    {
+        const auto index = static_cast<int>(m_items.indexOf(text));
+        m_listIndex = index < 0 ? m_listIndex : index;
     }
     void addItem(const QString& item) { m_items.append(item); }
     void clear()
@@ -171,7 +215,7 @@ public:
     {
         if (text != m_text) {
             m_text = text;
-            raise(change);
+            change.raise();
         }
     }
 
@@ -190,7 +234,7 @@ public:
     {
         if (value != m_value) {
             m_value = value;
-            raise(change);
+            change.raise();
         }
     }
 
@@ -210,7 +254,7 @@ public:
     void press() const
     {
         if (enabled) {
-            raise(click);
+            click.raise();
         }
     }
 

@@ -84,9 +84,10 @@ void designPlan(PlanForm& form)
 
 PlanForm::PlanForm()
     : caption(QStringLiteral("Planning des Classes")), backColor(Colour::fromRgb(240, 240, 240)),
-      Check2(QStringLiteral("Date")), OpEns(mode, 0, QStringLiteral("Enseignement")),
-      OpExam(mode, 1, QStringLiteral("Examen")), OptFixe(week, 0, QStringLiteral("Toute Semaine")),
-      OptA(week, 1, QStringLiteral("Semaine A")), OptB(week, 2, QStringLiteral("Semaine B")),
+      Check2(QStringLiteral("Date")),
+      mode({QStringLiteral("Enseignement"), QStringLiteral("Examen")}),
+      week({QStringLiteral("Toute Semaine"), QStringLiteral("Semaine A"),
+            QStringLiteral("Semaine B")}),
       XOpCl(QStringLiteral("Classe")), XOpEns(QStringLiteral("Enseignant")),
       XpMat(QStringLiteral("Matière")), Chk_Type(QStringLiteral("Type de S.")),
       xOpExam(QStringLiteral("Responsable")), Check1(QStringLiteral("Selon la Matière:")),

@@ -10,7 +10,8 @@ namespace form
 {
 
 /// The window `PlClasse` without a screen: all its controls under the names they have in the
-/// window. The subsystems read and set them; whoever shows them copies them.
+/// window. The subsystems read and set them; whoever shows them copies them. A copy has the same
+/// values and no events.
 class PlanForm
 {
 public:
@@ -21,8 +22,6 @@ public:
 
     /// The controls as the window's design leaves them.
     PlanForm();
-    PlanForm(const PlanForm&) = delete; // option buttons and events point into it
-    PlanForm& operator=(const PlanForm&) = delete;
 
     // The window itself. Sizes are the inner ones, in twips.
     QString caption;
@@ -50,14 +49,19 @@ public:
     DatePicker DTPicker1;
     CheckBox Check2;
     OptionGroup mode;
-    OptionButton OpEns;
-    OptionButton OpExam;
+    [[nodiscard]] auto OpEns() { return OptionButton(mode, 0); }
+    [[nodiscard]] auto OpEns() const { return OptionButton(mode, 0); }
+    [[nodiscard]] auto OpExam() { return OptionButton(mode, 1); }
+    [[nodiscard]] auto OpExam() const { return OptionButton(mode, 1); }
     List Combo10;
     Label Semn;
     OptionGroup week;
-    OptionButton OptFixe;
-    OptionButton OptA;
-    OptionButton OptB;
+    [[nodiscard]] auto OptFixe() { return OptionButton(week, 0); }
+    [[nodiscard]] auto OptFixe() const { return OptionButton(week, 0); }
+    [[nodiscard]] auto OptA() { return OptionButton(week, 1); }
+    [[nodiscard]] auto OptA() const { return OptionButton(week, 1); }
+    [[nodiscard]] auto OptB() { return OptionButton(week, 2); }
+    [[nodiscard]] auto OptB() const { return OptionButton(week, 2); }
 
     // What a box shows
     CheckBox XOpCl;

@@ -29,9 +29,6 @@ struct Marqueur {
     bool AbsEtud = false;
 };
 
-/// The class that decides a box's markers: the first of the list, trimmed.
-[[nodiscard]] QString firstClass(const QString& classes);
-
 /// The tooltip of `YAbs` over a box whose student absence is recorded.
 [[nodiscard]] QString studentAbsentToolTip(const Marqueur& marker);
 

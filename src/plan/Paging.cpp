@@ -10,33 +10,26 @@
 namespace plan
 {
 
-Paging::Paging(form::PlanForm& form, context::RoomPage& page, context::Totals& totals,
-               context::RoomSet& rooms, RowColors& colors, PlanRefresh& refresh,
+Paging::Paging(PlanState& state, context::RoomSet& rooms, PlanRefresh& refresh,
                std::function<void()> adaptCells)
-    : m_form(form), m_page(page), m_totals(totals), m_rooms(rooms), m_colors(colors),
-      m_refresh(refresh), m_adaptCells(std::move(adaptCells))
+    : m_state(state), m_rooms(rooms), m_refresh(refresh), m_adaptCells(std::move(adaptCells))
 {
-}
-
-double Paging::linesPerPage() const
-{
-    return runtime::leadingNumber(m_form.Total_L_P.text());
 }
 
 void Paging::Total_L_P_Change()
 {
-    m_page.RowsShown =
+    m_state.page.RowsShown =
         runtime::during(QStringLiteral("Lecture du nombre de lignes par page (valeur « %1 »)")
-                            .arg(m_form.Total_L_P.text()),
-                        [&] { return runtime::toInt16(m_form.Total_L_P.text()); });
-    if (m_colors.PaletteName.isEmpty()) {
-        m_colors.RedrawMode = false;
-        m_colors.reseed();
+                            .arg(m_state.form.Total_L_P.text()),
+                        [&] { return runtime::toInt16(m_state.form.Total_L_P.text()); });
+    if (m_state.colors.PaletteName.isEmpty()) {
+        m_state.colors.RedrawMode = false;
+        m_state.colors.reseed();
     }
     m_adaptCells();
     const std::uint64_t refreshes = m_refresh.refreshCount();
     recomputePages();
-    if (m_form.visible && m_refresh.refreshCount() == refreshes) {
+    if (m_state.form.visible && m_refresh.refreshCount() == refreshes) {
         // All rooms fit on the page, so there was no page to step to: every choice redraws the
         // plan at once all the same.
         m_rooms.FillRoomPage();
@@ -46,8 +39,8 @@ void Paging::Total_L_P_Change()
 
 void Paging::recomputePages()
 {
-    PlaceRoomRows(m_form);
-    if (m_form.visible) { // before that there are neither rooms nor pages
+    PlaceRoomRows(m_state.form);
+    if (m_state.form.visible) { // before that there are neither rooms nor pages
         // One step forward and one step back. What comes in between, such as the next digit typed,
         // would find the page of the first step and take it for the one to stay on.
         m_refresh.withoutYielding([this] { Command3_Click(); });
@@ -57,8 +50,8 @@ void Paging::recomputePages()
 
 void Paging::Command3_Click()
 {
-    const double lines = linesPerPage();
-    if (lines + m_page.PageStart >= m_page.RoomTotal) {
+    const double lines = context::linesPerPage(m_state.form);
+    if (lines + m_state.page.PageStart >= m_state.page.RoomTotal) {
         stopAtLastPage();
         return;
     }
@@ -66,13 +59,14 @@ void Paging::Command3_Click()
     m_refresh.ClearPlanOverlays();
     // From the second page on a page starts one room further: 0, P, 2P + 1, 3P + 2. Row 0 of a
     // page is the room before its first drawn one.
-    const int step = m_page.PageStart == 0 ? 0 : 1;
-    m_page.PageOffset = runtime::nearestInteger(m_page.PageStart + lines + step);
-    m_page.PageStart = m_page.PageOffset;
+    const int step = m_state.page.PageStart == 0 ? 0 : 1;
+    m_state.page.PageOffset = runtime::nearestInteger(m_state.page.PageStart + lines + step);
+    m_state.page.PageStart = m_state.page.PageOffset;
     // Before the redraw: a press of the other button in the middle of it knows better.
-    m_form.Command2.enabled = true;
+    m_state.form.Command2.enabled = true;
     showPage(PlanRefresh::TotalsStart::PreviousPages);
-    if (m_page.PageStart + linesPerPage() + 1 >= m_page.RoomTotal) {
+    if (m_state.page.PageStart + context::linesPerPage(m_state.form) + 1 >=
+        m_state.page.RoomTotal) {
         stopAtLastPage();
     }
 }
@@ -80,38 +74,48 @@ void Paging::Command3_Click()
 void Paging::stopAtLastPage()
 {
     // The totals line now holds all the rooms; counting on would count rooms twice.
-    m_totals.CountingOn = false;
-    m_form.Command3.enabled = false;
+    m_state.totals.CountingOn = false;
+    m_state.form.Command3.enabled = false;
 }
 
 void Paging::Command2_Click()
 {
-    const double lines = linesPerPage();
-    if (m_page.PageOffset - lines >= 0) {
+    const double lines = context::linesPerPage(m_state.form);
+    if (m_state.page.PageOffset - lines >= 0) {
         m_refresh.ClearPlanOverlays();
-        const int step = lines == m_page.PageOffset ? 0 : -1;
-        m_page.PageOffset = runtime::nearestInteger(m_page.PageOffset - lines + step);
-        m_page.PageStart = runtime::nearestInteger(m_page.PageStart - lines + step);
+        const int step = lines == m_state.page.PageOffset ? 0 : -1;
+        m_state.page.PageOffset = runtime::nearestInteger(m_state.page.PageOffset - lines + step);
+        m_state.page.PageStart = runtime::nearestInteger(m_state.page.PageStart - lines + step);
         const auto rows = static_cast<std::size_t>(
             std::clamp(lines + 1, 0.0, static_cast<double>(form::PlanForm::kRows)));
         for (std::size_t row = 0; row < rows; ++row) {
-            m_form.Salle[row].visible = true;
-            m_form.Cap[row].visible = true;
+            m_state.form.Salle[row].visible = true;
+            m_state.form.Cap[row].visible = true;
         }
-        m_form.Command3.enabled = true;
+        m_state.form.Command3.enabled = true;
         showPage(PlanRefresh::TotalsStart::Zero);
     } else {
-        m_form.Command2.enabled = false;
+        m_state.form.Command2.enabled = false;
     }
-    if (m_page.PageOffset == 0) {
-        m_form.Command2.enabled = false;
+    if (m_state.page.PageOffset == 0) {
+        m_state.form.Command2.enabled = false;
     }
+}
+
+void Paging::showFirstPage()
+{
+    m_state.page.PageOffset = 0;
+    m_state.page.PageStart = 0;
+    m_state.form.Command2.enabled = false;
+    m_state.form.Command3.enabled = true;
+    context::ResetTotals(m_state.form, m_state.totals);
+    showPage(PlanRefresh::TotalsStart::Zero);
 }
 
 void Paging::showPage(PlanRefresh::TotalsStart totals)
 {
     m_rooms.FillRoomPage();
-    PlaceRoomRows(m_form);
+    PlaceRoomRows(m_state.form);
     m_refresh.RefreshPlan(totals);
 }
 

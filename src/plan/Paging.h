@@ -1,11 +1,8 @@
 #pragma once
 
-#include "context/RoomPage.h"
 #include "context/RoomSet.h"
-#include "context/Totals.h"
-#include "form/PlanForm.h"
 #include "plan/PlanRefresh.h"
-#include "plan/RowColors.h"
+#include "plan/PlanState.h"
 
 #include <functional>
 
@@ -17,8 +14,7 @@ class Paging
 {
 public:
     /// `adaptCells` fits the row height and the box layout to the number of rooms per page.
-    Paging(form::PlanForm& form, context::RoomPage& page, context::Totals& totals,
-           context::RoomSet& rooms, RowColors& colors, PlanRefresh& refresh,
+    Paging(PlanState& state, context::RoomSet& rooms, PlanRefresh& refresh,
            std::function<void()> adaptCells);
 
     /// Errors: TypeMismatch or Overflow for a text that is no 16-bit number; database errors.
@@ -27,19 +23,18 @@ public:
     void Command3_Click();
     /// "Page Précédente". Error: any database error.
     void Command2_Click();
+    /// Goes to the first page, whatever the buttons' state, and counts from there.
+    /// Error: any database error.
+    void showFirstPage();
     /// Brings the page boundaries into agreement with the rooms per page.
     void recomputePages();
 
 private:
-    [[nodiscard]] double linesPerPage() const;
     void stopAtLastPage();
     void showPage(PlanRefresh::TotalsStart totals);
 
-    form::PlanForm& m_form;
-    context::RoomPage& m_page;
-    context::Totals& m_totals;
+    PlanState& m_state;
     context::RoomSet& m_rooms;
-    RowColors& m_colors;
     PlanRefresh& m_refresh;
     std::function<void()> m_adaptCells;
 };

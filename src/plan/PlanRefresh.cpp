@@ -1,5 +1,8 @@
 #include "plan/PlanRefresh.h"
 
+#include "context/AxisLabels.h"
+#include "plan/CellNumbers.h"
+#include "plan/ClassList.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 
@@ -12,7 +15,6 @@ namespace
 {
 
 using runtime::leadingNumber;
-using runtime::nearestInt16;
 using runtime::nearestInteger;
 
 // Slots that a refresh asks about; the totals line has room for one more.
@@ -21,21 +23,9 @@ constexpr int kSlots = 10;
 // entries 0 and 1 of a palette are not meant for rows.
 constexpr int kColorStep = 2;
 constexpr form::Colour kPlainRow = form::Colour::fromRgb(215, 215, 215);
-
-// Texts for errors are made only when there is one: this runs for every box.
-
-/// The number that `text` begins with, as `convert` rounds it. Error: Overflow, which then says
-/// what was read and from which text.
-template <typename Convert>
-auto converted(const char* what, const QString& text, Convert convert)
-{
-    try {
-        return convert(leadingNumber(text));
-    } catch (runtime::RunTimeError& error) {
-        error.addActivity(QStringLiteral("Lecture %1 « %2 »").arg(QString::fromUtf8(what), text));
-        throw;
-    }
-}
+// The counter of a box that shows several parts stands in its right corner, on pages of fewer rooms
+// than this.
+constexpr double kManyRooms = 20;
 
 } // namespace
 
@@ -48,36 +38,22 @@ std::int16_t CountSlashParts(const QString& text)
     return text.indexOf(u'/', first + 1) < 0 ? 2 : 3;
 }
 
-QString firstClass(const QString& classes)
-{
-    return runtime::trimBlanks(classes.left(classes.indexOf(u'\t')));
-}
-
-QString studentAbsentToolTip(const Marqueur& marker)
-{
-    return marker.Classes + QStringLiteral(" Absent");
-}
-
-PlanRefresh::PlanRefresh(RefreshContext context, std::function<void()> yield)
-    : m_c(context), m_yield(std::move(yield))
+PlanRefresh::PlanRefresh(PlanState& state, Sources sources, std::function<void()> yield)
+    : m_state(state), m_sources(sources), m_yield(std::move(yield))
 {
 }
 
 void PlanRefresh::RefreshPlan(TotalsStart start)
 {
-    if (!m_c.form.visible) {
+    if (!m_state.form.visible) {
         return;
     }
     const std::uint64_t refresh = ++m_refreshes;
-    ++m_started;
-    if (start == TotalsStart::Zero) {
-        m_c.totals.clear(m_c.form);
-    }
+    startTotals(start);
     ClearPlanOverlays();
-    m_c.colors.reseed();
-    m_counting = m_c.totals.CountingOn;
+    m_state.colors.reseed();
     m_nextRow = 1;
-    m_lastRow = m_c.page.RowsShown;
+    m_lastRow = m_state.page.RowsShown;
     prepareQuestions();
     while (m_nextRow <= m_lastRow) {
         drawRow(m_nextRow++);
@@ -88,13 +64,26 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
             return;
         }
     }
-    m_c.colors.RedrawMode = true;
+    m_state.colors.RedrawMode = true;
+}
+
+/// A line that a refresh leaves standing tells of another choice from then on; nothing can be added
+/// to it.
+void PlanRefresh::startTotals(TotalsStart start)
+{
+    context::Totals& totals = m_state.totals;
+    m_counting = totals.CountingOn && start != TotalsStart::AsItStands;
+    if (!m_counting) {
+        totals.isOld = totals.isOld || start != TotalsStart::AsItStands;
+    } else if (start == TotalsStart::Zero || totals.isOld) {
+        totals.clear(m_state.form);
+    }
 }
 
 void PlanRefresh::ClearPlanOverlays()
 {
     m_content.rows.clear();
-    m_MarkerCount = 0;
+    m_markers.startAgain();
 }
 
 void PlanRefresh::finishRows()
@@ -112,20 +101,21 @@ void PlanRefresh::withoutYielding(const std::function<void()>& action)
 
 form::Colour PlanRefresh::rowColor(int row)
 {
-    if (!m_c.form.Colorer.isChecked()) {
+    RowColors& colors = m_state.colors;
+    if (!m_state.form.Colorer.isChecked()) {
         return kPlainRow;
     }
-    if (m_c.colors.PaletteName.isEmpty() && !m_c.colors.RedrawMode) {
-        const form::Colour color = m_c.colors.randomColor();
-        m_c.colors.set(row, color);
+    if (colors.PaletteName.isEmpty() && !colors.RedrawMode) {
+        const form::Colour color = colors.randomColor();
+        colors.set(row, color);
         return color;
     }
-    return m_c.colors.at(row + kColorStep);
+    return colors.at(row + kColorStep);
 }
 
 QString PlanRefresh::seanceKey(int slot) const
 {
-    return m_c.form.CbJour.text() + QString::number(slot);
+    return m_state.form.CbJour.text() + QString::number(slot);
 }
 
 /// Everything that the rows are going to ask is known before the first one is drawn.
@@ -133,37 +123,41 @@ void PlanRefresh::prepareQuestions()
 {
     QStringList rooms;
     for (int row = 1; row <= m_lastRow && row < form::PlanForm::kRows; ++row) {
-        rooms << m_c.form.Salle[static_cast<std::size_t>(row)].caption;
+        rooms << m_state.page.room(row).name;
     }
     QStringList keys;
     for (int slot = 1; slot <= kSlots; ++slot) {
         keys << seanceKey(slot);
     }
-    const PageFacts facts =
-        m_c.lookup.prepare(rooms, keys, QString::number(m_c.periods.TrancheIdent()));
-    AbsenceQuestions absences{m_c.form.DTPicker1.value(), {}, facts.starts};
+    const lookup::View view = viewOf(m_state);
+    const lookup::PageFacts facts =
+        lookup::OccupancyLookup(m_sources.rows, view)
+            .prepare(rooms, keys, QString::number(m_state.period.TrancheIdent));
+    AbsenceQuestions absences{m_state.form.DTPicker1.value(), {}, facts.starts};
     for (const QString& className : facts.classNames) {
         absences.classNames << firstClass(className);
     }
-    for (const form::Label& tick : m_c.form.Label1) {
-        absences.starts << tick.caption; // stands in where a row has no start of its own
-    }
-    m_c.absences.prepare(absences);
+    absences.starts += view.tickCaptions; // stand in where a row has no start of its own
+    m_sources.absences.prepare(absences);
 }
 
 void PlanRefresh::drawRow(int row)
 {
-    if (row >= form::PlanForm::kRows) {
-        throw runtime::RunTimeError(runtime::ErrorNumber::SubscriptOutOfRange);
-    }
-    form::Label& room = m_c.form.Salle[static_cast<std::size_t>(row)];
-    form::Label& places = m_c.form.Cap[static_cast<std::size_t>(row)];
-    PlanRow planRow{row, room.caption, places.caption, rowColor(row), {}};
-    room.backColor = planRow.color;
-    places.backColor = planRow.color;
+    const context::RoomPage::Room room = m_state.page.room(row);
+    PlanRow planRow{row, room.name, room.places, rowColor(row), {}};
+    m_state.form.Salle[static_cast<std::size_t>(row)].backColor = planRow.color;
+    m_state.form.Cap[static_cast<std::size_t>(row)].backColor = planRow.color;
+    lookup::OccupancyLookup lookup(m_sources.rows, viewOf(m_state));
+    QString durationBefore;
     for (int slot = 1; slot <= kSlots; ++slot) {
         try {
-            drawSlot(planRow, slot);
+            bool makeUp = false;
+            lookup::RoomCell cell = lookUp(lookup, room.name, slot, makeUp);
+            countSlot(planRow, slot, cell, durationBefore);
+            durationBefore = cell.CellDuration;
+            if (!cell.CellText.isEmpty()) {
+                drawSlot(planRow, slot, std::move(cell), makeUp);
+            }
         } catch (runtime::RunTimeError& error) {
             error.addPlace(QStringLiteral("Dessin de la salle « %1 », séance « %2 »")
                                .arg(planRow.room, seanceKey(slot)));
@@ -172,146 +166,84 @@ void PlanRefresh::drawRow(int row)
     }
     m_content.rows.push_back(std::move(planRow));
     if (m_counting) {
-        addTotals();
+        m_state.totals.addRoom(m_state.form, teachersOnly());
     }
 }
 
-void PlanRefresh::drawSlot(PlanRow& planRow, int slot)
+/// With "Date", a free slot is asked about again among the make-ups.
+lookup::RoomCell PlanRefresh::lookUp(lookup::OccupancyLookup& lookup, const QString& room, int slot,
+                                     bool& makeUp) const
 {
-    const QString durationBefore = m_c.lookup.cell().CellDuration;
-    const QString tranche = QString::number(m_c.periods.TrancheIdent());
-    QString text = m_c.lookup.RoomOccupancy(planRow.room, seanceKey(slot), tranche, false);
-    bool makeUp = false;
-    if (text.isEmpty() && m_c.form.Check2.isChecked()) {
-        text = m_c.lookup.RoomOccupancy(planRow.room, seanceKey(slot), tranche, true);
+    const QString tranche = QString::number(m_state.period.TrancheIdent);
+    const QString key = seanceKey(slot);
+    lookup::RoomCell cell = *lookup.RoomOccupancy(room, key, tranche, false);
+    if (cell.CellText.isEmpty() && m_state.form.Check2.isChecked()) {
         makeUp = true;
-    }
-    const auto entry = static_cast<std::size_t>(slot - 1);
-    const int roomIndex = planRow.index + m_c.page.PageOffset;
-    m_c.totals.SlotSeats.at(entry) = 0;
-    if (!text.isEmpty()) {
-        if (teachersOnly()) {
-            std::int16_t& teachers = m_c.totals.SlotTeacherCount.at(entry);
-            teachers = runtime::addInt16(teachers, CountSlashParts(text));
+        if (auto found = lookup.RoomOccupancy(room, key, tranche, true)) {
+            cell = std::move(*found);
         }
-        m_c.totals.SlotSeats.at(entry) = m_c.slots.RoomPlaces(roomIndex);
-        planRow.boxes.push_back(makeBox(planRow, slot, makeUp));
-    } else if (slot != 1 && m_c.slots.OverrunsIntoSlot(
-                                slot, converted("de la durée", durationBefore, nearestInteger))) {
+    }
+    return cell;
+}
+
+void PlanRefresh::countSlot(const PlanRow& planRow, int slot, const lookup::RoomCell& cell,
+                            const QString& durationBefore)
+{
+    context::Totals& totals = m_state.totals;
+    const auto entry = static_cast<std::size_t>(slot - 1);
+    totals.SlotSeats.at(entry) = 0;
+    bool isHeld = !cell.CellText.isEmpty();
+    if (isHeld && teachersOnly()) {
+        std::int16_t& teachers = totals.SlotTeacherCount.at(entry);
+        teachers = runtime::addInt16(teachers, CountSlashParts(cell.CellText));
+    } else if (!isHeld && slot != 1) {
         // What began in the slot before still holds the room.
-        m_c.totals.SlotSeats.at(entry) = m_c.slots.RoomPlaces(roomIndex);
+        isHeld = m_state.slots.OverrunsIntoSlot(
+            slot, cellNumber("de la durée", durationBefore, nearestInteger));
+    }
+    if (isHeld) {
+        totals.SlotSeats.at(entry) = m_state.places.at(planRow.index + m_state.page.PageOffset);
     }
 }
 
-PlanBox PlanRefresh::makeBox(const PlanRow& row, int slot, bool makeUp)
+void PlanRefresh::drawSlot(PlanRow& planRow, int slot, lookup::RoomCell cell, bool makeUp)
 {
+    const context::TimeAxis axis = context::screenAxis(m_state.form);
     PlanBox box;
     box.slot = slot;
     box.makeUp = makeUp;
-    box.cell = m_c.lookup.cell();
-    const double minutes = leadingNumber(box.cell.CellDuration);
-    box.x = m_c.slots.TimeToX(box.cell.CellStart);
-    box.minutes = converted("de la durée", box.cell.CellDuration, nearestInteger);
-    box.width = m_c.slots.axis().widthOf(minutes);
-    fillMarker(box);
+    box.cell = std::move(cell);
+    box.x = axis.TimeToX(box.cell.CellStart);
+    box.minutes = cellNumber("de la durée", box.cell.CellDuration, nearestInteger);
+    box.width = axis.widthOf(leadingNumber(box.cell.CellDuration));
+    box.marker =
+        m_markers.fill(box.cell, m_state.period.TrancheIdent, m_state.form.DTPicker1.value());
     testAbsences(box);
-    box.group = groupCounter(row);
-    return box;
-}
-
-void PlanRefresh::fillMarker(PlanBox& box)
-{
-    box.marker = ++m_MarkerCount;
-    if (m_markers.size() < static_cast<std::size_t>(m_MarkerCount)) {
-        m_markers.resize(static_cast<std::size_t>(m_MarkerCount));
-    }
-    const RoomCell& cell = box.cell;
-    Marqueur& record = m_markers[static_cast<std::size_t>(m_MarkerCount - 1)];
-    record.Classes = cell.CellClassList;
-    record.Seance = cell.CellSeance;
-    record.Tranche = converted("du numéro de période", QString::number(m_c.periods.TrancheIdent()),
-                               nearestInt16);
-    record.Matiere = cell.CellSubject;
-    record.Salle = cell.CellRoom;
-    record.Enseignant1 = cell.CellTeacher;
-    record.TypeS1 = converted("du type de séance", cell.CellTypeA, nearestInt16);
-    record.TypeS3B = converted("du type de séance", cell.CellTypeB, nearestInt16);
-    record.Duree = converted("de la durée", cell.CellDuration, nearestInt16);
-    record.Commune = cell.CellCommon;
-    record.Debut = cell.CellStart;
-    record.Jour = m_c.form.DTPicker1.value();
-    record.Choix = 1;
-    record.newnature = cell.CellWeekNature;
+    const bool atRight =
+        m_state.layout.displayStyle >= 2 && context::linesPerPage(m_state.form) < kManyRooms;
+    box.group = groupCounterOf(box.cell, planRow.places, atRight);
+    planRow.boxes.push_back(std::move(box));
 }
 
 void PlanRefresh::testAbsences(PlanBox& box)
 {
-    const Marqueur& record = marker(box.marker);
+    const Marqueur& record = m_markers.at(box.marker);
     const QString className = firstClass(record.Classes);
     // An absence that cannot be asked about counts as none: the plan itself is worth showing.
     runtime::skipOnError(
-        [&] { box.classAbsent = m_c.absences.Existe_AbsClasse(record, className); });
-    runtime::skipOnError(
-        [&] { box.studentAbsent = m_c.absences.Existe_AbsEtud(record, className, className); });
+        [&] { box.classAbsent = m_sources.absences.Existe_AbsClasse(record, className); });
+    runtime::skipOnError([&] {
+        box.studentAbsent = m_sources.absences.Existe_AbsEtud(record, className, className);
+    });
     if (box.studentAbsent) {
         box.absentToolTip = studentAbsentToolTip(record);
     }
 }
 
-std::optional<GroupCounter> PlanRefresh::groupCounter(const PlanRow& row) const
-{
-    const RoomCell& cell = m_c.lookup.cell();
-    const double seats = leadingNumber(row.places);
-    const bool overfull = seats < cell.CellStudents || seats < cell.CellCapacity;
-    if (cell.CellRowCount == 1 && !overfull) {
-        return std::nullopt;
-    }
-    GroupCounter group;
-    group.counter = QString::number(cell.CellRowCount);
-    group.sizeLabel = QString::number(cell.CellStudents);
-    group.details = cell.CellClasses;
-    group.overfull = overfull;
-    group.atRight = m_c.layout.displayStyle >= 2 && leadingNumber(m_c.form.Total_L_P.text()) < 20;
-    if (overfull) {
-        const int size = cell.CellStudents != 0 ? cell.CellStudents : cell.CellCapacity;
-        group.sizeLabel =
-            QStringLiteral("Dépassement ") + QString::number(size) + u'/' + row.places;
-    }
-    return group;
-}
-
 bool PlanRefresh::teachersOnly() const
 {
-    const form::PlanForm& form = m_c.form;
+    const form::PlanForm& form = m_state.form;
     return form.XOpEns.isChecked() && !form.XpMat.isChecked() && !form.XOpCl.isChecked();
-}
-
-void PlanRefresh::addTotals()
-{
-    for (std::size_t slot = 0; slot < m_c.form.Tot.size(); ++slot) {
-        form::Label& total = m_c.form.Tot.at(slot);
-        const int seats =
-            m_c.totals.SlotSeats.at(slot) + nearestInteger(leadingNumber(total.caption));
-        total.caption = QString::number(seats);
-        if (teachersOnly()) {
-            total.caption += u'/' + QString::number(m_c.totals.SlotTeacherCount.at(slot));
-        }
-        total.visible = seats != 0;
-    }
-}
-
-const Marqueur& PlanRefresh::marker(int index) const
-{
-    if (index < 1 || index > static_cast<int>(m_markers.size())) {
-        throw runtime::RunTimeError(runtime::ErrorNumber::SubscriptOutOfRange);
-    }
-    return m_markers[static_cast<std::size_t>(index - 1)];
-}
-
-Marqueur& PlanRefresh::marker(int index)
-{
-    static_cast<void>(std::as_const(*this).marker(index)); // checks the index
-    return m_markers[static_cast<std::size_t>(index - 1)];
 }
 
 PlanBox* PlanRefresh::box(int marker)

@@ -1,34 +1,15 @@
 #pragma once
 
-#include "context/Periods.h"
-#include "context/RoomPage.h"
-#include "context/TimeSlots.h"
-#include "context/Totals.h"
-#include "form/PlanForm.h"
-#include "plan/AbsenceTests.h"
+#include "plan/AbsenceSource.h"
+#include "plan/MarkerRecords.h"
 #include "plan/PlanContent.h"
-#include "plan/RoomOccupancy.h"
-#include "plan/RowColors.h"
+#include "plan/PlanState.h"
 
 #include <cstdint>
 #include <functional>
-#include <vector>
 
 namespace plan
 {
-
-/// What a refresh reads and writes; all of it outlives the refresh.
-struct RefreshContext {
-    form::PlanForm& form;
-    const context::Periods& periods;
-    const context::TimeSlots& slots;
-    const context::RoomPage& page;
-    context::Totals& totals;
-    OccupancyLookup& lookup;
-    AbsenceTests& absences;
-    RowColors& colors;
-    const CellLayout& layout;
-};
 
 /// Redraws the plan: works out, row by row, the boxes of every shown room and their counters,
 /// markers and totals.
@@ -39,13 +20,22 @@ public:
     enum class TotalsStart {
         Zero,          ///< this page alone
         PreviousPages, ///< "Page Suivante": the new page is added to the pages before it
+        AsItStands,    ///< the line stays as it is, and what it tells of, too
     };
 
-    /// `yield` lets waiting events run; it is called once per row.
-    PlanRefresh(RefreshContext context, std::function<void()> yield);
+    /// Who a refresh asks.
+    struct Sources {
+        lookup::RowSource& rows;
+        AbsenceSource& absences;
+    };
+
+    /// `yield` lets waiting events run; it is called once per row. State and sources outlive the
+    /// refresh.
+    PlanRefresh(PlanState& state, Sources sources, std::function<void()> yield);
 
     /// Does nothing while the window is not visible. A second refresh may start while this one
     /// yields; it draws the whole plan as it is by then, so the first one ends where it stands.
+    /// One that does not count leaves the totals line as it stands.
     /// Errors: TypeMismatch for a start time that is none, Overflow, SubscriptOutOfRange.
     void RefreshPlan(TotalsStart start = TotalsStart::Zero);
     /// Removes all boxes with their counters and markers.
@@ -60,43 +50,40 @@ public:
     void abandon() { ++m_refreshes; }
 
     [[nodiscard]] const PlanContent& content() const { return m_content; }
-    /// How many refreshes have started.
-    [[nodiscard]] std::uint64_t refreshCount() const { return m_started; }
+    /// How many refreshes have started or were given up.
+    [[nodiscard]] std::uint64_t refreshCount() const { return m_refreshes; }
 
-    /// Number of boxes drawn.
-    [[nodiscard]] int MarkerCount() const { return m_MarkerCount; }
-    /// The record of a box, `index` from 1. Error: SubscriptOutOfRange.
-    [[nodiscard]] Marqueur& marker(int index);
-    [[nodiscard]] const Marqueur& marker(int index) const;
-    /// The box of a marker; null when the last refresh drew none with this index.
+    [[nodiscard]] MarkerRecords& markers() { return m_markers; }
+    [[nodiscard]] const MarkerRecords& markers() const { return m_markers; }
+    /// The box of a marker; null when the last refresh drew none with this number.
     [[nodiscard]] PlanBox* box(int marker);
 
 private:
+    void startTotals(TotalsStart start);
     void prepareQuestions();
     [[nodiscard]] QString seanceKey(int slot) const;
     void drawRow(int row);
     [[nodiscard]] form::Colour rowColor(int row);
-    void drawSlot(PlanRow& planRow, int slot);
-    [[nodiscard]] PlanBox makeBox(const PlanRow& row, int slot, bool makeUp);
-    void fillMarker(PlanBox& box);
+    [[nodiscard]] lookup::RoomCell lookUp(lookup::OccupancyLookup& lookup, const QString& room,
+                                          int slot, bool& makeUp) const;
+    void drawSlot(PlanRow& planRow, int slot, lookup::RoomCell cell, bool makeUp);
+    void countSlot(const PlanRow& planRow, int slot, const lookup::RoomCell& cell,
+                   const QString& durationBefore);
     void testAbsences(PlanBox& box);
-    [[nodiscard]] std::optional<GroupCounter> groupCounter(const PlanRow& row) const;
     [[nodiscard]] bool teachersOnly() const;
-    void addTotals();
 
-    RefreshContext m_c;
+    PlanState& m_state;
+    Sources m_sources;
     std::function<void()> m_yield;
     bool m_yields = true;
     PlanContent m_content;
-    std::vector<Marqueur> m_markers; ///< grows, never shrinks; index 0 is the box of marker 1
-    int m_MarkerCount = 0;
+    MarkerRecords m_markers;
     /// Whether the refresh in progress counts. Taken from `CountingOn` at its start: the option, or
     /// a press of "Page Suivante" on the last page, must not leave the totals of half a page.
     bool m_counting = false;
     int m_nextRow = 1; ///< row that the refresh in progress comes to next
     int m_lastRow = 0; ///< row that it ends with
     std::uint64_t m_refreshes = 0;
-    std::uint64_t m_started = 0;
 };
 
 /// How many persons a text such as "Dupont/Durand" names: 1 to 3, never more.

@@ -25,4 +25,9 @@ void PlaceRoomRows(form::PlanForm& form)
     }
 }
 
+int widthWithPlaces(const form::PlanForm& form, int axisEnd)
+{
+    return axisEnd + kAfterAxis + form.Cap.front().place.width + kPlacesMargin;
+}
+
 } // namespace plan

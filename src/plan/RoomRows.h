@@ -7,9 +7,14 @@ namespace plan
 
 /// Twips between two rows.
 constexpr int kRowGap = 68;
+/// Twips between the end of the time axis and the places.
+constexpr int kAfterAxis = 60;
 
 /// Puts the labels `Salle` and `Cap` of every row into their places: one row below the other from
 /// `Salle`(0) down, the places at the window's right edge.
 void PlaceRoomRows(form::PlanForm& form);
+
+/// Twips that a window is wide which shows a time axis that ends there, and the places behind it.
+[[nodiscard]] int widthWithPlaces(const form::PlanForm& form, int axisEnd);
 
 } // namespace plan

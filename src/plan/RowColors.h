@@ -16,7 +16,7 @@ class RowColors
 public:
     static constexpr int kColors = 256;
 
-    explicit RowColors(runtime::RandomSource& random) : m_random(random) {}
+    explicit RowColors(runtime::RandomSource random = runtime::RandomSource()) : m_random(random) {}
 
     /// Fills the whole table with random colours, other ones on every run.
     void fillRandomly();
@@ -41,7 +41,7 @@ public:
     bool RedrawMode = false;
 
 private:
-    runtime::RandomSource& m_random;
+    runtime::RandomSource m_random;
     std::array<form::Colour, kColors> m_RandomColors{};
 };
 

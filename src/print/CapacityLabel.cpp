@@ -37,7 +37,7 @@ CapacityLabel capacityLabel(const plan::PlanBox& box, const QString& places)
     return {box.group ? kGroup : kFits, QString::number(size) + u'/' + places};
 }
 
-QRectF capacityPlace(const plan::DrawingTarget& target, const QRectF& box,
+QRectF capacityPlace(const paint::DrawingTarget& target, const QRectF& box,
                      const CapacityLabel& label)
 {
     const double point = target.PixelsPerPoint;
@@ -50,14 +50,14 @@ QRectF capacityPlace(const plan::DrawingTarget& target, const QRectF& box,
     return {box.right() - width, box.bottom() - height, width, height};
 }
 
-QMarginsF reservedByCapacity(const plan::DrawingTarget& target, const QRectF& box,
+QMarginsF reservedByCapacity(const paint::DrawingTarget& target, const QRectF& box,
                              const QRectF& place)
 {
     const bool oneLine = box.height() < kOneLine * target.PixelsPerPoint;
     return oneLine ? QMarginsF(0, 0, place.width(), 0) : QMarginsF(0, 0, 0, place.height());
 }
 
-void drawCapacity(QPainter& surface, const plan::DrawingTarget& target, const QRectF& place,
+void drawCapacity(QPainter& surface, const paint::DrawingTarget& target, const QRectF& place,
                   const CapacityLabel& label)
 {
     const double point = target.PixelsPerPoint;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "form/Colour.h"
-#include "plan/DrawingTarget.h"
+#include "paint/DrawingTarget.h"
 #include "plan/PlanContent.h"
 
 #include <QMarginsF>
@@ -24,12 +24,12 @@ struct CapacityLabel {
 [[nodiscard]] CapacityLabel capacityLabel(const plan::PlanBox& box, const QString& places);
 
 /// Where the label lies inside its box, in device pixels: the lower right corner.
-[[nodiscard]] QRectF capacityPlace(const plan::DrawingTarget& target, const QRectF& box,
+[[nodiscard]] QRectF capacityPlace(const paint::DrawingTarget& target, const QRectF& box,
                                    const CapacityLabel& label);
 /// What the label takes from the box's text, in device pixels.
-[[nodiscard]] QMarginsF reservedByCapacity(const plan::DrawingTarget& target, const QRectF& box,
+[[nodiscard]] QMarginsF reservedByCapacity(const paint::DrawingTarget& target, const QRectF& box,
                                            const QRectF& place);
-void drawCapacity(QPainter& surface, const plan::DrawingTarget& target, const QRectF& place,
+void drawCapacity(QPainter& surface, const paint::DrawingTarget& target, const QRectF& place,
                   const CapacityLabel& label);
 
 } // namespace print

@@ -8,7 +8,7 @@
 namespace print
 {
 
-QFont paperFont(const form::Font& font, const plan::DrawingTarget& target, int points)
+QFont paperFont(const form::Font& font, const paint::DrawingTarget& target, int points)
 {
     QFont result;
     result.setFamilies({font.name, QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
@@ -17,7 +17,7 @@ QFont paperFont(const form::Font& font, const plan::DrawingTarget& target, int p
     return result;
 }
 
-double drawFitted(QPainter& surface, const plan::DrawingTarget& target, const form::Font& font,
+double drawFitted(QPainter& surface, const paint::DrawingTarget& target, const form::Font& font,
                   const QRectF& rectangle, Qt::Alignment alignment, const QString& text)
 {
     int points = std::max(1, font.points);

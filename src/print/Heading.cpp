@@ -15,7 +15,7 @@ namespace
 
 QString periodOf(const form::PlanForm& form)
 {
-    const QString examWeek = form.OpExam.isSelected() ? form.Combo10.text() : QString();
+    const QString examWeek = form.OpExam().isSelected() ? form.Combo10.text() : QString();
     return joined({form.CbTranche.text(), examWeek});
 }
 
@@ -30,10 +30,10 @@ QString datesOf(const form::PlanForm& form)
 /// Exams have no week A or B.
 QString weekOf(const form::PlanForm& form)
 {
-    if (form.OpExam.isSelected() || form.OptFixe.isSelected()) {
+    if (form.OpExam().isSelected() || form.OptFixe().isSelected()) {
         return {};
     }
-    return form.OptA.isSelected() ? form.OptA.caption : form.OptB.caption;
+    return form.OptA().isSelected() ? form.OptA().caption() : form.OptB().caption();
 }
 
 QString roomsOf(const form::PlanForm& form)

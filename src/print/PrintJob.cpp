@@ -36,13 +36,13 @@ struct Scale {
 
 /// Device pixels that a sheet takes. The offset that keeps it off its left edge keeps it off the
 /// right one as well.
-QSizeF sizeOf(const Sheet& sheet, const plan::DrawingTarget& target)
+QSizeF sizeOf(const Sheet& sheet, const paint::DrawingTarget& target)
 {
     return {target.toPixelsX(sheet.width) + 2.0 * target.TargetXOffset,
             target.toPixelsY(kHeaderTwips + sheet.bottom + kFooterTwips)};
 }
 
-Scale scaleOf(const std::vector<Sheet>& sheets, const plan::DrawingTarget& target, QSizeF area,
+Scale scaleOf(const std::vector<Sheet>& sheets, const paint::DrawingTarget& target, QSizeF area,
               double most)
 {
     Scale scale{most, most};
@@ -55,7 +55,7 @@ Scale scaleOf(const std::vector<Sheet>& sheets, const plan::DrawingTarget& targe
     return scale;
 }
 
-void printSheet(QPainter& surface, plan::DrawingTarget target, const Sheet& sheet, double width,
+void printSheet(QPainter& surface, paint::DrawingTarget target, const Sheet& sheet, double width,
                 const Scale& scale)
 {
     const double taken = sizeOf(sheet, target).width() * scale.across;
@@ -99,7 +99,7 @@ void printSheets(QPagedPaintDevice& printer, const std::vector<Sheet>& sheets)
 {
     QPainter surface;
     require(surface.begin(&printer));
-    const plan::DrawingTarget target = UsePrinterTarget(printer);
+    const paint::DrawingTarget target = UsePrinterTarget(printer);
     const QSizeF area(printer.width(), printer.height());
     const Scale scale = scaleOf(sheets, target, area, growth(printer.pageLayout()));
     for (const Sheet& sheet : sheets) {

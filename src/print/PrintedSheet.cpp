@@ -1,7 +1,7 @@
 #include "print/PrintedSheet.h"
 
-#include "plan/CellBox.h"
-#include "plan/PlanGrid.h"
+#include "paint/CellBox.h"
+#include "paint/PlanGrid.h"
 #include "print/CapacityLabel.h"
 #include "print/FittedText.h"
 
@@ -14,10 +14,11 @@ namespace print
 namespace
 {
 
-using plan::DrawingTarget;
+using paint::DrawingTarget;
 
 constexpr QColor kInk(0, 0, 0);
 constexpr QColor kFrameInk(60, 60, 60);
+constexpr QColor kOldInk(130, 130, 130); // totals that were counted before the last choice
 // Row colour while the rows are not coloured: paler than on the screen, paper takes ink.
 constexpr form::Colour kPlainRow = form::Colour::fromRgb(240, 240, 240);
 // Points: width of a frame's line, gap between a frame and its text.
@@ -45,7 +46,7 @@ double printLabel(QPainter& surface, const DrawingTarget& target, const form::La
 
 void printTicks(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
 {
-    for (const form::Label& tick : sheet.page.form->Label1) {
+    for (const form::Label& tick : sheet.page.state.form.Label1) {
         const QRectF place = pixels(target, tick.place);
         surface.setPen(QPen(kInk, kFrameLine * target.PixelsPerPoint));
         surface.drawLine(QPointF(place.left(), place.bottom() - 4 * target.PixelsPerPoint),
@@ -56,12 +57,13 @@ void printTicks(QPainter& surface, const DrawingTarget& target, const Sheet& she
 
 void printTotals(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
 {
-    for (const form::Label& total : sheet.page.form->Tot) {
+    const QColor ink = sheet.page.state.totals.isOld ? kOldInk : kInk;
+    for (const form::Label& total : sheet.page.state.form.Tot) {
         if (total.visible) {
             surface.setPen(QPen(kFrameInk, kFrameLine * target.PixelsPerPoint));
             surface.setBrush(Qt::NoBrush);
             surface.drawRect(pixels(target, total.place));
-            surface.setPen(kInk);
+            surface.setPen(ink);
             printLabel(surface, target, total, total.caption, Qt::AlignHCenter);
         }
     }
@@ -72,7 +74,7 @@ void printTotals(QPainter& surface, const DrawingTarget& target, const Sheet& sh
 void printPeriod(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
                  double titleWidth)
 {
-    const form::PlanForm& form = *sheet.page.form;
+    const form::PlanForm& form = sheet.page.state.form;
     const form::Font font{form.Label20.font.name, 12, true};
     const QString text = joined({sheet.heading.day, sheet.heading.period, sheet.heading.choice});
     QRectF place = pixels(target, form.XSalle.place);
@@ -89,7 +91,7 @@ void printPeriod(QPainter& surface, const DrawingTarget& target, const Sheet& sh
 void printNotes(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
                 double establishmentWidth, double titleWidth)
 {
-    const form::PlanForm& form = *sheet.page.form;
+    const form::PlanForm& form = sheet.page.state.form;
     const double gap = 6 * target.PixelsPerPoint;
     QRectF university = pixels(target, form.Label4[4].place);
     const double dates = pixels(target, form.Label4[0].place).left();
@@ -116,7 +118,7 @@ void printRowLabel(QPainter& surface, const DrawingTarget& target, const form::L
     surface.setPen(QPen(kFrameInk, kFrameLine * target.PixelsPerPoint));
     surface.setBrush(toColor(color));
     surface.drawRect(place);
-    surface.setPen(toColor(plan::readableOn(color)));
+    surface.setPen(toColor(paint::readableOn(color)));
     form::Font font = label.font;
     font.bold = true;
     drawFitted(surface, target, font, place.adjusted(gap, 0, -gap, 0), alignment | Qt::AlignVCenter,
@@ -126,24 +128,24 @@ void printRowLabel(QPainter& surface, const DrawingTarget& target, const form::L
 void printBox(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
               const plan::PlanRow& row, form::Colour color, const plan::PlanBox& box)
 {
-    const form::PlanForm& form = *sheet.page.form;
+    const form::PlanForm& form = sheet.page.state.form;
     const form::Place& room = form.Salle[static_cast<std::size_t>(row.index)].place;
     const double x = target.toPixelsX(box.x);
     const double y = target.toPixelsY(room.top);
-    plan::BoxStyle style;
+    paint::BoxStyle style;
     style.fill = color;
     style.hatched = box.makeUp;
     style.rowHeight = form.Salle.front().place.height;
-    style.textFormat = sheet.page.layout.CellTextFormat;
+    style.textFormat = sheet.page.state.layout.CellTextFormat;
     if (form.Check3.isChecked() || !form.Opt_Cap.isChecked()) {
-        plan::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
+        paint::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
         return;
     }
-    const QRectF place = plan::boxRectangle(target, x, y, box.minutes, style.rowHeight);
+    const QRectF place = paint::boxRectangle(target, x, y, box.minutes, style.rowHeight);
     const CapacityLabel label = capacityLabel(box, row.places);
     const QRectF corner = capacityPlace(target, place, label);
     style.reserved = reservedByCapacity(target, place, corner);
-    plan::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
+    paint::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
     drawCapacity(surface, target, corner, label);
 }
 
@@ -151,7 +153,7 @@ void printBox(QPainter& surface, const DrawingTarget& target, const Sheet& sheet
 
 void PrintHeader(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
 {
-    const form::PlanForm& form = *sheet.page.form;
+    const form::PlanForm& form = sheet.page.state.form;
     surface.save();
     surface.setPen(kInk);
     const double titleWidth = printLabel(surface, target, form.XSalle, sheet.heading.title);
@@ -170,10 +172,11 @@ void PrintHeader(QPainter& surface, const DrawingTarget& target, const Sheet& sh
 
 void PrintPlanBody(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
 {
-    const form::PlanForm& form = *sheet.page.form;
+    const form::PlanForm& form = sheet.page.state.form;
     surface.save();
     clipToPlan(surface, target, sheet);
-    plan::DrawPlanGrid(surface, target, plan::planGridLines(form, sheet.page.RowsShown, true));
+    paint::DrawPlanGrid(surface, target,
+                        paint::planGridLines(form, sheet.page.state.page.RowsShown, true));
     surface.restore();
     surface.save();
     surface.setFont(paperFont(form.Label20.font, target, target.FontSize));
@@ -200,21 +203,42 @@ void PrintPlanBody(QPainter& surface, const DrawingTarget& target, const Sheet& 
     surface.restore();
 }
 
-void printFooter(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+namespace
 {
-    const auto& rows = sheet.page.content.rows;
-    const bool makeUps = std::any_of(rows.begin(), rows.end(), [](const plan::PlanRow& row) {
+
+bool hasMakeUps(const plan::PlanContent& content)
+{
+    return std::any_of(content.rows.begin(), content.rows.end(), [](const plan::PlanRow& row) {
         return std::any_of(row.boxes.begin(), row.boxes.end(),
                            [](const plan::PlanBox& box) { return box.makeUp; });
     });
-    const form::Font font{sheet.page.form->Label20.font.name, 8, false};
+}
+
+/// What hatching and greyed totals mean, where the page has any.
+QStringList legendOf(const plan::PlanPage& page)
+{
+    QStringList legend;
+    if (hasMakeUps(page.content)) {
+        legend << QStringLiteral("Case hachurée : rattrapage");
+    }
+    const auto& totals = page.state.form.Tot;
+    if (page.state.totals.isOld && std::any_of(totals.begin(), totals.end(),
+                                               [](const auto& total) { return total.visible; })) {
+        legend << QStringLiteral("Totaux grisés : comptés avant le dernier choix");
+    }
+    return legend;
+}
+
+} // namespace
+
+void printFooter(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
+{
+    const form::Font font{sheet.page.state.form.Label20.font.name, 8, false};
     const QRectF line = pixels(target, {0, sheet.bottom + 60, sheet.right, kFooterTwips - 60});
     surface.save();
     surface.setPen(kInk);
-    if (makeUps) {
-        drawFitted(surface, target, font, line, Qt::AlignLeft | Qt::AlignVCenter,
-                   QStringLiteral("Case hachurée : rattrapage"));
-    }
+    drawFitted(surface, target, font, line, Qt::AlignLeft | Qt::AlignVCenter,
+               joined(legendOf(sheet.page)));
     if (sheet.page.count > 0) {
         drawFitted(surface, target, font, line, Qt::AlignRight | Qt::AlignVCenter,
                    QStringLiteral("Page %1 / %2").arg(sheet.page.number).arg(sheet.page.count));

@@ -1,5 +1,6 @@
 #include "print/Sheet.h"
 
+#include "context/TimeAxis.h"
 #include "plan/RoomRows.h"
 #include "runtime/Numbers.h"
 
@@ -13,8 +14,7 @@ namespace
 
 using context::TimeAxis;
 
-// Twips between the time axis and the places, and between the rows and the totals.
-constexpr int kAfterAxis = 60;
+// Twips between the rows and the totals.
 constexpr int kAboveTotals = 60;
 // Twips of A4 lying across, within its margins; what header, totals and footer take of its height;
 // what keeps a sheet off the paper's sides.
@@ -27,7 +27,7 @@ constexpr int kMinutesPerDay = 24 * 60;
 
 /// Calls `visit` with the start and the length of every slot of the day and of every box.
 template <typename Visit>
-void forEachStretch(const plan::PlanContent& content, const context::TimeSlots& slots, Visit visit)
+void forEachStretch(const plan::PlanContent& content, const context::DaySlots& slots, Visit visit)
 {
     for (int number = 1; number <= form::PlanForm::kSlotLabels; ++number) {
         if (const auto& slot = slots.slot(number)) {
@@ -43,9 +43,9 @@ void forEachStretch(const plan::PlanContent& content, const context::TimeSlots& 
 
 /// The printer's axis. What begins before the first hour moves the hours to the right: on paper
 /// the room names would lie under it.
-TimeAxis paperAxis(const plan::PlanPage& page, const context::TimeSlots& slots)
+TimeAxis paperAxis(const plan::PlanPage& page, const context::DaySlots& slots)
 {
-    const form::Label& origin = page.form->Label1.front();
+    const form::Label& origin = page.state.form.Label1.front();
     TimeAxis axis{origin.caption, origin.place.left, TimeAxis::kPrinterSlotWidth};
     int first = axis.originLeft;
     forEachStretch(page.content, slots, [&](const QString& start, int) {
@@ -55,9 +55,9 @@ TimeAxis paperAxis(const plan::PlanPage& page, const context::TimeSlots& slots)
     return axis;
 }
 
-int axisEnd(const plan::PlanPage& page, const context::TimeSlots& slots, const TimeAxis& axis)
+int axisEnd(const plan::PlanPage& page, const context::DaySlots& slots, const TimeAxis& axis)
 {
-    int end = axis.TimeToX(page.form->Label1.back().caption);
+    int end = axis.TimeToX(page.state.form.Label1.back().caption);
     forEachStretch(page.content, slots, [&](const QString& start, int minutes) {
         end = std::max(end, axis.TimeToX(start) + runtime::nearestInteger(axis.widthOf(minutes)));
     });
@@ -97,7 +97,7 @@ int roomForRows(int width)
 int rowHeight(const form::PlanForm& form, int rowsShown, int width)
 {
     const form::Place& model = form.Salle.front().place;
-    const double wanted = runtime::leadingNumber(form.Total_L_P.text());
+    const double wanted = context::linesPerPage(form);
     const int rows = std::max({1, rowsShown, static_cast<int>(std::min(wanted, kMostRows))});
     const int room = (roomForRows(width) - model.top) / rows - plan::kRowGap;
     return std::clamp(room, model.height, model.height * 3 / 2);
@@ -112,7 +112,7 @@ void placeRows(form::PlanForm& form, int rowsShown, int end, int width)
     form.scaleWidth = 0;
     plan::PlaceRoomRows(form);
     // The places stand at the window's edge; paper is as wide as its axis needs.
-    form.scaleWidth = end + kAfterAxis - form.Cap.front().place.left;
+    form.scaleWidth = end + plan::kAfterAxis - form.Cap.front().place.left;
     plan::PlaceRoomRows(form);
 }
 
@@ -133,7 +133,7 @@ int headerRight(const form::PlanForm& form)
 }
 
 /// Returns the bottom of the totals, or of the rows while no total is shown.
-int placeTotals(form::PlanForm& form, const context::TimeSlots& slots, const TimeAxis& axis,
+int placeTotals(form::PlanForm& form, const context::DaySlots& slots, const TimeAxis& axis,
                 int rows)
 {
     int bottom = rows;
@@ -155,31 +155,31 @@ int placeTotals(form::PlanForm& form, const context::TimeSlots& slots, const Tim
 
 } // namespace
 
-Sheet makeSheet(plan::PlanPage page, const context::TimeSlots& slots,
-                const context::EstablishmentHeader& establishment)
+Sheet makeSheet(plan::PlanPage page)
 {
     Sheet sheet;
     sheet.page = std::move(page);
-    form::PlanForm& form = *sheet.page.form;
-    sheet.heading = headingOf(form, establishment);
+    const context::DaySlots& slots = sheet.page.state.slots;
+    form::PlanForm& form = sheet.page.state.form;
+    sheet.heading = headingOf(form, sheet.page.state.establishment);
     const TimeAxis axis = paperAxis(sheet.page, slots);
     sheet.axisEnd = axisEnd(sheet.page, slots, axis);
     placeTicks(form, axis);
     placeBoxes(sheet.page.content, axis);
-    sheet.right = sheet.axisEnd + kAfterAxis + form.Cap.front().place.width;
+    sheet.right = sheet.axisEnd + plan::kAfterAxis + form.Cap.front().place.width;
     sheet.width = std::max(sheet.right, headerRight(form));
-    placeRows(form, sheet.page.RowsShown, sheet.axisEnd, sheet.width);
-    sheet.bottom = placeTotals(form, slots, axis, rowsBottom(form, sheet.page.RowsShown));
+    placeRows(form, sheet.page.state.page.RowsShown, sheet.axisEnd, sheet.width);
+    sheet.bottom =
+        placeTotals(form, slots, axis, rowsBottom(form, sheet.page.state.page.RowsShown));
     return sheet;
 }
 
-std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages, const context::TimeSlots& slots,
-                              const context::EstablishmentHeader& establishment)
+std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages)
 {
     std::vector<Sheet> sheets;
     sheets.reserve(pages.size());
     for (plan::PlanPage& page : pages) {
-        sheets.push_back(makeSheet(std::move(page), slots, establishment));
+        sheets.push_back(makeSheet(std::move(page)));
     }
     return sheets;
 }

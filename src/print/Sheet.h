@@ -1,7 +1,5 @@
 #pragma once
 
-#include "context/Establishment.h"
-#include "context/TimeSlots.h"
 #include "plan/PlanPage.h"
 #include "print/Heading.h"
 
@@ -24,12 +22,9 @@ struct Sheet {
 /// Places a page of the plan for paper: hours and boxes along an axis of 1700 twips for 90
 /// minutes, the totals under their slots below the rows. Paper shows no row 0, so the rows move up
 /// by one.
-[[nodiscard]] Sheet makeSheet(plan::PlanPage page, const context::TimeSlots& slots,
-                              const context::EstablishmentHeader& establishment);
+[[nodiscard]] Sheet makeSheet(plan::PlanPage page);
 
 /// The sheets of several pages.
-[[nodiscard]] std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages,
-                                            const context::TimeSlots& slots,
-                                            const context::EstablishmentHeader& establishment);
+[[nodiscard]] std::vector<Sheet> makeSheets(std::vector<plan::PlanPage> pages);
 
 } // namespace print

@@ -18,14 +18,14 @@ constexpr int kPrinterFontSize = 9;
 
 } // namespace
 
-plan::DrawingTarget UseScreenTarget()
+paint::DrawingTarget UseScreenTarget()
 {
     return {};
 }
 
-plan::DrawingTarget UsePrinterTarget(const QPaintDevice& printer)
+paint::DrawingTarget UsePrinterTarget(const QPaintDevice& printer)
 {
-    plan::DrawingTarget target;
+    paint::DrawingTarget target;
     target.TargetIsPrinter = true;
     target.TargetXOffset = kPrinterXOffset;
     target.TargetTwipsPerPixelX = kTwipsPerInch / printer.logicalDpiX();

@@ -33,4 +33,9 @@ int minutesBetween(int fromSeconds, int toSeconds)
     return toSeconds / 60 - fromSeconds / 60;
 }
 
+int endMinute(const QString& start, int minutes)
+{
+    return secondsOfDay(normaliseTimeText(start)) / 60 + minutes;
+}
+
 } // namespace runtime

@@ -18,4 +18,9 @@ namespace runtime
 /// 8:01:00 is one minute. Negative when `to` is earlier.
 [[nodiscard]] int minutesBetween(int fromSeconds, int toSeconds);
 
+/// When something ends that starts at a time of day such as 8h30 and lasts so many minutes: in
+/// minutes since the midnight before its start, so 1440 and more on the next day.
+/// Error: TypeMismatch for a start that is no time.
+[[nodiscard]] int endMinute(const QString& start, int minutes);
+
 } // namespace runtime

@@ -1,6 +1,6 @@
 #include "shell/CommandLine.h"
 
-#include "shell/Export.h"
+#include "files/FileFormat.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -15,39 +15,59 @@ namespace shell
 namespace
 {
 
+/// The endings of files that can hold every page: ".pdf, .csv ou .html".
+QString endingsOfPages()
+{
+    QStringList endings;
+    for (const files::FileFormat& format : files::fileFormats()) {
+        if (format.holdsPages) {
+            endings << u'.' + format.ending;
+        }
+    }
+    const QString last = endings.takeLast();
+    return endings.join(QStringLiteral(", ")) + QStringLiteral(" ou ") + last;
+}
+
 /// One option as the parser and --help know it.
 struct OptionText {
     const char* name;
-    const char* value;   ///< what it accepts; null for a switch
-    const char* meaning; ///< in French
+    QString value;   ///< what it accepts; null for a switch
+    QString meaning; ///< in French
 };
 
 const std::vector<OptionText>& optionTexts()
 {
     static const std::vector<OptionText> texts = {
-        {"export", "FICHIER.json|.png|.pdf|.csv|.html",
-         "écrit le plan dans un fichier, sans fenêtre"},
-        {"all-pages", nullptr, "écrit toutes les pages (avec --export en .pdf, .csv ou .html)"},
-        {"settings", "FICHIER.ini", "remplace les paramètres de l’utilisateur pour cette fois"},
-        {"tranche", "NOM", "période affichée"},
-        {"mode", "teaching|exam", "enseignement ou examens"},
-        {"exam-week", "1|2|3", "semaine d’examen (avec --mode exam)"},
-        {"week", "all|A|B", "toute semaine, semaine A ou semaine B"},
-        {"zone", "0..9", "zone des salles ; 0 pour toutes"},
-        {"department", "ID", "ajoute les salles de ce département"},
-        {"neutral", nullptr, "ajoute les salles sans département (avec --department)"},
-        {"rooms-per-page", "1..29", "salles par page"},
-        {"show", "class,teacher,subject,type,invigilator", "ce que montrent les cases, exactement"},
-        {"subject", "NOM", "ne montre que cette matière"},
-        {"makeup", nullptr, "coche « Date » : montre aussi les rattrapages"},
-        {"counting", nullptr, "coche « Comptage » : compte les places occupées"},
-        {"day", "0..5", "jour de la semaine ; 0 pour lundi"},
-        {"date", "AAAA-MM-JJ", "date affichée"},
-        {"page", "1..9999", "page affichée"},
-        {"seed", "0..2147483647", "fixe les couleurs tirées au hasard"},
-        {"plain", nullptr, "pose chaque question à la base séparément (plus lent)"},
-        {"help", nullptr, "affiche cette aide"},
-        {"version", nullptr, "affiche la version"},
+        {"export", QStringLiteral("FICHIER.") + files::fileEndings().join(QStringLiteral("|.")),
+         QStringLiteral("écrit le plan dans un fichier, sans fenêtre")},
+        {"all-pages",
+         {},
+         QStringLiteral("écrit toutes les pages (avec --export en %1)").arg(endingsOfPages())},
+        {"settings", QStringLiteral("FICHIER.ini"),
+         QStringLiteral("remplace les paramètres de l’utilisateur pour cette fois")},
+        {"tranche", QStringLiteral("NOM"), QStringLiteral("période affichée")},
+        {"mode", QStringLiteral("teaching|exam"), QStringLiteral("enseignement ou examens")},
+        {"exam-week", QStringLiteral("1|2|3"),
+         QStringLiteral("semaine d’examen (avec --mode exam)")},
+        {"week", QStringLiteral("all|A|B"),
+         QStringLiteral("toute semaine, semaine A ou semaine B")},
+        {"zone", QStringLiteral("0..9"), QStringLiteral("zone des salles ; 0 pour toutes")},
+        {"department", QStringLiteral("ID"), QStringLiteral("ajoute les salles de ce département")},
+        {"neutral", {}, QStringLiteral("ajoute les salles sans département (avec --department)")},
+        {"rooms-per-page", QStringLiteral("1..29"), QStringLiteral("salles par page")},
+        {"show", QStringLiteral("class,teacher,subject,type,invigilator"),
+         QStringLiteral("ce que montrent les cases, exactement")},
+        {"subject", QStringLiteral("NOM"), QStringLiteral("ne montre que cette matière")},
+        {"makeup", {}, QStringLiteral("coche « Date » : montre aussi les rattrapages")},
+        {"counting", {}, QStringLiteral("coche « Comptage » : compte les places occupées")},
+        {"day", QStringLiteral("0..5"), QStringLiteral("jour de la semaine ; 0 pour lundi")},
+        {"date", QStringLiteral("AAAA-MM-JJ"), QStringLiteral("date affichée")},
+        {"page", QStringLiteral("1..9999"), QStringLiteral("page affichée")},
+        {"seed", QStringLiteral("0..2147483647"),
+         QStringLiteral("fixe les couleurs tirées au hasard")},
+        {"plain", {}, QStringLiteral("pose chaque question à la base séparément (plus lent)")},
+        {"help", {}, QStringLiteral("affiche cette aide")},
+        {"version", {}, QStringLiteral("affiche la version")},
     };
     return texts;
 }
@@ -55,9 +75,9 @@ const std::vector<OptionText>& optionTexts()
 [[noreturn]] void fail(const QString& option, const QString& problem)
 {
     for (const OptionText& text : optionTexts()) {
-        if (text.value != nullptr && option == QLatin1String(text.name)) {
+        if (!text.value.isNull() && option == QLatin1String(text.name)) {
             throw UsageError(QStringLiteral("--%1 : %2 ; valeurs acceptées : %3")
-                                 .arg(option, problem, QString::fromUtf8(text.value)));
+                                 .arg(option, problem, text.value));
         }
     }
     throw UsageError(QStringLiteral("--%1 : %2").arg(option, problem));
@@ -67,7 +87,7 @@ bool takesValue(const QString& option)
 {
     const auto& texts = optionTexts();
     return std::any_of(texts.begin(), texts.end(), [&](const OptionText& text) {
-        return text.value != nullptr && option == QLatin1String(text.name);
+        return !text.value.isNull() && option == QLatin1String(text.name);
     });
 }
 
@@ -97,8 +117,8 @@ public:
         m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
         for (const OptionText& text : optionTexts()) {
             QCommandLineOption option(QString::fromLatin1(text.name));
-            if (text.value != nullptr) {
-                option.setValueName(QString::fromUtf8(text.value));
+            if (!text.value.isNull()) {
+                option.setValueName(text.value);
             }
             m_parser.addOption(option);
         }
@@ -198,15 +218,15 @@ void readFiles(const Reader& reader, CommandLine& line)
 {
     line.exportFile = reader.text("export");
     if (reader.has("export")) {
-        const QString suffix = QFileInfo(line.exportFile).suffix().toLower();
-        if (!exportEndings().contains(suffix)) {
+        if (files::formatOf(line.exportFile) == nullptr) {
             reader.failWithValue("export");
         }
     }
     line.allPages = reader.has("all-pages");
-    if (line.allPages && !holdsAllPages(QFileInfo(line.exportFile).suffix().toLower())) {
+    const files::FileFormat* format = files::formatOf(line.exportFile);
+    if (line.allPages && (format == nullptr || !format->holdsPages)) {
         fail(QStringLiteral("all-pages"),
-             QStringLiteral("demande --export en .pdf, .csv ou .html"));
+             QStringLiteral("demande --export en ") + endingsOfPages());
     }
     line.settingsFile = reader.text("settings");
     if (!reader.has("settings")) {
@@ -287,10 +307,10 @@ QString CommandLine::helpText()
                                   "Sans --export, les options s’appliquent à la fenêtre.\n\n");
     for (const OptionText& option : optionTexts()) {
         QString left = QStringLiteral("  --") + QString::fromLatin1(option.name);
-        if (option.value != nullptr) {
-            left += u' ' + QString::fromUtf8(option.value);
+        if (!option.value.isNull()) {
+            left += u' ' + option.value;
         }
-        text += left.leftJustified(48) + u' ' + QString::fromUtf8(option.meaning) + u'\n';
+        text += left.leftJustified(48) + u' ' + option.meaning + u'\n';
     }
     return text;
 }

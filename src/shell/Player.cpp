@@ -22,7 +22,7 @@ void playPeriod(form::PlanForm& form, const CommandLine& line)
         select(form.CbTranche, QStringLiteral("tranche"), *line.tranche);
     }
     if (line.mode) {
-        (*line.mode == CommandLine::Mode::Exam ? form.OpExam : form.OpEns).select();
+        (*line.mode == CommandLine::Mode::Exam ? form.OpExam() : form.OpEns()).select();
     }
     if (line.examWeek) {
         form.Combo10.setListIndex(*line.examWeek - 1);
@@ -41,13 +41,13 @@ void playDisplay(form::PlanForm& form, const CommandLine& line)
     if (line.week) {
         switch (*line.week) {
         case CommandLine::Week::All:
-            form.OptFixe.select();
+            form.OptFixe().select();
             break;
         case CommandLine::Week::A:
-            form.OptA.select();
+            form.OptA().select();
             break;
         case CommandLine::Week::B:
-            form.OptB.select();
+            form.OptB().select();
             break;
         }
     }

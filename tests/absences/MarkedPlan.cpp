@@ -22,7 +22,7 @@ db::Value number(std::int64_t value)
 
 } // namespace
 
-db::Recordset MarkedPlan::Rooms::timetableRows(const plan::RoomQuestion& question)
+db::Recordset MarkedPlan::Rooms::timetableRows(const lookup::RoomQuestion& question)
 {
     const plan::Marqueur held = lesson({});
     const auto columns = std::make_shared<const db::Columns>(QStringList{

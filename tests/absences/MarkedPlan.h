@@ -2,7 +2,7 @@
 
 #include "AbsenceTables.h"
 #include "absences/Marking.h"
-#include "plan/RoomOccupancy.h"
+#include "lookup/OccupancyLookup.h"
 
 #include <functional>
 #include <map>
@@ -41,10 +41,10 @@ public:
     std::function<void()> whileYielding;
 
 private:
-    class Rooms : public plan::RowSource
+    class Rooms : public lookup::RowSource
     {
     public:
-        db::Recordset timetableRows(const plan::RoomQuestion& question) override;
+        db::Recordset timetableRows(const lookup::RoomQuestion& question) override;
         int studentRows(const QString&) override { return 0; }
         db::Recordset classRows(const QString&) override { return {}; }
 
@@ -77,8 +77,8 @@ private:
     context::RoomPage m_page;
     Rooms m_rooms;
     plan::CellLayout m_layout;
-    plan::SeanceTypeShortNames m_typeNames;
-    plan::OccupancyLookup m_lookup;
+    lookup::SeanceTypeShortNames m_typeNames;
+    lookup::OccupancyLookup m_lookup;
     absences::AbsenceRecords m_records;
     runtime::RandomSource m_random{1};
     plan::RowColors m_colors{m_random};

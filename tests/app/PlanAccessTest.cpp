@@ -89,7 +89,7 @@ TEST_F(ThePlanAsATable, namesTheDayThePeriodAndWhatIsChosen)
 {
     open();
     EXPECT_EQ(title(), "Plan des salles, Lundi, Printemps");
-    desk.form().OptA.select();
+    desk.form().OptA().select();
     desk.form().CbJour.setListIndex(1);
     EXPECT_EQ(title(), "Plan des salles, Mardi, Printemps, Semaine A");
     desk.form().Check2.setChecked(true);

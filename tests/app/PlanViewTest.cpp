@@ -18,7 +18,7 @@ protected:
     };
     [[nodiscard]] ToolTips toolTips(std::size_t row, std::size_t box)
     {
-        const plan::OverlayPlaces places = overlays(row, box);
+        const paint::OverlayPlaces places = overlays(row, box);
         const auto at = [this](QPointF planPoint) {
             return view()->toolTipAt(view()->toViewport(planPoint).toPoint());
         };
@@ -77,8 +77,8 @@ TEST_F(ThePlansToolTips, nameTheDateThatAClickMarksNotTheShownDay)
     open();
     window().forward([this] {
         form().CbJour.setListIndex(1);
-        form().OpExam.select();
-        form().OpEns.select(); // the picker goes back to Monday, the list of days does not
+        form().OpExam().select();
+        form().OpEns().select(); // the picker goes back to Monday, the list of days does not
     });
     ASSERT_EQ(form().CbJour.text(), "Mardi");
     ASSERT_EQ(form().DTPicker1.value(), QDate(2025, 3, 17));

@@ -1,6 +1,6 @@
 #include "app/Printing.h"
 
-#include "plan/PlanPainter.h"
+#include "paint/PlanPainter.h"
 #include "print/Pdf.h"
 #include "print/Targets.h"
 #include "shell/ShellDesk.h"
@@ -109,8 +109,8 @@ protected:
         QImage image(1400, 700, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
-        const plan::PlanScene scene = desk.shell().scene(print::UseScreenTarget());
-        plan::PlanPainter plan(painter, scene);
+        const paint::PlanScene scene = desk.shell().scene(print::UseScreenTarget());
+        paint::PlanPainter plan(painter, scene);
         plan.paintTicks();
         plan.paintGrid();
         plan.paintBoxes();

@@ -36,10 +36,10 @@ void TheWindow::expectRooms(const QStringList& rooms)
     EXPECT_EQ(shownRooms(plan()), rooms);
 }
 
-plan::OverlayPlaces TheWindow::overlays(std::size_t row, std::size_t box)
+paint::OverlayPlaces TheWindow::overlays(std::size_t row, std::size_t box)
 {
     const plan::PlanRow& planRow = m_window->shell().refresh().content().rows.at(row);
-    return plan::overlayPlaces(form(), view()->target(), planRow.index, planRow.boxes.at(box));
+    return paint::overlayPlaces(form(), view()->target(), planRow.index, planRow.boxes.at(box));
 }
 
 QPoint TheWindow::counterOnScreen(std::size_t row, std::size_t box)

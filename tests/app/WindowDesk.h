@@ -3,8 +3,8 @@
 #include "app/Hands.h"
 #include "app/PlClasse.h"
 #include "app/PlanView.h"
-#include "plan/Overlays.h"
-#include "shell/JsonExport.h"
+#include "paint/Overlays.h"
+#include "files/JsonExport.h"
 #include "shell/PlanReading.h"
 #include "support/ProgramSetup.h"
 #include "support/RuntimeMatchers.h"
@@ -43,7 +43,7 @@ protected:
     /// What the plan shows.
     [[nodiscard]] QJsonObject plan() const
     {
-        return QJsonDocument::fromJson(shell::planAsJson(m_window->shell())).object();
+        return QJsonDocument::fromJson(files::planAsJson(m_window->shell())).object();
     }
     /// Waits until the plan shows these texts in the room.
     void expectTexts(const QString& room, const QMap<int, QString>& texts);
@@ -63,7 +63,7 @@ protected:
     }
     [[nodiscard]] app::PlanView* view() { return control<app::PlanView>("PlanView"); }
     /// The places of a box's pictures and labels in the plan. `row` and `box` count from 0.
-    [[nodiscard]] plan::OverlayPlaces overlays(std::size_t row, std::size_t box);
+    [[nodiscard]] paint::OverlayPlaces overlays(std::size_t row, std::size_t box);
     /// Where the middle of a box's group counter lies on the screen.
     [[nodiscard]] QPoint counterOnScreen(std::size_t row, std::size_t box);
 

@@ -97,11 +97,11 @@ TEST_F(WindowsLife, endsWithoutAFaultWhenItIsClosedBeforeTheDatabaseIsAskedAgain
     open();
     window().forward([&] {
         form().Check2.setChecked(true);
-        form().OpExam.select();
+        form().OpExam().select();
     });
     closeInTheNextRedraw();
     // The picker's new date redraws; the dates of the period are read after that.
-    window().forward([&] { form().OpEns.select(); });
+    window().forward([&] { form().OpEns().select(); });
     EXPECT_FALSE(window().isVisible());
     EXPECT_FALSE(window().failed());
     EXPECT_EQ(messages, QStringList());

@@ -18,7 +18,7 @@ TEST_F(TheWindow, fitsAScreenOf1366PixelsWhateverItShows)
         return window().minimumSizeHint().width();
     };
     EXPECT_LE(width(), screenWidth);
-    form().OpExam.select();
+    form().OpExam().select();
     EXPECT_LE(width(), screenWidth);
 }
 

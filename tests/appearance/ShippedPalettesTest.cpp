@@ -1,6 +1,6 @@
 #include "appearance/Palette.h"
 #include "appearance/PaletteFile.h"
-#include "plan/CellBox.h"
+#include "paint/CellBox.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -151,7 +151,7 @@ TEST(ShippedPalettes, keepTextReadableOnEveryColour)
             const Colour color = loaded.colors.at(entry);
             EXPECT_LE(color.value, 0xffffffU);
             // WCAG asks for 4.5, and for 7 at its highest level: these are read all day.
-            EXPECT_GE(plan::contrastRatio(color, plan::readableOn(color)), 7.0)
+            EXPECT_GE(paint::contrastRatio(color, paint::readableOn(color)), 7.0)
                 << file.fileName().toStdString() << ", entry " << entry;
         }
     }
@@ -208,7 +208,7 @@ TEST(ShippedPalettes, haveOneOfHighContrast)
     const LoadedPalette loaded(shipped(QStringLiteral("Contraste.mpl")));
     for (int entry = kFirstRowEntry; entry + 1 < kEntries; ++entry) {
         const Colour color = loaded.colors.at(entry);
-        EXPECT_GE(plan::contrastRatio(color, plan::readableOn(color)), 12.0) << entry;
-        EXPECT_GE(plan::contrastRatio(color, loaded.colors.at(entry + 1)), 7.0) << entry;
+        EXPECT_GE(paint::contrastRatio(color, paint::readableOn(color)), 12.0) << entry;
+        EXPECT_GE(paint::contrastRatio(color, loaded.colors.at(entry + 1)), 7.0) << entry;
     }
 }

@@ -48,8 +48,8 @@ struct ContextDesk {
         form.DTPicker1.change = [this] { periods.DTPicker1_Change(); };
         form.Check2.click = [this] { periods.Check2_Click(); };
         form.Combo10.click = [this] { periods.Combo10_Click(); };
-        form.OpEns.click = [this] { periods.OpEns_Click(); };
-        form.OpExam.click = [this] { periods.OpExam_Click(); };
+        form.OpEns().click() = [this] { periods.OpEns_Click(); };
+        form.OpExam().click() = [this] { periods.OpExam_Click(); };
         form.cb_Locaux.click = [this] { rooms.cb_Locaux_Click(); };
         form.ElemDep.click = [this] { rooms.ElemDep_Click(); };
         form.Combo1.click = [this] { rooms.Combo1_Click(); };

@@ -78,7 +78,7 @@ TEST_F(PeriodEvents, resetTheTotalsAndRedrawOnceForAPeriod)
 
 TEST_F(PeriodEvents, moveToTheExamWeekOfAPeriodChosenInExamMode)
 {
-    form().OpExam.select();
+    form().OpExam().select();
     form().Label4[1].caption = "";
     desk->plan.calls.clear();
     form().CbTranche.setListIndex(0);
@@ -91,7 +91,7 @@ TEST_F(PeriodEvents, moveToTheExamWeekOfAPeriodChosenInExamMode)
 TEST_F(PeriodEvents, leaveTheExamWeeksAloneWhileTheWindowIsNotVisible)
 {
     form().visible = false;
-    form().OpExam.select();
+    form().OpExam().select();
     form().Label4[1].caption = "";
     form().CbTranche.setListIndex(0);
     EXPECT_EQ(form().Label4[1].caption, "07/SEPTEMBRE/2026");
@@ -189,7 +189,7 @@ TEST_F(PeriodEvents, showThePickerExactlyWhileDateIsTicked)
 TEST_F(PeriodEvents, openAnExamWeekOnItsSecondDay)
 {
     const QStringList& shown = shownAtRedraws();
-    form().OpExam.select();
+    form().OpExam().select();
     EXPECT_EQ(shown, QStringList("Lundi 2027-02-02 2027-02-01")); // the picker is hidden
     EXPECT_EQ(form().Label4[1].caption, "01/FÉVRIER/2027");
     EXPECT_EQ(form().Label4[3].caption, "06/FÉVRIER/2027");
@@ -199,7 +199,7 @@ TEST_F(PeriodEvents, moveTheListToTheSecondDayOfAnExamWeekWithAVisiblePicker)
 {
     showPicker();
     const QStringList& shown = shownAtRedraws();
-    form().OpExam.select();
+    form().OpExam().select();
     EXPECT_EQ(shown, QStringList({"Mardi 2027-02-02 2027-02-01", "Mardi 2027-02-02 2027-02-01"}));
 }
 
@@ -207,7 +207,7 @@ TEST_F(PeriodEvents, stayInTheExamWeekWhenItsSecondDayRuleReachesSunday)
 {
     showPicker();
     form().CbJour.setListIndex(5);
-    form().OpExam.select();
+    form().OpExam().select();
     EXPECT_EQ(form().DTPicker1.value(), QDate(2027, 2, 7));
     EXPECT_EQ(form().CbJour.listIndex(), -1);
     EXPECT_EQ(periods().CurrentDate(), QDate(2027, 2, 1));
@@ -215,7 +215,7 @@ TEST_F(PeriodEvents, stayInTheExamWeekWhenItsSecondDayRuleReachesSunday)
 
 TEST_F(PeriodEvents, showTheExamOptionsInExamMode)
 {
-    form().OpExam.select();
+    form().OpExam().select();
     EXPECT_TRUE(form().Combo10.visible);
     EXPECT_TRUE(form().xOpExam.visible);
     EXPECT_FALSE(form().Chk_Type.visible);
@@ -224,7 +224,7 @@ TEST_F(PeriodEvents, showTheExamOptionsInExamMode)
 
 TEST_F(PeriodEvents, chooseTheExamWeek)
 {
-    form().OpExam.select();
+    form().OpExam().select();
     const QStringList& shown = shownAtRedraws();
     form().Combo10.setListIndex(1);
     EXPECT_EQ(form().Semn.caption, "2");
@@ -245,8 +245,8 @@ TEST_F(PeriodEvents, ignoreTheExamWeekWhileItsListIsHidden)
 
 TEST_F(PeriodEvents, showNoExamWeekInTeachingMode)
 {
-    form().OpExam.select();
-    form().OpEns.select();
+    form().OpExam().select();
+    form().OpEns().select();
     periods().Afficher_Dates();
     EXPECT_EQ(form().Label4[1].caption, "07/SEPTEMBRE/2026");
 }
@@ -254,9 +254,9 @@ TEST_F(PeriodEvents, showNoExamWeekInTeachingMode)
 TEST_F(PeriodEvents, returnToThisWeekInTeachingMode)
 {
     form().CbJour.setListIndex(4);
-    form().OpExam.select();
+    form().OpExam().select();
     const QStringList& shown = shownAtRedraws();
-    form().OpEns.select();
+    form().OpEns().select();
     EXPECT_EQ(shown, QStringList("Vendredi 2026-10-12 2026-10-12")); // the picker is hidden
     EXPECT_FALSE(form().Combo10.visible);
     EXPECT_FALSE(form().xOpExam.visible);
@@ -270,9 +270,9 @@ TEST_F(PeriodEvents, returnToThisWeekInTeachingMode)
 TEST_F(PeriodEvents, returnToMondayInTeachingModeWithAVisiblePicker)
 {
     showPicker();
-    form().OpExam.select();
+    form().OpExam().select();
     const QStringList& shown = shownAtRedraws();
-    form().OpEns.select();
+    form().OpEns().select();
     EXPECT_EQ(shown, QStringList({"Lundi 2026-10-12 2026-10-12", "Lundi 2026-10-12 2026-10-12"}));
 }
 

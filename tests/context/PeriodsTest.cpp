@@ -121,7 +121,7 @@ TEST_P(ThePeriods, workOutTheExamWeeksThatTheDatabaseDoesNotGive)
 TEST_P(ThePeriods, haveNoExamWeeksWithoutAPeriod)
 {
     desk->periods.chooseByIdent(99);
-    desk->form.OpExam.select();
+    desk->form.OpExam().select();
     EXPECT_FALSE(desk->periods.ExamWeek1Start().isValid());
     EXPECT_EQ(desk->form.Label4[1].caption, "");
     EXPECT_EQ(desk->periods.TrancheIdent(), 0);

@@ -10,8 +10,8 @@ TEST(PlanForm, startsOnMondayInEveryWeekOfTeaching)
     EXPECT_EQ(form.CbJour.items(),
               QStringList({"Lundi", "Mardi", "Mercredi", "Jeudi", "Vendredi", "Samedi"}));
     EXPECT_EQ(form.CbJour.listIndex(), 0);
-    EXPECT_TRUE(form.OptFixe.isSelected());
-    EXPECT_TRUE(form.OpEns.isSelected());
+    EXPECT_TRUE(form.OptFixe().isSelected());
+    EXPECT_TRUE(form.OpEns().isSelected());
     EXPECT_EQ(form.Semn.caption, "1");
     EXPECT_EQ(form.cb_Locaux.items().size(), 10);
     EXPECT_EQ(form.cb_Locaux.text(), "0");
@@ -55,11 +55,11 @@ TEST(PlanForm, carriesTheCaptionsOfItsControls)
 {
     const PlanForm form;
     EXPECT_EQ(form.caption, "Planning des Classes");
-    EXPECT_EQ(form.OpEns.caption, "Enseignement");
-    EXPECT_EQ(form.OpExam.caption, "Examen");
-    EXPECT_EQ(form.OptFixe.caption, "Toute Semaine");
-    EXPECT_EQ(form.OptA.caption, "Semaine A");
-    EXPECT_EQ(form.OptB.caption, "Semaine B");
+    EXPECT_EQ(form.OpEns().caption(), "Enseignement");
+    EXPECT_EQ(form.OpExam().caption(), "Examen");
+    EXPECT_EQ(form.OptFixe().caption(), "Toute Semaine");
+    EXPECT_EQ(form.OptA().caption(), "Semaine A");
+    EXPECT_EQ(form.OptB().caption(), "Semaine B");
     EXPECT_EQ(form.Check1.caption, "Selon la Matière:");
     EXPECT_EQ(form.ElemDep.caption, "Eléments du département ");
     EXPECT_EQ(form.Chk_Neutre.caption, "+ Eléments Neutres");

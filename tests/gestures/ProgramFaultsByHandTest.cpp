@@ -48,7 +48,7 @@ QPoint boxOnScreen(const ProgramSetup& setup)
         for (const plan::PlanBox& box : row.boxes) {
             if (row.room == u"B2" && box.cell.CellClassList == u"G2") {
                 const QRectF band =
-                    plan::overlayPlaces(window.shell().form(), view->target(), row.index, box).ZAbs;
+                    paint::overlayPlaces(window.shell().form(), view->target(), row.index, box).ZAbs;
                 const QPointF point(band.left() + band.width() / 4, band.center().y());
                 return view->viewport()->mapToGlobal(view->toViewport(point).toPoint());
             }

@@ -110,8 +110,8 @@ QPoint ScreenPlan::onScreen(int marker, Image image)
             if (candidate.marker != marker) {
                 continue;
             }
-            const plan::OverlayPlaces places =
-                plan::overlayPlaces(m_window->shell().form(), view->target(), row.index, candidate);
+            const paint::OverlayPlaces places =
+                paint::overlayPlaces(m_window->shell().form(), view->target(), row.index, candidate);
             // The pictures overlap: the left one is surely hit near its left edge, the band beside
             // both of them and between the labels.
             const QRectF& band = places.ZAbs;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/PlClasse.h"
-#include "plan/Overlays.h"
+#include "paint/Overlays.h"
 #include "support/ProgramSetup.h"
 
 #include <QObject>

@@ -3,9 +3,9 @@
 #include "db/Database.h"
 #include "form/PlanForm.h"
 #include "judge/RandomTimetable.h"
-#include "plan/PageRowSource.h"
-#include "plan/PlainRowSource.h"
-#include "plan/RoomOccupancy.h"
+#include "lookup/PageRowSource.h"
+#include "lookup/PlainRowSource.h"
+#include "lookup/OccupancyLookup.h"
 #include "runtime/RunTimeError.h"
 
 #include <QByteArray>
@@ -47,27 +47,27 @@ int wantedCells()
 /// One way of answering the plan's questions, with the connection that it uses.
 struct Way {
     Way(const TestDatabase& database, const form::PlanForm& form, const plan::CellLayout& layout,
-        const plan::SeanceTypeShortNames& names, bool ahead)
+        const lookup::SeanceTypeShortNames& names, bool ahead)
         : db(database.usesMySql()), plainRows(db), pageRows(db, plainRows), plainAbsences(db),
           pageAbsences(db, plainAbsences),
-          lookup(form, ahead ? static_cast<plan::RowSource&>(pageRows) : plainRows, layout, names),
-          absences(ahead ? static_cast<plan::AbsenceTests&>(pageAbsences) : plainAbsences)
+          lookup(form, ahead ? static_cast<lookup::RowSource&>(pageRows) : plainRows, layout, names),
+          absences(ahead ? static_cast<plan::AbsenceSource&>(pageAbsences) : plainAbsences)
     {
         db.open(database.connectString());
     }
 
     db::Database db;
-    plan::PlainRowSource plainRows;
-    plan::PageRowSource pageRows;
+    lookup::PlainRowSource plainRows;
+    lookup::PageRowSource pageRows;
     absences::AbsenceRecords plainAbsences;
     absences::PageAbsences pageAbsences;
-    plan::OccupancyLookup lookup;
-    plan::AbsenceTests& absences;
+    lookup::OccupancyLookup lookup;
+    plan::AbsenceSource& absences;
 };
 
 /// What a refresh would keep of one cell.
 struct Answer {
-    plan::RoomCell cell;
+    lookup::RoomCell cell;
     bool makeUp = false;
     bool classAbsent = false;
     bool studentAbsent = false;
@@ -88,9 +88,9 @@ protected:
     /// Sets the window's options at random.
     void choose(RandomTimetable& random)
     {
-        (random.chance(75) ? m_form.OpEns : m_form.OpExam).select();
+        (random.chance(75) ? m_form.OpEns() : m_form.OpExam()).select();
         const int week = random.pick(3);
-        (week == 0 ? m_form.OptFixe : week == 1 ? m_form.OptA : m_form.OptB).select();
+        (week == 0 ? m_form.OptFixe() : week == 1 ? m_form.OptA() : m_form.OptB()).select();
         m_form.XOpCl.setChecked(random.chance(75));
         m_form.XOpEns.setChecked(random.chance(75));
         m_form.XpMat.setChecked(random.chance(75));
@@ -132,7 +132,7 @@ protected:
         for (int slot = 1; slot <= 10; ++slot) {
             keys << m_form.CbJour.text() + QString::number(slot);
         }
-        const plan::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, tranche);
+        const lookup::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, tranche);
         plan::AbsenceQuestions questions{m_form.DTPicker1.value(), {}, facts.starts};
         for (const QString& name : facts.classNames) {
             questions.classNames << plan::firstClass(name);
@@ -168,7 +168,7 @@ protected:
 
     form::PlanForm m_form;
     plan::CellLayout m_layout;
-    plan::SeanceTypeShortNames m_names;
+    lookup::SeanceTypeShortNames m_names;
     int occupied = 0;
     int absent = 0;
 };
@@ -234,7 +234,7 @@ TEST_P(PageSources, keepTheOrderOfAnIndexOfOneRoom)
     Way plain(database(), m_form, m_layout, m_names, false);
     Way ahead(database(), m_form, m_layout, m_names, true);
     choose(random);
-    m_form.OpExam.select();
+    m_form.OpExam().select();
     m_form.CbJour.setListIndex(0);
     m_form.Check1.setChecked(false);
     m_form.Semn.caption = "1";
@@ -270,7 +270,7 @@ TEST_P(PageSources, needAtMostTenStatementsAPage)
     for (int slot = 1; slot <= 10; ++slot) {
         keys << QStringLiteral("Lundi%1").arg(slot);
     }
-    const plan::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, QStringLiteral("1"));
+    const lookup::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, QStringLiteral("1"));
     ahead.absences.prepare({RandomTimetable::date(), facts.classNames, facts.starts});
     EXPECT_LE(ahead.db.Db().statementCount() - before, 10);
     EXPECT_FALSE(facts.classNames.isEmpty());

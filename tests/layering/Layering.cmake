@@ -14,7 +14,7 @@
 #   - a layer links only layers below it;
 #   - it includes only its own headers and those of the layers it links, directly or through others;
 #   - it includes only headers of the Qt modules it links in the same way;
-#   - whatever it links: Qt Gui starts at plan/, QPrinter and its kin stay in print/ and app/,
+#   - whatever it links: Qt Gui starts at paint/, QPrinter and its kin stay in print/ and app/,
 #     widgets in app/, the ODBC headers in db/;
 #   - no file is longer than 500 lines: then it holds several subjects, not one.
 cmake_minimum_required(VERSION 3.22)
@@ -57,7 +57,7 @@ function(module_has_place module layer result)
   set(${result} TRUE PARENT_SCOPE)
   if(module STREQUAL "QtWidgets" AND NOT layer STREQUAL "app"
      OR module STREQUAL "QtPrintSupport" AND NOT layer MATCHES "^(print|app)$"
-     OR module STREQUAL "QtGui" AND NOT "plan" IN_LIST REACH_${layer})
+     OR module STREQUAL "QtGui" AND NOT "paint" IN_LIST REACH_${layer})
     set(${result} FALSE PARENT_SCOPE)
   endif()
 endfunction()

@@ -14,13 +14,13 @@ file(WRITE ${TREE}/layers.cmake "
 set(SOURCES ${TREE}/src)
 set(MEASURED ${TREE}/src)
 set(QT_INCLUDES ${TREE}/qt)
-set(LAYERS runtime db form plan print app)
+set(LAYERS runtime db form paint print app)
 set(MODULES_runtime QtCore)
-set(USES_db runtime plan)
+set(USES_db runtime paint)
 set(USES_form runtime)
-set(USES_plan form)
-set(MODULES_plan QtGui)
-set(USES_print plan)
+set(USES_paint form)
+set(MODULES_paint QtGui)
+set(USES_print paint)
 set(MODULES_print QtPrintSupport)
 set(USES_app print)
 set(MODULES_app QtWidgets)
@@ -29,7 +29,7 @@ set(MODULES_app QtWidgets)
 # Kept rules: own headers, headers reached through other layers, Qt where it belongs.
 file(WRITE ${TREE}/src/runtime/Kept.h "#include <QString>\n#include <vector>\n")
 file(WRITE ${TREE}/src/db/Kept.cpp "#include \"db/Kept.h\"\n#include <sql.h>\n")
-file(WRITE ${TREE}/src/plan/Kept.h "#include \"runtime/Kept.h\"\n#include <QtGui/QColor>\n")
+file(WRITE ${TREE}/src/paint/Kept.h "#include \"runtime/Kept.h\"\n#include <QtGui/QColor>\n")
 file(WRITE ${TREE}/src/print/Kept.h "#include <QColor>\n#include <QPrinter>\n")
 file(WRITE ${TREE}/src/app/Kept.h
   "#include <QWidget>\n#include <QPrinter>\n#include \"form/sub/Kept.h\" // in a folder of its own\n")
@@ -38,10 +38,10 @@ file(WRITE ${TREE}/src/app/Kept.h
 file(WRITE ${TREE}/src/runtime/Upward.h "#include \"form/Kept.h\"\n")
 file(WRITE ${TREE}/src/form/Gui.h "  #  include <QColor>\n")
 file(WRITE ${TREE}/src/form/sub/Odbc.cpp "#include <sqlext.h>\n")
-file(WRITE ${TREE}/src/plan/Beside.h "#include \"db/Kept.h\"\n")
-file(WRITE ${TREE}/src/plan/Climb.h "#include \"../form/Kept.h\"\n")
-file(WRITE ${TREE}/src/plan/Printer.h "#include <QtPrintSupport/QPrinter>\n")
-file(WRITE ${TREE}/src/plan/Sql.h "#include <QtSql/QSqlQuery>\n")
+file(WRITE ${TREE}/src/paint/Beside.h "#include \"db/Kept.h\"\n")
+file(WRITE ${TREE}/src/paint/Climb.h "#include \"../form/Kept.h\"\n")
+file(WRITE ${TREE}/src/paint/Printer.h "#include <QtPrintSupport/QPrinter>\n")
+file(WRITE ${TREE}/src/paint/Sql.h "#include <QtSql/QSqlQuery>\n")
 file(WRITE ${TREE}/src/print/Widget.h "#include <QWidget>\n")
 string(REPEAT "// a; line [\n" 501 long)
 file(WRITE ${TREE}/src/app/Long.cpp "${long}")
@@ -53,14 +53,14 @@ if(result EQUAL 0)
 endif()
 
 set(expected
-  "db links plan, which does not lie below it"
+  "db links paint, which does not lie below it"
   "runtime/Upward.h includes form/Kept.h: runtime does not link form"
   "form/Gui.h includes QColor: form is no place for QtGui"
   "form/sub/Odbc.cpp includes sqlext.h: only db speaks ODBC"
-  "plan/Beside.h includes db/Kept.h: plan does not link db"
-  "plan/Climb.h includes ../form/Kept.h: a path starts at src/"
-  "plan/Printer.h includes QtPrintSupport/QPrinter: plan is no place for QtPrintSupport"
-  "plan/Sql.h includes QtSql/QSqlQuery: plan does not link QtSql"
+  "paint/Beside.h includes db/Kept.h: paint does not link db"
+  "paint/Climb.h includes ../form/Kept.h: a path starts at src/"
+  "paint/Printer.h includes QtPrintSupport/QPrinter: paint is no place for QtPrintSupport"
+  "paint/Sql.h includes QtSql/QSqlQuery: paint does not link QtSql"
   "print/Widget.h includes QWidget: print is no place for QtWidgets"
   "app/Long.cpp has 501 lines, more than 500")
 foreach(fault IN LISTS expected)

@@ -187,7 +187,7 @@ TEST_F(Pages, stepForthAndBackForOtherLines)
     const int before = desk.yields;
     EXPECT_EQ(redraws([this] { form.Total_L_P.setText("5"); }), 2U);
     QStringList asked;
-    for (const plan::RoomQuestion& question : desk.rows.asked) {
+    for (const lookup::RoomQuestion& question : desk.rows.asked) {
         if (asked.isEmpty() || asked.last() != question.room) {
             asked.append(question.room);
         }

@@ -100,7 +100,7 @@ void PlanDesk::wireEvents()
     form.CbJour.click = [this] { periods.CbJour_Click(); };
     form.DTPicker1.change = [this] { periods.DTPicker1_Change(); };
     form.Check2.click = [this] { periods.Check2_Click(); };
-    form.OpEns.click = [this] { periods.OpEns_Click(); };
+    form.OpEns().click() = [this] { periods.OpEns_Click(); };
     form.cb_Locaux.click = [this] { rooms.cb_Locaux_Click(); };
     form.Total_L_P.change = [this] { paging.Total_L_P_Change(); };
     form.Command2.click = [this] { paging.Command2_Click(); };
@@ -110,9 +110,9 @@ void PlanDesk::wireEvents()
     form.Chk_Type.click = [this] { options.Chk_Type_Click(); };
     form.ChkGrille.click = [this] { options.ChkGrille_Click(); };
     form.Colorer.click = [this] { options.Colorer_Click(); };
-    form.OptA.click = [this] { options.OptA_Click(); };
-    form.OptB.click = [this] { options.OptB_Click(); };
-    form.OptFixe.click = [this] { options.OptFixe_Click(); };
+    form.OptA().click() = [this] { options.OptA_Click(); };
+    form.OptB().click() = [this] { options.OptB_Click(); };
+    form.OptFixe().click() = [this] { options.OptFixe_Click(); };
 }
 
 void PlanDesk::PlaceRoomRows()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "context/PlanActions.h"
-#include "plan/Meetings.h"
+#include "lookup/Meetings.h"
 #include "plan/Paging.h"
 #include "plan/PlanOptions.h"
 #include "plan/PlanRefresh.h"
@@ -16,7 +16,7 @@ namespace test
 {
 
 /// Absences of a test, by class name.
-class FakeAbsences : public plan::AbsenceTests
+class FakeAbsences : public plan::AbsenceSource
 {
 public:
     bool Existe_AbsClasse(const plan::Marqueur& marker, const QString& className) override;
@@ -73,8 +73,8 @@ public:
     context::RoomSet rooms{form, database, page, *this};
     FakeRows rows;
     plan::CellLayout layout;
-    plan::SeanceTypeShortNames typeNames;
-    plan::OccupancyLookup lookup{form, rows, layout, typeNames};
+    lookup::SeanceTypeShortNames typeNames;
+    lookup::OccupancyLookup lookup{form, rows, layout, typeNames};
     FakeAbsences absences;
     runtime::RandomSource random{7};
     plan::RowColors colors{random};

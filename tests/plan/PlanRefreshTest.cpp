@@ -4,7 +4,7 @@
 #include "support/RuntimeMatchers.h"
 
 using plan::PlanBox;
-using plan::RoomQuestion;
+using lookup::RoomQuestion;
 using runtime::ErrorNumber;
 using test::PlanDesk;
 
@@ -155,8 +155,8 @@ TEST(PlanRefresh, asksForExamsAloneInExamMode)
 {
     PlanDesk desk(2);
     desk.form.Check2.setChecked(true);
-    desk.form.OpExam.click = nullptr;
-    desk.form.OpExam.select();
+    desk.form.OpExam().click() = nullptr;
+    desk.form.OpExam().select();
     desk.rows.examen("R01", "Lundi1", "1");
     desk.draw();
     EXPECT_EQ(desk.rows.asked.size(), 10U);

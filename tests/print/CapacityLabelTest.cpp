@@ -93,7 +93,7 @@ TEST(CapacityLabel, agreesWithTheGroupCounterOfTheScreen)
 
 TEST(CapacityLabel, standsInTheLowerRightCornerOfItsBox)
 {
-    plan::DrawingTarget target;
+    paint::DrawingTarget target;
     target.PixelsPerPoint = 10;
     const QRectF high(1000, 500, 850, 350);
     const CapacityLabel label{red, "Dépassement 35/30"};
@@ -106,7 +106,7 @@ TEST(CapacityLabel, standsInTheLowerRightCornerOfItsBox)
 
 TEST(CapacityLabel, standsBesideTheTextOfALowBox)
 {
-    plan::DrawingTarget target;
+    paint::DrawingTarget target;
     target.PixelsPerPoint = 10;
     const QRectF low(1000, 500, 850, 125);
     const QRectF place =

@@ -55,7 +55,7 @@ TEST(Heading, saysWhatWasChosen)
 {
     PlanDesk desk(3);
     EXPECT_EQ(heading(desk).choice, "");
-    desk.form.OptB.select();
+    desk.form.OptB().select();
     desk.form.cb_Locaux.design({"0", "1", "2", "3"}, 3);
     desk.tick(desk.form.ElemDep);
     desk.form.Combo1.design({"GC"}, 0);
@@ -79,8 +79,8 @@ TEST(Heading, namesTheExamWeekInsteadOfWeekAOrB)
     PlanDesk desk(3);
     desk.form.CbTranche.design({"Semestre 1"}, 0);
     desk.form.Combo10.design({"1ère Sem. d'Examen"}, 0);
-    desk.form.OptA.select();
-    desk.form.OpExam.select();
+    desk.form.OptA().select();
+    desk.form.OpExam().select();
     EXPECT_EQ(heading(desk).period, "Semestre 1 · 1ère Sem. d'Examen");
     EXPECT_EQ(heading(desk).choice, "");
 }

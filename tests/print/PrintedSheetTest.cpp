@@ -3,8 +3,8 @@
 
 #include "print/PrintedSheet.h"
 
-#include "plan/Canvas.h"
-#include "plan/CellBox.h"
+#include "paint/Canvas.h"
+#include "paint/CellBox.h"
 #include "print/SheetDesk.h"
 #include "print/Targets.h"
 #include "support/RuntimeMatchers.h"
@@ -30,7 +30,7 @@ Canvas bodyOf(PlanDesk& desk)
 {
     desk.draw();
     Canvas canvas(1800, 600);
-    const plan::DrawingTarget target = print::UsePrinterTarget(paper());
+    const paint::DrawingTarget target = print::UsePrinterTarget(paper());
     canvas.draw([&](QPainter& painter) {
         painter.translate(0, top);
         print::PrintPlanBody(painter, target, sheetOf(desk));
@@ -168,7 +168,7 @@ TEST(PrintedHeader, standsAboveTheHours)
     PlanDesk desk(3);
     desk.draw();
     Canvas canvas(1800, 600);
-    const plan::DrawingTarget target = print::UsePrinterTarget(paper());
+    const paint::DrawingTarget target = print::UsePrinterTarget(paper());
     canvas.draw([&](QPainter& painter) {
         painter.translate(0, 200);
         print::PrintHeader(painter, target, sheetOf(desk));
@@ -185,7 +185,7 @@ TEST(PrintedHeader, keepsManyChoicesLegible)
 {
     PlanDesk desk(3);
     desk.form.CbTranche.design({"Semestre 1 2026-2027"}, 0);
-    desk.form.OptB.select();
+    desk.form.OptB().select();
     desk.form.cb_Locaux.design({"0", "1"}, 1);
     desk.tick(desk.form.ElemDep);
     desk.form.Combo1.design({"GC"}, 0);
@@ -195,7 +195,7 @@ TEST(PrintedHeader, keepsManyChoicesLegible)
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
     Canvas canvas(1800, 600);
-    const plan::DrawingTarget target = print::UsePrinterTarget(paper());
+    const paint::DrawingTarget target = print::UsePrinterTarget(paper());
     canvas.draw([&](QPainter& painter) {
         painter.translate(0, 200);
         print::PrintHeader(painter, target, sheet);

@@ -22,7 +22,7 @@ QImage deviceOf(int dotsPerInchAcross, int dotsPerInchDown)
 
 TEST(ScreenTarget, standsWhereTheWindowDoes)
 {
-    const plan::DrawingTarget target = UseScreenTarget();
+    const paint::DrawingTarget target = UseScreenTarget();
     EXPECT_FALSE(target.TargetIsPrinter);
     EXPECT_EQ(target.TargetXOffset, 0);
     EXPECT_EQ(target.TargetTwipsPerPixelX, 15);
@@ -32,7 +32,7 @@ TEST(ScreenTarget, standsWhereTheWindowDoes)
 
 TEST(PrinterTarget, isMovedBy150PixelsAndHas1700TwipsFor90Minutes)
 {
-    const plan::DrawingTarget target = UsePrinterTarget(deviceOf(720, 720));
+    const paint::DrawingTarget target = UsePrinterTarget(deviceOf(720, 720));
     EXPECT_TRUE(target.TargetIsPrinter);
     EXPECT_EQ(target.TargetXOffset, 150);
     EXPECT_EQ(target.SlotWidth, 1700);
@@ -41,15 +41,15 @@ TEST(PrinterTarget, isMovedBy150PixelsAndHas1700TwipsFor90Minutes)
 
 TEST(PrinterTarget, hasThePrintersPixels)
 {
-    const plan::DrawingTarget fine = UsePrinterTarget(deviceOf(720, 720));
+    const paint::DrawingTarget fine = UsePrinterTarget(deviceOf(720, 720));
     EXPECT_EQ(fine.TargetTwipsPerPixelX, 2);
     EXPECT_EQ(fine.TargetTwipsPerPixelY, 2);
     EXPECT_EQ(fine.PixelsPerPoint, 10);
     // 600 dots per inch: 2.4 twips a pixel, downwards as a whole number.
-    const plan::DrawingTarget common = UsePrinterTarget(deviceOf(600, 600));
+    const paint::DrawingTarget common = UsePrinterTarget(deviceOf(600, 600));
     EXPECT_DOUBLE_EQ(common.TargetTwipsPerPixelX, 2.4);
     EXPECT_EQ(common.TargetTwipsPerPixelY, 2);
-    const plan::DrawingTarget uneven = UsePrinterTarget(deviceOf(1200, 360));
+    const paint::DrawingTarget uneven = UsePrinterTarget(deviceOf(1200, 360));
     EXPECT_DOUBLE_EQ(uneven.TargetTwipsPerPixelX, 1.2);
     EXPECT_EQ(uneven.TargetTwipsPerPixelY, 4);
 }

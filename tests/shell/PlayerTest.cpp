@@ -225,7 +225,7 @@ TEST_P(Player, stopsWhenTheWindowIsClosedInTheMiddleOfARedraw)
     desk.whileYielding = [this] { desk.shell().Form_Unload(); };
     shell::play(desk.shell(), shell::CommandLine::parse({"tempora", "--week", "A", "--zone", "2",
                                                          "--day", "1", "--page", "2"}));
-    EXPECT_TRUE(desk.form().OptA.isSelected());
+    EXPECT_TRUE(desk.form().OptA().isSelected());
     EXPECT_EQ(desk.form().cb_Locaux.text(), "0");
     EXPECT_EQ(desk.form().CbJour.text(), "Lundi");
 }

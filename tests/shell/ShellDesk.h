@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/JsonExport.h"
+#include "files/JsonExport.h"
 #include "shell/PlanReading.h"
 #include "shell/Player.h"
 #include "shell/Shell.h"
@@ -73,7 +73,7 @@ public:
     }
     [[nodiscard]] QJsonObject plan() const
     {
-        return QJsonDocument::fromJson(shell::planAsJson(*m_shell)).object();
+        return QJsonDocument::fromJson(files::planAsJson(*m_shell)).object();
     }
 
     ProgramSetup setup;

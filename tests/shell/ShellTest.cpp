@@ -58,11 +58,11 @@ TEST_P(TheShell, keepsTheColoursDrawnAtTheStartBeyondTheRowsShown)
 {
     // The second redraw of the same colours reads them two entries further on: row 3 and row 4 then
     // show entries 5 and 6, which no refresh of four rows ever writes.
-    desk.form().OptA.select();
+    desk.form().OptA().select();
     const std::vector<form::Colour> before = rowColors();
     desk.shell().Form_KeyDown(keyF2);
     desk.shell().Form_KeyDown(keyF2);
-    desk.form().OptB.select();
+    desk.form().OptB().select();
     EXPECT_EQ(rowColors()[2], before[2]);
     EXPECT_EQ(rowColors()[3], before[3]);
 }
@@ -82,10 +82,10 @@ TEST_P(TheShell, redrawsOnceForEveryChoice)
     const std::vector<std::pair<const char*, std::function<void()>>> choices = {
         {"CbTranche", [&] { form.CbTranche.setListIndex(1); }},
         {"CbJour", [&] { form.CbJour.setListIndex(2); }},
-        {"OpExam", [&] { form.OpExam.select(); }},
+        {"OpExam", [&] { form.OpExam().select(); }},
         {"Combo10", [&] { form.Combo10.setListIndex(1); }},
-        {"OpEns", [&] { form.OpEns.select(); }},
-        {"OptB", [&] { form.OptB.select(); }},
+        {"OpEns", [&] { form.OpEns().select(); }},
+        {"OptB", [&] { form.OptB().select(); }},
         {"Chk_Type", [&] { form.Chk_Type.setChecked(true); }},
         {"ChkGrille", [&] { form.ChkGrille.setChecked(false); }},
         {"Check3", [&] { form.Check3.setChecked(false); }},
@@ -94,8 +94,8 @@ TEST_P(TheShell, redrawsOnceForEveryChoice)
         {"XOpEns", [&] { form.XOpEns.setChecked(false); }},
         {"XpMat", [&] { form.XpMat.setChecked(false); }},
         {"xOpExam", [&] { form.xOpExam.setChecked(true); }},
-        {"OptA", [&] { form.OptA.select(); }},
-        {"OptFixe", [&] { form.OptFixe.select(); }},
+        {"OptA", [&] { form.OptA().select(); }},
+        {"OptFixe", [&] { form.OptFixe().select(); }},
         {"cb_Locaux", [&] { form.cb_Locaux.setListIndex(1); }},
         {"ElemDep", [&] { form.ElemDep.setChecked(true); }},
         {"Combo1", [&] { form.Combo1.setListIndex(0); }},
@@ -135,7 +135,7 @@ TEST_P(TheShell, servesAChoiceMadeInTheMiddleOfARedrawAtOnce)
             desk.form().CbJour.setListIndex(1);
         }
     };
-    desk.form().OptA.select();
+    desk.form().OptA().select();
     const QJsonObject plan = desk.plan();
     EXPECT_EQ(shownRooms(plan), QStringList({"A2", "B1", "B2", "C1"}));
     EXPECT_EQ(boxTexts(plan, "A2").keys(), QList<int>({2}));

@@ -54,7 +54,7 @@ TEST_P(ShownPage, hasTheColoursOfTheWindow)
     for (const bool colored : {true, false}) {
         desk.play({"--day", "0"});
         desk.form().Colorer.setChecked(colored);
-        desk.form().OptA.select(); // a second drawing: each row has the colour of another entry
+        desk.form().OptA().select(); // a second drawing: each row has the colour of another entry
         const auto& shown = desk.shell().refresh().content().rows;
         const plan::PlanPage page = desk.shell().shownPage();
         ASSERT_EQ(page.content.rows.size(), shown.size());

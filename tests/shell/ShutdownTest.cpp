@@ -150,6 +150,6 @@ TEST_P(Shutdown, inTheMiddleOfARefreshEndsIt)
             desk.shell().Form_Unload();
         }
     };
-    desk.form().OptA.select();
+    desk.form().OptA().select();
     EXPECT_EQ(rows, 2);
 }

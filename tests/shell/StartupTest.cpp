@@ -51,8 +51,8 @@ TEST_P(Startup, leavesTheOptionsAsTheWindowsDesignHasThem)
     desk.load();
     const form::PlanForm& form = desk.form();
     EXPECT_EQ(form.CbJour.text(), "Lundi");
-    EXPECT_TRUE(form.OptFixe.isSelected());
-    EXPECT_TRUE(form.OpEns.isSelected());
+    EXPECT_TRUE(form.OptFixe().isSelected());
+    EXPECT_TRUE(form.OpEns().isSelected());
     EXPECT_EQ(form.cb_Locaux.text(), "0");
     EXPECT_FALSE(form.Chk_Type.isChecked());
     EXPECT_FALSE(form.xOpExam.isChecked());

@@ -1,0 +1,118 @@
+#include "engine/Engine.h"
+
+#include "context/LoadSlots.h"
+#include "plan/RoomRows.h"
+
+#include <utility>
+
+namespace engine
+{
+
+namespace
+{
+
+/// Pages are worked out in one go.
+Surroundings withoutEvents(Surroundings surroundings)
+{
+    surroundings.processEvents = [] {};
+    return surroundings;
+}
+
+} // namespace
+
+Engine::Engine(Surroundings surroundings, std::optional<plan::PlanRefresh::Sources> sources)
+    : Engine(std::move(surroundings), plan::PlanState(), std::make_shared<db::Database>(), sources)
+{
+    m_state.colors = plan::RowColors(runtime::RandomSource(m_surroundings.seed));
+    tieEvents();
+}
+
+Engine::Engine(const Engine& other, OnCopy /*copy*/)
+    : Engine(withoutEvents(other.m_surroundings), other.m_state, other.m_database,
+             other.m_givenSources)
+{
+    m_state.form.visible = true;
+}
+
+Engine::Engine(Surroundings surroundings, plan::PlanState state,
+               std::shared_ptr<db::Database> database,
+               std::optional<plan::PlanRefresh::Sources> sources)
+    : m_surroundings(std::move(surroundings)), m_state(std::move(state)),
+      m_database(std::move(database)), m_givenSources(sources), m_sources(*m_database),
+      m_reads(*m_database, m_surroundings.plain),
+      m_periods(m_state.form, m_state.period, *m_database, m_state.totals, *this,
+                m_surroundings.today),
+      m_rooms(m_state.form, *m_database, m_state.page, *this),
+      m_refresh(m_state, whoAnswers(), [this] { m_periods.yieldTo(m_surroundings.processEvents); }),
+      m_paging(m_state, m_rooms, m_refresh, [this] { adaptCells(); }),
+      m_subjectFilter(m_state.form, *m_database, *this),
+      m_palette(m_state.colors, m_state.form, *this, m_surroundings.applicationFolder,
+                m_surroundings.openFile),
+      m_cellOptions(m_state.form, m_state.layout, m_paging, m_refresh)
+{
+}
+
+Engine::~Engine() = default;
+
+plan::PlanRefresh::Sources Engine::whoAnswers()
+{
+    if (m_givenSources) {
+        return *m_givenSources;
+    }
+    return m_surroundings.plain ? m_sources.oneByOne() : m_sources.ahead();
+}
+
+long long Engine::statementCount() const
+{
+    return m_database->Db().statementCount();
+}
+
+void Engine::setUseMySql(bool useMySql)
+{
+    m_database->setUseMySql(useMySql);
+    m_state.form.ImgSql.visible = useMySql;
+    m_state.form.ImgAccess.visible = !useMySql;
+}
+
+void Engine::adaptCells()
+{
+    appearance::Adapter_Cellules(m_state.form, m_state.layout);
+}
+
+void Engine::loadEstablishment(const context::HeaderSource& source)
+{
+    m_state.establishment = context::LoadEstablishment(m_state.form, *m_database, m_reads,
+                                                       m_periods, m_state.page, source);
+}
+
+void Engine::loadSlots()
+{
+    context::LoadSlots(m_state.form, m_reads, m_state.slots, m_state.places);
+}
+
+void Engine::placeRoomRows()
+{
+    plan::PlaceRoomRows(m_state.form);
+}
+
+void Engine::Command2_Click()
+{
+    m_refresh.withoutYielding([this] { m_paging.Command2_Click(); });
+}
+
+void Engine::Command3_Click()
+{
+    m_refresh.withoutYielding([this] { m_paging.Command3_Click(); });
+}
+
+void Engine::clickMarker(int marker, absences::AsyncKeyState& keys)
+{
+    absences::Marking(m_refresh, m_sources.records(), keys).Clic_Marqueur(marker);
+}
+
+void Engine::Label2_Click(const plan::GroupCounter& group)
+{
+    m_surroundings.showMessage(QStringLiteral("Salles Occupées"), group.details);
+}
+
+} // namespace engine

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "absences/Marking.h"
+#include "appearance/CellOptions.h"
+#include "appearance/Palette.h"
+#include "context/Establishment.h"
+#include "context/Periods.h"
+#include "context/PlanActions.h"
+#include "context/RoomSet.h"
+#include "context/StartReads.h"
+#include "db/Database.h"
+#include "engine/DatabaseSources.h"
+#include "engine/Surroundings.h"
+#include "plan/Paging.h"
+#include "plan/PlanPage.h"
+#include "plan/PlanRefresh.h"
+#include "plan/PlanState.h"
+#include "plan/SubjectFilter.h"
+
+#include <QString>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace engine
+{
+
+/// Builds and owns the parts that make a plan out of a database, and ties the controls' events to
+/// them: the same for the window, for the command line, for the pages that are printed and for
+/// tests. What it knows is one value, the state; what it does is asked for by these functions and
+/// by the controls in that state.
+///
+/// Errors of all that asks the database or redraws: any database error; TypeMismatch, Overflow or
+/// SubscriptOutOfRange for what the plan cannot show.
+class Engine : private context::PlanActions
+{
+public:
+    /// `sources`: who answers the plan's questions in the place of the database; outlives this.
+    explicit Engine(Surroundings surroundings,
+                    std::optional<plan::PlanRefresh::Sources> sources = std::nullopt);
+    ~Engine() override;
+    Engine(const Engine&) = delete; // the parts refer to one another
+    Engine& operator=(const Engine&) = delete;
+
+    /// The choices, what start-up has read, where the plan stands.
+    [[nodiscard]] plan::PlanState& state() { return m_state; }
+    [[nodiscard]] const plan::PlanState& state() const { return m_state; }
+    [[nodiscard]] form::PlanForm& form() { return m_state.form; }
+    [[nodiscard]] const form::PlanForm& form() const { return m_state.form; }
+    /// What the last refresh worked out, as far as it has come.
+    [[nodiscard]] const plan::PlanContent& content() const { return m_refresh.content(); }
+    /// The records behind its boxes.
+    [[nodiscard]] const plan::MarkerRecords& markers() const { return m_refresh.markers(); }
+    /// Statements sent so far: what a click costs over a far server.
+    [[nodiscard]] long long statementCount() const;
+
+    // Steps of start-up, in their order.
+
+    /// `useMySql` is the setting "Mysql".
+    void setUseMySql(bool useMySql);
+    void loadPalette(const QString& path) { m_palette.Charger_Palette(path); }
+    /// Fits the boxes to what they show and to the rooms per page.
+    void adaptCells();
+    /// Opens the database and reads what the header shows.
+    void loadEstablishment(const context::HeaderSource& source);
+    void loadSlots();
+    void placeRoomRows();
+    void fillRoomPage() { m_rooms.FillRoomPage(); }
+    /// This week's Monday.
+    void showCurrentWeek() { m_periods.showCurrentWeek(); }
+    void readSeanceTypes();
+    void listDepartments();
+
+    // While the program runs.
+
+    void refreshPlan() { m_refresh.RefreshPlan(); }
+    /// Works out the rows that a refresh in progress has not come to.
+    void finishRefresh() { m_refresh.finishRows(); }
+    /// Makes a refresh in progress end where it stands: the window closes.
+    void abandonRefresh() { m_refresh.abandon(); }
+    /// Goes to the first page of the room set, whatever the buttons' state.
+    void showFirstPage() { m_paging.showFirstPage(); }
+    /// A click on one of a box's marker images: the keys decide what is toggled.
+    void clickMarker(int marker, absences::AsyncKeyState& keys);
+    /// A click on a group counter: shows the classes behind it.
+    void Label2_Click(const plan::GroupCounter& group);
+    void closeDatabase() { m_database->close(); }
+
+    // Pages as values, made on a copy: the window stays as it is.
+
+    /// The page that is shown, looked up anew with the controls as they stand: a box is what its
+    /// sheet's heading says, also where an option does not redraw the plan. Its rows have the
+    /// window's colours, its totals are the window's.
+    [[nodiscard]] plan::PlanPage shownPage() const;
+    /// Every page of the room set from the first one on, as "Page Suivante" would show them. Pages
+    /// without a room are left out, unless there are no others.
+    [[nodiscard]] std::vector<plan::PlanPage> allPages() const;
+    /// The page as it is shown, with what the last refresh worked out.
+    [[nodiscard]] plan::PlanPage drawnPage() const { return {m_state, content()}; }
+
+private:
+    /// Works on a copy of the other's state and on the same database. No event is tied: the copy's
+    /// controls are set by the walk through the pages alone.
+    struct OnCopy {
+    };
+    Engine(const Engine& other, OnCopy copy);
+    Engine(Surroundings surroundings, plan::PlanState state, std::shared_ptr<db::Database> database,
+           std::optional<plan::PlanRefresh::Sources> sources);
+
+    void RefreshPlan() override { m_refresh.RefreshPlan(); }
+    void PlaceRoomRows() override { placeRoomRows(); }
+    // Steps on the way to a new room set, which ends with a redraw of its own.
+    void Command2_Click() override;
+    void Command3_Click() override;
+
+    [[nodiscard]] plan::PlanRefresh::Sources whoAnswers();
+    void tieEvents();
+    void tieContext();
+    void tieOptions();
+    [[nodiscard]] plan::PlanPage lookedUpAgain();
+    [[nodiscard]] bool showNextPage();
+
+    // In the order in which they build on one another.
+    Surroundings m_surroundings;
+    plan::PlanState m_state;
+    std::shared_ptr<db::Database> m_database;
+    std::optional<plan::PlanRefresh::Sources> m_givenSources;
+    DatabaseSources m_sources;
+    context::StartReads m_reads;
+    context::Periods m_periods;
+    context::RoomSet m_rooms;
+    plan::PlanRefresh m_refresh;
+    plan::Paging m_paging;
+    plan::SubjectFilter m_subjectFilter;
+    appearance::Palette m_palette;
+    appearance::CellOptions m_cellOptions;
+};
+
+} // namespace engine

@@ -1,0 +1,59 @@
+// The plan's pages as values: the one that is shown, and all of them. They are made by an engine on
+// a copy of the state, with the same page buttons, the same refresh and the same database; so the
+// pages are the user's by construction, and the window shows what it showed.
+
+#include "engine/Engine.h"
+
+#include <utility>
+
+namespace engine
+{
+
+plan::PlanPage Engine::shownPage() const
+{
+    return Engine(*this, OnCopy()).lookedUpAgain();
+}
+
+std::vector<plan::PlanPage> Engine::allPages() const
+{
+    Engine walk(*this, OnCopy());
+    std::vector<plan::PlanPage> pages;
+    walk.showFirstPage();
+    pages.push_back(walk.drawnPage());
+    // The rooms were counted at start-up, so a smaller room set ends with pages that hold none.
+    while (walk.showNextPage()) {
+        if (walk.state().page.RowsShown >= 1) {
+            pages.push_back(walk.drawnPage());
+        }
+    }
+    for (std::size_t index = 0; index < pages.size(); ++index) {
+        pages[index].number = static_cast<int>(index) + 1;
+        pages[index].count = static_cast<int>(pages.size());
+    }
+    return pages;
+}
+
+plan::PlanPage Engine::lookedUpAgain()
+{
+    const std::vector<form::Label> shownRooms = m_state.form.Salle;
+    m_refresh.RefreshPlan(plan::PlanRefresh::TotalsStart::AsItStands);
+    plan::PlanPage page = drawnPage();
+    for (plan::PlanRow& row : page.content.rows) {
+        const auto index = static_cast<std::size_t>(row.index);
+        row.color = shownRooms[index].backColor;
+        page.state.form.Salle[index].backColor = row.color;
+        page.state.form.Cap[index].backColor = row.color;
+    }
+    return page;
+}
+
+/// "Page Suivante"; false on the last page.
+bool Engine::showNextPage()
+{
+    const std::int32_t before = m_state.page.PageStart;
+    m_state.form.Command3.enabled = true;
+    m_paging.Command3_Click();
+    return m_state.page.PageStart > before;
+}
+
+} // namespace engine

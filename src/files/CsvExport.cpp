@@ -1,0 +1,94 @@
+#include "files/CsvExport.h"
+
+#include "plan/BoxLines.h"
+#include "plan/ClassList.h"
+
+namespace files
+{
+namespace
+{
+
+QString cellOf(QString text)
+{
+    static const QString formulaStarts = QStringLiteral("=+-@\t\r");
+    if (!text.isEmpty() && formulaStarts.contains(text.front())) {
+        text.prepend(u'\'');
+    }
+    const bool quoted =
+        text.contains(u';') || text.contains(u'"') || text.contains(u'\n') || text.contains(u'\r');
+    return quoted ? u'"' + text.replace(u'"', QStringLiteral("\"\"")) + u'"' : text;
+}
+
+QString yesNo(bool value)
+{
+    return value ? QStringLiteral("oui") : QStringLiteral("non");
+}
+
+QStringList titles()
+{
+    return {QStringLiteral("Date"),           QStringLiteral("Jour"),
+            QStringLiteral("Période"),        QStringLiteral("Salle"),
+            QStringLiteral("Places"),         QStringLiteral("Séance"),
+            QStringLiteral("Début"),          QStringLiteral("Durée (min)"),
+            QStringLiteral("Texte"),          QStringLiteral("Classes"),
+            QStringLiteral("Étudiants"),      QStringLiteral("Capacité"),
+            QStringLiteral("Enseignant"),     QStringLiteral("Matière"),
+            QStringLiteral("Rattrapage"),     QStringLiteral("Dépassement"),
+            QStringLiteral("Classe absente"), QStringLiteral("Étudiants absents")};
+}
+
+/// Several lines in one cell are hard to sort and to search: they become one.
+QString oneLine(const QString& text)
+{
+    return plan::writtenLines(text).join(QStringLiteral(", "));
+}
+
+QStringList cellsOf(const PlanDocument& document, const plan::PlanRow& row,
+                    const plan::PlanBox& box)
+{
+    const lookup::RoomCell& cell = box.cell;
+    return {document.date.toString(QStringLiteral("dd/MM/yyyy")),
+            document.state().form.CbJour.text(),
+            document.state().form.CbTranche.text(),
+            row.room,
+            row.places,
+            QString::number(box.slot),
+            cell.CellStart,
+            cell.CellDuration,
+            oneLine(cell.CellText),
+            plan::classWords(cell.CellClassList).join(QStringLiteral(", ")),
+            QString::number(cell.CellStudents),
+            QString::number(cell.CellCapacity),
+            cell.CellTeacher,
+            cell.CellSubject,
+            yesNo(box.makeUp),
+            yesNo(box.group && box.group->overfull),
+            yesNo(box.classAbsent),
+            yesNo(box.studentAbsent)};
+}
+
+} // namespace
+
+QString csvLine(const QStringList& cells)
+{
+    QStringList written;
+    for (const QString& cell : cells) {
+        written.append(cellOf(cell));
+    }
+    return written.join(u';') + QStringLiteral("\r\n");
+}
+
+QByteArray planAsCsv(const PlanDocument& document)
+{
+    QString text = QString(QChar(QChar::ByteOrderMark)) + csvLine(titles());
+    for (const plan::PlanPage& page : document.pages) {
+        for (const plan::PlanRow& row : page.content.rows) {
+            for (const plan::PlanBox& box : row.boxes) {
+                text += csvLine(cellsOf(document, row, box));
+            }
+        }
+    }
+    return text.toUtf8();
+}
+
+} // namespace files

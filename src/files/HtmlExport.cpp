@@ -1,0 +1,158 @@
+#include "files/HtmlExport.h"
+
+#include "files/HtmlText.h"
+#include "paint/CellBox.h"
+#include "plan/BoxLines.h"
+#include "plan/BoxWords.h"
+#include "plan/SlotColumns.h"
+#include "print/Heading.h"
+
+#include <algorithm>
+
+namespace files
+{
+namespace
+{
+
+QString stretchText(const QString& start, int minutes)
+{
+    const QString end = plan::endText(start, minutes);
+    return end.isEmpty() ? start : start + u'–' + end;
+}
+
+QString paragraph(const QString& cssClass, const QString& text)
+{
+    return QStringLiteral("<div class=\"") + cssClass + QStringLiteral("\">") + escaped(text) +
+           QStringLiteral("</div>");
+}
+
+/// `columnTime` heads the box's column: a box of the same time need not repeat it.
+QString boxHtml(const form::PlanForm& form, const plan::PlanBox& box, const QString& columnTime)
+{
+    QString html;
+    const QString time = stretchText(box.cell.CellStart, box.minutes);
+    if (time != columnTime) {
+        html += paragraph(QStringLiteral("note"), time);
+    }
+    for (const QString& line : plan::writtenLines(plan::SanitizeCellText(box.cell.CellText))) {
+        html += QStringLiteral("<div>") + escaped(line) + QStringLiteral("</div>");
+    }
+    const QString group = print::joined(plan::groupWords(form, box));
+    if (!group.isEmpty()) {
+        html += paragraph(QStringLiteral("note"), group);
+    }
+    for (const QString& remark : plan::remarkWords(form, box)) {
+        html += paragraph(QStringLiteral("remark"), remark);
+    }
+    return html;
+}
+
+QString columnTitle(const plan::PlanState& state, int number)
+{
+    const auto& slot = state.slots.slot(number);
+    return slot ? stretchText(slot->start, slot->minutes) : QStringLiteral("Séance %1").arg(number);
+}
+
+QString rowHtml(const plan::PlanState& state, const plan::PlanRow& row,
+                const std::vector<int>& columns)
+{
+    QString html = QStringLiteral("<tr style=\"--fill:%1;--ink:%2\"><th scope=\"row\">%3</th>"
+                                  "<td class=\"places\">%4</td>")
+                       .arg(colorText(row.color), colorText(paint::readableOn(row.color)),
+                            escaped(row.room), escaped(row.places));
+    for (std::size_t column = 0; column < columns.size();) {
+        const plan::PlanBox* box = plan::boxAt(row, columns[column]);
+        if (box == nullptr) {
+            html += QStringLiteral("<td></td>");
+            ++column;
+            continue;
+        }
+        const std::size_t count = plan::columnsOf(state.slots, row, *box, columns, column);
+        const QString span = count > 1 ? QStringLiteral(" colspan=\"%1\"").arg(count) : QString();
+        html += QStringLiteral("<td class=\"%1\"%2>%3</td>")
+                    .arg(box->makeUp ? QStringLiteral("box makeup") : QStringLiteral("box"), span,
+                         boxHtml(state.form, *box, columnTitle(state, box->slot)));
+        column += count;
+    }
+    return html + QStringLiteral("</tr>\n");
+}
+
+QString headRow(const plan::PlanState& state, const std::vector<int>& columns)
+{
+    QString html = QStringLiteral("<tr><th scope=\"col\">Salle</th><th scope=\"col\">Places</th>");
+    for (const int number : columns) {
+        html += QStringLiteral("<th scope=\"col\">") + escaped(columnTitle(state, number)) +
+                QStringLiteral("</th>");
+    }
+    return html + QStringLiteral("</tr>\n");
+}
+
+/// The totals of the last page: they go on from page to page.
+QString totalsRow(const plan::PlanPage& page, const std::vector<int>& columns)
+{
+    const auto& totals = page.state.form.Tot;
+    const QString title = page.state.totals.isOld
+                              ? QStringLiteral("Places occupées (comptées avant le dernier choix)")
+                              : QStringLiteral("Places occupées");
+    const auto shown = [](const form::Label& total) { return total.visible; };
+    if (std::none_of(totals.begin(), totals.end(), shown)) {
+        return {};
+    }
+    QString html = QStringLiteral("<tfoot><tr><th scope=\"row\" colspan=\"2\">") + title +
+                   QStringLiteral("</th>");
+    for (const int number : columns) {
+        const form::Label& total = totals.at(static_cast<std::size_t>(number - 1));
+        html += QStringLiteral("<td>") + escaped(total.visible ? total.caption : QString()) +
+                QStringLiteral("</td>");
+    }
+    return html + QStringLiteral("</tr></tfoot>\n");
+}
+
+QString tableHtml(const PlanDocument& document, const QString& title)
+{
+    const plan::PlanState& state = document.state();
+    std::vector<std::reference_wrapper<const plan::PlanContent>> contents;
+    contents.reserve(document.pages.size());
+    for (const plan::PlanPage& page : document.pages) {
+        contents.emplace_back(page.content);
+    }
+    const std::vector<int> columns = plan::slotColumns(state.slots, contents);
+    QString rows;
+    for (const plan::PlanPage& page : document.pages) {
+        for (const plan::PlanRow& row : page.content.rows) {
+            rows += rowHtml(state, row, columns);
+        }
+    }
+    if (rows.isEmpty()) {
+        return QStringLiteral("<p>Aucune salle à montrer.</p>\n");
+    }
+    return QStringLiteral("<table>\n<caption>") + escaped(title) +
+           QStringLiteral(" : une ligne par salle, une colonne par séance</caption>\n<thead>") +
+           headRow(state, columns) + QStringLiteral("</thead>\n<tbody>\n") + rows +
+           QStringLiteral("</tbody>\n") + totalsRow(document.pages.back(), columns) +
+           QStringLiteral("</table>\n");
+}
+
+QString line(const QString& cssClass, const QStringList& parts)
+{
+    const QString text = print::joined(parts);
+    return text.isEmpty() ? QString() : paragraph(cssClass, text) + u'\n';
+}
+
+} // namespace
+
+QByteArray planAsHtml(const PlanDocument& document)
+{
+    const print::Heading heading =
+        print::headingOf(document.state().form, document.state().establishment);
+    const QString body = QStringLiteral("<header>\n<h1>") + escaped(heading.title) +
+                         QStringLiteral("</h1>\n") +
+                         line(QStringLiteral("name"), {heading.establishment, heading.university}) +
+                         line(QStringLiteral("context"),
+                              {heading.day, heading.period, heading.dates, heading.choice}) +
+                         QStringLiteral("</header>\n<main>\n") +
+                         tableHtml(document, heading.title) + QStringLiteral("</main>\n");
+    return htmlDocument(heading.title, body).toUtf8();
+}
+
+} // namespace files

@@ -1,0 +1,79 @@
+#include "files/PictureExport.h"
+
+#include "paint/PlanPainter.h"
+#include "print/Targets.h"
+#include "runtime/FrenchDate.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPainter>
+#include <cmath>
+
+namespace files
+{
+namespace
+{
+
+constexpr int kHeaderPixels = 64;
+constexpr int kMargin = 12;
+constexpr int kTotalsPixels = 30;
+
+QFont headerFont(int pixels, bool bold)
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+void paintHeader(QPainter& painter, const plan::PlanState& state, const QRectF& area)
+{
+    const form::PlanForm& form = state.form;
+    painter.setPen(QColor(40, 50, 70));
+    painter.setFont(headerFont(20, true));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, form.title());
+    painter.setFont(headerFont(14, false));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom,
+                     form.CbTranche.text() + QStringLiteral("   ") + form.Label4[0].caption + u' ' +
+                         form.Label4[1].caption + u' ' + form.Label4[2].caption + u' ' +
+                         form.Label4[3].caption);
+    painter.setFont(headerFont(16, true));
+    painter.drawText(area, Qt::AlignRight | Qt::AlignTop, state.establishment.EstablishmentName);
+    painter.setFont(headerFont(14, false));
+    painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, state.establishment.UniversityName);
+}
+
+} // namespace
+
+QByteArray planAsPng(const PlanDocument& document)
+{
+    const plan::PlanState& state = document.state();
+    const paint::PlanScene scene =
+        paint::sceneOf(state, document.pages.front().content, print::UseScreenTarget());
+    const double bottom = paint::PlanPainter::rowsBottom(scene);
+    const QSize size(
+        static_cast<int>(std::ceil(scene.target.toPixelsX(state.form.scaleWidth))) + 2 * kMargin,
+        static_cast<int>(std::ceil(bottom)) + kHeaderPixels + kTotalsPixels + 3 * kMargin);
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintHeader(painter, state,
+                QRectF(kMargin, kMargin, size.width() - 2 * kMargin, kHeaderPixels - kMargin));
+    painter.translate(kMargin, kHeaderPixels + kMargin);
+    paint::PlanPainter plan(painter, scene);
+    plan.paintTicks();
+    plan.paintGrid();
+    plan.paintBoxes();
+    plan.paintRoomLabels();
+    plan.paintPlaces();
+    painter.translate(0, bottom + 6);
+    plan.paintTotals();
+    painter.end();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+} // namespace files

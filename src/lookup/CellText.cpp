@@ -1,0 +1,218 @@
+#include "lookup/CellText.h"
+
+#include "runtime/RunTimeError.h"
+
+namespace lookup
+{
+namespace
+{
+
+using runtime::skipOnError;
+
+/// Composes one box text, block by block: a course can hold up to four rooms that show something,
+/// and the same room can be its A room and its B room.
+class Composer
+{
+public:
+    Composer(const db::Row& row, const QString& room, const DisplayOptions& options)
+        : m_row(row), m_room(room), m_options(options)
+    {
+    }
+
+    void composeRoomA();
+    void composeSecondRoomA();
+    void composeRoomB();
+    void composeSecondRoomB();
+    [[nodiscard]] QString finish(const SeanceTypeShortNames& typeNames);
+
+private:
+    [[nodiscard]] bool isRoom(const QString& column) const;
+    [[nodiscard]] QString textOf(const QString& column) const;
+    void append(const QString& before, const QString& column, const QString& after = {});
+    void appendIfFilled(const QString& tested, const QString& column);
+    void appendSubject(const QString& column);
+    void separate();
+    void separateOccupants();
+    void composeInvigilators();
+
+    const db::Row& m_row;
+    const QString& m_room;
+    const DisplayOptions& m_options;
+    QString m_text;
+};
+
+bool Composer::isRoom(const QString& column) const
+{
+    bool same = false;
+    skipOnError([&] {
+        const db::Value value = m_row.field(column);
+        same = !value.isNull() && value.toText() == m_room;
+    });
+    return same;
+}
+
+QString Composer::textOf(const QString& column) const
+{
+    QString text;
+    skipOnError([&] { text = m_row.field(column).toJoinedText(); });
+    return text;
+}
+
+void Composer::append(const QString& before, const QString& column, const QString& after)
+{
+    skipOnError([&] { m_text += before + m_row.field(column).toJoinedText() + after; });
+}
+
+/// A further person of a list, when the tested column holds one.
+void Composer::appendIfFilled(const QString& tested, const QString& column)
+{
+    if (!textOf(tested).isEmpty()) {
+        append(QStringLiteral("/"), column);
+    }
+}
+
+void Composer::appendSubject(const QString& column)
+{
+    if (m_options.showSubject) {
+        append(QStringLiteral(" ["), column, QStringLiteral("]"));
+    }
+}
+
+void Composer::separate()
+{
+    if (!m_text.isEmpty()) {
+        m_text += m_options.separator;
+    }
+}
+
+/// The A occupant and the B occupant of one room stand side by side.
+void Composer::separateOccupants()
+{
+    if (!m_text.isEmpty()) {
+        m_text += QStringLiteral(" = ");
+    }
+}
+
+void Composer::composeInvigilators()
+{
+    if (m_options.exam && m_options.showInvigilators) {
+        append(QStringLiteral(" "), QStringLiteral("Resp1"));
+        appendIfFilled(QStringLiteral("Resp2"), QStringLiteral("Resp2"));
+        appendIfFilled(QStringLiteral("Resp3"), QStringLiteral("Resp3"));
+        separate();
+    }
+}
+
+void Composer::composeRoomA()
+{
+    const QString nature = textOf(QStringLiteral("newnature"));
+    const bool meets =
+        m_options.everyWeek || nature == u"00" || (m_options.showsWeekA && nature == u"10/20");
+    if (!meets || !isRoom(QStringLiteral("Salle"))) {
+        return;
+    }
+    if (m_options.showClass) {
+        append({}, QStringLiteral("Classe"), m_options.separator);
+    }
+    if (m_options.showTeachers) {
+        append(QStringLiteral(" "), QStringLiteral("Enseignant1"));
+        appendIfFilled(QStringLiteral("Enseignant2"), QStringLiteral("Enseignant2"));
+        appendIfFilled(QStringLiteral("Enseignant3"), QStringLiteral("Enseignant3"));
+        if (!m_options.showInvigilators) {
+            separate();
+        }
+    }
+    composeInvigilators();
+    appendSubject(QStringLiteral("matière"));
+}
+
+// The blocks below belong to courses only: an exam is held in `Salle` alone, so none of them has
+// invigilators to show.
+
+void Composer::composeSecondRoomA()
+{
+    if (!isRoom(QStringLiteral("XSalle"))) { // whatever the week: the part follows its course
+        return;
+    }
+    if (m_options.showClass && m_text.isEmpty()) {
+        append({}, QStringLiteral("Classe"), m_options.separator);
+    }
+    if (m_options.showTeachers) {
+        append(QStringLiteral("  "), QStringLiteral("XEnseignant1"));
+        appendIfFilled(QStringLiteral("XEnseignant2"), QStringLiteral("XEnseignant2"));
+        appendIfFilled(QStringLiteral("XEnseignant3"), QStringLiteral("XEnseignant3"));
+    }
+    appendSubject(QStringLiteral("XMatière"));
+}
+
+// No separator stands inside the B blocks: they may follow an A occupant on the same line.
+
+void Composer::composeRoomB()
+{
+    if (!isRoom(QStringLiteral("SalleB")) || !(m_options.everyWeek || m_options.showsWeekB)) {
+        return;
+    }
+    separateOccupants();
+    if (m_options.showClass) {
+        append({}, QStringLiteral("Classe"));
+    }
+    if (m_options.showTeachers) {
+        append(QStringLiteral("  "), QStringLiteral("Enseignant1b"));
+        // An alternating pair has as many teachers in week B as in week A, so the A columns tell
+        // whether there is a second and a third.
+        appendIfFilled(QStringLiteral("Enseignant2"), QStringLiteral("Enseignant2b"));
+        appendIfFilled(QStringLiteral("Enseignant3"), QStringLiteral("Enseignant3b"));
+    }
+    appendSubject(QStringLiteral("Matièreb"));
+}
+
+void Composer::composeSecondRoomB()
+{
+    if (!isRoom(QStringLiteral("XSalleB")) || !(m_options.everyWeek || m_options.showsWeekB)) {
+        return;
+    }
+    separateOccupants();
+    if (m_options.showClass) {
+        append({}, QStringLiteral("Classe"));
+    }
+    if (m_options.showTeachers) {
+        append(QStringLiteral("  "), QStringLiteral("XEnseignant1B"));
+        appendIfFilled(QStringLiteral("XEnseignant2B"), QStringLiteral("XEnseignant2B"));
+        appendIfFilled(QStringLiteral("XEnseignant3B"), QStringLiteral("XEnseignant3B"));
+    }
+    appendSubject(QStringLiteral("XMatièreB"));
+}
+
+QString Composer::finish(const SeanceTypeShortNames& typeNames)
+{
+    if (m_text.isEmpty()) {
+        return m_text;
+    }
+    if (m_options.showType) {
+        skipOnError([&] {
+            const int type = m_row.field(QStringLiteral("TypeS1")).toInt32();
+            if (type >= 0 && type < static_cast<int>(typeNames.size())) {
+                m_text +=
+                    QStringLiteral(" (") + typeNames.at(static_cast<std::size_t>(type)) + u')';
+            }
+        });
+    }
+    return m_text + m_options.separator;
+}
+
+} // namespace
+
+QString composeCellText(const db::Row& row, const QString& room, const DisplayOptions& options,
+                        const SeanceTypeShortNames& typeNames)
+{
+    Composer composer(row, room, options);
+    composer.composeRoomA();
+    if (!options.exam) {
+        composer.composeSecondRoomA();
+        composer.composeRoomB();
+        composer.composeSecondRoomB();
+    }
+    return composer.finish(typeNames);
+}
+
+} // namespace lookup

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "db/Recordset.h"
+
+#include <QString>
+#include <array>
+
+namespace lookup
+{
+
+/// Short names of the séance types, by their `Ref`.
+using SeanceTypeShortNames = std::array<QString, 16>;
+
+/// What a box shows, as the display options of the window say.
+struct DisplayOptions {
+    bool exam = false;             ///< exam mode
+    bool showClass = false;        ///< "Classe"
+    bool showTeachers = false;     ///< "Enseignant", in exam mode "Surveillant"
+    bool showInvigilators = false; ///< "Responsable"
+    bool showSubject = false;      ///< "Matière"
+    bool showType = false;         ///< "Type de S."
+    bool showsWeekA = false;       ///< alternating courses show their A side
+    bool showsWeekB = false;       ///< courses show their B side
+    bool everyWeek = false;        ///< "Toute Semaine": both sides
+    QString separator;             ///< between the parts of an A text: a line end or nothing
+};
+
+/// The text of a room's box, composed from the first timetable row found for it. A field that the
+/// table lacks leaves its step out; a null adds nothing.
+[[nodiscard]] QString composeCellText(const db::Row& row, const QString& room,
+                                      const DisplayOptions& options,
+                                      const SeanceTypeShortNames& typeNames);
+
+} // namespace lookup

@@ -1,0 +1,220 @@
+#include "lookup/PageRowSource.h"
+
+#include "db/MatchMasks.h"
+#include "lookup/JoinedQueries.h"
+#include "runtime/RunTimeError.h"
+
+#include <QSet>
+#include <optional>
+
+namespace lookup
+{
+namespace
+{
+
+/// Texts in the order in which they came, each once: the same page makes the same statements.
+class DistinctTexts
+{
+public:
+    /// Adds the text of a row's column; a table without the column, or a null, adds nothing.
+    void collect(const db::Row& row, const QString& column)
+    {
+        runtime::skipOnError([&] {
+            const QString text = row.field(column).toText();
+            const qsizetype known = m_known.size();
+            m_known.insert(text);
+            if (m_known.size() > known) {
+                m_texts << text;
+            }
+        });
+    }
+
+    [[nodiscard]] const QStringList& texts() const { return m_texts; }
+
+private:
+    QSet<QString> m_known;
+    QStringList m_texts;
+};
+
+/// Names that several groups bear: not every type of column groups by what its values look like.
+QSet<QString> namesOfSeveral(const db::Recordset& groups)
+{
+    QSet<QString> known;
+    QSet<QString> several;
+    for (const db::Row& group : groups.rows()) {
+        const QString name = group.field(0).toText();
+        (known.contains(name) ? several : known).insert(name);
+    }
+    return several;
+}
+
+/// Whether it does not matter which of the rows comes first.
+bool haveOneCapacity(const db::Recordset& rows)
+{
+    bool same = true;
+    runtime::skipOnError([&] { // without the column there is none at all
+        const QString column = QStringLiteral("Capacite");
+        for (const db::Row& row : rows.rows()) {
+            same = same && row.field(column) == rows.first().field(column);
+        }
+    });
+    return same;
+}
+
+/// The wanted names that are not among the answers so far.
+template <typename Answers>
+QStringList unanswered(QStringList wanted, const Answers& answers)
+{
+    wanted.removeIf([&answers](const QString& name) { return answers.contains(name); });
+    return wanted;
+}
+
+} // namespace
+
+PageFacts PageRowSource::prepare(const PageQuestions& questions)
+{
+    m_questions = questions;
+    m_cells.clear();
+    m_studentRows.clear();
+    m_classRows.clear();
+    fetchTimetable();
+    const QStringList classNames = db::plainLiterals(allClasses());
+    if (!classNames.isEmpty()) {
+        runtime::skipOnError([&] { fetchStudents(classNames); });
+        runtime::skipOnError([&] { fetchClasses(classNames); });
+    }
+    return facts();
+}
+
+void PageRowSource::fetchTimetable()
+{
+    const QStringList rooms = db::plainLiterals(m_questions.rooms);
+    const QStringList keys = db::plainLiterals(m_questions.seanceKeys);
+    if (rooms.isEmpty() || keys.isEmpty()) {
+        return;
+    }
+    std::vector<RoomQuestion> pages{m_questions.question(m_questions.table, {}, {})};
+    if (m_questions.makeUps) {
+        pages.push_back(m_questions.question(RoomQuestion::Table::ratrap, {}, {}));
+    }
+    m_cells = fetchPageCells(m_database, m_walk, pages, rooms, keys);
+}
+
+void PageRowSource::fetchStudents(const QStringList& classNames)
+{
+    // The database groups the spellings that it takes for equal. A name that comes back as it is
+    // spelt here equals that group and no other.
+    const db::Recordset groups = m_database.Db().open(
+        QStringLiteral("Select classe as v, count(*) as n from etudiant WHERE ") +
+        db::MatchMasks(QStringLiteral("classe"), classNames).anyOf() +
+        QStringLiteral(" group by classe"));
+    QHash<QString, int> rows;
+    rows.reserve(classNames.size());
+    for (const db::Row& group : groups.rows()) {
+        rows.insert(group.field(0).toText(), group.field(1).toInt32());
+    }
+    for (const QString& name : namesOfSeveral(groups)) {
+        rows.remove(name);
+    }
+    const QStringList others = unanswered(classNames, rows);
+    QStringList statements;
+    for (const QString& name : others) {
+        statements << QStringLiteral("count(*) as n from etudiant WHERE classe='") + name + u'\'';
+    }
+    const std::vector<db::Recordset> counts = openJoined(m_database.Db(), statements);
+    for (std::size_t index = 0; index < counts.size(); ++index) {
+        rows.insert(others[static_cast<qsizetype>(index)],
+                    counts[index].first().field(1).toInt32());
+    }
+    m_studentRows = std::move(rows);
+}
+
+void PageRowSource::fetchClasses(const QStringList& classNames)
+{
+    // A group of one row has that row's capacity for its least one.
+    const db::Recordset groups = m_database.Db().open(
+        QStringLiteral("select Nom as v, count(*) as n, min(Capacite) as Capacite from classe "
+                       "Where ") +
+        db::MatchMasks(QStringLiteral("Nom"), classNames).anyOf() +
+        QStringLiteral(" group by Nom"));
+    m_classRows.reserve(classNames.size());
+    for (const db::Row& group : groups.rows()) {
+        if (group.field(1).toInt32() == 1) {
+            m_classRows.insert(group.field(0).toText(), db::Recordset(groups.columns(), {group}));
+        }
+    }
+    for (const QString& name : namesOfSeveral(groups)) {
+        m_classRows.remove(name);
+    }
+    const QStringList others = unanswered(classNames, m_classRows);
+    QStringList statements;
+    for (const QString& name : others) {
+        statements << QStringLiteral("classe.* from classe Where Nom='") + name + u'\'';
+    }
+    const std::vector<db::Recordset> found = openJoined(m_database.Db(), statements);
+    for (std::size_t index = 0; index < found.size(); ++index) {
+        // A server's view may lose its order among joined questions.
+        if (m_database.isEmbedded() || haveOneCapacity(found[index])) {
+            m_classRows.insert(others[static_cast<qsizetype>(index)], found[index]);
+        }
+    }
+}
+
+QStringList PageRowSource::allClasses() const
+{
+    DistinctTexts names;
+    for (const auto& [table, cells] : m_cells) {
+        cells.forTaken([&names](const db::Recordset& rows) {
+            for (const db::Row& row : rows.rows()) {
+                names.collect(row, QStringLiteral("Classe"));
+            }
+        });
+    }
+    return names.texts();
+}
+
+/// A box's markers are about the first class of its list: that of the first row or, when the box
+/// lists neither classes nor teachers, of the last.
+PageFacts PageRowSource::facts() const
+{
+    DistinctTexts names;
+    DistinctTexts starts;
+    for (const auto& [table, cells] : m_cells) {
+        cells.forTaken([&](const db::Recordset& rows) {
+            names.collect(m_questions.listsOccupants ? rows.first() : rows.rows().back(),
+                          QStringLiteral("Classe"));
+            starts.collect(rows.first(), QStringLiteral("Debut"));
+        });
+    }
+    return {names.texts(), starts.texts()};
+}
+
+db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
+{
+    const auto cells = m_cells.find(question.table);
+    const bool prepared =
+        cells != m_cells.end() &&
+        question == m_questions.question(question.table, question.room, question.seanceKey);
+    if (prepared) {
+        const std::optional<db::Recordset> rows =
+            cells->second.find(question.room, question.seanceKey);
+        if (rows) {
+            return *rows;
+        }
+    }
+    return m_plain.timetableRows(question);
+}
+
+int PageRowSource::studentRows(const QString& className)
+{
+    const auto rows = m_studentRows.constFind(className);
+    return rows != m_studentRows.constEnd() ? *rows : m_plain.studentRows(className);
+}
+
+db::Recordset PageRowSource::classRows(const QString& className)
+{
+    const auto rows = m_classRows.constFind(className);
+    return rows != m_classRows.constEnd() ? *rows : m_plain.classRows(className);
+}
+
+} // namespace lookup

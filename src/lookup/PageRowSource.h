@@ -1,0 +1,50 @@
+#pragma once
+
+#include "db/Database.h"
+#include "lookup/PageCells.h"
+#include "lookup/RowSource.h"
+
+#include <QHash>
+#include <map>
+
+namespace lookup
+{
+
+/// Fetches what a page is going to ask with a few statements whose number depends neither on the
+/// rooms, nor the slots, nor the boxes, and answers from what came back. Made for servers that are
+/// far away: there every statement costs a journey.
+///
+/// No answer differs from the plain source's: the database itself says which row answers which
+/// question. Where a name was found under another spelling only the database knows what it equals;
+/// such questions are put once more, each in the plain statement's own words, all joined into one.
+/// What cannot be fetched is left to the plain source.
+class PageRowSource : public RowSource
+{
+public:
+    /// Both outlive this source.
+    PageRowSource(db::Database& database, RowSource& plain) : m_database(database), m_plain(plain)
+    {
+    }
+
+    PageFacts prepare(const PageQuestions& questions) override;
+    [[nodiscard]] db::Recordset timetableRows(const RoomQuestion& question) override;
+    [[nodiscard]] int studentRows(const QString& className) override;
+    [[nodiscard]] db::Recordset classRows(const QString& className) override;
+
+private:
+    void fetchTimetable();
+    void fetchStudents(const QStringList& classNames);
+    void fetchClasses(const QStringList& classNames);
+    [[nodiscard]] QStringList allClasses() const;
+    [[nodiscard]] PageFacts facts() const;
+
+    db::Database& m_database;
+    RowSource& m_plain;
+    WalkCheck m_walk;
+    PageQuestions m_questions;
+    std::map<RoomQuestion::Table, PageCells> m_cells;
+    QHash<QString, int> m_studentRows;
+    QHash<QString, db::Recordset> m_classRows;
+};
+
+} // namespace lookup

@@ -1,0 +1,23 @@
+#include "lookup/PlainRowSource.h"
+
+namespace lookup
+{
+
+db::Recordset PlainRowSource::timetableRows(const RoomQuestion& question)
+{
+    return m_database.Db().open(question.sql(m_database.dialect()));
+}
+
+int PlainRowSource::studentRows(const QString& className)
+{
+    return m_database.Db().recordCount(QStringLiteral("Select * from etudiant WHERE classe='") +
+                                       className + u'\'');
+}
+
+db::Recordset PlainRowSource::classRows(const QString& className)
+{
+    return m_database.Db().open(QStringLiteral("select * from classe Where Nom='") + className +
+                                u'\'');
+}
+
+} // namespace lookup

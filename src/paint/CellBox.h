@@ -1,0 +1,43 @@
+#pragma once
+
+#include "form/Colour.h"
+#include "paint/DrawingTarget.h"
+#include "paint/TextRuler.h"
+#include "plan/CellLayout.h"
+
+#include <QMarginsF>
+#include <QPainter>
+#include <QRect>
+#include <QString>
+
+namespace paint
+{
+
+/// How one box looks.
+struct BoxStyle {
+    form::Colour fill;
+    bool hatched = false; ///< diagonal crosses: a make-up
+    int rowHeight = 0;    ///< twips: the height of `Salle`(0)
+    int textFormat = plan::CellLayout::kCentredLines;
+    /// Device pixels that small labels over the box take from its text, at each side.
+    QMarginsF reserved;
+    /// Measures the box texts of a whole page; without one the painter's font serves.
+    const TextRuler* ruler = nullptr;
+};
+
+/// The rectangle of a box in device pixels; `x` and `y` are its top left corner before the
+/// target's offset, `minutes` its length in time.
+[[nodiscard]] QRect boxRectangle(const DrawingTarget& target, double x, double y, double minutes,
+                                 int rowHeight);
+
+/// Draws one box and its text. The one drawing of a box, on whatever the painter paints.
+void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& style, double x,
+                 double y, int minutes, const QString& text);
+
+/// Black or white, whichever reads better on the colour.
+[[nodiscard]] form::Colour readableOn(form::Colour background);
+
+/// Contrast of two colours from 1 to 21, as the Web Content Accessibility Guidelines define it.
+[[nodiscard]] double contrastRatio(form::Colour first, form::Colour second);
+
+} // namespace paint

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "context/TimeAxis.h"
+#include "runtime/Numbers.h"
+
+namespace paint
+{
+
+/// Where the plan is drawn: how twips turn into device pixels. A value, so that a printed sheet or
+/// a picture never disturbs the screen's.
+struct DrawingTarget {
+    bool TargetIsPrinter = false;
+    /// Device pixels added to every box's left edge: 0 on the screen, 150 on the printer.
+    int TargetXOffset = 0;
+    double TargetTwipsPerPixelX = 15.0; ///< 15 at 96 dots per inch
+    int TargetTwipsPerPixelY = 15;
+    /// Twips that 90 minutes take.
+    int SlotWidth = context::TimeAxis::kScreenSlotWidth;
+    /// Device pixels of a point (1/72 inch): what fonts and lines on paper are measured in.
+    double PixelsPerPoint = 96.0 / 72.0;
+    /// Points that a box text on paper starts from: 9 on the printer. 0 on the screen, where it
+    /// starts from the painter's font.
+    int FontSize = 0;
+
+    [[nodiscard]] double toPixelsX(double twips) const { return twips / TargetTwipsPerPixelX; }
+    [[nodiscard]] double toPixelsY(double twips) const { return twips / TargetTwipsPerPixelY; }
+};
+
+} // namespace paint

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "form/PlanForm.h"
+#include "paint/DrawingTarget.h"
+
+#include <QPainter>
+#include <vector>
+
+namespace paint
+{
+
+/// A straight line of the plan's grid, in twips.
+struct GridLine {
+    int x1 = 0;
+    int y1 = 0;
+    int x2 = 0;
+    int y2 = 0;
+    form::Colour color;
+
+    friend bool operator==(const GridLine&, const GridLine&) = default;
+};
+
+/// The lines of the empty grid: one per hour tick, three quarters inside each hour, and on the
+/// screen grey lines between the rows. No lines while "Grille" is not ticked or no row is shown.
+/// The grid runs from the header down to the bottom of row `rowsShown`.
+[[nodiscard]] std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown,
+                                                  bool targetIsPrinter);
+
+/// Draws the grid on a surface.
+void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,
+                  const std::vector<GridLine>& lines);
+
+} // namespace paint

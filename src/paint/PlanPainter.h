@@ -1,0 +1,70 @@
+#pragma once
+
+#include "form/PlanForm.h"
+#include "paint/DrawingTarget.h"
+#include "paint/Overlays.h"
+#include "paint/TextRuler.h"
+#include "plan/PlanContent.h"
+#include "plan/PlanState.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+
+namespace paint
+{
+
+/// What is drawn, and how twips turn into pixels on the way.
+struct PlanScene {
+    const form::PlanForm& form;
+    const plan::PlanContent& content;
+    const plan::CellLayout& layout;
+    DrawingTarget target;
+    int rowsShown = 0;
+    int axisEnd = 0;           ///< twips from the window's left edge to the end of the time axis
+    bool hasOldTotals = false; ///< the totals were counted before the last choice
+};
+
+/// The scene of a state and of what a refresh worked out from it; both outlive it.
+[[nodiscard]] PlanScene sceneOf(const plan::PlanState& state, const plan::PlanContent& content,
+                                const DrawingTarget& target);
+
+/// Draws the plan, band by band, in device pixels from the window's inner top left corner. A
+/// scrolling view moves and clips the painter; nothing here loads, waits or remembers.
+class PlanPainter
+{
+public:
+    PlanPainter(QPainter& surface, const PlanScene& scene);
+
+    void paintTicks();
+    void paintGrid();
+    void paintBoxes();
+    /// The boxes of one row of the content.
+    void paintBoxesOf(const plan::PlanRow& row);
+    void paintRoomLabels();
+    void paintPlaces();
+    /// Room name and places of one row of the content.
+    void paintLabelsOf(const plan::PlanRow& row);
+    void paintTotals();
+
+    /// Bottom of the last row that is shown, in device pixels.
+    [[nodiscard]] static double rowsBottom(const PlanScene& scene);
+
+private:
+    void paintBox(const plan::PlanRow& row, const plan::PlanBox& box);
+    void paintOverlays(const OverlayPlaces& places, const plan::PlanBox& box, form::Colour under);
+    void paintOverlayLabel(const QRectF& place, const QColor& fill, bool isEdged,
+                           const QString& text);
+    void paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side);
+    [[nodiscard]] static QFont textFont(int pixels, bool bold = false);
+    [[nodiscard]] static QFont rowZeroFont();
+
+    QPainter& m_surface;
+    const PlanScene& m_scene;
+    TextRuler m_ruler;
+    TextRuler m_labelRuler;
+    TextRuler m_rowZeroRuler;
+    OverlayFonts m_overlayFonts;
+};
+
+} // namespace paint

@@ -1,0 +1,56 @@
+#include "plan/BoxWords.h"
+
+#include "plan/ClassList.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/TimeOfDay.h"
+
+namespace plan
+{
+
+QString endText(const QString& start, int minutes)
+{
+    QString text;
+    runtime::skipOnError([&] {
+        const int end = runtime::endMinute(start, minutes);
+        text = QStringLiteral("%1h%2").arg(end / 60).arg(end % 60, 2, 10, QLatin1Char('0'));
+    });
+    return text;
+}
+
+QStringList groupWords(const form::PlanForm& form, const PlanBox& box)
+{
+    QStringList words;
+    if (!box.group || !form.Check3.isChecked()) {
+        return words;
+    }
+    if (box.cell.CellRowCount != 1) {
+        QStringList names = classWords(box.cell.CellClassList);
+        names.replaceInStrings(QStringLiteral(" "), QString(QChar::Nbsp));
+        words << box.group->counter + QStringLiteral(" groupes : ") +
+                     names.join(QStringLiteral(", "));
+    }
+    if (!box.group->overfull) {
+        words << box.group->sizeLabel + QStringLiteral("\u00a0étudiants");
+    }
+    return words;
+}
+
+QStringList remarkWords(const form::PlanForm& form, const PlanBox& box)
+{
+    QStringList words;
+    if (box.makeUp) {
+        words << QStringLiteral("Rattrapage");
+    }
+    if (box.group && box.group->overfull && form.Check3.isChecked()) {
+        words << box.group->sizeLabel;
+    }
+    if (box.classAbsent) {
+        words << QStringLiteral("Classe absente");
+    }
+    if (box.studentAbsent) {
+        words << QStringLiteral("Étudiants absents");
+    }
+    return words;
+}
+
+} // namespace plan

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "form/PlanForm.h"
+#include "plan/PlanContent.h"
+
+#include <QString>
+#include <QStringList>
+
+/// What the screen says by places, labels, colours and pictures, in French words: for those who do
+/// not see them.
+namespace plan
+{
+
+/// The time at which something ends, for example 10h00; empty when the start is no time of day.
+[[nodiscard]] QString endText(const QString& start, int minutes);
+
+/// What the group counter stands for, where "S. Groupées" shows it; on the screen a click tells the
+/// classes. The blanks in a class's name do not break.
+[[nodiscard]] QStringList groupWords(const form::PlanForm& form, const PlanBox& box);
+
+/// What hatching, the red label and the absence pictures say.
+[[nodiscard]] QStringList remarkWords(const form::PlanForm& form, const PlanBox& box);
+
+} // namespace plan

@@ -1,0 +1,55 @@
+#include "plan/SlotColumns.h"
+
+#include "runtime/RunTimeError.h"
+#include "runtime/TimeOfDay.h"
+
+#include <set>
+
+namespace plan
+{
+std::vector<int> slotColumns(const context::DaySlots& slots,
+                             const std::vector<std::reference_wrapper<const PlanContent>>& contents)
+{
+    std::set<int> columns;
+    for (int number = 1; number <= form::PlanForm::kSlotLabels; ++number) {
+        if (slots.slot(number)) {
+            columns.insert(number);
+        }
+    }
+    for (const PlanContent& content : contents) {
+        for (const PlanRow& row : content.rows) {
+            for (const PlanBox& box : row.boxes) {
+                columns.insert(box.slot);
+            }
+        }
+    }
+    return {columns.begin(), columns.end()};
+}
+
+const PlanBox* boxAt(const PlanRow& row, int slot)
+{
+    for (const PlanBox& box : row.boxes) {
+        if (box.slot == slot) {
+            return &box;
+        }
+    }
+    return nullptr;
+}
+
+std::size_t columnsOf(const context::DaySlots& slots, const PlanRow& row, const PlanBox& box,
+                      const std::vector<int>& columns, std::size_t column)
+{
+    std::size_t count = 1;
+    runtime::skipOnError([&] {
+        const int start = runtime::secondsOfDay(runtime::normaliseTimeText(box.cell.CellStart));
+        const auto isCovered = [&](int next) {
+            return slots.reaches(next, start, box.minutes) && boxAt(row, next) == nullptr;
+        };
+        while (column + count < columns.size() && isCovered(columns[column + count])) {
+            ++count;
+        }
+    });
+    return count;
+}
+
+} // namespace plan

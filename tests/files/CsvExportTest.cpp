@@ -1,0 +1,96 @@
+#include "files/CsvExport.h"
+
+#include "shell/ShellDesk.h"
+
+using namespace test;
+using files::csvLine;
+
+namespace
+{
+
+class CsvExport : public OnBothDatabases
+{
+protected:
+    void SetUp() override { createTinyFaculty(database()); }
+
+    /// The lines of the file after these arguments, without its mark and its last line end.
+    QStringList linesAfter(const QStringList& arguments)
+    {
+        desk.play(arguments);
+        std::vector<plan::PlanPage> pages;
+        pages.push_back(desk.shell().shownPage());
+        const QByteArray bytes = files::planAsCsv(desk.shell(), std::move(pages));
+        EXPECT_TRUE(bytes.startsWith("\xef\xbb\xbf"
+                                     "Date"));
+        QString text = QString::fromUtf8(bytes); // which takes the mark away
+        EXPECT_TRUE(text.endsWith("\r\n"));
+        text.chop(2);
+        return text.split("\r\n");
+    }
+
+    ShellDesk desk{database()};
+};
+
+TEMPORA_ON_BOTH_DATABASES(CsvExport);
+
+} // namespace
+
+TEST_P(CsvExport, namesItsColumns)
+{
+    EXPECT_EQ(
+        linesAfter({"--day", "0"}).constFirst(),
+        "Date;Jour;Période;Salle;Places;Séance;Début;Durée (min);Texte;Classes;Étudiants;"
+        "Capacité;Enseignant;Matière;Rattrapage;Dépassement;Classe absente;Étudiants absents");
+}
+
+TEST_P(CsvExport, holdsOneLinePerBox)
+{
+    // Monday, 17 March 2025: A2, B1, B2 and C1 (week A and week B together) hold one box each.
+    const QStringList lines = linesAfter({"--date", "2025-03-17"});
+    ASSERT_EQ(lines.size(), 1 + 4);
+    EXPECT_EQ(lines[1], "17/03/2025;Lundi;Printemps;A2;40;1;8h30;90;"
+                        "G1, Dupont/Durand, [Algèbre];G1;3;25;Dupont;Algèbre;"
+                        "non;non;oui;non");
+    EXPECT_EQ(lines[2].section(';', 3, 7), "B1;100;3;14h00;180");
+    EXPECT_EQ(lines[2].section(';', 9, 11), "G2, G3;2;55");
+    EXPECT_EQ(lines[3].section(';', 3, 7), "B2;20;2;10h15;90");
+    EXPECT_EQ(lines[3].section(';', 15, 15), "oui"); // G2 is 45 strong, B2 has 20 places
+}
+
+TEST_P(CsvExport, saysWhatIsAMakeUp)
+{
+    const QStringList lines = linesAfter({"--makeup", "--date", "2025-03-17"});
+    ASSERT_EQ(lines.size(), 1 + 5);
+    EXPECT_EQ(lines[1].section(';', 14, 14), "non");
+    EXPECT_EQ(lines[2].section(';', 3, 6), "A2;40;2;10h15");
+    EXPECT_EQ(lines[2].section(';', 14, 14), "oui");
+}
+
+TEST_P(CsvExport, tellsNoDateThatOnlyTheClockKnows)
+{
+    EXPECT_EQ(linesAfter({"--day", "0"}).at(1).section(';', 0, 2), ";Lundi;Printemps");
+    EXPECT_EQ(linesAfter({"--day", "0", "--makeup"}).at(1).section(';', 0, 2),
+              "17/03/2025;Lundi;Printemps");
+    // The exam week is the database's, whatever the day that the plan is made on.
+    EXPECT_EQ(linesAfter({"--mode", "exam", "--day", "0"}).at(1).section(';', 0, 2),
+              "09/06/2025;Lundi;Printemps");
+}
+
+TEST_P(CsvExport, hasNoLinesForAnEmptyPlan)
+{
+    EXPECT_EQ(linesAfter({"--day", "5"}).size(), 1);
+}
+
+TEST(CsvLine, quotesWhatNeedsIt)
+{
+    EXPECT_EQ(csvLine({"a", "b c", ""}), "a;b c;\r\n");
+    EXPECT_EQ(csvLine({"a;b", "say \"no\"", "x\ny", "x\ry"}),
+              "\"a;b\";\"say \"\"no\"\"\";\"x\ny\";\"x\ry\"\r\n");
+}
+
+TEST(CsvLine, makesFormulasHarmless)
+{
+    EXPECT_EQ(csvLine({"=1+1", "+33", "-5", "@SUM(A1)"}), "'=1+1;'+33;'-5;'@SUM(A1)\r\n");
+    EXPECT_EQ(csvLine({"\t=1", "=A1;\"x\""}), "'\t=1;\"'=A1;\"\"x\"\"\"\r\n");
+    EXPECT_EQ(csvLine({"a=1", " -", "1-2"}), "a=1; -;1-2\r\n");
+}

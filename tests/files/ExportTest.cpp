@@ -1,0 +1,154 @@
+#include "files/Export.h"
+
+#include "files/PictureExport.h"
+#include "shell/ShellDesk.h"
+#include "support/TestFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+
+using namespace test;
+
+namespace
+{
+
+/// A folder of its own, empty at first.
+QString emptyFolder()
+{
+    static int counter = 0;
+    const QString path = processFolder() + QString("/export%1").arg(++counter);
+    QDir().mkpath(path);
+    return path;
+}
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The line that an export which cannot be written is answered with.
+QString failure(const std::function<void()>& write)
+{
+    try {
+        write();
+    } catch (const files::ExportError& error) {
+        return QString::fromUtf8(error.what());
+    }
+    ADD_FAILURE() << "the file is written";
+    return {};
+}
+
+class Export : public OnBothDatabases
+{
+protected:
+    void SetUp() override
+    {
+        createTinyFaculty(database());
+        desk.start();
+    }
+
+    ShellDesk desk{database()};
+};
+
+TEMPORA_ON_BOTH_DATABASES(Export);
+
+} // namespace
+
+TEST_P(Export, writesTheFormThatTheEndingNames)
+{
+    const QString folder = emptyFolder();
+    files::exportPlan(desk.shell(), folder + "/plan.json");
+    files::exportPlan(desk.shell(), folder + "/Plan.PNG");
+    EXPECT_EQ(bytesOf(folder + "/plan.json"), files::planAsJson(desk.shell()));
+    EXPECT_EQ(bytesOf(folder + "/Plan.PNG"), files::planAsPng(desk.shell()));
+}
+
+TEST_P(Export, writesEveryPageWhenAskedTo)
+{
+    const QString folder = emptyFolder();
+    desk.form().Total_L_P.setText("2");
+    for (const char* name : {"plan.pdf", "plan.csv", "plan.html"}) {
+        files::exportPlan(desk.shell(), folder + "/one-" + name);
+        files::exportPlan(desk.shell(), folder + "/all-" + name, true);
+        EXPECT_GT(bytesOf(folder + "/all-" + name).size(), bytesOf(folder + "/one-" + name).size());
+    }
+    EXPECT_TRUE(bytesOf(folder + "/all-plan.pdf").startsWith("%PDF-"));
+}
+
+TEST_P(Export, writesTheSameBytesInEveryWeek)
+{
+    const QString folder = emptyFolder();
+    for (const char* name : {"plan.pdf", "plan.csv", "plan.html"}) {
+        desk.today = QDate(2025, 3, 26);
+        desk.play({"--day", "0"});
+        files::exportPlan(desk.shell(), folder + "/march-" + name);
+        desk.today = QDate(2025, 5, 8);
+        desk.play({"--day", "0"});
+        files::exportPlan(desk.shell(), folder + "/may-" + name);
+        EXPECT_EQ(bytesOf(folder + "/may-" + name), bytesOf(folder + "/march-" + name)) << name;
+    }
+}
+
+TEST_P(Export, replacesWhatWasThere)
+{
+    const QString path = emptyFolder() + "/plan.json";
+    writeFile(path, QString(100000, 'x'));
+    files::exportPlan(desk.shell(), path);
+    EXPECT_EQ(bytesOf(path), files::planAsJson(desk.shell()));
+}
+
+TEST_P(Export, drawsThePlanWithItsBoxes)
+{
+    const QImage picture = QImage::fromData(files::planAsPng(desk.shell()), "PNG");
+    // The axis ends with 19h00, 660 × 2400 / 90 = 17600 twips behind its beginning, with the places
+    // behind it; a pixel is 15 twips.
+    const int end = (desk.form().Label1[0].place.left + 17600) / 15;
+    EXPECT_GT(picture.width(), end);
+    EXPECT_LT(picture.width(), end + 150);
+    EXPECT_GT(picture.height(), 200);
+    // The middle of A2's box in slot 1, above its text, has the row's colour, as the room's label.
+    const form::Colour color = desk.shell().refresh().content().rows[0].color;
+    int found = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) == qRgb(color.red(), color.green(), color.blue())) {
+                ++found;
+            }
+        }
+    }
+    EXPECT_GT(found, 160 * 20); // the box alone is 160 pixels wide
+}
+
+TEST_P(Export, drawsTheSamePictureForTheSamePlan)
+{
+    const QByteArray first = files::planAsPng(desk.shell());
+    desk.start();
+    EXPECT_EQ(files::planAsPng(desk.shell()), first);
+}
+
+TEST(ExportFile, isNamedWhenItsFolderDoesNotExist)
+{
+    const QString path = emptyFolder() + "/missing/plan.json";
+    const QString answer = failure([&] { files::writeWholeFile(path, "{}"); });
+    EXPECT_TRUE(answer.startsWith("Impossible d’écrire « " + path + " » : "))
+        << answer.toStdString();
+    EXPECT_FALSE(answer.contains('\n'));
+}
+
+TEST(ExportFile, isRefusedWhereThereIsAFolder)
+{
+    const QString path = emptyFolder() + "/plan.json";
+    QDir().mkpath(path);
+    EXPECT_TRUE(failure([&] { files::writeWholeFile(path, "{}"); }).contains(path));
+    EXPECT_TRUE(QDir(path).isEmpty());
+}
+
+TEST(ExportFile, leavesNothingElseBehind)
+{
+    const QString folder = emptyFolder();
+    files::writeWholeFile(folder + "/plan.json", "{}");
+    EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList({"plan.json"}));
+}
