@@ -66,7 +66,7 @@ std::unique_ptr<shell::Shell> Faculty::open(bool plain, quint16 port) const
                       QStringLiteral("$port=\"%1\"").arg(port));
         write(php, moved);
     }
-    shell::Environment environment;
+    engine::Surroundings environment;
     environment.applicationFolder = m_folder.path();
     environment.seed = 1;
     environment.plain = plain;

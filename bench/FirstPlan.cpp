@@ -20,7 +20,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint && !m_window.shell().refresh().content().rows.empty()) {
+        if (event->type() == QEvent::Paint && !m_window.shell().engine().content().rows.empty()) {
             QMetaObject::invokeMethod(
                 qApp, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
         }
@@ -37,7 +37,7 @@ int main(int argc, char* argv[])
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication application(argc, argv);
-    shell::Environment environment;
+    engine::Surroundings environment;
     environment.applicationFolder = QCoreApplication::applicationDirPath();
     app::PlClasse window(shell::Settings::perUser(), environment);
     if (!window.load()) {

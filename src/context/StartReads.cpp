@@ -9,6 +9,7 @@ namespace context
 int StartReads::roomCount(const QString& zone)
 {
     if (!m_plain) {
+        m_rooms.reset();
         m_rooms = roomsByName(zone);
         m_zone = zone;
         return m_rooms->recordCount();

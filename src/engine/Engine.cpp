@@ -20,25 +20,25 @@ Surroundings withoutEvents(Surroundings surroundings)
 
 } // namespace
 
-Engine::Engine(Surroundings surroundings, std::optional<plan::PlanRefresh::Sources> sources)
-    : Engine(std::move(surroundings), plan::PlanState(), std::make_shared<db::Database>(), sources)
+Engine::Engine(Surroundings surroundings) : Engine(std::move(surroundings), StandIns()) {}
+
+Engine::Engine(Surroundings surroundings, StandIns standIns)
+    : Engine(std::move(surroundings), plan::PlanState(), std::make_shared<db::Database>(), standIns)
 {
     m_state.colors = plan::RowColors(runtime::RandomSource(m_surroundings.seed));
     tieEvents();
 }
 
 Engine::Engine(const Engine& other, OnCopy /*copy*/)
-    : Engine(withoutEvents(other.m_surroundings), other.m_state, other.m_database,
-             other.m_givenSources)
+    : Engine(withoutEvents(other.m_surroundings), other.m_state, other.m_database, other.m_standIns)
 {
     m_state.form.visible = true;
 }
 
 Engine::Engine(Surroundings surroundings, plan::PlanState state,
-               std::shared_ptr<db::Database> database,
-               std::optional<plan::PlanRefresh::Sources> sources)
+               std::shared_ptr<db::Database> database, StandIns standIns)
     : m_surroundings(std::move(surroundings)), m_state(std::move(state)),
-      m_database(std::move(database)), m_givenSources(sources), m_sources(*m_database),
+      m_database(std::move(database)), m_standIns(standIns), m_sources(*m_database),
       m_reads(*m_database, m_surroundings.plain),
       m_periods(m_state.form, m_state.period, *m_database, m_state.totals, *this,
                 m_surroundings.today),
@@ -56,10 +56,10 @@ Engine::~Engine() = default;
 
 plan::PlanRefresh::Sources Engine::whoAnswers()
 {
-    if (m_givenSources) {
-        return *m_givenSources;
-    }
-    return m_surroundings.plain ? m_sources.oneByOne() : m_sources.ahead();
+    const plan::PlanRefresh::Sources own =
+        m_surroundings.plain ? m_sources.oneByOne() : m_sources.ahead();
+    return {m_standIns.rows != nullptr ? *m_standIns.rows : own.rows,
+            m_standIns.absences != nullptr ? *m_standIns.absences : own.absences};
 }
 
 long long Engine::statementCount() const

@@ -18,8 +18,8 @@
 #include "plan/SubjectFilter.h"
 
 #include <QString>
+#include <cstdint>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace engine
@@ -35,9 +35,15 @@ namespace engine
 class Engine : private context::PlanActions
 {
 public:
-    /// `sources`: who answers the plan's questions in the place of the database; outlives this.
-    explicit Engine(Surroundings surroundings,
-                    std::optional<plan::PlanRefresh::Sources> sources = std::nullopt);
+    /// Who answers a plan's questions in the place of the database; null: the database. They
+    /// outlive the engine.
+    struct StandIns {
+        lookup::RowSource* rows = nullptr;
+        plan::AbsenceSource* absences = nullptr;
+    };
+
+    explicit Engine(Surroundings surroundings);
+    Engine(Surroundings surroundings, StandIns standIns);
     ~Engine() override;
     Engine(const Engine&) = delete; // the parts refer to one another
     Engine& operator=(const Engine&) = delete;
@@ -51,6 +57,8 @@ public:
     [[nodiscard]] const plan::PlanContent& content() const { return m_refresh.content(); }
     /// The records behind its boxes.
     [[nodiscard]] const plan::MarkerRecords& markers() const { return m_refresh.markers(); }
+    /// How many refreshes have started.
+    [[nodiscard]] std::uint64_t refreshCount() const { return m_refresh.refreshCount(); }
     /// Statements sent so far: what a click costs over a far server.
     [[nodiscard]] long long statementCount() const;
 
@@ -58,6 +66,7 @@ public:
 
     /// `useMySql` is the setting "Mysql".
     void setUseMySql(bool useMySql);
+    void openDatabase(const QString& connectString) { m_database->open(connectString); }
     void loadPalette(const QString& path) { m_palette.Charger_Palette(path); }
     /// Fits the boxes to what they show and to the rooms per page.
     void adaptCells();
@@ -85,6 +94,8 @@ public:
     /// A click on a group counter: shows the classes behind it.
     void Label2_Click(const plan::GroupCounter& group);
     void closeDatabase() { m_database->close(); }
+    /// The open connection. Error: DatabaseFailure when there is none.
+    [[nodiscard]] db::Connection& database() { return m_database->Db(); }
 
     // Pages as values, made on a copy: the window stays as it is.
 
@@ -105,7 +116,7 @@ private:
     };
     Engine(const Engine& other, OnCopy copy);
     Engine(Surroundings surroundings, plan::PlanState state, std::shared_ptr<db::Database> database,
-           std::optional<plan::PlanRefresh::Sources> sources);
+           StandIns standIns);
 
     void RefreshPlan() override { m_refresh.RefreshPlan(); }
     void PlaceRoomRows() override { placeRoomRows(); }
@@ -124,7 +135,7 @@ private:
     Surroundings m_surroundings;
     plan::PlanState m_state;
     std::shared_ptr<db::Database> m_database;
-    std::optional<plan::PlanRefresh::Sources> m_givenSources;
+    StandIns m_standIns;
     DatabaseSources m_sources;
     context::StartReads m_reads;
     context::Periods m_periods;

@@ -39,6 +39,10 @@ struct PlanRow {
 /// reads these values.
 struct PlanContent {
     std::vector<PlanRow> rows;
+
+    /// The box of a marker; null when none was drawn with this number.
+    [[nodiscard]] const PlanBox* box(int marker) const;
+    [[nodiscard]] PlanBox* box(int marker);
 };
 
 } // namespace plan

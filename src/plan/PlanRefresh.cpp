@@ -246,16 +246,4 @@ bool PlanRefresh::teachersOnly() const
     return form.XOpEns.isChecked() && !form.XpMat.isChecked() && !form.XOpCl.isChecked();
 }
 
-PlanBox* PlanRefresh::box(int marker)
-{
-    for (PlanRow& row : m_content.rows) {
-        for (PlanBox& box : row.boxes) {
-            if (box.marker == marker) {
-                return &box;
-            }
-        }
-    }
-    return nullptr;
-}
-
 } // namespace plan

@@ -56,7 +56,7 @@ public:
     [[nodiscard]] MarkerRecords& markers() { return m_markers; }
     [[nodiscard]] const MarkerRecords& markers() const { return m_markers; }
     /// The box of a marker; null when the last refresh drew none with this number.
-    [[nodiscard]] PlanBox* box(int marker);
+    [[nodiscard]] PlanBox* box(int marker) { return m_content.box(marker); }
 
 private:
     void startTotals(TotalsStart start);

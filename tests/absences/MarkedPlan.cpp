@@ -24,7 +24,8 @@ db::Value number(std::int64_t value)
 
 db::Recordset MarkedPlan::Rooms::timetableRows(const lookup::RoomQuestion& question)
 {
-    const plan::Marqueur held = lesson({});
+    plan::Marqueur held = lesson({});
+    held.Matiere = subject.isEmpty() ? held.Matiere : subject;
     const auto columns = std::make_shared<const db::Columns>(QStringList{
         QStringLiteral("Salle"), QStringLiteral("Classe"), QStringLiteral("Seance"),
         QStringLiteral("matière"), QStringLiteral("Enseignant1"), QStringLiteral("newnature"),
@@ -60,36 +61,49 @@ MarkedPlan::MarkedPlan(const TestDatabase& database, std::vector<QStringList> ro
 
 MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms,
                        const QString& preparation)
-    : m_database(useMySql),
-      m_periods(m_form, m_database, m_totals, m_actions, [] { return QDate(2025, 3, 17); }),
-      m_slots(m_form, m_database), m_lookup(m_form, m_rooms, m_layout, m_typeNames),
-      m_records(m_database), m_plan({m_form, m_periods, m_slots, m_page, m_totals, m_lookup,
-                                     m_records, m_colors, m_layout},
-                                    [this] { form::raise(whileYielding); }),
-      m_marking(m_plan, m_records, m_keys)
+    : m_engine(surroundings(), {&m_rooms, nullptr})
 {
-    m_database.open(connectString);
+    m_engine.setUseMySql(useMySql);
+    m_engine.openDatabase(connectString);
     if (!preparation.isEmpty()) {
-        m_database.Db().execute(preparation);
+        m_engine.database().execute(preparation);
     }
     m_rooms.classes = std::move(rooms);
-    m_page.RowsShown = static_cast<std::int16_t>(m_rooms.classes.size());
+    plan::PlanState& state = m_engine.state();
+    state.page.RowsShown = static_cast<std::int16_t>(m_rooms.classes.size());
     for (std::size_t position = 0; position < m_rooms.classes.size(); ++position) {
-        m_form.Salle.at(position + 1).caption = roomName(position);
+        state.page.setName(state.form, static_cast<int>(position) + 1, roomName(position));
     }
-    m_form.CbTranche.addItem(QStringLiteral("Semestre 2"));
-    m_periods.chooseByIdent(lesson({}).Tranche);
-    m_form.XOpCl.setChecked(true);
-    m_form.CbJour.selectText(QStringLiteral("Lundi"));
-    m_form.DTPicker1.setValue(QDate(2025, 3, 17));
-    m_form.visible = true;
+    state.period.TrancheIdent = lesson({}).Tranche;
+    state.form.XOpCl.design(true);
+    state.form.DTPicker1.setValue(QDate(2025, 3, 17));
+    state.form.visible = true;
+    refresh();
+}
+
+engine::Surroundings MarkedPlan::surroundings()
+{
+    engine::Surroundings around;
+    around.today = [] { return QDate(2025, 3, 17); };
+    around.seed = 1;
+    around.processEvents = [this] {
+        if (whileYielding) {
+            whileYielding();
+        }
+    };
+    return around;
+}
+
+void MarkedPlan::teach(const QString& subject)
+{
+    m_rooms.subject = subject;
     refresh();
 }
 
 void MarkedPlan::click(int index, std::int16_t shift, std::int16_t ctrl)
 {
     m_keys.states = {{VirtualKey::Shift, shift}, {VirtualKey::Ctrl, ctrl}};
-    m_marking.Clic_Marqueur(index);
+    m_engine.clickMarker(index, m_keys);
 }
 
 std::vector<VirtualKey> MarkedPlan::takeQueries()

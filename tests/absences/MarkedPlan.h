@@ -1,8 +1,7 @@
 #pragma once
 
 #include "AbsenceTables.h"
-#include "absences/Marking.h"
-#include "lookup/OccupancyLookup.h"
+#include "engine/Engine.h"
 
 #include <functional>
 #include <map>
@@ -22,18 +21,27 @@ public:
     MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms,
                const QString& preparation = {});
 
-    void refresh() { m_plan.RefreshPlan(); }
+    void refresh() { m_engine.refreshPlan(); }
     /// A click on a box of which nothing but these answers of the keyboard is known.
     void click(int index, std::int16_t shift, std::int16_t ctrl);
     void shiftClick(int index) { click(index, absences::AsyncKeyState::kDownAndPressed, 0); }
     void ctrlClick(int index) { click(index, 0, absences::AsyncKeyState::kDownAndPressed); }
 
-    [[nodiscard]] plan::PlanBox& box(int index) { return *m_plan.box(index); }
-    [[nodiscard]] plan::PlanRefresh& plan() { return m_plan; }
-    [[nodiscard]] form::PlanForm& form() { return m_form; }
-    [[nodiscard]] db::Database& connection() { return m_database; }
+    /// The box of a marker. Requires: there is one.
+    [[nodiscard]] const plan::PlanBox& box(int index) const
+    {
+        return *m_engine.content().box(index);
+    }
+    [[nodiscard]] const plan::Marqueur& marker(int index) const
+    {
+        return m_engine.markers().at(index);
+    }
+    [[nodiscard]] engine::Engine& engine() { return m_engine; }
+    [[nodiscard]] form::PlanForm& form() { return m_engine.form(); }
     /// The classes of the rooms; changes show at the next refresh.
     [[nodiscard]] std::vector<QStringList>& rooms() { return m_rooms.classes; }
+    /// Changes the subject of all séances, and refreshes.
+    void teach(const QString& subject);
     /// The keys asked for since the last call.
     [[nodiscard]] std::vector<absences::VirtualKey> takeQueries();
 
@@ -49,6 +57,7 @@ private:
         db::Recordset classRows(const QString&) override { return {}; }
 
         std::vector<QStringList> classes;
+        QString subject; ///< in the place of the lesson's, unless empty
     };
 
     class Keys : public absences::AsyncKeyState
@@ -60,31 +69,11 @@ private:
         std::vector<absences::VirtualKey> queries;
     };
 
-    class NoActions : public context::PlanActions
-    {
-        void RefreshPlan() override {}
-        void PlaceRoomRows() override {}
-        void Command2_Click() override {}
-        void Command3_Click() override {}
-    };
+    [[nodiscard]] engine::Surroundings surroundings();
 
-    form::PlanForm m_form;
-    db::Database m_database;
-    NoActions m_actions;
-    context::Totals m_totals;
-    context::Periods m_periods;
-    context::TimeSlots m_slots;
-    context::RoomPage m_page;
     Rooms m_rooms;
-    plan::CellLayout m_layout;
-    lookup::SeanceTypeShortNames m_typeNames;
-    lookup::OccupancyLookup m_lookup;
-    absences::AbsenceRecords m_records;
-    runtime::RandomSource m_random{1};
-    plan::RowColors m_colors{m_random};
-    plan::PlanRefresh m_plan;
     Keys m_keys;
-    absences::Marking m_marking;
+    engine::Engine m_engine;
 };
 
 } // namespace test

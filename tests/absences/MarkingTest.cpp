@@ -5,7 +5,6 @@
 
 using namespace test;
 using absences::AsyncKeyState;
-using absences::classNames;
 using absences::VirtualKey;
 using runtime::ErrorNumber;
 
@@ -218,7 +217,7 @@ TEST_P(AMarker, thatTheLastRefreshDidNotDrawStillStandsForItsSeance)
     MarkedPlan plan(database(), {{classA}, {classB}});
     plan.rooms() = {{classA}, {}};
     plan.refresh();
-    ASSERT_EQ(plan.plan().MarkerCount(), 1);
+    ASSERT_EQ(plan.engine().markers().MarkerCount(), 1);
     plan.click(2, pressed, pressed);
     EXPECT_EQ(absent(), QStringList{classB});
     EXPECT_EQ(withAbsentStudents(), QStringList{classB});
@@ -248,8 +247,8 @@ TEST_P(AMarker, keepsTheLastOutcomeWhateverARefreshFinds)
     database().execute(
         {QStringLiteral("delete from abscence"), QStringLiteral("delete from etud_abs")});
     plan.refresh();
-    EXPECT_TRUE(plan.plan().marker(1).AbsClasse);
-    EXPECT_TRUE(plan.plan().marker(1).AbsEtud);
+    EXPECT_TRUE(plan.marker(1).AbsClasse);
+    EXPECT_TRUE(plan.marker(1).AbsEtud);
     EXPECT_FALSE(plan.box(1).classAbsent);
     EXPECT_FALSE(plan.box(1).studentAbsent);
 }
@@ -265,16 +264,3 @@ TEST_P(AMarker, isAboutTheDateShownWhenItsBoxWasDrawn)
 }
 
 TEMPORA_ON_BOTH_DATABASES(AMarker);
-
-TEST(ClassNames, areTrimmedOnlyWhenLast)
-{
-    EXPECT_EQ(classNames(QStringLiteral(" A ")), QStringList{QStringLiteral("A")});
-    EXPECT_EQ(classNames(QStringLiteral(" A \t B \t C ")),
-              QStringList({QStringLiteral(" A "), QStringLiteral(" B "), QStringLiteral("C")}));
-}
-
-TEST(ClassNames, holdAnEmptyOneBehindATrailingTab)
-{
-    EXPECT_EQ(classNames(QStringLiteral("A\t")), QStringList({QStringLiteral("A"), QString()}));
-    EXPECT_EQ(classNames(QString()), QStringList{QString()});
-}

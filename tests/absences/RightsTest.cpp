@@ -79,7 +79,7 @@ TEST_F(AnAccount, thatMayOnlyReadSeesThePlanAndCannotMark)
     MarkedPlan(database(), {{classA}}).click(1, pressed, pressed);
     MarkedPlan plan(true, connectStringWith(QStringLiteral("SELECT ON %1.*")),
                     {{classA}, {QStringLiteral("L1-B")}});
-    ASSERT_EQ(plan.plan().MarkerCount(), 2);
+    ASSERT_EQ(plan.engine().markers().MarkerCount(), 2);
     EXPECT_TRUE(plan.box(1).classAbsent);
     EXPECT_TRUE(plan.box(1).studentAbsent);
     EXPECT_FALSE(plan.box(2).classAbsent);
@@ -90,5 +90,5 @@ TEST_F(AnAccount, thatMayOnlyReadSeesThePlanAndCannotMark)
     EXPECT_EQ(classAbsences(database()), QList<QStringList>{classAbsence(classA)});
     EXPECT_EQ(studentAbsences(database()), QList<QStringList>{studentAbsence(classA)});
     plan.refresh(); // the plan itself works on
-    EXPECT_EQ(plan.plan().MarkerCount(), 2);
+    EXPECT_EQ(plan.engine().markers().MarkerCount(), 2);
 }

@@ -67,6 +67,16 @@ protected:
     std::unique_ptr<app::PlanView> view;
 };
 
+/// A keyboard on which Ctrl was just pressed.
+class CtrlPressed : public absences::AsyncKeyState
+{
+public:
+    std::int16_t state(absences::VirtualKey key) override
+    {
+        return key == absences::VirtualKey::Ctrl ? kDownAndPressed : std::int16_t{0};
+    }
+};
+
 } // namespace
 
 TEST_F(ThePlanAsATable, hasARowForEachDrawnRoomAndAColumnForEachSlot)
@@ -265,7 +275,8 @@ TEST_F(ThePlanAsATable, tellsOfAnAbsenceThatIsMarkedWithoutARefresh)
 {
     open();
     static_cast<void>(toldEvents());
-    desk.shell().refresh().box(1)->studentAbsent = true;
+    CtrlPressed keys;
+    desk.shell().engine().clickMarker(1, keys);
     EXPECT_EQ(toldEvents(), Events{QAccessible::TableModelChanged});
     EXPECT_EQ(name(0, 1),
               "A2, 8h30 à 10h00, G1, Dupont/Durand, Algèbre, Classe absente, Étudiants absents");
@@ -290,7 +301,7 @@ TEST_F(ThePlanAsATable, hasTheRowsDrawnSoFarInTheMiddleOfARefresh)
 TEST_F(ThePlanAsATable, asksNothingOfTheDatabaseAndDrawsNothing)
 {
     open();
-    const std::uint64_t refreshes = desk.shell().refresh().refreshCount();
+    const std::uint64_t refreshes = desk.shell().engine().refreshCount();
     const QPixmap before = view->viewport()->grab();
     desk.shell().Form_Unload(); // closes the database
     EXPECT_EQ(access()->childCount(), 19);
@@ -298,7 +309,7 @@ TEST_F(ThePlanAsATable, asksNothingOfTheDatabaseAndDrawsNothing)
         EXPECT_NE(access()->child(index)->text(QAccessible::Name), "");
         EXPECT_FALSE(access()->child(index)->rect().isEmpty());
     }
-    EXPECT_EQ(desk.shell().refresh().refreshCount(), refreshes);
+    EXPECT_EQ(desk.shell().engine().refreshCount(), refreshes);
     EXPECT_EQ(view->viewport()->grab().toImage(), before.toImage());
 }
 

@@ -61,7 +61,7 @@ protected:
 
 TEST_F(PrintQueue, takesEveryPageInOneDocument)
 {
-    app::Printing printing(desk.shell(), onTheQueue());
+    app::Printing printing(desk.shell().engine(), onTheQueue());
     desk.form().PrintAllPages.press();
     ASSERT_TRUE(isQueue);
     const QStringList files = server->printedFiles();

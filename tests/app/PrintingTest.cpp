@@ -109,7 +109,9 @@ protected:
         QImage image(1400, 700, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
-        const paint::PlanScene scene = desk.shell().scene(print::UseScreenTarget());
+        const paint::PlanScene scene =
+            paint::sceneOf(desk.shell().engine().state(), desk.shell().engine().content(),
+                           print::UseScreenTarget());
         paint::PlanPainter plan(painter, scene);
         plan.paintTicks();
         plan.paintGrid();
@@ -146,7 +148,7 @@ void whenOpen(const std::function<void(Dialog&)>& act)
 
 TEST_F(Printing, printsThePageThatTheWindowShows)
 {
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Command1.press();
     ASSERT_TRUE(isPrinted());
     const Pdf pdf = printed();
@@ -162,7 +164,7 @@ TEST_F(Printing, printsThePageThatTheWindowShows)
 TEST_F(Printing, printsNothingAfterCancel)
 {
     answer.file.clear();
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     const QJsonObject before = desk.plan();
     desk.form().Command1.press();
     desk.form().PrintAllPages.press();
@@ -171,7 +173,7 @@ TEST_F(Printing, printsNothingAfterCancel)
 
 TEST_F(Printing, leavesTheScreenAsItWas)
 {
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     const QImage before = screen();
     const QJsonObject plan = desk.plan();
     desk.form().Command1.press();
@@ -184,7 +186,7 @@ TEST_F(Printing, leavesTheScreenAsItWas)
 
 TEST_F(Printing, looksTheMakeUpsOfTheDateUpThatItsTitleNames)
 {
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Check2.setChecked(true); // which by itself redraws nothing
     const QImage before = screen();
     desk.form().Command1.press();
@@ -198,7 +200,7 @@ TEST_F(Printing, looksTheMakeUpsOfTheDateUpThatItsTitleNames)
 TEST_F(Printing, printsAllSubjectsOnceTheFilterIsOff)
 {
     desk.play({"--date", "2025-03-17", "--subject", "Algèbre"});
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Command1.press();
     EXPECT_TRUE(printed().text().contains("Matière : Algèbre"));
     EXPECT_FALSE(printed().text().contains("Physique"));
@@ -212,7 +214,7 @@ TEST_F(Printing, printsAllSubjectsOnceTheFilterIsOff)
 
 TEST_F(Printing, printsInTheFontThatLabel20GaveToAllControls)
 {
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Label20.font.name = "Liberation Serif";
     desk.shell().Label20_Click();
     desk.form().Command1.press();
@@ -226,7 +228,7 @@ TEST_F(Printing, printsInTheFontThatLabel20GaveToAllControls)
 TEST_F(Printing, printsEveryPageOfTheRoomSet)
 {
     desk.form().Total_L_P.setText("2");
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().PrintAllPages.press();
     EXPECT_EQ(answer.sheetsOffered, 2);
     const Pdf pdf = printed();
@@ -242,7 +244,7 @@ TEST_F(Printing, printsTheChosenPagesAlone)
     desk.form().Total_L_P.setText("2");
     answer.from = 2;
     answer.to = 2;
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().PrintAllPages.press();
     EXPECT_EQ(printed().pageCount(), 1);
     EXPECT_TRUE(printed().text().contains("Page 2 / 2"));
@@ -250,7 +252,7 @@ TEST_F(Printing, printsTheChosenPagesAlone)
 
 TEST_F(Printing, numbersTheOnlyPageOfTheRoomSet)
 {
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().PrintAllPages.press();
     EXPECT_TRUE(printed().text().contains("Page 1 / 1"));
     desk.form().Command1.press();
@@ -261,14 +263,14 @@ TEST_F(Printing, printsNothingWhereNoSuchPageIs)
 {
     answer.from = 7;
     answer.to = 9;
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Command1.press();
     EXPECT_FALSE(isPrinted());
 }
 
 TEST_F(Printing, previewsTheSheetThatItPrints)
 {
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().PrintPreview.press();
     const QString previewed = printed().text();
     desk.form().Command1.press();
@@ -278,7 +280,7 @@ TEST_F(Printing, previewsTheSheetThatItPrints)
 TEST_F(Printing, givesItsDocumentANameThatAFileCanHave)
 {
     desk.form().Check2.setChecked(true);
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Command1.press();
     EXPECT_EQ(answer.document, "Occupation des Salles du 17-03-25");
     EXPECT_TRUE(printed().text().contains("Occupation des Salles du 17/03/25"));
@@ -287,7 +289,7 @@ TEST_F(Printing, givesItsDocumentANameThatAFileCanHave)
 TEST_F(Printing, endsInThePlatformsErrorWhereThePrinterFails)
 {
     answer.file = "/nowhere/plan.pdf";
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     const runtime::RunTimeError error = errorOf([&] { desk.form().Command1.press(); });
     EXPECT_EQ(error.number(), runtime::ErrorNumber::PrinterError);
     EXPECT_TRUE(error.message().startsWith("Run-time error '482':\n\nPrinter error\n\n"
@@ -297,7 +299,7 @@ TEST_F(Printing, endsInThePlatformsErrorWhereThePrinterFails)
 
 TEST_F(Printing, leavesTheFormerFileWhereTheDiskIsFull)
 {
-    app::Printing printing(desk.shell(), answer.dialogs());
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Command1.press();
     const QByteArray before = bytesOf(answer.file);
     desk.form().CbJour.setListIndex(1);
@@ -314,7 +316,7 @@ TEST_F(Printing, leavesTheFormerFileWhereTheDiskIsFull)
 
 TEST_F(Printing, offersAPdfFileWhereThereIsNoPrinter)
 {
-    app::Printing printing(desk.shell(), app::platformPrintDialogs(nullptr));
+    app::Printing printing(desk.shell().engine(), app::platformPrintDialogs(nullptr));
     QStringList printers;
     whenOpen<QPrintDialog>([&printers](QPrintDialog& dialog) {
         for (const QComboBox* list : dialog.findChildren<QComboBox*>("printers")) {
@@ -330,7 +332,7 @@ TEST_F(Printing, offersAPdfFileWhereThereIsNoPrinter)
 
 TEST_F(Printing, showsThePreviewOfThePlatform)
 {
-    app::Printing printing(desk.shell(), app::platformPrintDialogs(nullptr));
+    app::Printing printing(desk.shell().engine(), app::platformPrintDialogs(nullptr));
     int pages = 0;
     whenOpen<QPrintPreviewDialog>([&pages](QPrintPreviewDialog& dialog) {
         // The offscreen platform's screen has 800 by 800 pixels.

@@ -5,7 +5,7 @@ namespace test
 
 void TheWindow::create()
 {
-    shell::Environment environment;
+    engine::Surroundings environment;
     environment.applicationFolder = setup.applicationFolder();
     environment.today = [] { return QDate(2025, 3, 19); };
     environment.seed = 1;
@@ -38,7 +38,7 @@ void TheWindow::expectRooms(const QStringList& rooms)
 
 paint::OverlayPlaces TheWindow::overlays(std::size_t row, std::size_t box)
 {
-    const plan::PlanRow& planRow = m_window->shell().refresh().content().rows.at(row);
+    const plan::PlanRow& planRow = m_window->shell().engine().content().rows.at(row);
     return paint::overlayPlaces(form(), view()->target(), planRow.index, planRow.boxes.at(box));
 }
 

@@ -3,8 +3,8 @@
 #include "app/Hands.h"
 #include "app/PlClasse.h"
 #include "app/PlanView.h"
-#include "paint/Overlays.h"
 #include "files/JsonExport.h"
+#include "paint/Overlays.h"
 #include "shell/PlanReading.h"
 #include "support/ProgramSetup.h"
 #include "support/RuntimeMatchers.h"
@@ -43,14 +43,16 @@ protected:
     /// What the plan shows.
     [[nodiscard]] QJsonObject plan() const
     {
-        return QJsonDocument::fromJson(files::planAsJson(m_window->shell())).object();
+        return QJsonDocument::fromJson(
+                   files::planAsJson({{m_window->shell().engine().drawnPage()}, {}}))
+            .object();
     }
     /// Waits until the plan shows these texts in the room.
     void expectTexts(const QString& room, const QMap<int, QString>& texts);
     void expectRooms(const QStringList& rooms);
     [[nodiscard]] std::uint64_t redraws() const
     {
-        return m_window->shell().refresh().refreshCount();
+        return m_window->shell().engine().refreshCount();
     }
 
     /// The control of that name.

@@ -57,7 +57,7 @@ TEST_F(TheWindow, shows29RowsAtOnceOnASmallScreen)
     }
     open({1366, 740});
     window().forward([this] { form().Total_L_P.setText("29"); });
-    ASSERT_EQ(window().shell().page().RowsShown, 29);
+    ASSERT_EQ(window().shell().engine().state().page.RowsShown, 29);
     EXPECT_EQ(view()->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(view()->horizontalScrollBar()->maximum(), 0);
 }

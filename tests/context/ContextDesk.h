@@ -1,9 +1,9 @@
 #pragma once
 
+#include "context/LoadSlots.h"
 #include "context/Periods.h"
 #include "context/PlanActions.h"
 #include "context/RoomSet.h"
-#include "context/TimeSlots.h"
 #include "support/Timetable.h"
 
 #include <QStringList>
@@ -61,14 +61,19 @@ struct ContextDesk {
         database.open(base.connectString());
     }
 
+    void loadSlots() { context::LoadSlots(form, reads, slots, places); }
+
     form::PlanForm form;
     db::Database database;
     RecordingPlan plan;
     context::Totals totals;
     context::RoomPage page;
+    context::ViewedPeriod viewed;
+    context::DaySlots slots;
+    context::RoomPlaces places;
+    context::StartReads reads{database, false};
     QDate today{2026, 10, 14};
-    context::Periods periods{form, database, totals, plan, [this] { return today; }};
-    context::TimeSlots slots{form, database};
+    context::Periods periods{form, viewed, database, totals, plan, [this] { return today; }};
     context::RoomSet rooms{form, database, page, plan};
 };
 

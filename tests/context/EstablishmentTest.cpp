@@ -38,7 +38,8 @@ protected:
 
     EstablishmentHeader load(const QString& tranche = "1")
     {
-        return context::LoadEstablishment(desk->form, desk->database, desk->periods, desk->page,
+        return context::LoadEstablishment(desk->form, desk->database, desk->reads, desk->periods,
+                                          desk->page,
                                           {"MonKalo", database().connectString(), tranche});
     }
 
@@ -100,7 +101,7 @@ TEST_P(TheEstablishment, listsThePeriodsAndChoosesOne)
     static_cast<void>(load("2"));
     EXPECT_EQ(desk->form.CbTranche.items(), QStringList({"S1", "S2"}));
     EXPECT_EQ(desk->form.CbTranche.text(), "S2");
-    EXPECT_EQ(desk->periods.TrancheIdent(), 2);
+    EXPECT_EQ(desk->viewed.TrancheIdent, 2);
     EXPECT_EQ(desk->form.Label4[1].caption, "08/FÉVRIER/2027");
 }
 
@@ -108,7 +109,7 @@ TEST_P(TheEstablishment, hasNoPeriodForAnUnknownNumber)
 {
     static_cast<void>(load("7"));
     EXPECT_EQ(desk->form.CbTranche.text(), "");
-    EXPECT_EQ(desk->periods.TrancheIdent(), 0);
+    EXPECT_EQ(desk->viewed.TrancheIdent, 0);
 }
 
 TEST_P(TheEstablishment, refusesAPeriodNumberThatIsNone)
@@ -127,9 +128,9 @@ TEST_P(TheEstablishment, refusesAYearThatDoesNotFitSixteenBits)
 TEST_P(TheEstablishment, namesTheDatabaseThatDoesNotOpenAndNoPassword)
 {
     const runtime::RunTimeError error = errorOf([&] {
-        static_cast<void>(
-            context::LoadEstablishment(desk->form, desk->database, desk->periods, desk->page,
-                                       {"Nulle Part", "DSN=Nulle Part;PASSWORD=s3cr&t", "1"}));
+        static_cast<void>(context::LoadEstablishment(
+            desk->form, desk->database, desk->reads, desk->periods, desk->page,
+            {"Nulle Part", "DSN=Nulle Part;PASSWORD=s3cr&t", "1"}));
     });
     EXPECT_EQ(error.number(), ErrorNumber::DatabaseFailure);
     EXPECT_EQ(error.activity(), "Ouverture de la base de données « Nulle Part »");

@@ -42,7 +42,7 @@ protected:
         desk->plan.onRefresh = [this] {
             m_shown.append(
                 QStringList({form().CbJour.text(), form().DTPicker1.value().toString(Qt::ISODate),
-                             periods().CurrentDate().toString(Qt::ISODate)})
+                             desk->viewed.CurrentDate.toString(Qt::ISODate)})
                     .join(' '));
         };
         return m_shown;
@@ -61,8 +61,8 @@ protected:
 TEST_F(PeriodEvents, startOnTheMondayOfThisWeek)
 {
     EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 12));
-    EXPECT_EQ(periods().CurrentDate(), QDate(2026, 10, 12));
-    EXPECT_EQ(periods().shownDate(), QDate(2026, 10, 12));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 12));
+    EXPECT_EQ(desk->viewed.shownDate(form()), QDate(2026, 10, 12));
 }
 
 TEST_F(PeriodEvents, resetTheTotalsAndRedrawOnceForAPeriod)
@@ -73,7 +73,7 @@ TEST_F(PeriodEvents, resetTheTotalsAndRedrawOnceForAPeriod)
     EXPECT_EQ(form().Tot[0].caption, "0000");
     EXPECT_TRUE(desk->totals.CountingOn);
     EXPECT_EQ(redraws(), 1);
-    EXPECT_EQ(periods().CurrentDate(), QDate(2026, 10, 12)); // the week stays
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 12)); // the week stays
 }
 
 TEST_F(PeriodEvents, moveToTheExamWeekOfAPeriodChosenInExamMode)
@@ -84,7 +84,7 @@ TEST_F(PeriodEvents, moveToTheExamWeekOfAPeriodChosenInExamMode)
     form().CbTranche.setListIndex(0);
     EXPECT_EQ(form().Label4[1].caption, "01/FÉVRIER/2027"); // not the period's own dates
     EXPECT_EQ(form().Label4[3].caption, "06/FÉVRIER/2027");
-    EXPECT_EQ(periods().CurrentDate(), QDate(2027, 2, 1));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2027, 2, 1));
     EXPECT_EQ(redraws(), 1);
 }
 
@@ -104,7 +104,7 @@ TEST_F(PeriodEvents, writeTheChosenDayIntoThePickerBeforeTheRedraw)
     form().CbJour.setListIndex(3);
     EXPECT_EQ(shown, QStringList("Jeudi 2026-10-15 2026-10-12"));
     EXPECT_EQ(form().Tot[0].caption, "0000");
-    EXPECT_EQ(periods().shownDate(), QDate(2026, 10, 15));
+    EXPECT_EQ(desk->viewed.shownDate(form()), QDate(2026, 10, 15));
 }
 
 TEST_F(PeriodEvents, keepTheListsDayWhenItWritesIntoAVisiblePicker)
@@ -135,7 +135,7 @@ TEST_F(PeriodEvents, moveDayAndWeekToAPickedDate)
     showPicker();
     form().DTPicker1.setValue(QDate(2026, 10, 21)); // Wednesday of the next week
     EXPECT_EQ(form().CbJour.text(), "Mercredi");
-    EXPECT_EQ(periods().CurrentDate(), QDate(2026, 10, 19));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 19));
     EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 21)); // no echo
     EXPECT_EQ(redraws(), 1);
 }
@@ -162,8 +162,8 @@ TEST_F(PeriodEvents, showNoDayForAPickedSunday)
     form().DTPicker1.setValue(QDate(2026, 10, 25));
     EXPECT_EQ(form().CbJour.listIndex(), -1);
     EXPECT_EQ(form().CbJour.text(), "");
-    EXPECT_EQ(periods().CurrentDate(), QDate(2026, 10, 19));
-    EXPECT_EQ(periods().shownDate(), QDate(2026, 10, 25));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 19));
+    EXPECT_EQ(desk->viewed.shownDate(form()), QDate(2026, 10, 25));
     EXPECT_EQ(redraws(), 1);
 }
 
@@ -173,7 +173,7 @@ TEST_F(PeriodEvents, changeOnlyTheWeekWhileThePickerIsHidden)
     desk->plan.calls.clear();
     form().DTPicker1.setValue(QDate(2026, 10, 22));
     EXPECT_EQ(form().CbJour.text(), "Mercredi");
-    EXPECT_EQ(periods().CurrentDate(), QDate(2026, 10, 19));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 19));
     EXPECT_EQ(redraws(), 0);
 }
 
@@ -210,7 +210,7 @@ TEST_F(PeriodEvents, stayInTheExamWeekWhenItsSecondDayRuleReachesSunday)
     form().OpExam().select();
     EXPECT_EQ(form().DTPicker1.value(), QDate(2027, 2, 7));
     EXPECT_EQ(form().CbJour.listIndex(), -1);
-    EXPECT_EQ(periods().CurrentDate(), QDate(2027, 2, 1));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2027, 2, 1));
 }
 
 TEST_F(PeriodEvents, showTheExamOptionsInExamMode)
@@ -264,7 +264,7 @@ TEST_F(PeriodEvents, returnToThisWeekInTeachingMode)
     EXPECT_EQ(form().XOpEns.caption, "Enseignant");
     EXPECT_EQ(form().Label4[1].caption, "07/SEPTEMBRE/2026");
     EXPECT_EQ(form().Label4[3].caption, "29/JANVIER/2027");
-    EXPECT_EQ(periods().TrancheIdent(), 1);
+    EXPECT_EQ(desk->viewed.TrancheIdent, 1);
 }
 
 TEST_F(PeriodEvents, returnToMondayInTeachingModeWithAVisiblePicker)
@@ -286,7 +286,7 @@ TEST_F(PeriodEvents, serveADatePickedDuringTheRedrawOfADay)
     form().CbJour.setListIndex(1);
     EXPECT_EQ(form().CbJour.text(), "Vendredi");
     EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 23));
-    EXPECT_EQ(periods().CurrentDate(), QDate(2026, 10, 19));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 19));
     EXPECT_EQ(redraws(), 2);
     form().DTPicker1.setValue(QDate(2026, 10, 12)); // and the flags are as before
     EXPECT_EQ(form().CbJour.text(), "Lundi");
@@ -302,5 +302,5 @@ TEST_F(PeriodEvents, serveADayChosenDuringTheRedrawOfAPickedDate)
     form().DTPicker1.setValue(QDate(2026, 10, 20));
     EXPECT_EQ(form().CbJour.text(), "Vendredi");
     EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 23)); // Friday of the picked week
-    EXPECT_EQ(periods().CurrentDate(), QDate(2026, 10, 19));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 19));
 }

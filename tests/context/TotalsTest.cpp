@@ -13,6 +13,8 @@ void fill(form::PlanForm& form, Totals& totals)
 {
     totals.SlotSeats.fill(30);
     totals.SlotTeacherCount.fill(2);
+    totals.sums.fill(30);
+    totals.isOld = true;
     for (form::Label& total : form.Tot) {
         total.caption = "30/2";
         total.visible = true;
@@ -30,9 +32,40 @@ TEST(Totals, areClearedInAllElevenColumns)
     for (std::size_t slot = 0; slot < 11; ++slot) {
         EXPECT_EQ(totals.SlotSeats.at(slot), 0);
         EXPECT_EQ(totals.SlotTeacherCount.at(slot), 0);
+        EXPECT_EQ(totals.sums.at(slot), 0);
         EXPECT_EQ(form.Tot.at(slot).caption, "0000");
         EXPECT_FALSE(form.Tot.at(slot).visible);
     }
+    EXPECT_FALSE(totals.isOld);
+}
+
+TEST(Totals, addUpTheRoomsAndWriteTheirCaptions)
+{
+    form::PlanForm form;
+    Totals totals;
+    totals.clear(form);
+    totals.SlotSeats = {30, 0, 40};
+    totals.addRoom(form, false);
+    totals.SlotSeats = {20, 0, 0};
+    totals.addRoom(form, false);
+    EXPECT_EQ(form.Tot.at(0).caption, "50");
+    EXPECT_TRUE(form.Tot.at(0).visible);
+    EXPECT_EQ(form.Tot.at(1).caption, "0");
+    EXPECT_FALSE(form.Tot.at(1).visible);
+    EXPECT_EQ(form.Tot.at(2).caption, "40");
+}
+
+TEST(Totals, putTheTeachersBehindTheSeats)
+{
+    form::PlanForm form;
+    Totals totals;
+    totals.clear(form);
+    totals.SlotSeats = {30};
+    totals.SlotTeacherCount = {3};
+    totals.addRoom(form, true);
+    EXPECT_EQ(form.Tot.at(0).caption, "30/3");
+    totals.addRoom(form, true);
+    EXPECT_EQ(form.Tot.at(0).caption, "60/3"); // the seats go on, whatever the caption says
 }
 
 TEST(Totals, countAgainAfterAResetWhenCountingIsTicked)

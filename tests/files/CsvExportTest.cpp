@@ -17,9 +17,7 @@ protected:
     QStringList linesAfter(const QStringList& arguments)
     {
         desk.play(arguments);
-        std::vector<plan::PlanPage> pages;
-        pages.push_back(desk.shell().shownPage());
-        const QByteArray bytes = files::planAsCsv(desk.shell(), std::move(pages));
+        const QByteArray bytes = files::planAsCsv(desk.document());
         EXPECT_TRUE(bytes.startsWith("\xef\xbb\xbf"
                                      "Date"));
         QString text = QString::fromUtf8(bytes); // which takes the mark away

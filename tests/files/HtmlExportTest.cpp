@@ -41,13 +41,7 @@ protected:
     QString pageAfter(const QStringList& arguments, bool all = false)
     {
         desk.play(arguments);
-        std::vector<plan::PlanPage> pages;
-        if (all) {
-            pages = desk.shell().allPages();
-        } else {
-            pages.push_back(desk.shell().shownPage());
-        }
-        return QString::fromUtf8(files::planAsHtml(desk.shell(), std::move(pages)));
+        return QString::fromUtf8(files::planAsHtml(desk.document(all)));
     }
 
     ShellDesk desk{database()};
@@ -116,9 +110,7 @@ TEST_P(HtmlExport, hidesTheCountersThatTheScreenHides)
 {
     desk.start();
     desk.form().Check3.setChecked(false);
-    std::vector<plan::PlanPage> pages;
-    pages.push_back(desk.shell().shownPage());
-    const QString page = QString::fromUtf8(files::planAsHtml(desk.shell(), std::move(pages)));
+    const QString page = QString::fromUtf8(files::planAsHtml(desk.document()));
     EXPECT_FALSE(page.contains("groupes"));
     EXPECT_FALSE(page.contains("Dépassement"));
 }
@@ -153,8 +145,8 @@ TEST_P(HtmlExport, escapesEveryText)
 {
     const QString evil = "<script>alert(\"x\")</script>&'";
     desk.play({"--date", "2025-03-17"});
-    plan::PlanPage page = desk.shell().shownPage();
-    plan::PlanRow& row = page.content.rows.front();
+    files::PlanDocument document = desk.document();
+    plan::PlanRow& row = document.pages.front().content.rows.front();
     row.room = evil;
     row.places = evil;
     lookup::RoomCell& cell = row.boxes.front().cell;
@@ -163,12 +155,11 @@ TEST_P(HtmlExport, escapesEveryText)
     cell.CellClassList = evil;
     cell.CellRowCount = 2;
     row.boxes.front().group = plan::GroupCounter{evil, evil, evil, true, false};
-    desk.form().XSalle.caption = evil;
-    desk.form().Label4[4].caption = evil;
-    desk.form().CbTranche.design({evil}, 0);
-    std::vector<plan::PlanPage> pages;
-    pages.push_back(std::move(page));
-    const QString html = QString::fromUtf8(files::planAsHtml(desk.shell(), std::move(pages)));
+    form::PlanForm& form = document.pages.front().state.form;
+    form.XSalle.caption = evil;
+    form.Label4[4].caption = evil;
+    form.CbTranche.design({evil}, 0);
+    const QString html = QString::fromUtf8(files::planAsHtml(document));
     expectWellFormed(html);
     EXPECT_FALSE(html.contains("<script"));
     EXPECT_GE(html.count("&lt;script&gt;alert(&quot;x&quot;)&lt;/script&gt;&amp;'"), 8);

@@ -1,6 +1,6 @@
 // The web page as a browser reads it, where there is one.
 
-#include "files/Export.h"
+#include "shell/Export.h"
 #include "shell/ShellDesk.h"
 #include "support/ChildProgram.h"
 
@@ -55,7 +55,7 @@ TEST(HtmlInBrowser, isATableOfTheRoomsThatNeedsNothingFromOutside)
     ShellDesk desk(database);
     desk.play({"--date", "2025-03-17", "--makeup"});
     const QString file = desk.setup.path("plan.html");
-    files::exportPlan(desk.shell(), file);
+    shell::exportPlan(desk.shell(), file);
     const QString page = readByBrowser(file);
     EXPECT_EQ(texts(page, "<h1"), QStringList({"Occupation des Salles du 17/03/25"}));
     EXPECT_EQ(texts(page, "<th scope=\"row\""), QStringList({"A2", "B1", "B2", "C1"}));

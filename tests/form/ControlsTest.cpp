@@ -10,7 +10,7 @@ namespace
 /// Counts how often an event is raised.
 struct Counter {
     int times = 0;
-    [[nodiscard]] Event event()
+    [[nodiscard]] Event::Handler event()
     {
         return [this] { ++times; };
     }
@@ -50,22 +50,22 @@ TEST(CheckBox, worksWithoutAnEvent)
 
 TEST(OptionButton, hasTheFirstOfItsGroupSelectedAtFirst)
 {
-    OptionGroup group;
-    const OptionButton first(group, 0, "A");
-    const OptionButton second(group, 1, "B");
+    OptionGroup group({"A", "B"});
+    const OptionButton first(group, 0);
+    const OptionButton second(group, 1);
     EXPECT_TRUE(first.isSelected());
     EXPECT_FALSE(second.isSelected());
 }
 
 TEST(OptionButton, unselectsTheOthersBeforeItsClick)
 {
-    OptionGroup group;
-    OptionButton first(group, 0, "A");
-    OptionButton second(group, 1, "B");
+    OptionGroup group({"A", "B"});
+    const OptionButton first(group, 0);
+    const OptionButton second(group, 1);
     Counter firstClicks;
-    first.click = firstClicks.event();
+    first.click() = firstClicks.event();
     bool firstWasSelected = true;
-    second.click = [&] { firstWasSelected = first.isSelected(); };
+    second.click() = [&] { firstWasSelected = first.isSelected(); };
     second.select();
     EXPECT_FALSE(firstWasSelected);
     EXPECT_TRUE(second.isSelected());
@@ -74,10 +74,10 @@ TEST(OptionButton, unselectsTheOthersBeforeItsClick)
 
 TEST(OptionButton, raisesNothingWhenItIsSelectedAlready)
 {
-    OptionGroup group;
-    OptionButton only(group, 0, "A");
+    OptionGroup group({"A"});
+    const OptionButton only(group, 0);
     Counter clicks;
-    only.click = clicks.event();
+    only.click() = clicks.event();
     only.select();
     EXPECT_EQ(clicks.times, 0);
 }
@@ -176,4 +176,55 @@ TEST(Button, doesNothingWhenPressedWhileDisabled)
     button.enabled = false;
     button.press();
     EXPECT_EQ(clicks.times, 1);
+}
+
+TEST(Event, doesNothingWithoutAHandler)
+{
+    Event event;
+    event.raise(); // comes back
+    Counter counter;
+    event = counter.event();
+    event.raise();
+    EXPECT_EQ(counter.times, 1);
+}
+
+TEST(Event, staysBehindWhenItsControlIsCopied)
+{
+    CheckBox box;
+    Counter clicks;
+    box.click = clicks.event();
+    CheckBox copy = box;
+    copy.setChecked(true);
+    EXPECT_EQ(clicks.times, 0);
+    box = copy; // takes the value and keeps its own wiring
+    EXPECT_TRUE(box.isChecked());
+    box.setChecked(false);
+    EXPECT_EQ(clicks.times, 1);
+}
+
+TEST(OptionGroup, isCopiedWithItsSelectionAndWithoutItsEvents)
+{
+    OptionGroup group({"A", "B"});
+    Counter clicks;
+    group.click(0) = clicks.event();
+    group.select(1);
+    OptionGroup copy = group;
+    EXPECT_EQ(copy.selected(), 1);
+    copy.select(0);
+    EXPECT_EQ(clicks.times, 0);
+    EXPECT_EQ(group.selected(), 1);
+}
+
+TEST(List, canShowATextWithoutItsClick)
+{
+    List list;
+    list.addItem("Lundi");
+    list.addItem("Mardi");
+    Counter clicks;
+    list.click = clicks.event();
+    list.showText("Mardi");
+    EXPECT_EQ(list.listIndex(), 1);
+    list.showText("Dimanche");
+    EXPECT_EQ(list.listIndex(), 1);
+    EXPECT_EQ(clicks.times, 0);
 }

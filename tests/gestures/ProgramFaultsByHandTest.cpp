@@ -31,7 +31,7 @@ const QString searching =
 /// on the same plan, tells it.
 QPoint boxOnScreen(const ProgramSetup& setup)
 {
-    shell::Environment environment;
+    engine::Surroundings environment;
     environment.applicationFolder = setup.applicationFolder();
     app::PlClasse window(shell::Settings::fromFile(setup.settingsFile()), std::move(environment));
     if (!window.load()) {
@@ -44,11 +44,12 @@ QPoint boxOnScreen(const ProgramSetup& setup)
               "a window as large as the screen");
     window.play(shell::CommandLine::parse(QStringList{"tempora"} + arguments));
     auto* const view = window.findChild<app::PlanView*>("PlanView");
-    for (const plan::PlanRow& row : window.shell().refresh().content().rows) {
+    for (const plan::PlanRow& row : window.shell().engine().content().rows) {
         for (const plan::PlanBox& box : row.boxes) {
             if (row.room == u"B2" && box.cell.CellClassList == u"G2") {
                 const QRectF band =
-                    paint::overlayPlaces(window.shell().form(), view->target(), row.index, box).ZAbs;
+                    paint::overlayPlaces(window.shell().form(), view->target(), row.index, box)
+                        .ZAbs;
                 const QPointF point(band.left() + band.width() / 4, band.center().y());
                 return view->viewport()->mapToGlobal(view->toViewport(point).toPoint());
             }

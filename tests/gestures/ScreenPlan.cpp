@@ -44,9 +44,9 @@ void fill(TestDatabase& database)
     timetable.load();
 }
 
-shell::Environment environmentIn(const ProgramSetup& setup)
+engine::Surroundings environmentIn(const ProgramSetup& setup)
 {
-    shell::Environment found;
+    engine::Surroundings found;
     found.applicationFolder = setup.applicationFolder();
     found.today = [] { return QDate(2025, 3, 17); };
     return found;
@@ -96,22 +96,22 @@ ScreenPlan::ScreenPlan(TestDatabase& database) : m_setup(database)
     awaitThat([this] { return m_window->isActiveWindow(); }, "the window's focus");
 }
 
-plan::PlanBox& ScreenPlan::box(int marker)
+const plan::PlanBox& ScreenPlan::box(int marker)
 {
-    return *m_window->shell().refresh().box(marker);
+    return *m_window->shell().engine().content().box(marker);
 }
 
 QPoint ScreenPlan::onScreen(int marker, Image image)
 {
     auto* const view = static_cast<app::PlanView*>(
         m_window->findChild<QAbstractScrollArea*>(QStringLiteral("PlanView")));
-    for (const plan::PlanRow& row : m_window->shell().refresh().content().rows) {
+    for (const plan::PlanRow& row : m_window->shell().engine().content().rows) {
         for (const plan::PlanBox& candidate : row.boxes) {
             if (candidate.marker != marker) {
                 continue;
             }
-            const paint::OverlayPlaces places =
-                paint::overlayPlaces(m_window->shell().form(), view->target(), row.index, candidate);
+            const paint::OverlayPlaces places = paint::overlayPlaces(
+                m_window->shell().form(), view->target(), row.index, candidate);
             // The pictures overlap: the left one is surely hit near its left edge, the band beside
             // both of them and between the labels.
             const QRectF& band = places.ZAbs;

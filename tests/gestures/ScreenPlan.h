@@ -39,7 +39,7 @@ public:
     explicit ScreenPlan(TestDatabase& database);
 
     [[nodiscard]] app::PlClasse& window() { return *m_window; }
-    [[nodiscard]] plan::PlanBox& box(int marker);
+    [[nodiscard]] const plan::PlanBox& box(int marker);
 
     /// Moves the mouse to the image.
     void pointAt(int marker, Image image);

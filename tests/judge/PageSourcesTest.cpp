@@ -1,18 +1,19 @@
 #include "absences/AbsenceRecords.h"
 #include "absences/PageAbsences.h"
 #include "db/Database.h"
-#include "form/PlanForm.h"
 #include "judge/RandomTimetable.h"
+#include "lookup/OccupancyLookup.h"
 #include "lookup/PageRowSource.h"
 #include "lookup/PlainRowSource.h"
-#include "lookup/OccupancyLookup.h"
+#include "plan/ClassList.h"
+#include "plan/PlanState.h"
 #include "runtime/RunTimeError.h"
 
 #include <QByteArray>
 
 using namespace test;
 
-namespace plan
+namespace lookup
 {
 
 /// How a cell reads in a failed comparison.
@@ -33,7 +34,7 @@ static void PrintTo(const RoomCell& cell, std::ostream* stream)
     *stream << fields.join(u'|').toStdString();
 }
 
-} // namespace plan
+} // namespace lookup
 
 namespace
 {
@@ -46,11 +47,10 @@ int wantedCells()
 
 /// One way of answering the plan's questions, with the connection that it uses.
 struct Way {
-    Way(const TestDatabase& database, const form::PlanForm& form, const plan::CellLayout& layout,
-        const lookup::SeanceTypeShortNames& names, bool ahead)
+    Way(const TestDatabase& database, bool ahead)
         : db(database.usesMySql()), plainRows(db), pageRows(db, plainRows), plainAbsences(db),
           pageAbsences(db, plainAbsences),
-          lookup(form, ahead ? static_cast<lookup::RowSource&>(pageRows) : plainRows, layout, names),
+          rows(ahead ? static_cast<lookup::RowSource&>(pageRows) : plainRows),
           absences(ahead ? static_cast<plan::AbsenceSource&>(pageAbsences) : plainAbsences)
     {
         db.open(database.connectString());
@@ -61,7 +61,7 @@ struct Way {
     lookup::PageRowSource pageRows;
     absences::AbsenceRecords plainAbsences;
     absences::PageAbsences pageAbsences;
-    lookup::OccupancyLookup lookup;
+    lookup::RowSource& rows;
     plan::AbsenceSource& absences;
 };
 
@@ -80,43 +80,48 @@ class PageSources : public OnBothDatabases
 protected:
     void SetUp() override
     {
-        for (std::size_t index = 0; index < m_names.size(); ++index) {
-            m_names[index] = index % 5 == 4 ? QString() : QStringLiteral("T%1").arg(index);
+        for (std::size_t index = 0; index < m_state.SeanceTypeShortNames.size(); ++index) {
+            m_state.SeanceTypeShortNames[index] =
+                index % 5 == 4 ? QString() : QStringLiteral("T%1").arg(index);
         }
     }
 
     /// Sets the window's options at random.
     void choose(RandomTimetable& random)
     {
-        (random.chance(75) ? m_form.OpEns() : m_form.OpExam()).select();
+        (random.chance(75) ? m_state.form.OpEns() : m_state.form.OpExam()).select();
         const int week = random.pick(3);
-        (week == 0 ? m_form.OptFixe() : week == 1 ? m_form.OptA() : m_form.OptB()).select();
-        m_form.XOpCl.setChecked(random.chance(75));
-        m_form.XOpEns.setChecked(random.chance(75));
-        m_form.XpMat.setChecked(random.chance(75));
-        m_form.Chk_Type.setChecked(random.chance(40));
-        m_form.xOpExam.setChecked(random.chance(40));
-        m_form.Check2.setChecked(random.chance(50));
-        m_form.Check1.setChecked(random.chance(20));
-        m_form.Cb_Mat.design({QStringLiteral("Algèbre"), QStringLiteral("Chimie")}, random.pick(2));
-        m_form.DTPicker1.setValue(RandomTimetable::date());
-        m_form.CbJour.setListIndex(random.chance(90) ? 0 : 1);
-        m_layout.CellSeparator = random.chance(50) ? QStringLiteral("\r\n") : QString();
+        (week == 0   ? m_state.form.OptFixe()
+         : week == 1 ? m_state.form.OptA()
+                     : m_state.form.OptB())
+            .select();
+        m_state.form.XOpCl.setChecked(random.chance(75));
+        m_state.form.XOpEns.setChecked(random.chance(75));
+        m_state.form.XpMat.setChecked(random.chance(75));
+        m_state.form.Chk_Type.setChecked(random.chance(40));
+        m_state.form.xOpExam.setChecked(random.chance(40));
+        m_state.form.Check2.setChecked(random.chance(50));
+        m_state.form.Check1.setChecked(random.chance(20));
+        m_state.form.Cb_Mat.design({QStringLiteral("Algèbre"), QStringLiteral("Chimie")},
+                                   random.pick(2));
+        m_state.form.DTPicker1.setValue(RandomTimetable::date());
+        m_state.form.CbJour.setListIndex(random.chance(90) ? 0 : 1);
+        m_state.layout.CellSeparator = random.chance(50) ? QStringLiteral("\r\n") : QString();
     }
 
     [[nodiscard]] Answer ask(Way& way, const QString& room, const QString& key,
                              const QString& tranche)
     {
         Answer answer;
-        QString text = way.lookup.RoomOccupancy(room, key, tranche, false);
-        if (text.isEmpty() && m_form.Check2.isChecked()) {
-            text = way.lookup.RoomOccupancy(room, key, tranche, true);
+        lookup::OccupancyLookup lookup(way.rows, plan::viewOf(m_state));
+        answer.cell = lookup.RoomOccupancy(room, key, tranche, false).value();
+        if (answer.cell.CellText.isEmpty() && m_state.form.Check2.isChecked()) {
+            answer.cell = lookup.RoomOccupancy(room, key, tranche, true).value_or(answer.cell);
             answer.makeUp = true;
         }
-        answer.cell = way.lookup.cell();
         plan::Marqueur marker;
         marker.Debut = answer.cell.CellStart;
-        marker.Jour = m_form.DTPicker1.value();
+        marker.Jour = m_state.form.DTPicker1.value();
         const QString name = plan::firstClass(answer.cell.CellClassList);
         runtime::skipOnError(
             [&] { answer.classAbsent = way.absences.Existe_AbsClasse(marker, name); });
@@ -130,10 +135,11 @@ protected:
     {
         QStringList keys;
         for (int slot = 1; slot <= 10; ++slot) {
-            keys << m_form.CbJour.text() + QString::number(slot);
+            keys << m_state.form.CbJour.text() + QString::number(slot);
         }
-        const lookup::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, tranche);
-        plan::AbsenceQuestions questions{m_form.DTPicker1.value(), {}, facts.starts};
+        const lookup::PageFacts facts = lookup::OccupancyLookup(ahead.rows, plan::viewOf(m_state))
+                                            .prepare(random.rooms(), keys, tranche);
+        plan::AbsenceQuestions questions{m_state.form.DTPicker1.value(), {}, facts.starts};
         for (const QString& name : facts.classNames) {
             questions.classNames << plan::firstClass(name);
         }
@@ -158,17 +164,15 @@ protected:
     /// Compares some pages of the test's own database, with options at random.
     void comparePages(RandomTimetable& random, int pages)
     {
-        Way plain(database(), m_form, m_layout, m_names, false);
-        Way ahead(database(), m_form, m_layout, m_names, true);
+        Way plain(database(), false);
+        Way ahead(database(), true);
         for (int page = 0; page < pages && !HasFailure(); ++page) {
             choose(random);
             comparePage(plain, ahead, random, QString::number(1 + page % 2));
         }
     }
 
-    form::PlanForm m_form;
-    plan::CellLayout m_layout;
-    lookup::SeanceTypeShortNames m_names;
+    plan::PlanState m_state;
     int occupied = 0;
     int absent = 0;
 };
@@ -183,8 +187,8 @@ TEST_P(PageSources, answerEveryCellAsThePlainOnesDo)
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         TestDatabase tables(GetParam());
         RandomTimetable random(tables, seed);
-        Way plain(tables, m_form, m_layout, m_names, false);
-        Way ahead(tables, m_form, m_layout, m_names, true);
+        Way plain(tables, false);
+        Way ahead(tables, true);
         for (int page = 0; page < 12 && !HasFailure(); ++page) {
             choose(random);
             cells += comparePage(plain, ahead, random, QString::number(1 + random.pick(2)));
@@ -231,13 +235,13 @@ TEST_P(PageSources, keepTheOrderOfAnIndexOfOneRoom)
         }
     }
     database().execute(statements);
-    Way plain(database(), m_form, m_layout, m_names, false);
-    Way ahead(database(), m_form, m_layout, m_names, true);
+    Way plain(database(), false);
+    Way ahead(database(), true);
     choose(random);
-    m_form.OpExam().select();
-    m_form.CbJour.setListIndex(0);
-    m_form.Check1.setChecked(false);
-    m_form.Semn.caption = "1";
+    m_state.form.OpExam().select();
+    m_state.form.CbJour.setListIndex(0);
+    m_state.form.Check1.setChecked(false);
+    m_state.period.examWeek = 1;
     comparePage(plain, ahead, random, "1");
     EXPECT_GT(occupied, 1);
 }
@@ -262,15 +266,16 @@ TEST_P(PageSources, countStudentsOfAClassThatIsOneOfAList)
 TEST_P(PageSources, needAtMostTenStatementsAPage)
 {
     RandomTimetable random(database(), 7);
-    Way ahead(database(), m_form, m_layout, m_names, true);
+    Way ahead(database(), true);
     const long long before = ahead.db.Db().statementCount();
-    m_form.Check2.setChecked(true);
-    m_form.DTPicker1.setValue(RandomTimetable::date());
+    m_state.form.Check2.setChecked(true);
+    m_state.form.DTPicker1.setValue(RandomTimetable::date());
     QStringList keys;
     for (int slot = 1; slot <= 10; ++slot) {
         keys << QStringLiteral("Lundi%1").arg(slot);
     }
-    const lookup::PageFacts facts = ahead.lookup.prepare(random.rooms(), keys, QStringLiteral("1"));
+    const lookup::PageFacts facts = lookup::OccupancyLookup(ahead.rows, plan::viewOf(m_state))
+                                        .prepare(random.rooms(), keys, QStringLiteral("1"));
     ahead.absences.prepare({RandomTimetable::date(), facts.classNames, facts.starts});
     EXPECT_LE(ahead.db.Db().statementCount() - before, 10);
     EXPECT_FALSE(facts.classNames.isEmpty());

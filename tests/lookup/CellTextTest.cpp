@@ -283,23 +283,3 @@ TEST_F(CellText, showsOnlyTheRoomOfAnExamItself)
     meeting.set("Salle", "A2");
     EXPECT_EQ(text(), "");
 }
-
-TEST(DisplayOptionsOfTheForm, followItsControls)
-{
-    form::PlanForm form;
-    form.XOpCl.setChecked(true);
-    form.xOpExam.setChecked(true);
-    form.OptB().select();
-    form.OpExam().select();
-    const DisplayOptions options = DisplayOptions::from(form, "\r\n");
-    EXPECT_TRUE(options.exam);
-    EXPECT_TRUE(options.showClass);
-    EXPECT_FALSE(options.showTeachers);
-    EXPECT_TRUE(options.showInvigilators);
-    EXPECT_FALSE(options.showSubject);
-    EXPECT_FALSE(options.showType);
-    EXPECT_FALSE(options.everyWeek);
-    EXPECT_FALSE(options.showsWeekA);
-    EXPECT_TRUE(options.showsWeekB);
-    EXPECT_EQ(options.separator, "\r\n");
-}

@@ -4,8 +4,6 @@
 #include "support/RuntimeMatchers.h"
 
 using namespace lookup;
-using namespace paint;
-using namespace plan;
 using runtime::ErrorNumber;
 
 TEST(SlotIndex, isTheSlotsNumberLessOne)

@@ -3,8 +3,6 @@
 #include "support/TestDatabase.h"
 
 using namespace lookup;
-using namespace paint;
-using namespace plan;
 
 namespace
 {

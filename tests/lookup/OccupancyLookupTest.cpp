@@ -4,44 +4,46 @@
 #include "support/RuntimeMatchers.h"
 
 using namespace lookup;
-using namespace paint;
-using namespace plan;
 
 namespace
 {
 
-/// Lookups for room A1 on Mondays of period 2, class, teachers and subject shown in one line.
+/// Lookups for room A1 on Mondays of period 2, class, teachers and subject shown in one line, every
+/// week. The hour ticks are those of the window, from 8h00 on.
 class Occupancy : public testing::Test
 {
 protected:
     Occupancy()
     {
-        for (form::CheckBox* box : {&form.XOpCl, &form.XOpEns, &form.XpMat}) {
-            box->setChecked(true);
+        view.options.showClass = view.options.showTeachers = view.options.showSubject = true;
+        view.options.everyWeek = true;
+        view.day.date = QDate(2026, 10, 14);
+        for (int hour = 8; hour < 20; ++hour) {
+            view.tickCaptions << QString("%1h00").arg(hour);
         }
-        form.DTPicker1.setValue(QDate(2026, 10, 14));
     }
 
     QString lookUp(int slot = 1, bool makeUp = false)
     {
-        return m_lookup.RoomOccupancy("A1", QString("Lundi%1").arg(slot), "2", makeUp);
+        OccupancyLookup lookup(rows, view);
+        m_cell = lookup.RoomOccupancy("A1", QString("Lundi%1").arg(slot), "2", makeUp);
+        return m_cell ? m_cell->CellText : QString();
     }
-    [[nodiscard]] const RoomCell& cell() const { return m_lookup.cell(); }
+    /// What the last lookup answered.
+    [[nodiscard]] const RoomCell& cell() const { return m_cell.value(); }
+    [[nodiscard]] bool hasAnswered() const { return m_cell.has_value(); }
     /// Only class and subject, and the subject filter on this subject.
     void filter(const QString& subject)
     {
-        form.XOpEns.setChecked(false);
-        form.Check1.setChecked(true);
-        form.Cb_Mat.design({subject}, 0);
+        view.options.showTeachers = false;
+        view.subject = subject;
     }
 
-    form::PlanForm form;
+    View view;
     test::FakeRows rows;
 
 private:
-    CellLayout m_layout;
-    SeanceTypeShortNames m_typeNames;
-    OccupancyLookup m_lookup{form, rows, m_layout, m_typeNames};
+    std::optional<RoomCell> m_cell;
 };
 
 } // namespace
@@ -67,8 +69,8 @@ TEST_F(Occupancy, asksForTheMakeUpsOfThePickedDate)
 
 TEST_F(Occupancy, asksForTheExamsOfTheExamWeek)
 {
-    form.OpExam().select();
-    form.Semn.caption = "3";
+    view.day.exam = view.options.exam = true;
+    view.day.examWeek = 3;
     lookUp();
     ASSERT_EQ(rows.asked.size(), 1U);
     EXPECT_EQ(rows.asked[0].table, RoomQuestion::Table::examen);
@@ -78,13 +80,10 @@ TEST_F(Occupancy, asksForTheExamsOfTheExamWeek)
 TEST_F(Occupancy, asksNothingAboutMakeUpsInExamMode)
 {
     rows.examen("A1", "Lundi1", "1");
-    form.OpExam().select();
-    lookUp();
-    const RoomCell before = cell();
-    rows.asked.clear();
-    EXPECT_EQ(lookUp(2, true), "");
+    view.day.exam = view.options.exam = true;
+    lookUp(1, true);
     EXPECT_TRUE(rows.asked.empty());
-    EXPECT_EQ(cell(), before); // what the last lookup left stays
+    EXPECT_FALSE(hasAnswered()); // so that what the room's last lookup found stays
 }
 
 TEST_F(Occupancy, leavesAFreshCellForAFreeRoom)
@@ -105,7 +104,8 @@ TEST_F(Occupancy, keepsTheFactsOfTheRow)
         .set("TypeS3B", 6)
         .set("Debut", "11h15")
         .set("Durée", "135");
-    form.OptA().select();
+    view.options.everyWeek = false;
+    view.options.showsWeekA = true;
     EXPECT_EQ(lookUp(3), "GC1 Dupont [Algèbre]");
     EXPECT_EQ(cell().CellText, "GC1 Dupont [Algèbre]");
     EXPECT_EQ(cell().CellRowCount, 1);
@@ -124,7 +124,7 @@ TEST_F(Occupancy, keepsTheFactsOfTheRow)
 TEST_F(Occupancy, namesTheFirstInvigilatorOfAnExam)
 {
     rows.examen("A1", "Lundi1", "1").set("Resp1", "Noir").set("Resp2", "Blanc");
-    form.OpExam().select();
+    view.day.exam = view.options.exam = true;
     EXPECT_EQ(lookUp(), "GC1 Dupont [Algèbre]");
     EXPECT_EQ(cell().CellTeacher, "Noir");
 }
@@ -133,7 +133,7 @@ TEST_F(Occupancy, findsOnlyTheExamsOfTheRoomAndTheWeek)
 {
     rows.examen("A2", "Lundi1", "1").set("XSalle", "A1").set("SalleB", "A1");
     rows.examen("A1", "Lundi1", "2");
-    form.OpExam().select();
+    view.day.exam = view.options.exam = true;
     EXPECT_EQ(lookUp(), "");
     EXPECT_EQ(cell().CellRowCount, 1);
 }
@@ -236,12 +236,12 @@ TEST_F(Occupancy, writesTheLinesOfSeveralRowsAsTheOptionsSay)
     rows.emplois("A1", "Lundi1").set("Classe", "GC2").set("Enseignant1", "Martin");
     lookUp();
     EXPECT_EQ(cell().CellClasses, "Dupont\r\nGC2\tMartin");
-    form.XOpEns.setChecked(false);
+    view.options.showTeachers = false;
     lookUp();
     EXPECT_EQ(cell().CellClasses, "GC2"); // an empty first line is taken for none
     EXPECT_EQ(cell().CellClassList, "GC2");
-    form.XOpCl.setChecked(false);
-    form.XOpEns.setChecked(true);
+    view.options.showClass = false;
+    view.options.showTeachers = true;
     lookUp();
     EXPECT_EQ(cell().CellClasses, "Dupont\r\nMartin");
     EXPECT_EQ(cell().CellClassList, "\tGC2");
@@ -306,7 +306,7 @@ TEST_F(Occupancy, searchesTheSubjectInTheWholeText)
     rows.emplois("A1", "Lundi1");
     filter("GC");
     EXPECT_EQ(lookUp(), "GC1 ");
-    form.XpMat.setChecked(false);
+    view.options.showSubject = false;
     EXPECT_EQ(lookUp(), "GC1"); // nothing in brackets to cut
 }
 
@@ -328,6 +328,5 @@ TEST_F(Occupancy, keepsEveryOccupiedCellForAnEmptySubject)
 TEST_F(Occupancy, filtersNothingWhileTheFilterIsOff)
 {
     rows.emplois("A1", "Lundi1");
-    form.Cb_Mat.design({"Optique"}, 0);
     EXPECT_EQ(lookUp(), "GC1 Dupont [Algèbre]");
 }

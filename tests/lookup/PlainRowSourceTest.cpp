@@ -8,8 +8,6 @@
 #include <optional>
 
 using namespace lookup;
-using namespace paint;
-using namespace plan;
 using namespace test;
 using runtime::ErrorNumber;
 
@@ -22,9 +20,8 @@ class RowsOfTheDatabase : public OnBothDatabases
 protected:
     void SetUp() override
     {
-        form.XOpCl.setChecked(true);
-        form.XpMat.setChecked(true);
-        form.DTPicker1.setValue(QDate(2026, 10, 14));
+        view.options.showClass = view.options.showSubject = view.options.everyWeek = true;
+        view.day.date = QDate(2026, 10, 14);
         m_timetable.emplace(database(),
                             QStringList{"emplois", "ratrap", "examen", "etudiant", "classe"});
     }
@@ -45,23 +42,22 @@ protected:
         m_database.emplace(database().usesMySql());
         m_database->open(database().connectString());
         source.emplace(*m_database);
-        lookup.emplace(form, *source, m_layout, m_typeNames);
     }
     QString lookUp(const QString& room = "A1", bool makeUp = false)
     {
-        return lookup->RoomOccupancy(room, "Lundi1", "2", makeUp);
+        OccupancyLookup asked(*source, view);
+        cell = asked.RoomOccupancy(room, "Lundi1", "2", makeUp).value_or(RoomCell());
+        return cell.CellText;
     }
     Timetable& timetable() { return *m_timetable; }
 
-    form::PlanForm form;
+    View view;
     std::optional<PlainRowSource> source;
-    std::optional<OccupancyLookup> lookup;
+    RoomCell cell; ///< what the last lookup answered
 
 private:
     std::optional<Timetable> m_timetable;
     std::optional<db::Database> m_database;
-    CellLayout m_layout;
-    SeanceTypeShortNames m_typeNames;
 };
 
 } // namespace
@@ -78,11 +74,11 @@ TEST_P(RowsOfTheDatabase, areFoundInEachOfTheSixRoomColumns)
     EXPECT_EQ(lookUp("A1"), "GC1 [gc1]");
     EXPECT_EQ(lookUp("A2"), "GC2 [x]");
     EXPECT_EQ(lookUp("A3"), "");
-    EXPECT_EQ(lookup->cell().CellClassList, "GC3");
+    EXPECT_EQ(cell.CellClassList, "GC3");
     EXPECT_EQ(lookUp("A4"), "GC4 [b]");
     EXPECT_EQ(lookUp("A5"), "GC5 [xb]");
     EXPECT_EQ(lookUp("A6"), "");
-    EXPECT_EQ(lookup->cell().CellClassList, "GC6");
+    EXPECT_EQ(cell.CellClassList, "GC6");
 }
 
 TEST_P(RowsOfTheDatabase, belongToTheSlotAndThePeriod)
@@ -91,7 +87,7 @@ TEST_P(RowsOfTheDatabase, belongToTheSlotAndThePeriod)
     timetable().row("emplois", {{"Salle", "A1"}, {"Seance", "Lundi1"}, {"Tranche", 1}});
     load();
     EXPECT_EQ(lookUp(), "");
-    EXPECT_EQ(lookup->cell().CellClassList, "");
+    EXPECT_EQ(cell.CellClassList, "");
 }
 
 TEST_P(RowsOfTheDatabase, decideTheTextByTheFirstOfThem)
@@ -100,10 +96,10 @@ TEST_P(RowsOfTheDatabase, decideTheTextByTheFirstOfThem)
     meeting("emplois", "GC2", {{"Salle", "A1"}, {"Debut", "9h00"}});
     load();
     EXPECT_EQ(lookUp(), "GC1 [gc1]");
-    EXPECT_EQ(lookup->cell().CellRowCount, 2);
-    EXPECT_EQ(lookup->cell().CellStart, "8h15");
-    EXPECT_EQ(lookup->cell().CellDuration, "60");
-    EXPECT_EQ(lookup->cell().CellClassList, "GC1\tGC2");
+    EXPECT_EQ(cell.CellRowCount, 2);
+    EXPECT_EQ(cell.CellStart, "8h15");
+    EXPECT_EQ(cell.CellDuration, "60");
+    EXPECT_EQ(cell.CellClassList, "GC1\tGC2");
 }
 
 TEST_P(RowsOfTheDatabase, areMatchedByTheDatabasesRulesAndShownByTheProgramsOwn)
@@ -111,7 +107,7 @@ TEST_P(RowsOfTheDatabase, areMatchedByTheDatabasesRulesAndShownByTheProgramsOwn)
     meeting("emplois", "GC1", {{"Salle", "a1"}});
     load();
     EXPECT_EQ(lookUp(), ""); // found whatever the case, but not this room to the letter
-    EXPECT_EQ(lookup->cell().CellClassList, "GC1");
+    EXPECT_EQ(cell.CellClassList, "GC1");
 }
 
 TEST_P(RowsOfTheDatabase, areReadWithTheirNumbersAndFlags)
@@ -119,9 +115,9 @@ TEST_P(RowsOfTheDatabase, areReadWithTheirNumbersAndFlags)
     meeting("emplois", "GC1", {{"Salle", "A1"}, {"TypeS1", 3}, {"TypeS3B", 5}, {"Commune", true}});
     load();
     lookUp();
-    EXPECT_EQ(lookup->cell().CellTypeA, "3");
-    EXPECT_EQ(lookup->cell().CellTypeB, "5");
-    EXPECT_TRUE(lookup->cell().CellCommon);
+    EXPECT_EQ(cell.CellTypeA, "3");
+    EXPECT_EQ(cell.CellTypeB, "5");
+    EXPECT_TRUE(cell.CellCommon);
 }
 
 TEST_P(RowsOfTheDatabase, areTheMakeUpsOfThePickedDate)
@@ -130,10 +126,10 @@ TEST_P(RowsOfTheDatabase, areTheMakeUpsOfThePickedDate)
     meeting("ratrap", "GC2", {{"Salle", "A1"}, {"DateX", QDate(2026, 10, 15)}});
     load();
     EXPECT_EQ(lookUp("A1", true), "GC1 [gc1]");
-    EXPECT_EQ(lookup->cell().CellRowCount, 1);
-    form.DTPicker1.setValue(QDate(2026, 10, 15));
+    EXPECT_EQ(cell.CellRowCount, 1);
+    view.day.date = QDate(2026, 10, 15);
     EXPECT_EQ(lookUp("A1", true), "GC2 [gc2]");
-    form.DTPicker1.setValue(QDate(2026, 10, 16));
+    view.day.date = QDate(2026, 10, 16);
     EXPECT_EQ(lookUp("A1", true), "");
 }
 
@@ -142,10 +138,10 @@ TEST_P(RowsOfTheDatabase, areTheExamsOfTheWeekInTheirRoomAlone)
     meeting("examen", "GC1", {{"Salle", "A1"}, {"Semaine", 1}, {"Resp1", "Noir"}});
     meeting("examen", "GC2", {{"Salle", "A1"}, {"Semaine", 2}});
     load();
-    form.OpExam().select();
+    view.day.exam = view.options.exam = true;
     EXPECT_EQ(lookUp(), "GC1 [gc1]");
-    EXPECT_EQ(lookup->cell().CellTeacher, "Noir");
-    form.Semn.caption = "2";
+    EXPECT_EQ(cell.CellTeacher, "Noir");
+    view.day.examWeek = 2;
     EXPECT_EQ(lookUp(), "GC2 [gc2]");
     EXPECT_EQ(lookUp("A1", true), "");
 }
@@ -156,7 +152,7 @@ TEST_P(RowsOfTheDatabase, areAskedForAnEmptyRoomInTheShortForm)
     meeting("emplois", "GC2", {{"Salle", "A1"}, {"XSalle", ""}});
     load();
     EXPECT_EQ(lookUp(""), "GC1 [gc1] []"); // both of its room columns are the empty name
-    EXPECT_EQ(lookup->cell().CellRowCount, 1);
+    EXPECT_EQ(cell.CellRowCount, 1);
 }
 
 TEST_P(RowsOfTheDatabase, areNoneForARoomWithAnApostrophe)
@@ -187,7 +183,7 @@ TEST_P(RowsOfTheDatabase, doWithoutAColumnThatIsOnlyShown)
     timetable().statement("ALTER TABLE emplois RENAME COLUMN `matière` TO Sujet");
     load();
     EXPECT_EQ(lookUp(), "GC1");
-    EXPECT_EQ(lookup->cell().CellDuration, "90");
+    EXPECT_EQ(cell.CellDuration, "90");
 }
 
 TEST_P(RowsOfTheDatabase, countTheStudentsAndNameTheCapacityOfAClass)
@@ -200,8 +196,8 @@ TEST_P(RowsOfTheDatabase, countTheStudentsAndNameTheCapacityOfAClass)
     timetable().row("classe", {{"Nom", "GC1"}, {"Capacite", 40}});
     load();
     lookUp();
-    EXPECT_EQ(lookup->cell().CellStudents, 3);
-    EXPECT_EQ(lookup->cell().CellCapacity, 40);
+    EXPECT_EQ(cell.CellStudents, 3);
+    EXPECT_EQ(cell.CellCapacity, 40);
     EXPECT_EQ(StudentCount(*source, "GC9"), 0);
     EXPECT_EQ(ClassCapacity(*source, "GC9"), 0);
 }
@@ -212,7 +208,7 @@ TEST_P(RowsOfTheDatabase, doWithoutTheTablesOfTheClasses)
     timetable().statement("DROP TABLE etudiant").statement("DROP TABLE classe");
     load();
     EXPECT_EQ(lookUp(), "GC1 [gc1]");
-    EXPECT_EQ(lookup->cell().CellStudents, 0);
+    EXPECT_EQ(cell.CellStudents, 0);
     EXPECT_EQ(ClassCapacity(*source, "GC1"), 0);
     EXPECT_EQ(errorNumberOf([&] { static_cast<void>(StudentCount(*source, "GC1")); }),
               ErrorNumber::TableMissing);

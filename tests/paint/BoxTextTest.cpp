@@ -1,7 +1,7 @@
 #include "paint/BoxText.h"
 
 #include "paint/Canvas.h"
-#include "lookup/OccupancyLookup.h"
+#include "plan/CellLayout.h"
 #include "support/RuntimeMatchers.h"
 
 using plan::CellLayout;

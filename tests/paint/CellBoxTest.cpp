@@ -3,7 +3,6 @@
 #include "paint/Canvas.h"
 #include "support/RuntimeMatchers.h"
 
-using namespace lookup;
 using namespace paint;
 using namespace plan;
 using form::Colour;
@@ -47,13 +46,6 @@ QColor toColor(Colour color)
 }
 
 } // namespace
-
-TEST(SanitizedText, keepsItsLength)
-{
-    EXPECT_EQ(SanitizeCellText("GC1 [Algèbre]"), "GC1  Algèbre ");
-    EXPECT_EQ(SanitizeCellText("R&D [a&b]]"), "R D  a b  ");
-    EXPECT_EQ(SanitizeCellText("A\r\nB"), "A\r\nB");
-}
 
 TEST(CellBox, is2400TwipsWideFor90MinutesOnTheScreen)
 {

@@ -3,7 +3,6 @@
 #include "plan/RoomRows.h"
 #include "support/RuntimeMatchers.h"
 
-using namespace lookup;
 using namespace paint;
 using namespace plan;
 

@@ -6,7 +6,6 @@
 #include "plan/PlanDesk.h"
 #include "support/RuntimeMatchers.h"
 
-using namespace lookup;
 using namespace paint;
 using namespace plan;
 using test::Canvas;
@@ -29,8 +28,7 @@ protected:
 
     Canvas paint(void (PlanPainter::*band)())
     {
-        const PlanScene scene{desk.form,       desk.refresh.content(), desk.layout,
-                              DrawingTarget(), desk.page.RowsShown,    desk.slots.axisEnd()};
+        const PlanScene scene = sceneOf(desk.state, desk.engine.content(), DrawingTarget());
         Canvas canvas(1500, 400);
         canvas.draw([&](QPainter& painter) {
             PlanPainter plan(painter, scene);
@@ -102,7 +100,7 @@ TEST_F(APaintedPlan, hasNothingWhereABoxHasNoLength)
     desk.meeting(2, 1).set("Durée", "-30");
     desk.rows.students["GC1"] = 135;
     desk.draw();
-    EXPECT_EQ(desk.refresh.MarkerCount(), 2);
+    EXPECT_EQ(desk.engine.markers().MarkerCount(), 2);
     EXPECT_TRUE(paint(&PlanPainter::paintBoxes).touched().isEmpty());
 }
 
@@ -231,9 +229,9 @@ TEST_F(APaintedPlan, showsTheTotalsThatAreNotHidden)
 
 TEST_F(APaintedPlan, endsWithItsLastRow)
 {
-    const PlanScene scene{desk.form,       desk.refresh.content(), desk.layout,
-                          DrawingTarget(), desk.page.RowsShown,    desk.slots.axisEnd()};
+    const PlanScene scene = sceneOf(desk.state, desk.engine.content(), DrawingTarget());
     EXPECT_NEAR(PlanPainter::rowsBottom(scene), (345 + 4 * 368 + 300) / 15.0, 1e-9);
-    const PlanScene empty{desk.form, desk.refresh.content(), desk.layout, DrawingTarget(), -1, 0};
+    desk.page.RowsShown = -1;
+    const PlanScene empty = sceneOf(desk.state, desk.engine.content(), DrawingTarget());
     EXPECT_NEAR(PlanPainter::rowsBottom(empty), (345 + 300) / 15.0, 1e-9);
 }

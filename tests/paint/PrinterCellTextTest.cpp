@@ -2,12 +2,11 @@
 
 #include "paint/Canvas.h"
 #include "paint/CellBox.h"
-#include "lookup/OccupancyLookup.h"
+#include "plan/CellLayout.h"
 #include "support/RuntimeMatchers.h"
 
 #include <QFontMetricsF>
 
-using namespace lookup;
 using namespace paint;
 using namespace plan;
 using test::Canvas;

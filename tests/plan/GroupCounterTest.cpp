@@ -80,7 +80,7 @@ TEST_F(GroupCounters, tellTheStudentsOfSeveralRowsThatFit)
 TEST_F(GroupCounters, takeARoomWithoutANumberOfPlacesForOneOfNone)
 {
     sizes(1, 0);
-    desk.form.Cap[1].caption = "";
+    desk.page.setPlaces(desk.form, 1, "");
     const auto group = draw();
     ASSERT_TRUE(group);
     EXPECT_EQ(group->sizeLabel, "Dépassement 1/");
@@ -89,7 +89,7 @@ TEST_F(GroupCounters, takeARoomWithoutANumberOfPlacesForOneOfNone)
 TEST_F(GroupCounters, readThePlacesAtTheStartOfTheirCaption)
 {
     sizes(35, 0);
-    desk.form.Cap[1].caption = "40 places";
+    desk.page.setPlaces(desk.form, 1, "40 places");
     EXPECT_FALSE(draw());
 }
 
@@ -119,9 +119,9 @@ TEST_F(GroupCounters, showTheirClassesWhenClicked)
 {
     sizes(35, 0);
     const auto group = draw();
-    desk.options.Label2_Click(*group);
+    desk.engine.Label2_Click(*group);
     ASSERT_EQ(desk.messages.size(), 1U);
     EXPECT_EQ(desk.messages[0].first, "Salles Occupées");
     EXPECT_EQ(desk.messages[0].second, "GC1\r\n");
-    EXPECT_EQ(desk.refresh.refreshCount(), 1U);
+    EXPECT_EQ(desk.engine.refreshCount(), 1U);
 }

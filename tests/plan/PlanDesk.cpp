@@ -1,7 +1,5 @@
 #include "plan/PlanDesk.h"
 
-#include "context/Establishment.h"
-#include "plan/RoomRows.h"
 #include "runtime/RunTimeError.h"
 
 #include <algorithm>
@@ -46,14 +44,37 @@ bool FakeAbsences::Existe_AbsEtud(const plan::Marqueur&, const QString& classNam
 }
 
 PlanDesk::PlanDesk(int roomCount, const QString& lines, int places)
-    : refresh({form, periods, slots, page, totals, lookup, absences, colors, layout},
-              [this] { periods.yieldTo([this] { yield(); }); }),
-      paging(form, page, totals, rooms, colors, refresh, [this] { ++adaptations; }),
-      options(form, totals, refresh, [this](const QString& title, const QString& text) {
-          messages.emplace_back(title, text);
-      })
+    : engine(surroundings(), {&rows, &absences})
 {
     writeDatabase(roomCount, places);
+    form.Total_L_P.setText(lines);
+    for (form::CheckBox* box : {&form.XOpCl, &form.XOpEns, &form.XpMat}) {
+        tick(*box);
+    }
+    engine.loadEstablishment({"", m_testDatabase.connectString(), "1"});
+    placeRows();
+    engine.loadSlots();
+    engine.placeRoomRows();
+    engine.fillRoomPage();
+    engine.showCurrentWeek();
+    colors.fillRandomly();
+    form.visible = true;
+}
+
+engine::Surroundings PlanDesk::surroundings()
+{
+    engine::Surroundings around;
+    around.today = [] { return QDate(2026, 10, 14); };
+    around.seed = 7;
+    around.processEvents = [this] { yield(); };
+    around.showMessage = [this](const QString& title, const QString& text) {
+        messages.emplace_back(title, text);
+    };
+    return around;
+}
+
+void PlanDesk::placeRows()
+{
     form.Label1.front().place = {1620, 0, 600, 300};
     for (std::size_t row = 0; row < form.Salle.size(); ++row) {
         form.Salle[row].place = {0, 345, 1500, 300};
@@ -61,20 +82,9 @@ PlanDesk::PlanDesk(int roomCount, const QString& lines, int places)
     }
     form.scaleWidth = 22000;
     form.scaleHeight = 12000;
-    form.Total_L_P.setText(lines);
-    for (form::CheckBox* box : {&form.XOpCl, &form.XOpEns, &form.XpMat}) {
-        box->setChecked(true);
-    }
     layout.displayStyle = 3;
-    static_cast<void>(context::LoadEstablishment(form, database, periods, page,
-                                                 {"", m_testDatabase.connectString(), "1"}));
-    slots.LoadSlots();
-    plan::PlaceRoomRows(form);
-    rooms.FillRoomPage();
-    periods.showCurrentWeek();
-    colors.fillRandomly();
-    wireEvents();
-    form.visible = true;
+    layout.CellSeparator.clear();
+    layout.CellTextFormat = plan::CellLayout::kCentredLines;
 }
 
 void PlanDesk::writeDatabase(int roomCount, int places)
@@ -93,31 +103,6 @@ void PlanDesk::writeDatabase(int roomCount, int places)
         timetable.row("salle", {{"Zone", 1}, {"Nom", roomName(room)}, {"places", places}});
     }
     timetable.load();
-}
-
-void PlanDesk::wireEvents()
-{
-    form.CbJour.click = [this] { periods.CbJour_Click(); };
-    form.DTPicker1.change = [this] { periods.DTPicker1_Change(); };
-    form.Check2.click = [this] { periods.Check2_Click(); };
-    form.OpEns().click() = [this] { periods.OpEns_Click(); };
-    form.cb_Locaux.click = [this] { rooms.cb_Locaux_Click(); };
-    form.Total_L_P.change = [this] { paging.Total_L_P_Change(); };
-    form.Command2.click = [this] { paging.Command2_Click(); };
-    form.Command3.click = [this] { paging.Command3_Click(); };
-    form.Check3.click = [this] { options.Check3_Click(); };
-    form.Chk_Compt.click = [this] { options.Chk_Compt_Click(); };
-    form.Chk_Type.click = [this] { options.Chk_Type_Click(); };
-    form.ChkGrille.click = [this] { options.ChkGrille_Click(); };
-    form.Colorer.click = [this] { options.Colorer_Click(); };
-    form.OptA().click() = [this] { options.OptA_Click(); };
-    form.OptB().click() = [this] { options.OptB_Click(); };
-    form.OptFixe().click() = [this] { options.OptFixe_Click(); };
-}
-
-void PlanDesk::PlaceRoomRows()
-{
-    plan::PlaceRoomRows(form);
 }
 
 Meeting& PlanDesk::meeting(int room, int slot)
@@ -144,13 +129,6 @@ void PlanDesk::yield()
     if (m_event && yields == m_eventYield) {
         std::exchange(m_event, nullptr)();
     }
-}
-
-void PlanDesk::tick(form::CheckBox& box, bool checked)
-{
-    const form::Event click = std::exchange(box.click, nullptr);
-    box.setChecked(checked);
-    box.click = click;
 }
 
 QStringList PlanDesk::drawnRooms() const

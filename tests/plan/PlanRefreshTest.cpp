@@ -3,8 +3,8 @@
 #include "plan/PlanDesk.h"
 #include "support/RuntimeMatchers.h"
 
-using plan::PlanBox;
 using lookup::RoomQuestion;
+using plan::PlanBox;
 using runtime::ErrorNumber;
 using test::PlanDesk;
 
@@ -15,7 +15,7 @@ TEST(PlanRefresh, drawsNothingWhileTheWindowIsNotVisible)
     desk.draw();
     EXPECT_TRUE(desk.rows.asked.empty());
     EXPECT_TRUE(desk.drawn().empty());
-    EXPECT_EQ(desk.refresh.refreshCount(), 0U);
+    EXPECT_EQ(desk.engine.refreshCount(), 0U);
 }
 
 TEST(PlanRefresh, asksAboutTenSlotsOfEveryRowButRowZero)
@@ -129,7 +129,7 @@ TEST(PlanRefresh, asksForMakeUpsOfFreeSlotsOnlyWhileDateIsTicked)
     desk.makeUp(1, 3);
     desk.draw();
     EXPECT_EQ(desk.rows.asked.size(), 10U);
-    EXPECT_EQ(desk.refresh.MarkerCount(), 1);
+    EXPECT_EQ(desk.engine.markers().MarkerCount(), 1);
     desk.rows.asked.clear();
     desk.form.Check2.setChecked(true);
     desk.draw();
@@ -161,7 +161,7 @@ TEST(PlanRefresh, asksForExamsAloneInExamMode)
     desk.draw();
     EXPECT_EQ(desk.rows.asked.size(), 10U);
     EXPECT_EQ(desk.rows.asked[0].table, RoomQuestion::Table::examen);
-    EXPECT_EQ(desk.refresh.MarkerCount(), 1);
+    EXPECT_EQ(desk.engine.markers().MarkerCount(), 1);
 }
 
 TEST(PlanRefresh, numbersTheBoxesOverAllRows)
@@ -175,7 +175,7 @@ TEST(PlanRefresh, numbersTheBoxesOverAllRows)
     EXPECT_EQ(desk.markers(), std::vector<int>({1, 2, 3, 4, 5, 6}));
     desk.draw(); // from 1 again
     EXPECT_EQ(desk.markers(), std::vector<int>({1, 2, 3, 4, 5, 6}));
-    EXPECT_EQ(desk.refresh.MarkerCount(), 6);
+    EXPECT_EQ(desk.engine.markers().MarkerCount(), 6);
 }
 
 TEST(PlanRefresh, keepsTheSeanceBehindEachBox)
@@ -185,7 +185,7 @@ TEST(PlanRefresh, keepsTheSeanceBehindEachBox)
     desk.meeting(1, 2).set("Classe", "GC2");
     desk.form.DTPicker1.setValue(QDate(2026, 10, 15));
     desk.draw();
-    const plan::Marqueur& record = desk.refresh.marker(1);
+    const plan::Marqueur& record = desk.marker(1);
     EXPECT_EQ(record.Classes, "GC1\tGC2");
     EXPECT_EQ(record.Seance, "Lundi2");
     EXPECT_EQ(record.Tranche, 1);
@@ -202,17 +202,6 @@ TEST(PlanRefresh, keepsTheSeanceBehindEachBox)
     EXPECT_EQ(record.newnature, "00");
 }
 
-TEST(PlanRefresh, leavesTheLastTogglesOfARecordAlone)
-{
-    PlanDesk desk(2);
-    desk.meeting(1, 1);
-    desk.draw();
-    desk.refresh.marker(1).AbsClasse = true;
-    desk.draw();
-    EXPECT_TRUE(desk.refresh.marker(1).AbsClasse);
-    EXPECT_FALSE(desk.box(1).classAbsent); // the picture shows what the database says
-}
-
 TEST(PlanRefresh, keepsRecordsThatNoBoxUsesAnyMore)
 {
     PlanDesk desk(2);
@@ -220,12 +209,12 @@ TEST(PlanRefresh, keepsRecordsThatNoBoxUsesAnyMore)
     desk.meeting(1, 2);
     desk.draw();
     desk.form.CbJour.setListIndex(1); // nothing on Tuesdays
-    EXPECT_EQ(desk.refresh.MarkerCount(), 0);
-    EXPECT_EQ(desk.refresh.box(1), nullptr);
-    EXPECT_EQ(desk.refresh.marker(2).Debut, "9h30");
-    EXPECT_EQ(test::errorNumberOf([&] { static_cast<void>(desk.refresh.marker(3)); }),
+    EXPECT_EQ(desk.engine.markers().MarkerCount(), 0);
+    EXPECT_EQ(desk.engine.content().box(1), nullptr);
+    EXPECT_EQ(desk.marker(2).Debut, "9h30");
+    EXPECT_EQ(test::errorNumberOf([&] { static_cast<void>(desk.marker(3)); }),
               ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(test::errorNumberOf([&] { static_cast<void>(desk.refresh.marker(0)); }),
+    EXPECT_EQ(test::errorNumberOf([&] { static_cast<void>(desk.marker(0)); }),
               ErrorNumber::SubscriptOutOfRange);
 }
 
@@ -263,7 +252,7 @@ TEST(PlanRefresh, takesAnAbsenceThatCannotBeAskedAboutForNone)
     desk.absences.fails = true;
     desk.draw();
     EXPECT_FALSE(desk.box(1).classAbsent);
-    EXPECT_EQ(desk.refresh.MarkerCount(), 2);
+    EXPECT_EQ(desk.engine.markers().MarkerCount(), 2);
 }
 
 TEST(PlanRefresh, countsTheTeachersOfAText)
@@ -273,12 +262,4 @@ TEST(PlanRefresh, countsTheTeachersOfAText)
     EXPECT_EQ(plan::CountSlashParts("Dupont/Durand"), 2);
     EXPECT_EQ(plan::CountSlashParts("Dupont/Durand/Petit"), 3);
     EXPECT_EQ(plan::CountSlashParts("a/b/c/d"), 3);
-}
-
-TEST(PlanRefresh, findsTheFirstClassOfAList)
-{
-    EXPECT_EQ(plan::firstClass("GC1\tGC2"), "GC1");
-    EXPECT_EQ(plan::firstClass(" GC1 "), "GC1");
-    EXPECT_EQ(plan::firstClass("\tGC2"), "");
-    EXPECT_EQ(plan::firstClass(""), "");
 }

@@ -35,7 +35,7 @@ TEST_F(PlanTotals, areHiddenWhileNothingIsCounted)
     desk.meeting(1, 1);
     desk.form.Chk_Compt.setChecked(false);
     EXPECT_EQ(draw(), QStringList());
-    EXPECT_EQ(desk.form.Tot[0].caption, "0000");
+    EXPECT_FALSE(desk.form.Tot[0].visible);
 }
 
 TEST_F(PlanTotals, startOnlyWithTheNextRefresh)
@@ -45,7 +45,7 @@ TEST_F(PlanTotals, startOnlyWithTheNextRefresh)
     desk.draw();
     desk.form.Chk_Compt.setChecked(true);
     EXPECT_EQ(desk.totalsLine(), QStringList());
-    EXPECT_EQ(desk.refresh.refreshCount(), 1U);
+    EXPECT_EQ(desk.engine.refreshCount(), 1U);
     EXPECT_EQ(draw(), QStringList("30"));
 }
 
@@ -64,19 +64,52 @@ TEST_F(PlanTotals, startFromZeroAtEveryRefresh)
     EXPECT_EQ(draw(), QStringList("30"));
 }
 
-TEST_F(PlanTotals, goOnFromThePagesBeforeWhenAskedTo)
+TEST_F(PlanTotals, goOnFromThePageBefore)
+{
+    PlanDesk pages(21); // pages of 10 rooms: R01 to R10, R12 to R20
+    pages.form.Chk_Compt.setChecked(true);
+    pages.meeting(1, 1);
+    pages.meeting(12, 1);
+    pages.draw();
+    EXPECT_EQ(pages.totalsLine(), QStringList("30"));
+    pages.form.Command3.press();
+    EXPECT_EQ(pages.totalsLine(), QStringList("60"));
+}
+
+TEST_F(PlanTotals, stayAsTheyAreWhenARefreshDoesNotCount)
 {
     desk.meeting(1, 1);
     desk.draw();
-    desk.refresh.RefreshPlan(PlanRefresh::TotalsStart::PreviousPages);
-    EXPECT_EQ(desk.totalsLine(), QStringList("60"));
+    desk.totals.CountingOn = false; // as on the last page
+    desk.form.Check3.setChecked(false);
+    EXPECT_EQ(desk.totalsLine(), QStringList("30"));
+    EXPECT_TRUE(desk.totals.isOld); // and say so
+    desk.form.CbJour.setListIndex(0);
+    EXPECT_EQ(desk.totalsLine(), QStringList("30"));
+    EXPECT_FALSE(desk.totals.isOld);
+}
+
+TEST_F(PlanTotals, startAnewOnTheNextPageWhenTheLineIsOld)
+{
+    PlanDesk pages(21);
+    pages.form.Chk_Compt.setChecked(true);
+    pages.meeting(1, 1);
+    pages.meeting(12, 1);
+    pages.draw();
+    pages.totals.CountingOn = false;
+    pages.draw();
+    ASSERT_TRUE(pages.totals.isOld);
+    pages.totals.CountingOn = true;
+    pages.form.Command3.press();
+    EXPECT_EQ(pages.totalsLine(), QStringList("30")); // of the second page alone
+    EXPECT_FALSE(pages.totals.isOld);
 }
 
 TEST_F(PlanTotals, countARoomThatTheSlotBeforeOverruns)
 {
     desk.meeting(2, 3).set("Durée", "180");
     EXPECT_EQ(draw(), QStringList({"", "", "30", "30"}));
-    EXPECT_EQ(desk.refresh.MarkerCount(), 1);
+    EXPECT_EQ(desk.engine.markers().MarkerCount(), 1);
 }
 
 TEST_F(PlanTotals, countAnOverrunOfASingleMinute)
@@ -144,13 +177,17 @@ TEST_F(PlanTotals, countTheTeachersWhereOnlyTeachersAreShown)
     EXPECT_EQ(draw(), QStringList({"60/4", "30/2"})); // the teachers start from zero as well
 }
 
-TEST_F(PlanTotals, addSeatsAndTeachersOfThePagesBefore)
+TEST_F(PlanTotals, addSeatsAndTeachersOfThePageBefore)
 {
-    onlyTeachers();
-    desk.meeting(1, 1);
-    desk.draw();
-    desk.refresh.RefreshPlan(PlanRefresh::TotalsStart::PreviousPages);
-    EXPECT_EQ(desk.totalsLine(), QStringList("60/2"));
+    PlanDesk pages(21);
+    pages.form.Chk_Compt.setChecked(true);
+    PlanDesk::tick(pages.form.XOpCl, false);
+    PlanDesk::tick(pages.form.XpMat, false);
+    pages.meeting(1, 1);
+    pages.meeting(12, 1).set("Enseignant2", "Durand");
+    pages.draw();
+    pages.form.Command3.press();
+    EXPECT_EQ(pages.totalsLine(), QStringList("60/3"));
 }
 
 TEST_F(PlanTotals, countNoTeachersWhileClassesAreShown)

@@ -22,7 +22,7 @@ std::vector<print::Sheet> pagesOf(PlanDesk& desk, int count)
         pages.back().number = page + 1;
         pages.back().count = count;
     }
-    return print::makeSheets(std::move(pages), desk.slots, establishment());
+    return print::makeSheets(std::move(pages));
 }
 
 /// Every object lies where the table of positions says.

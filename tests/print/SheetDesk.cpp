@@ -1,20 +1,20 @@
 #include "print/SheetDesk.h"
 
-#include "form/FormCopy.h"
 #include "print/PrintJob.h"
 
 #include <QBuffer>
 #include <QPdfWriter>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace test
 {
 
 print::Sheet sheetOf(const PlanDesk& desk)
 {
-    return print::makeSheet(
-        {form::copyOf(desk.form), desk.refresh.content(), desk.layout, desk.page.RowsShown},
-        desk.slots, establishment());
+    plan::PlanPage page = desk.engine.drawnPage();
+    page.state.establishment = establishment();
+    return print::makeSheet(std::move(page));
 }
 
 std::vector<print::Sheet> documentOf(const PlanDesk& desk)

@@ -13,10 +13,10 @@ TEST(Sheet, placesTheHoursAlongThePrintersAxis)
     PlanDesk desk(5);
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
-    EXPECT_EQ(sheet.page.form->Label1[0].place.left, 1620);
-    EXPECT_EQ(sheet.page.form->Label1[1].place.left, 2753);   // 60 minutes: 1133.33
-    EXPECT_EQ(sheet.page.form->Label1[3].place.left, 5020);   // 180 minutes: 3400
-    EXPECT_EQ(sheet.page.form->Label1[11].place.left, 14087); // 660 minutes: 12466.67
+    EXPECT_EQ(sheet.page.state.form.Label1[0].place.left, 1620);
+    EXPECT_EQ(sheet.page.state.form.Label1[1].place.left, 2753);   // 60 minutes: 1133.33
+    EXPECT_EQ(sheet.page.state.form.Label1[3].place.left, 5020);   // 180 minutes: 3400
+    EXPECT_EQ(sheet.page.state.form.Label1[11].place.left, 14087); // 660 minutes: 12466.67
 }
 
 TEST(Sheet, placesBoxesByTheirStartAndLength)
@@ -50,10 +50,10 @@ TEST(Sheet, startsWithTheFirstDrawnRow)
     desk.form.Salle[0].place.height = 400;
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
-    EXPECT_EQ(sheet.page.form->Salle[1].caption, "R01");
-    EXPECT_EQ(sheet.page.form->Salle[1].place.top, 345);
-    EXPECT_EQ(sheet.page.form->Salle[1].place.height, 419);
-    EXPECT_EQ(sheet.page.form->Salle[2].place.top, 345 + 419 + 68);
+    EXPECT_EQ(sheet.page.state.form.Salle[1].caption, "R01");
+    EXPECT_EQ(sheet.page.state.form.Salle[1].place.top, 345);
+    EXPECT_EQ(sheet.page.state.form.Salle[1].place.height, 419);
+    EXPECT_EQ(sheet.page.state.form.Salle[2].place.top, 345 + 419 + 68);
     EXPECT_EQ(sheet.bottom, 345 + 19 * (419 + 68) - 68);
 }
 
@@ -68,14 +68,14 @@ TEST(Sheet, usesTheHeightThatAWiderDayLeaves)
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
     EXPECT_EQ(sheet.width, 16953);
-    EXPECT_EQ(sheet.page.form->Salle[1].place.height, 471);
+    EXPECT_EQ(sheet.page.state.form.Salle[1].place.height, 471);
 }
 
 TEST(Sheet, makesLowRowsHalfAsHighAgainAtMost)
 {
     PlanDesk desk(5, "4");
     desk.draw();
-    EXPECT_EQ(sheetOf(desk).page.form->Salle[1].place.height, 450);
+    EXPECT_EQ(sheetOf(desk).page.state.form.Salle[1].place.height, 450);
 }
 
 TEST(Sheet, neverMakesRowsLower)
@@ -83,7 +83,7 @@ TEST(Sheet, neverMakesRowsLower)
     PlanDesk desk(25, "19");
     desk.form.Salle[0].place.height = 700;
     desk.draw();
-    EXPECT_EQ(sheetOf(desk).page.form->Salle[1].place.height, 700);
+    EXPECT_EQ(sheetOf(desk).page.state.form.Salle[1].place.height, 700);
 }
 
 TEST(Sheet, givesTheLastRoomsRowsAsHighAsTheOthers)
@@ -92,7 +92,7 @@ TEST(Sheet, givesTheLastRoomsRowsAsHighAsTheOthers)
     desk.draw();
     desk.form.Command3.press();
     EXPECT_EQ(desk.page.RowsShown, 4); // rooms 20 to 24
-    EXPECT_EQ(sheetOf(desk).page.form->Salle[1].place.height, 419);
+    EXPECT_EQ(sheetOf(desk).page.state.form.Salle[1].place.height, 419);
 }
 
 TEST(Sheet, putsThePlacesBehindTheHours)
@@ -101,7 +101,7 @@ TEST(Sheet, putsThePlacesBehindTheHours)
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
     EXPECT_EQ(sheet.axisEnd, 14087);
-    EXPECT_EQ(sheet.page.form->Cap[1].place.left, 14147);
+    EXPECT_EQ(sheet.page.state.form.Cap[1].place.left, 14147);
     EXPECT_EQ(sheet.right, 14687);
 }
 
@@ -128,7 +128,7 @@ TEST(Sheet, movesTheHoursRightOfASeanceBeforeTheFirst)
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
     EXPECT_EQ(sheet.page.content.rows[0].boxes[0].x, 1620);
-    EXPECT_EQ(sheet.page.form->Label1[0].place.left, 2470);
+    EXPECT_EQ(sheet.page.state.form.Label1[0].place.left, 2470);
 }
 
 TEST(Sheet, putsTheTotalsUnderTheirSlots)
@@ -139,14 +139,14 @@ TEST(Sheet, putsTheTotalsUnderTheirSlots)
     desk.meeting(1, 2);
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
-    const form::Label& total = sheet.page.form->Tot[1];
+    const form::Label& total = sheet.page.state.form.Tot[1];
     EXPECT_TRUE(total.visible);
     EXPECT_EQ(total.caption, "30");
     EXPECT_EQ(total.place.left, 3320); // 9h30
     EXPECT_EQ(total.place.width, 1700);
     EXPECT_EQ(total.place.top, 345 + 4 * 518 - 68 + 60);
     EXPECT_EQ(sheet.bottom, total.place.top + total.place.height);
-    EXPECT_FALSE(sheet.page.form->Tot[0].visible);
+    EXPECT_FALSE(sheet.page.state.form.Tot[0].visible);
 }
 
 TEST(Sheet, isMadeOfAnEmptyRoomSetToo)
@@ -154,7 +154,7 @@ TEST(Sheet, isMadeOfAnEmptyRoomSetToo)
     PlanDesk desk(0);
     desk.draw();
     const print::Sheet sheet = sheetOf(desk);
-    EXPECT_EQ(sheet.page.RowsShown, -1);
+    EXPECT_EQ(sheet.page.state.page.RowsShown, -1);
     EXPECT_TRUE(sheet.page.content.rows.empty());
 }
 
@@ -168,7 +168,7 @@ TEST(Sheet, keepsTheNumberOfItsPage)
         pages.back().number = page + 1;
         pages.back().count = 2;
     }
-    const auto sheets = print::makeSheets(std::move(pages), desk.slots, establishment());
+    const auto sheets = print::makeSheets(std::move(pages));
     ASSERT_EQ(sheets.size(), 2);
     EXPECT_EQ(sheets[1].page.number, 2);
     EXPECT_EQ(sheets[1].page.count, 2);

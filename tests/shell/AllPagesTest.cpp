@@ -48,7 +48,7 @@ TEST_P(AllPages, startWhereThePageButtonsDo)
 {
     // Starts 0, 10, 21 and 32 of 35 rooms. Row 0 of a page is not drawn: it is room 0, 11, 22, 33.
     desk.play({"--rooms-per-page", "10", "--day", "0"});
-    const auto pages = desk.shell().allPages();
+    const auto pages = desk.shell().engine().allPages();
     ASSERT_EQ(pages.size(), 4);
     EXPECT_EQ(roomsOf(pages[0]).constFirst(), "R01");
     EXPECT_EQ(roomsOf(pages[0]).size(), 10);
@@ -60,10 +60,10 @@ TEST_P(AllPages, startWhereThePageButtonsDo)
 TEST_P(AllPages, areThoseThatTheUserSteppedThrough)
 {
     desk.play({"--rooms-per-page", "10", "--day", "0"});
-    const auto pages = desk.shell().allPages();
+    const auto pages = desk.shell().engine().allPages();
     for (const plan::PlanPage& page : pages) {
         QStringList shown;
-        for (const plan::PlanRow& row : desk.shell().refresh().content().rows) {
+        for (const plan::PlanRow& row : desk.shell().engine().content().rows) {
             shown.append(row.room + '=' + row.boxes.at(0).cell.CellText);
         }
         QStringList walked;
@@ -79,28 +79,28 @@ TEST_P(AllPages, leaveTheWindowWhereItIs)
 {
     desk.play({"--rooms-per-page", "10", "--day", "0", "--counting", "--page", "2"});
     const QJsonObject before = desk.plan();
-    const int refreshes = static_cast<int>(desk.shell().refresh().refreshCount());
-    EXPECT_EQ(desk.shell().allPages().size(), 4);
+    const int refreshes = static_cast<int>(desk.shell().engine().refreshCount());
+    EXPECT_EQ(desk.shell().engine().allPages().size(), 4);
     EXPECT_EQ(desk.plan(), before);
-    EXPECT_EQ(static_cast<int>(desk.shell().refresh().refreshCount()), refreshes);
+    EXPECT_EQ(static_cast<int>(desk.shell().engine().refreshCount()), refreshes);
     desk.form().Command2.press(); // and the window pages on from there
-    EXPECT_EQ(desk.shell().page().PageOffset, 0);
+    EXPECT_EQ(desk.shell().engine().state().page.PageOffset, 0);
 }
 
 TEST_P(AllPages, countOnFromPageToPage)
 {
     desk.play({"--rooms-per-page", "10", "--day", "0", "--counting"});
-    const auto pages = desk.shell().allPages();
+    const auto pages = desk.shell().engine().allPages();
     // Ten places in each of 10, 10, 10 and 1 rooms.
-    EXPECT_EQ(pages[0].form->Tot[0].caption, "100");
-    EXPECT_EQ(pages[1].form->Tot[0].caption, "200");
-    EXPECT_EQ(pages[3].form->Tot[0].caption, "310");
+    EXPECT_EQ(pages[0].state.form.Tot[0].caption, "100");
+    EXPECT_EQ(pages[1].state.form.Tot[0].caption, "200");
+    EXPECT_EQ(pages[3].state.form.Tot[0].caption, "310");
 }
 
 TEST_P(AllPages, areOneWhereAllRoomsFit)
 {
     desk.play({"--rooms-per-page", "29", "--zone", "2"}); // no room
-    EXPECT_EQ(desk.shell().allPages().size(), 1);
+    EXPECT_EQ(desk.shell().engine().allPages().size(), 1);
     desk.play({"--rooms-per-page", "29"});
-    EXPECT_EQ(desk.shell().allPages().size(), 2); // 29, and from room 31 on
+    EXPECT_EQ(desk.shell().engine().allPages().size(), 2); // 29, and from room 31 on
 }

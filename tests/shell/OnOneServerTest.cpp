@@ -20,14 +20,14 @@ public:
 
     /// Shows Monday, 17 March 2025, with its make-ups.
     void start() { m_desk.play({"--date", "2025-03-17", "--makeup"}); }
-    void refresh() { m_desk.shell().refresh().RefreshPlan(); }
+    void refresh() { m_desk.shell().engine().refreshPlan(); }
 
     void shiftClick(int marker) { click(marker, absences::VirtualKey::Shift); }
     void ctrlClick(int marker) { click(marker, absences::VirtualKey::Ctrl); }
 
     [[nodiscard]] const plan::PlanBox& box(int marker)
     {
-        return *m_desk.shell().refresh().box(marker);
+        return *m_desk.shell().engine().content().box(marker);
     }
     [[nodiscard]] ShellDesk& desk() { return m_desk; }
 
@@ -35,8 +35,7 @@ private:
     void click(int marker, absences::VirtualKey key)
     {
         m_pressed = key;
-        absences::Marking(m_desk.shell().refresh(), m_desk.shell().absences(), *this)
-            .Clic_Marqueur(marker);
+        m_desk.shell().engine().clickMarker(marker, *this);
     }
     std::int16_t state(absences::VirtualKey key) override
     {

@@ -38,9 +38,9 @@ TEMPORA_ON_BOTH_DATABASES(Player);
 TEST_P(Player, playsNothingWithoutOptions)
 {
     desk.start();
-    const std::uint64_t redraws = desk.shell().refresh().refreshCount();
+    const std::uint64_t redraws = desk.shell().engine().refreshCount();
     shell::play(desk.shell(), {});
-    EXPECT_EQ(desk.shell().refresh().refreshCount(), redraws);
+    EXPECT_EQ(desk.shell().engine().refreshCount(), redraws);
 }
 
 TEST_P(Player, choosesThePeriodByName)
@@ -170,7 +170,7 @@ TEST_P(Player, choosesTheDayOfADateWhileThePickerIsHidden)
     EXPECT_EQ(plan["title"].toString(), "Occupation des Salles du Mardi");
     EXPECT_EQ(plan["date"].toString(), "2025-04-22");
     EXPECT_EQ(boxTexts(plan, "A2").keys(), QList<int>({2}));
-    EXPECT_EQ(desk.shell().periods().CurrentDate(), QDate(2025, 4, 21));
+    EXPECT_EQ(desk.shell().engine().state().period.CurrentDate, QDate(2025, 4, 21));
 }
 
 TEST_P(Player, picksTheDateWhileThePickerIsShown)
@@ -237,7 +237,7 @@ TEST_P(Player, showsNoDayOnASunday)
         const QJsonObject plan = planAfter(arguments);
         EXPECT_EQ(desk.form().CbJour.listIndex(), -1);
         EXPECT_EQ(plan["date"].toString(), "2025-03-23");
-        EXPECT_EQ(desk.shell().periods().CurrentDate(), QDate(2025, 3, 17));
+        EXPECT_EQ(desk.shell().engine().state().period.CurrentDate, QDate(2025, 3, 17));
         EXPECT_TRUE(boxTexts(plan, "A2").isEmpty());
     }
 }

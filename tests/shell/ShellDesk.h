@@ -29,16 +29,20 @@ public:
     /// Starts up with the settings as they are by then.
     shell::Shell& load()
     {
-        shell::Environment environment;
-        environment.applicationFolder = setup.applicationFolder();
-        environment.today = [this] { return today; };
-        environment.seed = 1;
-        environment.processEvents = [this] { form::raise(whileYielding); };
-        environment.openFile = [this](const QString&, const QString&) { return chosenFile; };
-        environment.showMessage = [this](const QString& title, const QString& text) {
+        engine::Surroundings surroundings;
+        surroundings.applicationFolder = setup.applicationFolder();
+        surroundings.today = [this] { return today; };
+        surroundings.seed = 1;
+        surroundings.processEvents = [this] {
+            if (whileYielding) {
+                whileYielding();
+            }
+        };
+        surroundings.openFile = [this](const QString&, const QString&) { return chosenFile; };
+        surroundings.showMessage = [this](const QString& title, const QString& text) {
             messages.append(title + ": " + text);
         };
-        m_shell.emplace(shell::Settings::fromFile(setup.settingsFile()), std::move(environment));
+        m_shell.emplace(shell::Settings::fromFile(setup.settingsFile()), std::move(surroundings));
         m_shell->Form_Load();
         return *m_shell;
     }
@@ -71,9 +75,19 @@ public:
         writeFile(path, lines);
         return path;
     }
+    /// What an export is made of: the page as it is drawn, looked up anew, or all of them.
+    [[nodiscard]] files::PlanDocument drawn() const
+    {
+        return {{m_shell->engine().drawnPage()}, m_shell->fileDate()};
+    }
+    [[nodiscard]] files::PlanDocument document(bool allPages = false) const
+    {
+        return allPages ? files::PlanDocument{m_shell->engine().allPages(), m_shell->fileDate()}
+                        : files::PlanDocument{{m_shell->engine().shownPage()}, m_shell->fileDate()};
+    }
     [[nodiscard]] QJsonObject plan() const
     {
-        return QJsonDocument::fromJson(files::planAsJson(*m_shell)).object();
+        return QJsonDocument::fromJson(files::planAsJson(drawn())).object();
     }
 
     ProgramSetup setup;

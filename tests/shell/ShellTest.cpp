@@ -23,7 +23,7 @@ protected:
     [[nodiscard]] std::vector<form::Colour> rowColors()
     {
         std::vector<form::Colour> colors;
-        for (const plan::PlanRow& row : desk.shell().refresh().content().rows) {
+        for (const plan::PlanRow& row : desk.shell().engine().content().rows) {
             colors.push_back(row.color);
         }
         return colors;
@@ -69,11 +69,11 @@ TEST_P(TheShell, keepsTheColoursDrawnAtTheStartBeyondTheRowsShown)
 
 TEST_P(TheShell, ignoresEveryOtherKey)
 {
-    const std::uint64_t redraws = desk.shell().refresh().refreshCount();
+    const std::uint64_t redraws = desk.shell().engine().refreshCount();
     for (const int key : {112, 114, 13, 27, 0}) {
         desk.shell().Form_KeyDown(key);
     }
-    EXPECT_EQ(desk.shell().refresh().refreshCount(), redraws);
+    EXPECT_EQ(desk.shell().engine().refreshCount(), redraws);
 }
 
 TEST_P(TheShell, redrawsOnceForEveryChoice)
@@ -103,26 +103,26 @@ TEST_P(TheShell, redrawsOnceForEveryChoice)
         {"Label20", [&] { desk.shell().Label20_Click(); }},
     };
     for (const auto& [name, choose] : choices) {
-        const std::uint64_t before = desk.shell().refresh().refreshCount();
+        const std::uint64_t before = desk.shell().engine().refreshCount();
         choose();
-        EXPECT_EQ(desk.shell().refresh().refreshCount(), before + 1) << name;
+        EXPECT_EQ(desk.shell().engine().refreshCount(), before + 1) << name;
     }
 }
 
 TEST_P(TheShell, redrawsNothingForADateThatIsNotShownAndForCounting)
 {
-    const std::uint64_t redraws = desk.shell().refresh().refreshCount();
+    const std::uint64_t redraws = desk.shell().engine().refreshCount();
     desk.form().Check2.setChecked(true);
     desk.form().Check2.setChecked(false);
     desk.form().DTPicker1.setValue(QDate(2025, 4, 1));
     desk.form().Chk_Compt.setChecked(true);
-    EXPECT_EQ(desk.shell().refresh().refreshCount(), redraws);
+    EXPECT_EQ(desk.shell().engine().refreshCount(), redraws);
 }
 
 TEST_P(TheShell, showsTheClassesOfAGroupWhenItsCounterIsClicked)
 {
-    const auto& rows = desk.shell().refresh().content().rows;
-    desk.shell().options().Label2_Click(rows[1].boxes[0].group.value());
+    const auto& rows = desk.shell().engine().content().rows;
+    desk.shell().engine().Label2_Click(rows[1].boxes[0].group.value());
     EXPECT_EQ(desk.messages, QStringList({"Salles Occupées: G2\tMartin\r\nG3\tMartin"}));
 }
 
@@ -169,5 +169,5 @@ TEST_P(TheShell, servesTheSecondDigitOfTheRoomsPerPageWhileTheFirstIsDrawn)
     };
     desk.form().Total_L_P.setText("2");
     EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
-    EXPECT_EQ(desk.shell().page().PageOffset, 0);
+    EXPECT_EQ(desk.shell().engine().state().page.PageOffset, 0);
 }

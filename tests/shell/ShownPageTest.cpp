@@ -18,7 +18,7 @@ protected:
     [[nodiscard]] QStringList boxes()
     {
         QStringList found;
-        for (const plan::PlanRow& row : desk.shell().shownPage().content.rows) {
+        for (const plan::PlanRow& row : desk.shell().engine().shownPage().content.rows) {
             for (const plan::PlanBox& box : row.boxes) {
                 found.append(row.room + ' ' + QString::number(box.slot) + (box.makeUp ? "!" : ""));
             }
@@ -55,13 +55,13 @@ TEST_P(ShownPage, hasTheColoursOfTheWindow)
         desk.play({"--day", "0"});
         desk.form().Colorer.setChecked(colored);
         desk.form().OptA().select(); // a second drawing: each row has the colour of another entry
-        const auto& shown = desk.shell().refresh().content().rows;
-        const plan::PlanPage page = desk.shell().shownPage();
+        const auto& shown = desk.shell().engine().content().rows;
+        const plan::PlanPage page = desk.shell().engine().shownPage();
         ASSERT_EQ(page.content.rows.size(), shown.size());
         for (std::size_t row = 0; row < shown.size(); ++row) {
             EXPECT_EQ(page.content.rows[row].color, shown[row].color);
-            EXPECT_EQ(page.form->Salle[row + 1].backColor, shown[row].color);
-            EXPECT_EQ(page.form->Cap[row + 1].backColor, shown[row].color);
+            EXPECT_EQ(page.state.form.Salle[row + 1].backColor, shown[row].color);
+            EXPECT_EQ(page.state.form.Cap[row + 1].backColor, shown[row].color);
         }
     }
 }
@@ -72,29 +72,29 @@ TEST_P(ShownPage, hasTheTotalsOfTheWindow)
     // 3, 20.
     desk.play({"--rooms-per-page", "2", "--day", "0", "--counting", "--page", "2"});
     ASSERT_EQ(totals(desk.plan()).at(0), "60");
-    const plan::PlanPage page = desk.shell().shownPage();
-    EXPECT_EQ(page.form->Tot[0].caption, "60");
-    EXPECT_TRUE(page.form->Tot[0].visible);
-    EXPECT_EQ(page.content.rows.front().room, desk.shell().refresh().content().rows.front().room);
+    const plan::PlanPage page = desk.shell().engine().shownPage();
+    EXPECT_EQ(page.state.form.Tot[0].caption, "60");
+    EXPECT_TRUE(page.state.form.Tot[0].visible);
+    EXPECT_EQ(page.content.rows.front().room, desk.shell().engine().content().rows.front().room);
 }
 
 TEST_P(ShownPage, leavesTheWindowAsItIs)
 {
     desk.play({"--rooms-per-page", "2", "--day", "0", "--counting", "--page", "2"});
     const QJsonObject before = desk.plan();
-    const std::uint64_t refreshes = desk.shell().refresh().refreshCount();
+    const std::uint64_t refreshes = desk.shell().engine().refreshCount();
     desk.form().Check2.setChecked(true);
     const QJsonObject ticked = desk.plan();
     EXPECT_FALSE(boxes().isEmpty());
     EXPECT_EQ(desk.plan(), ticked);
     EXPECT_EQ(desk.plan()["rows"], before["rows"]);
-    EXPECT_EQ(desk.shell().refresh().refreshCount(), refreshes);
+    EXPECT_EQ(desk.shell().engine().refreshCount(), refreshes);
 }
 
 TEST_P(ShownPage, isNotNumbered)
 {
     desk.play({"--day", "0"});
-    EXPECT_EQ(desk.shell().shownPage().number, 0);
-    EXPECT_EQ(desk.shell().allPages().at(0).number, 1);
-    EXPECT_EQ(desk.shell().allPages().at(0).count, 1);
+    EXPECT_EQ(desk.shell().engine().shownPage().number, 0);
+    EXPECT_EQ(desk.shell().engine().allPages().at(0).number, 1);
+    EXPECT_EQ(desk.shell().engine().allPages().at(0).count, 1);
 }

@@ -61,7 +61,7 @@ TEST_P(Startup, leavesTheOptionsAsTheWindowsDesignHasThem)
     EXPECT_FALSE(form.Chk_Compt.isChecked());
     EXPECT_TRUE(form.Colorer.isChecked());
     EXPECT_TRUE(form.Check3.isChecked());
-    EXPECT_EQ(desk.shell().periods().CurrentDate(), QDate(2025, 3, 17));
+    EXPECT_EQ(desk.shell().engine().state().period.CurrentDate, QDate(2025, 3, 17));
 }
 
 TEST_P(Startup, listsTheExamWeeks)
@@ -85,25 +85,25 @@ TEST_P(Startup, readsHeaderPeriodsDepartmentsAndRooms)
     desk.load();
     const form::PlanForm& form = desk.form();
     EXPECT_EQ(form.Label4[4].caption, "Faculté Témoin");
-    EXPECT_EQ(desk.shell().establishment().UniversityName, "Université d'Essai");
-    EXPECT_EQ(desk.shell().establishment().AcademicYear, 2025);
+    EXPECT_EQ(desk.shell().engine().state().establishment.UniversityName, "Université d'Essai");
+    EXPECT_EQ(desk.shell().engine().state().establishment.AcademicYear, 2025);
     EXPECT_EQ(form.CbTranche.items(), QStringList({"Printemps", "Automne"}));
     EXPECT_EQ(form.CbTranche.text(), "Printemps");
     EXPECT_EQ(form.Label11.caption, "1");
     EXPECT_EQ(form.Label4[1].caption, "03/FÉVRIER/2025");
     EXPECT_EQ(form.Label4[3].caption, "06/JUIN/2025");
     EXPECT_EQ(form.Combo1.items(), QStringList({"INFO", "MATH"}));
-    EXPECT_EQ(desk.shell().page().RoomTotal, 5);
-    EXPECT_EQ(desk.shell().page().RowsShown, 4);
+    EXPECT_EQ(desk.shell().engine().state().page.RoomTotal, 5);
+    EXPECT_EQ(desk.shell().engine().state().page.RowsShown, 4);
     EXPECT_FALSE(form.Command3.enabled); // 5 rooms, 19 a page
 }
 
 TEST_P(Startup, drawsOnceTheWindowIsShown)
 {
     desk.load();
-    EXPECT_EQ(desk.shell().refresh().refreshCount(), 0U);
+    EXPECT_EQ(desk.shell().engine().refreshCount(), 0U);
     desk.shell().Form_Activate();
-    EXPECT_EQ(desk.shell().refresh().refreshCount(), 1U);
+    EXPECT_EQ(desk.shell().engine().refreshCount(), 1U);
     EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
 }
 
@@ -141,7 +141,7 @@ TEST_P(Startup, takesTheSettings)
     desk.load();
     const form::PlanForm& form = desk.form();
     EXPECT_EQ(form.Total_L_P.text(), "3");
-    EXPECT_EQ(desk.shell().page().RowsShown, 3);
+    EXPECT_EQ(desk.shell().engine().state().page.RowsShown, 3);
     EXPECT_TRUE(form.Command3.enabled); // 5 rooms, 3 a page
     EXPECT_FALSE(form.XOpEns.isChecked());
     EXPECT_FALSE(form.XOpCl.isChecked());
@@ -203,7 +203,7 @@ TEST_P(Startup, withoutAnyRoomShowsAnEmptyPlan)
 {
     database().execute("DELETE FROM salle");
     desk.start();
-    EXPECT_EQ(desk.shell().page().RowsShown, -1);
+    EXPECT_EQ(desk.shell().engine().state().page.RowsShown, -1);
     EXPECT_EQ(shownRooms(desk.plan()), QStringList());
 }
 
@@ -216,7 +216,7 @@ TEST_P(Startup, servesTwoHundredAndFiftySixRoomsAndRefusesOneMore)
     }
     database().execute("INSERT INTO salle (Nom, Zone, places) VALUES " + rooms.join(", "));
     desk.load();
-    EXPECT_EQ(desk.shell().page().RoomTotal, 256);
+    EXPECT_EQ(desk.shell().engine().state().page.RoomTotal, 256);
     database().execute("INSERT INTO salle (Nom, Zone, places) VALUES ('R256', 1, 20)");
     const runtime::RunTimeError error = errorAtStart();
     EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);

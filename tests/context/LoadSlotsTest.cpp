@@ -1,9 +1,8 @@
-#include "context/TimeSlots.h"
+#include "context/LoadSlots.h"
 
 #include "context/ContextDesk.h"
 #include "support/RuntimeMatchers.h"
 
-#include <limits>
 #include <optional>
 
 using namespace test;
@@ -35,12 +34,11 @@ protected:
         addSlot("Lundi4", "14h00", "15h30");
         addSlot("Mardi5", "15h30", "17h00"); // only Monday's slots count
     }
-    context::TimeSlots& load()
+    void load()
     {
         m_timetable->load();
         desk.emplace(database());
-        desk->slots.LoadSlots();
-        return desk->slots;
+        desk->loadSlots();
     }
     [[nodiscard]] const form::Label& total(std::size_t index) const
     {
@@ -58,7 +56,8 @@ private:
 TEST_P(TheSlots, areAsManyAsMondayHas)
 {
     addFourSlots();
-    EXPECT_EQ(load().SlotCount(), 4);
+    load();
+    EXPECT_EQ(desk->slots.SlotCount(), 4);
     EXPECT_TRUE(desk->slots.slot(4));
     EXPECT_FALSE(desk->slots.slot(5));
 }
@@ -66,7 +65,8 @@ TEST_P(TheSlots, areAsManyAsMondayHas)
 TEST_P(TheSlots, stayAsManyWhenTheyAreReadAgain)
 {
     addFourSlots();
-    load().LoadSlots();
+    load();
+    desk->loadSlots();
     EXPECT_EQ(desk->slots.SlotCount(), 4);
 }
 
@@ -113,7 +113,8 @@ TEST_P(TheSlots, hideAndEmptyTheTotalOfAMissingSlot)
 TEST_P(TheSlots, readTheEleventhSlot)
 {
     addSlot("Lundi11", "17h30", "19h00");
-    EXPECT_EQ(load().SlotCount(), 1);
+    load();
+    EXPECT_EQ(desk->slots.SlotCount(), 1);
     EXPECT_EQ(total(10).place.left, 1000 + 15200); // 570 minutes
 }
 
@@ -125,16 +126,6 @@ TEST_P(TheSlots, placeTheHourTicks)
         EXPECT_EQ(desk->form.Label1.at(static_cast<std::size_t>(hour)).place.left,
                   1000 + 1600 * hour);
     }
-}
-
-TEST_P(TheSlots, endTheAxisWhereTheLastTickOrSlotEnds)
-{
-    addFourSlots();
-    EXPECT_EQ(load().axisEnd(), 1000 + 11 * 1600); // the tick of 19h00
-    database().execute("INSERT INTO seances (Seance, Horaire1, Horaire2) "
-                       "VALUES ('Lundi5', '19h00', '20h30')");
-    desk->slots.LoadSlots();
-    EXPECT_EQ(desk->slots.axisEnd(), 1000 + 11 * 1600 + 2400);
 }
 
 TEST_P(TheSlots, refuseATimeThatIsNone)
@@ -158,14 +149,14 @@ TEST_P(TheSlots, areNeededWithTheirTableAndColumns)
     load();
     database().execute("ALTER TABLE seances RENAME COLUMN Horaire2 TO Fin");
     EXPECT_EQ(desk->slots.SlotCount(), 0);
-    desk->slots.LoadSlots(); // without a row nothing asks for the column
+    desk->loadSlots(); // without a row nothing asks for the column
     database().execute("INSERT INTO seances (Seance, Horaire1) VALUES ('Lundi1', '8h00')");
-    const runtime::RunTimeError noColumn = errorOf([&] { desk->slots.LoadSlots(); });
+    const runtime::RunTimeError noColumn = errorOf([&] { desk->loadSlots(); });
     EXPECT_EQ(noColumn.number(), ErrorNumber::ItemNotFound);
     EXPECT_EQ(noColumn.activity(),
               "Lecture de l’horaire de la séance « Lundi1 » (table « seances »)");
     database().execute("DROP TABLE seances");
-    const runtime::RunTimeError noTable = errorOf([&] { desk->slots.LoadSlots(); });
+    const runtime::RunTimeError noTable = errorOf([&] { desk->loadSlots(); });
     EXPECT_EQ(noTable.number(), ErrorNumber::TableMissing);
     EXPECT_EQ(noTable.activity(), noColumn.activity());
 }
@@ -176,7 +167,7 @@ TEST_P(TheSlots, refuseATimeThatIsNullAndNameItsSlot)
     load();
     for (const char* column : {"Horaire2", "Horaire1"}) {
         database().execute(QString("UPDATE seances SET %1=NULL WHERE Seance='Lundi3'").arg(column));
-        const runtime::RunTimeError error = errorOf([&] { desk->slots.LoadSlots(); });
+        const runtime::RunTimeError error = errorOf([&] { desk->loadSlots(); });
         EXPECT_EQ(error.number(), ErrorNumber::InvalidUseOfNull) << column;
         EXPECT_EQ(error.activity(),
                   "Lecture de l’horaire de la séance « Lundi3 » (table « seances »)");
@@ -189,10 +180,10 @@ TEST_P(TheSlots, giveTheRoomsPlacesByName)
     addRoom(1, "A1", 30);
     addRoom(2, "B1", 40);
     load();
-    EXPECT_EQ(desk->slots.RoomPlaces(0), 30);
-    EXPECT_EQ(desk->slots.RoomPlaces(1), 40);
-    EXPECT_EQ(desk->slots.RoomPlaces(2), 50);
-    EXPECT_EQ(desk->slots.RoomPlaces(3), 0);
+    EXPECT_EQ(desk->places.at(0), 30);
+    EXPECT_EQ(desk->places.at(1), 40);
+    EXPECT_EQ(desk->places.at(2), 50);
+    EXPECT_EQ(desk->places.at(3), 0);
 }
 
 TEST_P(TheSlots, giveThePlacesOfTheZonesRoomsOnly)
@@ -202,9 +193,9 @@ TEST_P(TheSlots, giveThePlacesOfTheZonesRoomsOnly)
     addRoom(2, "B1", 40);
     load();
     desk->form.cb_Locaux.design({"0", "1", "2"}, 2);
-    desk->slots.LoadSlots();
-    EXPECT_EQ(desk->slots.RoomPlaces(0), 40);
-    EXPECT_EQ(desk->slots.RoomPlaces(1), 50);
+    desk->loadSlots();
+    EXPECT_EQ(desk->places.at(0), 40);
+    EXPECT_EQ(desk->places.at(1), 50);
 }
 
 TEST_P(TheSlots, hold256RoomsAndNoMore)
@@ -213,9 +204,9 @@ TEST_P(TheSlots, hold256RoomsAndNoMore)
         addRoom(1, QString("R%1").arg(room, 3, 10, QChar('0')), room);
     }
     load();
-    EXPECT_EQ(desk->slots.RoomPlaces(255), 255);
+    EXPECT_EQ(desk->places.at(255), 255);
     database().execute("INSERT INTO salle (Zone, Nom, places) VALUES (1, 'R256', 1)");
-    const runtime::RunTimeError error = errorOf([&] { desk->slots.LoadSlots(); });
+    const runtime::RunTimeError error = errorOf([&] { desk->loadSlots(); });
     EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(error.activity(), "Lecture des places de 257 salles (256 au plus)");
 }
@@ -233,47 +224,8 @@ TEST_P(TheSlots, takeARoomWithoutPlacesForNone)
     addRoom(1, "A1", 30);
     load();
     database().execute("UPDATE salle SET places=NULL");
-    desk->slots.LoadSlots();
-    EXPECT_EQ(desk->slots.RoomPlaces(0), 0);
-}
-
-TEST_P(TheSlots, haveNoRoomBefore0OrFrom256On)
-{
-    load();
-    for (const int index : {-1, 256}) {
-        EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk->slots.RoomPlaces(index)); }),
-                  ErrorNumber::SubscriptOutOfRange);
-    }
-}
-
-TEST_P(TheSlots, areOverrunByALongerOccupation)
-{
-    addFourSlots();
-    load();
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(2, 90)); // ends as slot 2 starts
-    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(2, 91));
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(3, 180)); // 9h30 to 12h30: the gap is used up
-    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(3, 181));
-    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(4, 180));
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(4, 0));
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(4, -90));
-}
-
-TEST_P(TheSlots, areOverrunHoweverLongTheOccupation)
-{
-    addFourSlots();
-    load();
-    EXPECT_TRUE(desk->slots.OverrunsIntoSlot(2, std::numeric_limits<int>::max()));
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(2, std::numeric_limits<int>::min()));
-}
-
-TEST_P(TheSlots, areNeverOverrunWhereTheDayHasNone)
-{
-    addFourSlots();
-    load();
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(5, 600));
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(6, 600));
-    EXPECT_FALSE(desk->slots.OverrunsIntoSlot(11, 600));
+    desk->loadSlots();
+    EXPECT_EQ(desk->places.at(0), 0);
 }
 
 TEMPORA_ON_BOTH_DATABASES(TheSlots);

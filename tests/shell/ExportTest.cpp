@@ -1,6 +1,8 @@
-#include "files/Export.h"
+#include "shell/Export.h"
 
+#include "files/FileFormat.h"
 #include "files/PictureExport.h"
+#include "files/WholeFile.h"
 #include "shell/ShellDesk.h"
 #include "support/TestFolder.h"
 
@@ -59,10 +61,10 @@ TEMPORA_ON_BOTH_DATABASES(Export);
 TEST_P(Export, writesTheFormThatTheEndingNames)
 {
     const QString folder = emptyFolder();
-    files::exportPlan(desk.shell(), folder + "/plan.json");
-    files::exportPlan(desk.shell(), folder + "/Plan.PNG");
-    EXPECT_EQ(bytesOf(folder + "/plan.json"), files::planAsJson(desk.shell()));
-    EXPECT_EQ(bytesOf(folder + "/Plan.PNG"), files::planAsPng(desk.shell()));
+    shell::exportPlan(desk.shell(), folder + "/plan.json");
+    shell::exportPlan(desk.shell(), folder + "/Plan.PNG");
+    EXPECT_EQ(bytesOf(folder + "/plan.json"), files::planAsJson(desk.drawn()));
+    EXPECT_EQ(bytesOf(folder + "/Plan.PNG"), files::planAsPng(desk.drawn()));
 }
 
 TEST_P(Export, writesEveryPageWhenAskedTo)
@@ -70,8 +72,8 @@ TEST_P(Export, writesEveryPageWhenAskedTo)
     const QString folder = emptyFolder();
     desk.form().Total_L_P.setText("2");
     for (const char* name : {"plan.pdf", "plan.csv", "plan.html"}) {
-        files::exportPlan(desk.shell(), folder + "/one-" + name);
-        files::exportPlan(desk.shell(), folder + "/all-" + name, true);
+        shell::exportPlan(desk.shell(), folder + "/one-" + name);
+        shell::exportPlan(desk.shell(), folder + "/all-" + name, true);
         EXPECT_GT(bytesOf(folder + "/all-" + name).size(), bytesOf(folder + "/one-" + name).size());
     }
     EXPECT_TRUE(bytesOf(folder + "/all-plan.pdf").startsWith("%PDF-"));
@@ -83,10 +85,10 @@ TEST_P(Export, writesTheSameBytesInEveryWeek)
     for (const char* name : {"plan.pdf", "plan.csv", "plan.html"}) {
         desk.today = QDate(2025, 3, 26);
         desk.play({"--day", "0"});
-        files::exportPlan(desk.shell(), folder + "/march-" + name);
+        shell::exportPlan(desk.shell(), folder + "/march-" + name);
         desk.today = QDate(2025, 5, 8);
         desk.play({"--day", "0"});
-        files::exportPlan(desk.shell(), folder + "/may-" + name);
+        shell::exportPlan(desk.shell(), folder + "/may-" + name);
         EXPECT_EQ(bytesOf(folder + "/may-" + name), bytesOf(folder + "/march-" + name)) << name;
     }
 }
@@ -95,13 +97,13 @@ TEST_P(Export, replacesWhatWasThere)
 {
     const QString path = emptyFolder() + "/plan.json";
     writeFile(path, QString(100000, 'x'));
-    files::exportPlan(desk.shell(), path);
-    EXPECT_EQ(bytesOf(path), files::planAsJson(desk.shell()));
+    shell::exportPlan(desk.shell(), path);
+    EXPECT_EQ(bytesOf(path), files::planAsJson(desk.drawn()));
 }
 
 TEST_P(Export, drawsThePlanWithItsBoxes)
 {
-    const QImage picture = QImage::fromData(files::planAsPng(desk.shell()), "PNG");
+    const QImage picture = QImage::fromData(files::planAsPng(desk.drawn()), "PNG");
     // The axis ends with 19h00, 660 × 2400 / 90 = 17600 twips behind its beginning, with the places
     // behind it; a pixel is 15 twips.
     const int end = (desk.form().Label1[0].place.left + 17600) / 15;
@@ -109,7 +111,7 @@ TEST_P(Export, drawsThePlanWithItsBoxes)
     EXPECT_LT(picture.width(), end + 150);
     EXPECT_GT(picture.height(), 200);
     // The middle of A2's box in slot 1, above its text, has the row's colour, as the room's label.
-    const form::Colour color = desk.shell().refresh().content().rows[0].color;
+    const form::Colour color = desk.shell().engine().content().rows[0].color;
     int found = 0;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
@@ -123,9 +125,9 @@ TEST_P(Export, drawsThePlanWithItsBoxes)
 
 TEST_P(Export, drawsTheSamePictureForTheSamePlan)
 {
-    const QByteArray first = files::planAsPng(desk.shell());
+    const QByteArray first = files::planAsPng(desk.drawn());
     desk.start();
-    EXPECT_EQ(files::planAsPng(desk.shell()), first);
+    EXPECT_EQ(files::planAsPng(desk.drawn()), first);
 }
 
 TEST(ExportFile, isNamedWhenItsFolderDoesNotExist)
