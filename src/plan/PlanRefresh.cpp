@@ -49,6 +49,7 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
         return;
     }
     const std::uint64_t refresh = ++m_refreshes;
+    m_inProgress = refresh;
     startTotals(start);
     ClearPlanOverlays();
     m_state.colors.reseed();
@@ -60,7 +61,7 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
         if (m_yields) {
             m_yield();
         }
-        if (refresh != m_refreshes) {
+        if (m_inProgress != refresh) {
             return;
         }
     }

@@ -47,10 +47,10 @@ public:
     /// event meets the state in between.
     void withoutYielding(const std::function<void()>& action);
     /// Makes a refresh in progress end where it stands: the window closes.
-    void abandon() { ++m_refreshes; }
+    void abandon() { m_inProgress = 0; }
 
     [[nodiscard]] const PlanContent& content() const { return m_content; }
-    /// How many refreshes have started or were given up.
+    /// How many refreshes have started.
     [[nodiscard]] std::uint64_t refreshCount() const { return m_refreshes; }
 
     [[nodiscard]] MarkerRecords& markers() { return m_markers; }
@@ -84,6 +84,7 @@ private:
     int m_nextRow = 1; ///< row that the refresh in progress comes to next
     int m_lastRow = 0; ///< row that it ends with
     std::uint64_t m_refreshes = 0;
+    std::uint64_t m_inProgress = 0; ///< number of the refresh that goes on; 0 for none
 };
 
 /// How many persons a text such as "Dupont/Durand" names: 1 to 3, never more.
