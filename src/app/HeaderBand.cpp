@@ -46,7 +46,15 @@ HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help
     names->addWidget(university);
 
     auto* title = label(QStringLiteral("XSalle"), QStringLiteral("title"));
-    mirror.follow([title, &form] { title->setText(form.title()); });
+    mirror.follow([title, &form] {
+        title->setText(form.title());
+        // The title's font is the control's own; all other texts have the window's.
+        const QString style =
+            QStringLiteral("font-family: \"%1\", \"Arial\";").arg(form.XSalle.font.name);
+        if (title->styleSheet() != style) {
+            title->setStyleSheet(style);
+        }
+    });
 
     auto* dates = new QHBoxLayout;
     dates->setSpacing(6);

@@ -197,8 +197,10 @@ void PlClasse::forward(const std::function<void()>& action)
     }
     try {
         action();
-    } catch (const runtime::RunTimeError& error) {
-        fail(error);
+    } catch (const shell::UsageError&) {
+        throw; // for whoever played the command line
+    } catch (...) {
+        fail(runtime::faultInFlight());
     }
     if (!hasEnded()) {
         syncWidgets();
@@ -280,8 +282,8 @@ void PlClasse::closeEvent(QCloseEvent* event)
     if (!hasEnded()) {
         try {
             m_shell.Form_Unload();
-        } catch (const runtime::RunTimeError& error) {
-            fail(error); // settings that cannot be saved; the window closes all the same
+        } catch (...) { // settings that cannot be saved; the window closes all the same
+            fail(runtime::faultInFlight());
         }
         m_closed = true;
     }

@@ -41,6 +41,10 @@ public:
     /// under way, such as the closed database, is no fault.
     void forward(const std::function<void()>& action);
 
+    /// Tells of a fault and ends the program with exit code 1, without saving anything. Once the
+    /// window is closed nothing is told.
+    void fail(const runtime::RunTimeError& error);
+
     [[nodiscard]] shell::Shell& shell() { return m_shell; }
     /// Whether a fault has ended the program.
     [[nodiscard]] bool failed() const { return m_failed; }
@@ -61,7 +65,6 @@ private:
     void serveFocusRequest();
     void processEvents();
     [[nodiscard]] bool hasEnded() const { return m_failed || m_closed; }
-    void fail(const runtime::RunTimeError& error);
     void clickMarker(int marker);
     void showHelp();
 

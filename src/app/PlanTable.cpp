@@ -213,7 +213,11 @@ QString PlanTable::note() const
         }
     }
     if (!totals.isEmpty()) {
-        sentences << QStringLiteral("Places occupées, %1.").arg(totals.join(QStringLiteral(", ")));
+        const QString counted = m_state.totals.isOld
+                                    ? QStringLiteral("Places occupées, comptées avant le dernier "
+                                                     "choix, %1.")
+                                    : QStringLiteral("Places occupées, %1.");
+        sentences << counted.arg(totals.join(QStringLiteral(", ")));
     }
     return sentences.join(u' ');
 }

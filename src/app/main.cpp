@@ -1,3 +1,4 @@
+#include "app/Application.h"
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
 #include "app/PlClasse.h"
@@ -7,7 +8,7 @@
 #include "shell/Export.h"
 #include "shell/Player.h"
 
-#include <QApplication>
+#include <QScopeGuard>
 #include <QStyleFactory>
 #include <QTranslator>
 
@@ -74,9 +75,12 @@ void exportWithoutWindow(const shell::CommandLine& line)
     shell::exportPlan(shell, line.exportFile, line.allPages);
 }
 
-int runWindow(const shell::CommandLine& line)
+int runWindow(app::Application& application, const shell::CommandLine& line)
 {
     app::PlClasse window(openSettings(line), surroundingsFor(line));
+    application.onFault = [&window](const runtime::RunTimeError& fault) { window.fail(fault); };
+    const auto untie =
+        qScopeGuard([&application] { application.onFault = app::Application::tellAndExit; });
     return window.run(line);
 }
 
@@ -109,7 +113,7 @@ int runProgram(int argc, char* argv[])
         drawInMemory();
     }
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const QApplication application(argc, argv);
+    app::Application application(argc, argv);
     QTranslator french;
     if (app::loadFrenchTexts(french)) {
         QCoreApplication::installTranslator(&french);
@@ -118,7 +122,7 @@ int runProgram(int argc, char* argv[])
         exportWithoutWindow(line);
         return kDone;
     }
-    return runWindow(line);
+    return runWindow(application, line);
 }
 
 } // namespace
@@ -130,14 +134,14 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));
     try {
         return runProgram(argc, argv);
-    } catch (const runtime::RunTimeError& error) {
-        app::reportRunTimeError(nullptr, error);
-        return kFailed;
     } catch (const files::ExportError& error) {
         app::writeError(QString::fromUtf8(error.what()));
         return kFailed;
     } catch (const shell::UsageError& error) {
         app::writeError(QString::fromUtf8(error.what()));
         return kUsage;
+    } catch (...) {
+        app::reportRunTimeError(nullptr, runtime::faultInFlight());
+        return kFailed;
     }
 }

@@ -1,5 +1,7 @@
 #include "runtime/RunTimeError.h"
 
+#include <new>
+
 namespace runtime
 {
 
@@ -10,6 +12,10 @@ QString platformErrorText(ErrorNumber number)
         return QStringLiteral("Invalid procedure call or argument");
     case ErrorNumber::Overflow:
         return QStringLiteral("Overflow");
+    case ErrorNumber::OutOfMemory:
+        return QStringLiteral("Out of memory");
+    case ErrorNumber::InternalError:
+        return QStringLiteral("Internal error");
     case ErrorNumber::SubscriptOutOfRange:
         return QStringLiteral("Subscript out of range");
     case ErrorNumber::TypeMismatch:
@@ -62,6 +68,26 @@ QString RunTimeError::message() const
         message += QStringLiteral("\n\n") + m_activity;
     }
     return message;
+}
+
+RunTimeError faultInFlight()
+{
+    try {
+        throw;
+    } catch (const RunTimeError& error) {
+        return error;
+    } catch (const std::bad_alloc&) {
+        return RunTimeError(ErrorNumber::OutOfMemory);
+    } catch (const std::exception& fault) {
+        RunTimeError error(ErrorNumber::InternalError);
+        error.addActivity(QStringLiteral("Faute inattendue du programme : ") +
+                          QString::fromUtf8(fault.what()));
+        return error;
+    } catch (...) {
+        RunTimeError error(ErrorNumber::InternalError);
+        error.addActivity(QStringLiteral("Faute inattendue du programme"));
+        return error;
+    }
 }
 
 } // namespace runtime

@@ -13,8 +13,10 @@ namespace runtime
 enum class ErrorNumber : int {
     InvalidProcedureCall = 5,
     Overflow = 6,
+    OutOfMemory = 7,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
+    InternalError = 51, ///< a fault of the program itself or of a library
     FileNotFound = 53,
     PathFileAccess = 75,
     InvalidUseOfNull = 94,
@@ -57,6 +59,10 @@ private:
     QString m_activity;
     QByteArray m_what; // UTF-8 of the text, kept so that what() cannot fail
 };
+
+/// The exception that is being handled, whatever its type, as a run-time error: what no code
+/// expects is told like all else. Requires: called from a catch block.
+[[nodiscard]] RunTimeError faultInFlight();
 
 /// Runs `action`; a run-time error that leaves it is told what was being done.
 template <typename Action>

@@ -141,3 +141,15 @@ TEST_F(WindowsLife, endsWithABoxAndOneWhenTheSettingsCannotBeSaved)
                                      "error\n\nEnregistrement des paramètres (« " +
                                      setup.settingsFile() + " »)"}));
 }
+
+TEST_F(WindowsLife, endsWithABoxAndOneAfterAFaultThatNobodyExpects)
+{
+    open();
+    whenItServes([this] {
+        window().shell().form().Check3.click = [] { throw std::logic_error("boum"); };
+        control<QCheckBox>("Check3")->click();
+    });
+    EXPECT_EQ(run(), 1);
+    EXPECT_EQ(messages, QStringList({"RunTimeError: Run-time error '51':\n\nInternal error\n\n"
+                                     "Faute inattendue du programme : boum"}));
+}

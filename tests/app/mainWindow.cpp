@@ -1,8 +1,8 @@
 // The tests of the window: on a real X server, whatever platform the environment names.
 
+#include "app/Application.h"
 #include "support/XSession.h"
 
-#include <QApplication>
 #include <gtest/gtest.h>
 #include <iostream>
 
@@ -13,7 +13,7 @@ int main(int argc, char** argv)
         const test::XSession session(QSize(1920, 1080));
         qputenv("DISPLAY", session.display());
         qputenv("QT_QPA_PLATFORM", "xcb");
-        QApplication application(argc, argv);
+        app::Application application(argc, argv);
         QApplication::setStyle("Fusion"); // as the program does
         // Two clicks of a test never mean a double click.
         QApplication::setDoubleClickInterval(1);

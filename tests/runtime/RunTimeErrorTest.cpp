@@ -2,6 +2,9 @@
 
 #include "support/RuntimeMatchers.h"
 
+#include <new>
+#include <stdexcept>
+
 using namespace runtime;
 
 TEST(ARunTimeError, showsItsNumberAnEmptyLineAndItsText)
@@ -73,4 +76,45 @@ TEST(SkipOnError, tellsWhetherTheStepSucceeded)
 TEST(SkipOnError, letsEveryOtherExceptionThrough)
 {
     EXPECT_THROW(skipOnError([] { throw 1; }), int);
+}
+
+TEST(FaultInFlight, isTheRunTimeErrorItself)
+{
+    try {
+        RunTimeError error(ErrorNumber::TypeMismatch);
+        error.addActivity("Lecture");
+        throw error;
+    } catch (...) {
+        const RunTimeError told = runtime::faultInFlight();
+        EXPECT_EQ(told.number(), ErrorNumber::TypeMismatch);
+        EXPECT_EQ(told.activity(), "Lecture");
+    }
+}
+
+TEST(FaultInFlight, namesWhatNobodyExpects)
+{
+    try {
+        throw std::out_of_range("no such row");
+    } catch (...) {
+        const RunTimeError told = runtime::faultInFlight();
+        EXPECT_EQ(told.number(), ErrorNumber::InternalError);
+        EXPECT_EQ(told.text(), "Internal error");
+        EXPECT_EQ(told.activity(), "Faute inattendue du programme : no such row");
+    }
+    try {
+        throw 7; // NOLINT: whatever a library throws
+    } catch (...) {
+        EXPECT_EQ(runtime::faultInFlight().activity(), "Faute inattendue du programme");
+    }
+}
+
+TEST(FaultInFlight, saysWhenMemoryIsShort)
+{
+    try {
+        throw std::bad_alloc();
+    } catch (...) {
+        const RunTimeError told = runtime::faultInFlight();
+        EXPECT_EQ(told.number(), ErrorNumber::OutOfMemory);
+        EXPECT_EQ(told.text(), "Out of memory");
+    }
 }
