@@ -104,3 +104,29 @@ TEST_F(ThePlansToolTips, tellTheRoomOfARow)
                      "pas dessinées ici");
     EXPECT_EQ(at(5), ""); // no such room
 }
+
+TEST_F(ThePlansToolTips, sayThatTheTotalsWereCountedBeforeTheLastChoice)
+{
+    open();
+    window().forward([this] {
+        form().Chk_Compt.setChecked(true);
+        form().CbJour.setListIndex(0);
+    });
+    const auto overTheFirstTotal = [this] {
+        const form::Place& place = form().Tot[0].place;
+        const double x = view()->target().toPixelsX(place.left + place.width / 2.0);
+        const int bottom = view()->viewport()->height();
+        return QPoint(static_cast<int>(view()->toViewport({x, 0}).x()), bottom - 8);
+    };
+    EXPECT_EQ(view()->toolTipAt(overTheFirstTotal()), "");
+    // All rooms stand on the one page: stepping on stops the counting, and an option redraws.
+    window().forward([this] {
+        form().Command3.click.raise();
+        form().Check3.setChecked(false);
+    });
+    EXPECT_EQ(view()->toolTipAt(overTheFirstTotal()),
+              "Places occupées, comptées avant le dernier choix.\n"
+              "Choisir le jour les compte à nouveau.");
+    window().forward([this] { form().CbJour.setListIndex(0); });
+    EXPECT_EQ(view()->toolTipAt(overTheFirstTotal()), "");
+}

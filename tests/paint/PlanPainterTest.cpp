@@ -227,6 +227,16 @@ TEST_F(APaintedPlan, showsTheTotalsThatAreNotHidden)
     EXPECT_LE(total.right(), 428);
 }
 
+TEST_F(APaintedPlan, greysTheTotalsThatWereCountedBeforeTheLastChoice)
+{
+    desk.form.Tot[1].visible = true;
+    desk.form.Tot[1].caption = "300";
+    const QRect inside(275, 3, 30, 12); // 9h30 is at 268, the number in the middle of 160 pixels
+    EXPECT_EQ(paint(&PlanPainter::paintTotals).count(Qt::white, inside), 30 * 12);
+    desk.totals.isOld = true;
+    EXPECT_EQ(paint(&PlanPainter::paintTotals).count(QColor(236, 236, 236), inside), 30 * 12);
+}
+
 TEST_F(APaintedPlan, endsWithItsLastRow)
 {
     const PlanScene scene = sceneOf(desk.state, desk.engine.content(), DrawingTarget());

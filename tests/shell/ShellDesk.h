@@ -33,6 +33,7 @@ public:
         surroundings.applicationFolder = setup.applicationFolder();
         surroundings.today = [this] { return today; };
         surroundings.seed = 1;
+        surroundings.plain = plain;
         surroundings.processEvents = [this] {
             if (whileYielding) {
                 whileYielding();
@@ -92,6 +93,8 @@ public:
 
     ProgramSetup setup;
     QDate today{2025, 3, 19};
+    /// Whether every question is a statement of its own.
+    bool plain = false;
     /// Runs once per row of a refresh, as waiting events would.
     std::function<void()> whileYielding;
     /// What the user answers when asked for a file.

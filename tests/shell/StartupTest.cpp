@@ -107,6 +107,22 @@ TEST_P(Startup, drawsOnceTheWindowIsShown)
     EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
 }
 
+TEST_P(Startup, asksTheDatabaseNineTimes)
+{
+    // The establishment, the rooms (counted and listed), all periods, the one of the settings, its
+    // dates, the slots, the first page, the types of séances, the departments.
+    desk.load();
+    EXPECT_EQ(desk.shell().engine().statementCount(), 9);
+}
+
+TEST_P(Startup, asksTheDatabaseOneQuestionATimeInThePlainWay)
+{
+    // The rooms are counted and listed by statements of their own, and so is each of eleven slots.
+    desk.plain = true;
+    desk.load();
+    EXPECT_EQ(desk.shell().engine().statementCount(), 20);
+}
+
 TEST_P(Startup, placesTheTotalsAboveTheWindowsBottom)
 {
     desk.load();
