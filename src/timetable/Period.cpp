@@ -1,0 +1,47 @@
+#include "timetable/Period.h"
+
+namespace timetable
+{
+namespace
+{
+
+constexpr int kDaysOfWeek = 7;
+constexpr int kDaysOfExamWeek = 6;
+constexpr int kWeeksBeforeControls = 4;
+
+/// The first Monday after the day, never the day itself.
+QDate nextMonday(QDate day)
+{
+    return day.isValid() ? day.addDays(kDaysOfWeek + Qt::Monday - day.dayOfWeek()) : QDate();
+}
+
+} // namespace
+
+bool Period::holds(QDate day) const
+{
+    return !(firstDay.isValid() && day < firstDay) && !(lastDay.isValid() && day > lastDay);
+}
+
+ExamWeeks ExamWeeks::usualOf(const Period& period)
+{
+    const QDate exams = nextMonday(period.lastDay);
+    // Controls are held early in the period, so they are counted from its first day.
+    const QDate afterFourWeeks = period.firstDay.isValid()
+                                     ? period.firstDay.addDays(kWeeksBeforeControls * kDaysOfWeek)
+                                     : QDate();
+    return {{exams, exams.isValid() ? exams.addDays(kDaysOfWeek) : QDate(),
+             nextMonday(afterFourWeeks)}};
+}
+
+std::optional<QDate> ExamWeeks::date(int week, int day) const
+{
+    const bool isNamed = week >= 1 && week <= static_cast<int>(firstDays.size()) && day >= 0 &&
+                         day < kDaysOfExamWeek;
+    if (!isNamed) {
+        return std::nullopt;
+    }
+    const QDate first = firstDays.at(static_cast<std::size_t>(week - 1));
+    return first.isValid() ? std::optional(first.addDays(day)) : std::nullopt;
+}
+
+} // namespace timetable

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <algorithm>
+#include <compare>
+
+namespace timetable
+{
+
+/// A length of time.
+struct Minutes {
+    int value = 0;
+    friend constexpr auto operator<=>(Minutes, Minutes) = default;
+};
+
+/// A time of day, in minutes since midnight. An end may lie beyond 1440: the day's meetings stay
+/// the day's, however long.
+struct MinuteOfDay {
+    int value = 0;
+    friend constexpr auto operator<=>(MinuteOfDay, MinuteOfDay) = default;
+};
+
+[[nodiscard]] constexpr MinuteOfDay operator+(MinuteOfDay time, Minutes length)
+{
+    return {time.value + length.value};
+}
+
+[[nodiscard]] constexpr Minutes operator-(MinuteOfDay to, MinuteOfDay from)
+{
+    return {to.value - from.value};
+}
+
+/// A stretch of a day, half-open: the next one may begin exactly at `end`.
+struct TimeSpan {
+    MinuteOfDay start;
+    Minutes length;
+
+    [[nodiscard]] constexpr MinuteOfDay end() const { return start + length; }
+    /// Whether the two have at least one minute in common.
+    [[nodiscard]] constexpr bool meets(const TimeSpan& other) const
+    {
+        return std::max(start, other.start) < std::min(end(), other.end());
+    }
+
+    friend constexpr auto operator<=>(const TimeSpan&, const TimeSpan&) = default;
+};
+
+/// The stretch between two times of a day. Requires: `end` is not before `start`.
+[[nodiscard]] constexpr TimeSpan between(MinuteOfDay start, MinuteOfDay end)
+{
+    return {start, end - start};
+}
+
+} // namespace timetable
