@@ -1,0 +1,101 @@
+#include "timetable/MeetingRows.h"
+
+#include "runtime/RunTimeError.h"
+#include "timetable/PackedRow.h"
+
+#include <algorithm>
+
+namespace timetable
+{
+namespace
+{
+
+std::vector<SqlName> namesOf(std::span<const FieldColumn> columns)
+{
+    std::vector<SqlName> names;
+    for (const FieldColumn& each : columns) {
+        names.push_back(each.column);
+    }
+    return names;
+}
+
+/// Where the columns of a result stand; -1 for a column that it does not have.
+std::vector<int> positionsOf(std::span<const FieldColumn> columns, const db::Columns& result)
+{
+    std::vector<int> positions;
+    for (const FieldColumn& each : columns) {
+        int& position = positions.emplace_back(-1);
+        runtime::skipOnError([&] { position = result.position(each.column); });
+    }
+    return positions;
+}
+
+} // namespace
+
+/// SQLite takes a period for a few rows unless told otherwise, and looks up each by itself where
+/// walking through the table is quicker. The hint changes nothing else.
+QString MeetingRows::source() const
+{
+    const QString ofPeriod = column::kTranche + QStringLiteral(" =") + QString::number(m_period);
+    return QStringLiteral(" from ") + tableOf(m_kind) + QStringLiteral(" where ") +
+           (m_connection.isEmbedded()
+                ? QStringLiteral("likelihood(") + ofPeriod + QStringLiteral(",0.9)")
+                : ofPeriod);
+}
+
+bool MeetingRows::readPacked(MeetingTaker& taker)
+{
+    const std::span<const FieldColumn> columns = columnsOf(m_kind);
+    const Packing packing = m_connection.isEmbedded() ? Packing::Json : Packing::Separated;
+    db::Recordset rows;
+    try {
+        rows = m_connection.open(QStringLiteral("select ") + packed(packing, namesOf(columns)) +
+                                 QStringLiteral(" as packed") + source());
+    } catch (const runtime::RunTimeError& error) {
+        if (error.number() != runtime::ErrorNumber::StatementRefused) {
+            throw;
+        }
+        return false;
+    }
+    taker.expect(rows.rows().size());
+    PackedRow packedRow(packing, columns.size());
+    MeetingTexts texts;
+    for (const db::Row& row : rows.rows()) {
+        const db::Value whole = row.field(0);
+        const auto* const text = std::get_if<QString>(&whole.variant());
+        if (text == nullptr || !packedRow.unpack(*text)) {
+            return false;
+        }
+        for (std::size_t index = 0; index < columns.size(); ++index) {
+            texts[columns[index].field] = packedRow.fields()[index];
+        }
+        taker.take(texts);
+    }
+    return true;
+}
+
+void MeetingRows::readAll(MeetingTaker& taker)
+{
+    const db::Recordset rows = m_connection.open(QStringLiteral("select *") + source());
+    if (rows.isEmpty()) {
+        return;
+    }
+    taker.expect(rows.rows().size());
+    const std::span<const FieldColumn> columns = columnsOf(m_kind);
+    const std::vector<int> positions = positionsOf(columns, *rows.columns());
+    std::vector<QString> kept(columns.size());
+    MeetingTexts texts;
+    for (const db::Row& row : rows.rows()) {
+        for (std::size_t index = 0; index < columns.size(); ++index) {
+            const db::Value value =
+                positions[index] < 0 ? db::Value() : row.field(positions[index]);
+            kept[index] = value.toJoinedText();
+            texts[columns[index].field] = value.isNull()          ? QStringView()
+                                          : kept[index].isEmpty() ? QStringView(u"")
+                                                                  : QStringView(kept[index]);
+        }
+        taker.take(texts);
+    }
+}
+
+} // namespace timetable

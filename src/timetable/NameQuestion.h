@@ -1,0 +1,26 @@
+#pragma once
+
+#include "timetable/SqlName.h"
+#include "timetable/TextPool.h"
+
+#include <functional>
+#include <vector>
+
+namespace timetable
+{
+
+/// "Which of these texts are equal where that column is compared with them?"
+struct NameQuestion {
+    SqlName table;
+    SqlName column;
+    TextPool texts;
+};
+
+/// The answer: for each text the number of the first one that it is equal to, its own where it is
+/// the first itself.
+using NameGroups = std::vector<int>;
+
+/// Whoever answers such questions; the answers are in their order.
+using AskNames = std::function<std::vector<NameGroups>(const std::vector<NameQuestion>&)>;
+
+} // namespace timetable

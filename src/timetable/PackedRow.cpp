@@ -1,0 +1,139 @@
+#include "timetable/PackedRow.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace timetable
+{
+namespace
+{
+
+constexpr char16_t kSeparator = u'\x1f';
+constexpr char16_t kNull = u'\x1e';
+
+/// The character that an escape of JSON stands for; `position` is that of the letter behind the
+/// backslash and moves to the last character of the escape.
+QChar unescaped(QStringView row, qsizetype& position)
+{
+    constexpr qsizetype digits = 4;
+    constexpr int hexadecimal = 16;
+    const QChar letter = row[position];
+    switch (letter.unicode()) {
+    case u'b':
+        return u'\b';
+    case u'f':
+        return u'\f';
+    case u'n':
+        return u'\n';
+    case u'r':
+        return u'\r';
+    case u't':
+        return u'\t';
+    case u'u': {
+        const ushort code = row.mid(position + 1, digits).toUShort(nullptr, hexadecimal);
+        position += digits;
+        return QChar(code);
+    }
+    default:
+        return letter;
+    }
+}
+
+} // namespace
+
+QString packed(Packing packing, std::span<const SqlName> columns)
+{
+    QStringList names;
+    for (const SqlName& column : columns) {
+        names << (packing == Packing::Json
+                      ? QString(column)
+                      : QStringLiteral("ifnull(") + column + QStringLiteral(",'") + kNull +
+                            QStringLiteral("')"));
+    }
+    return packing == Packing::Json ? QStringLiteral("json_array(") + names.join(u',') + u')'
+                                    : QStringLiteral("concat_ws('") + kSeparator +
+                                          QStringLiteral("',") + names.join(u',') + u')';
+}
+
+bool PackedRow::unpack(const QString& row)
+{
+    return m_packing == Packing::Json ? unpackJson(row) : unpackSeparated(row);
+}
+
+bool PackedRow::unpackSeparated(QStringView row)
+{
+    std::size_t field = 0;
+    qsizetype start = 0;
+    for (; field < m_fields.size() && start <= row.size(); ++field) {
+        qsizetype end = row.indexOf(kSeparator, start);
+        if (end < 0) {
+            end = row.size();
+        }
+        const QStringView text = row.sliced(start, end - start);
+        m_fields[field] = text.size() == 1 && text.front() == kNull ? QStringView() : text;
+        start = end + 1;
+    }
+    return field == m_fields.size() && start == row.size() + 1;
+}
+
+bool PackedRow::unpackJson(QStringView row)
+{
+    if (row.size() < 2 || row.front() != u'[' || row.back() != u']') {
+        return false;
+    }
+    m_unescaped.clear();
+    m_unescaped.reserve(row.size()); // so that it never moves under the fields
+    qsizetype position = 0;
+    for (QStringView& field : m_fields) {
+        if (position >= row.size() - 1) {
+            return false;
+        }
+        ++position; // the bracket or the comma
+        if (row[position] == u'"') {
+            field = readJsonText(row, position);
+        } else {
+            field = readJsonWord(row, position);
+        }
+    }
+    return position == row.size() - 1;
+}
+
+/// A null, as most fields are, or a number. `position` is that of its beginning and moves behind
+/// it.
+QStringView PackedRow::readJsonWord(QStringView row, qsizetype& position)
+{
+    constexpr qsizetype lengthOfNull = 4;
+    if (row[position] == u'n') { // no other word begins so
+        position += lengthOfNull;
+        return {};
+    }
+    const qsizetype start = position;
+    while (position < row.size() && row[position] != u',' && row[position] != u']') {
+        ++position;
+    }
+    return row.sliced(start, position - start);
+}
+
+/// `position` is that of the opening quote and moves behind the closing one.
+QStringView PackedRow::readJsonText(QStringView row, qsizetype& position)
+{
+    const qsizetype start = position + 1;
+    qsizetype end = start;
+    while (end < row.size() && row[end] != u'"' && row[end] != u'\\') {
+        ++end;
+    }
+    if (end < row.size() && row[end] == u'"') {
+        position = end + 1;
+        return row.sliced(start, end - start);
+    }
+    const qsizetype first = m_unescaped.size();
+    m_unescaped += row.sliced(start, end - start);
+    for (; end < row.size() && row[end] != u'"'; ++end) {
+        const bool isEscape = row[end] == u'\\' && end + 1 < row.size();
+        m_unescaped += isEscape ? unescaped(row, ++end) : row[end];
+    }
+    position = end + 1;
+    return QStringView(m_unescaped).sliced(first);
+}
+
+} // namespace timetable

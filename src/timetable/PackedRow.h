@@ -1,0 +1,46 @@
+#pragma once
+
+#include "timetable/SqlName.h"
+
+#include <QString>
+#include <QStringView>
+#include <span>
+#include <vector>
+
+namespace timetable
+{
+
+/// Rows whose fields arrive as one text: drivers take as long for each field of a row as SQLite
+/// takes for the whole row, and most fields of a timetable are null.
+enum class Packing {
+    Json,      ///< SQLite's own array: ["A101",null]
+    Separated, ///< a server's fields between separators, which texts do not hold
+};
+
+/// The expression that packs the columns of a row into one text.
+[[nodiscard]] QString packed(Packing packing, std::span<const SqlName> columns);
+
+/// Takes such texts apart.
+class PackedRow
+{
+public:
+    PackedRow(Packing packing, std::size_t fieldCount) : m_packing(packing), m_fields(fieldCount) {}
+
+    /// Takes a row apart; false where it is none of so many fields.
+    [[nodiscard]] bool unpack(const QString& row);
+    /// Its fields, in the order of the columns; a null view for a null. They end with the row's
+    /// text and with the next `unpack`.
+    [[nodiscard]] std::span<const QStringView> fields() const { return m_fields; }
+
+private:
+    [[nodiscard]] bool unpackJson(QStringView row);
+    [[nodiscard]] bool unpackSeparated(QStringView row);
+    [[nodiscard]] static QStringView readJsonWord(QStringView row, qsizetype& position);
+    [[nodiscard]] QStringView readJsonText(QStringView row, qsizetype& position);
+
+    Packing m_packing;
+    std::vector<QStringView> m_fields;
+    QString m_unescaped; ///< characters of the current row's fields that were written otherwise
+};
+
+} // namespace timetable

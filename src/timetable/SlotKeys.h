@@ -1,0 +1,32 @@
+#pragma once
+
+#include "timetable/DaySlot.h"
+#include "timetable/TextPool.h"
+
+#include <QString>
+#include <vector>
+
+namespace timetable
+{
+
+/// The keys that a timetable's rows might name, spelt as the plan asks for them: a French day, then
+/// a slot number. Whether a row's key is one of them is the database's to say.
+class SlotKeys
+{
+public:
+    /// Every day with each number that is found in one of these texts.
+    explicit SlotKeys(const TextPool& texts);
+
+    [[nodiscard]] const std::vector<QString>& texts() const { return m_texts; }
+    /// What the key at this place of `texts` names.
+    [[nodiscard]] SlotKey meaning(int position) const
+    {
+        return m_meanings[static_cast<std::size_t>(position)];
+    }
+
+private:
+    std::vector<QString> m_texts;
+    std::vector<SlotKey> m_meanings;
+};
+
+} // namespace timetable
