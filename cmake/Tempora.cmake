@@ -21,6 +21,32 @@ endif()
 target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII UNICODE
   _UNICODE)
 
+# Precompiled headers halve the time of a build from nothing. They also hide a missing #include, so
+# that they are off unless asked for, and one of the builds that a change must pass goes without.
+
+# The headers, precompiled under that name for whoever is given it by tempora_precompiled.
+#   tempora_precompile(name HEADERS <a> ... USES target ...)
+function(tempora_precompile name)
+  cmake_parse_arguments(PCH "" "" "HEADERS;USES" ${ARGN})
+  if(TEMPORA_PCH)
+    set(nothing ${CMAKE_BINARY_DIR}/nothing.cpp)
+    file(CONFIGURE OUTPUT ${nothing} CONTENT "")
+    add_library(${name} OBJECT ${nothing})
+    target_link_libraries(${name} PRIVATE ${PCH_USES} tempora_options)
+    target_precompile_headers(${name} PRIVATE ${PCH_HEADERS})
+  endif()
+endfunction()
+
+function(tempora_precompiled target name)
+  if(TEMPORA_PCH)
+    target_precompile_headers(${target} REUSE_FROM ${name})
+  endif()
+endfunction()
+
+set(TEMPORA_USUAL_HEADERS <QByteArray> <QDate> <QList> <QMap> <QString> <QStringList> <algorithm>
+  <array> <functional> <map> <memory> <optional> <stdexcept> <string> <vector>)
+tempora_precompile(tempora_usual_headers HEADERS ${TEMPORA_USUAL_HEADERS} USES Qt6::Core)
+
 # One folder of src/ is one library and one layer: what it links is what it may use.
 #   tempora_layer(NAME SOURCES a.cpp ... USES layer ... [EXTERNAL target ...])
 function(tempora_layer name)
@@ -32,6 +58,7 @@ function(tempora_layer name)
     list(APPEND layers tempora_${layer})
   endforeach()
   target_link_libraries(tempora_${name} PUBLIC ${layers} ${LAYER_EXTERNAL} PRIVATE tempora_options)
+  tempora_precompiled(tempora_${name} tempora_usual_headers)
 endfunction()
 
 # Copies files into a folder beside the program, file by file, so that what somebody else put there
