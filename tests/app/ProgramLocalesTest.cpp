@@ -17,10 +17,9 @@ namespace
 {
 
 /// A folder with locales of our own: a machine need not have any installed.
-const QString& localeFolder()
+QString localeFolder()
 {
-    static const QString folder = [] {
-        const QString path = processFolder() + "/locales";
+    return madeOnce("locales", [](const QString& path) {
         QDir().mkpath(path);
         for (const char* name : {"fr_FR", "tr_TR", "ar_EG"}) {
             try {
@@ -32,9 +31,7 @@ const QString& localeFolder()
                           << std::endl;
             }
         }
-        return path;
-    }();
-    return folder;
+    });
 }
 
 class ProgramLocales : public OnBothDatabases

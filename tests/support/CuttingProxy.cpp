@@ -105,11 +105,6 @@ void drain(const Descriptor& server)
 
 } // namespace
 
-Descriptor::~Descriptor()
-{
-    close(m_number);
-}
-
 CuttingProxy::CuttingProxy(quint16 serverPort, Judge judge)
     : m_serverPort(serverPort), m_judge(std::move(judge)),
       m_listener(socket(AF_INET, SOCK_STREAM, 0)), m_end(eventfd(0, 0))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Descriptor.h"
+
 #include <QByteArray>
 #include <QString>
 #include <functional>
@@ -7,21 +9,6 @@
 
 namespace test
 {
-
-/// A file descriptor of its own, closed with the object.
-class Descriptor
-{
-public:
-    explicit Descriptor(int number) : m_number(number) {}
-    ~Descriptor();
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    [[nodiscard]] int number() const { return m_number; }
-
-private:
-    int m_number;
-};
 
 /// Stands between one program and a MariaDB server, sees every command that passes, and can cut
 /// the connection at any of them.

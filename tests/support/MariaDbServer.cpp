@@ -1,11 +1,10 @@
 #include "support/MariaDbServer.h"
 
 #include "support/ChildProgram.h"
-#include "support/OdbcConfiguration.h"
+#include "support/SharedServer.h"
 #include "support/TestFolder.h"
 
 #include <QDir>
-#include <QLockFile>
 #include <arpa/inet.h>
 #include <netinet/in.h>
 #include <stdexcept>
@@ -16,8 +15,6 @@ namespace test
 {
 namespace
 {
-
-const QString administrator = QStringLiteral("administrator");
 
 /// A server for a few small tables that nobody will miss.
 QStringList commonOptions(const QString& folder)
@@ -36,28 +33,16 @@ QStringList commonOptions(const QString& folder)
             QStringLiteral("--performance-schema=off")};
 }
 
-/// A data folder with nothing but the server's own tables, made once per build tree.
+/// A data folder with nothing but the server's own tables.
 QString templateFolder()
 {
-    constexpr int longestWaitMilliseconds = 120000;
-    const QString finished = sharedFolder() + QStringLiteral("/mariadb-template");
-    QDir().mkpath(sharedFolder());
-    QLockFile lock(finished + QStringLiteral(".lock"));
-    lock.setStaleLockTime(0); // only the maker's death frees it
-    if (!lock.tryLock(longestWaitMilliseconds)) {
-        throw std::runtime_error("nobody finishes the template of the MariaDB server");
-    }
-    if (!QDir(finished).exists()) {
-        const QString unfinished = finished + QStringLiteral(".unfinished");
-        QDir(unfinished).removeRecursively();
+    return madeOnce(QStringLiteral("mariadb-template"), [](const QString& folder) {
         // Without --user: given one, the script hands it a folder of the installed server, too.
         runProgram(findProgram(QStringLiteral("mariadb-install-db")),
-                   commonOptions(unfinished)
+                   commonOptions(folder)
                        << QStringLiteral("--auth-root-authentication-method=normal")
                        << QStringLiteral("--skip-test-db"));
-        QDir().rename(unfinished, finished);
-    }
-    return finished;
+    });
 }
 
 /// A port that was free a moment ago.
@@ -77,7 +62,7 @@ quint16 freePort()
 
 } // namespace
 
-MariaDbServer::MariaDbServer()
+MariaDbServer::MariaDbServer() : MariaDbAccess(0)
 {
     static int counter = 0;
     m_folder = processFolder() + QStringLiteral("/mariadb-%1").arg(++counter);
@@ -107,20 +92,25 @@ MariaDbServer::~MariaDbServer()
     QDir(m_folder).removeRecursively();
 }
 
-MariaDbServer& MariaDbServer::shared()
+const MariaDbAccess& MariaDbServer::shared()
 {
-    static MariaDbServer server;
-    return server;
+    static const auto ofTheRun = SharedServer::ofThisRun();
+    if (ofTheRun) {
+        static const MariaDbAccess access(ofTheRun->port);
+        return access;
+    }
+    static const MariaDbServer own;
+    return own;
 }
 
 bool MariaDbServer::start()
 {
     constexpr int longestStartMilliseconds = 60000;
-    m_port = freePort();
+    setPort(freePort());
     dieWithParent(m_process);
     QStringList options = commonOptions(m_folder)
                           << QStringLiteral("--socket=server.sock") // in the data folder
-                          << QStringLiteral("--port=%1").arg(m_port)
+                          << QStringLiteral("--port=%1").arg(port())
                           << QStringLiteral("--bind-address=127.0.0.1")
                           << QStringLiteral("--skip-name-resolve")
                           << QStringLiteral("--init-file=") + m_folder +
@@ -142,42 +132,6 @@ bool MariaDbServer::start()
     }
     kill();
     return false;
-}
-
-QByteArray MariaDbServer::runScript(const QString& statements, const QString& database) const
-{
-    QStringList arguments = {QStringLiteral("--no-defaults"),
-                             QStringLiteral("--host=127.0.0.1"),
-                             QStringLiteral("--port=%1").arg(m_port),
-                             QStringLiteral("--user=") + administrator,
-                             QStringLiteral("--default-character-set=utf8mb4"),
-                             QStringLiteral("--batch"),
-                             QStringLiteral("--skip-column-names")};
-    if (!database.isEmpty()) {
-        arguments << database;
-    }
-    return runProgram(findProgram(QStringLiteral("mariadb")), arguments, statements.toUtf8());
-}
-
-void MariaDbServer::createAccount(const QString& user, const QString& password,
-                                  const QString& grants) const
-{
-    QString script =
-        QStringLiteral("CREATE OR REPLACE USER '%1'@'%' IDENTIFIED BY '%2';\n").arg(user, password);
-    for (const QString& grant : grants.split(u';', Qt::SkipEmptyParts)) {
-        script += QStringLiteral("GRANT %2 TO '%1'@'%';\n").arg(user, grant);
-    }
-    runScript(script);
-}
-
-QString MariaDbServer::connectString(const QString& database, const QString& user,
-                                     const QString& password) const
-{
-    static_cast<void>(OdbcConfiguration::instance()); // where the driver has its name
-    return QStringLiteral("DRIVER={MySQL ODBC 3.51 Driver};SERVER=127.0.0.1;DATABASE=%1;USER=%2;"
-                          "PASSWORD=%3;port=%4OPTION=35")
-        .arg(database, user, password)
-        .arg(m_port);
 }
 
 void MariaDbServer::kill()

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace test
 {
@@ -70,8 +71,8 @@ QList<QStringList> rowsOf(QString output, QChar betweenFields, QChar behindRow)
 
 TestDatabase::TestDatabase(DatabaseKind kind) : m_kind(kind)
 {
-    static int counter = 0;
-    m_name = QStringLiteral("base%1").arg(++counter);
+    static int counter = 0; // with the process's number: a server may be shared with others
+    m_name = QStringLiteral("base%1_%2").arg(getpid()).arg(++counter);
     if (kind == DatabaseKind::Sqlite) {
         createSqlite();
     } else {
@@ -86,7 +87,9 @@ TestDatabase::~TestDatabase()
             QFile::remove(m_file + QLatin1String(suffix));
         }
     }
-    // A server's database goes with the server.
+    if (m_kind == DatabaseKind::MariaDb) {
+        dropFromServer();
+    }
 }
 
 void TestDatabase::createSqlite()
@@ -97,10 +100,20 @@ void TestDatabase::createSqlite()
     m_connectString = QStringLiteral("DSN=") + m_name;
 }
 
+void TestDatabase::dropFromServer() const
+{
+    constexpr const char* dropping = "SET lock_wait_timeout = 10;\nDROP DATABASE %1;\n";
+    try {
+        MariaDbServer::shared().runScript(QString::fromLatin1(dropping).arg(m_name));
+    } catch (const std::runtime_error&) {
+        // Somebody still holds a table of it: it goes with the server.
+    }
+}
+
 void TestDatabase::createMariaDb()
 {
-    const MariaDbServer& server = MariaDbServer::shared();
-    server.runScript(QStringLiteral("CREATE DATABASE %1;\n"
+    const MariaDbAccess& server = MariaDbServer::shared();
+    server.runScript(QStringLiteral("CREATE OR REPLACE DATABASE %1;\n"
                                     "CREATE USER IF NOT EXISTS %2@'%' IDENTIFIED BY '%3';\n"
                                     "GRANT ALL ON %1.* TO %2@'%';\n")
                          .arg(m_name, user, password));

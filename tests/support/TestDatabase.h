@@ -26,7 +26,7 @@ enum class Rights {
 class TestDatabase
 {
 public:
-    /// Starts the process's MariaDB server when it is the first to need it.
+    /// On the server that tests share (MariaDbServer::shared).
     /// Throws std::runtime_error when there is no database to be had.
     explicit TestDatabase(DatabaseKind kind);
     ~TestDatabase();
@@ -60,6 +60,7 @@ public:
 private:
     void createSqlite();
     void createMariaDb();
+    void dropFromServer() const;
 
     DatabaseKind m_kind;
     QString m_name;

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <cerrno>
 #include <csignal>
 #include <stdexcept>
@@ -60,6 +61,25 @@ const QString& processFolder()
 QString sharedFolder()
 {
     return QStringLiteral(TEMPORA_TEST_DATA);
+}
+
+QString madeOnce(const QString& name, const std::function<void(const QString& path)>& make)
+{
+    constexpr int longestWaitMilliseconds = 120000;
+    QString finished = sharedFolder() + u'/' + name;
+    QDir().mkpath(sharedFolder());
+    QLockFile lock(finished + QStringLiteral(".lock"));
+    lock.setStaleLockTime(0); // only the maker's death frees it
+    if (!lock.tryLock(longestWaitMilliseconds)) {
+        throw std::runtime_error("nobody finishes " + finished.toStdString());
+    }
+    if (!QDir(finished).exists()) {
+        const QString unfinished = finished + QStringLiteral(".unfinished");
+        QDir(unfinished).removeRecursively();
+        make(unfinished);
+        QDir().rename(unfinished, finished);
+    }
+    return finished;
 }
 
 void writeFile(const QString& path, const QString& text)
