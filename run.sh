@@ -109,7 +109,7 @@ if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
 fi
 ensure_packages "${packages[@]}"
 use_private_folders "$run"
-configure "$project/build" -D CMAKE_BUILD_TYPE=Release -D TEMPORA_TESTS=OFF
+configure "$project/build" release
 build "$project/build" tempora tempora-demo
 if $new_demo || [[ ! -f $demo ]]; then
     make_demo

@@ -9,8 +9,9 @@
 # --tidy      no test: clang-tidy over every source file
 # --format    no test: what clang-format would change
 #
-# Each kind of build has a folder of its own (build-test, build-test-clang, ...). Anything else is
-# handed to ctest: ./test.sh -R layering runs the cases whose name holds "layering".
+# Each kind of build has a folder of its own (build-test, build-test-clang, ...), set up as the preset
+# of that name in CMakePresets.json says. Anything else is handed to ctest: ./test.sh -R layering runs
+# the cases whose name holds "layering".
 set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
 # shellcheck source=scripts/common.sh
@@ -49,9 +50,9 @@ check_format() {
 }
 
 check_tidy() {
+    local folder=$project/build-test-clang # clang-tidy cannot read gcc's precompiled headers
     ensure_packages "${packages[@]}" clang clang-tidy
-    configure "$folder" "${settings[@]}"
-    build "$folder" # headers that the build makes are included, too
+    configure "$folder" test-clang
     # Windows' own files need its headers.
     sources cpp | grep -zv 'Windows\.cpp$' |
         xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet --warnings-as-errors='*' -p "$folder"
@@ -77,32 +78,40 @@ unpack_print_server() {
     done
 }
 
+# ctest counts the cases that were skipped and keeps their reasons to itself.
+tell_why_skipped() {
+    [[ ! -f $log ]] || awk '/: Skipped$/ { getline reason }
+        /^\[  SKIPPED \] .* ms\)$/ { print "Skipped: " $4 ": " reason }' "$log" >&2
+}
+
 run_tests() {
+    local failed=0 log=$folder/Testing/Temporary/LastTest.log
     ensure_packages "${packages[@]}"
-    configure "$folder" "${settings[@]}"
+    configure "$folder" "$preset"
     build "$folder"
     unpack_print_server
-    use_private_folders "$folder/home" # whatever a test writes, it is not the user's
-    export UBSAN_OPTIONS=print_stacktrace=1
-    export LSAN_OPTIONS=suppressions=$project/tests/leaks.supp:print_suppressions=0
-    ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "${ctest_options[@]}"
+    rm -f "$log"
+    ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "${ctest_options[@]}" || failed=$?
+    tell_why_skipped
+    return "$failed"
 }
 
 # mariadb-server would bring a system service that starts at once; the tests start servers of their
 # own and need only the programs, which lie in the two core packages.
-packages=("${build_packages[@]}" ccache libgtest-dev libpaper1 mariadb-client-core mariadb-server-core
-    openbox poppler-utils xdotool xvfb)
-folder=$project/build-test
-settings=(-D CMAKE_BUILD_TYPE=Debug -D TEMPORA_WERROR=ON -D CMAKE_CXX_COMPILER_LAUNCHER=ccache)
+packages=("${build_packages[@]}" ccache libgtest-dev libpaper1 lld mariadb-client-core
+    mariadb-server-core openbox poppler-utils xdotool xvfb)
+preset="test"
 if $clang; then
     packages+=(clang)
-    folder+=-clang
-    settings+=(-D CMAKE_CXX_COMPILER=clang++)
+    preset+=-clang
 fi
 if $sanitize; then
-    folder+=-sanitize
-    settings+=(-D TEMPORA_SANITIZE=ON)
+    if $clang; then
+        packages+=(libclang-rt-dev)
+    fi
+    preset+=-sanitize
 fi
+folder=$project/build-$preset
 
 case $task in
     test) run_tests ;;

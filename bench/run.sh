@@ -28,7 +28,7 @@ work=$folder/work
 
 ensure_packages "${build_packages[@]}" hyperfine libbenchmark-dev libgtest-dev mariadb-client-core \
     mariadb-server-core xauth xvfb
-configure "$folder" -D CMAKE_BUILD_TYPE=Release -D TEMPORA_TESTS=ON -D TEMPORA_BENCH=ON
+configure "$folder" bench
 build "$folder" tempora tempora-demo refresh_bench drawing_bench first_plan
 mkdir -p "$work"
 use_private_folders "$work/home"

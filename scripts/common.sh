@@ -100,26 +100,27 @@ use_private_folders() {
     fi
 }
 
-# Configures the build folder `$1` with the given options of CMake, unless it is so already.
+# Configures the build folder `$1` as the preset `$2` of CMakePresets.json says, unless it is so
+# already.
 configure() {
-    local folder=$1
-    shift
+    local folder=$1 preset=$2
     # CMake refuses a folder that was moved or copied with the project.
     if [[ -f $folder/CMakeCache.txt ]] &&
         ! grep -qxF "CMAKE_CACHEFILE_DIR:INTERNAL=$folder" "$folder/CMakeCache.txt"; then
         rm -rf "$folder"
     fi
-    local record=$folder/configured-with options="$*"
-    if [[ -f $folder/build.ninja && -f $record && $(<"$record") == "$options" ]]; then
+    local record=$folder/configured-with
+    if [[ -f $folder/build.ninja && -f $record && $(<"$record") == "$preset" &&
+        $record -nt $project/CMakePresets.json ]]; then
         return
     fi
     say "Preparing the build in ${folder#"$project"/} ..."
     mkdir -p "$folder"
-    if ! cmake -S "$project" -B "$folder" -G Ninja "$@" >"$folder/configure.log" 2>&1; then
+    if ! cmake -S "$project" -B "$folder" --preset "$preset" >"$folder/configure.log" 2>&1; then
         cat "$folder/configure.log" >&2
         fail "CMake could not prepare the build."
     fi
-    printf '%s\n' "$options" >"$record"
+    printf '%s\n' "$preset" >"$record"
 }
 
 # Turns what ninja says into a few lines of progress; what a compiler has to say passes unchanged.
