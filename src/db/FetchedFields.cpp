@@ -71,13 +71,18 @@ Value valueOfType(const QString& text, SQLSMALLINT type)
     }
 }
 
+/// Half a character at the end of a UTF-16 text is left out.
 QString textOf(QByteArrayView bytes, SQLSMALLINT cType)
 {
     if (cType != SQL_C_WCHAR) {
         return QString::fromUtf8(bytes);
     }
-    QString text(bytes.size() / static_cast<qsizetype>(sizeof(char16_t)), Qt::Uninitialized);
-    std::memcpy(text.data(), bytes.data(), static_cast<std::size_t>(bytes.size()));
+    // Copied: they begin where the field before them ends, which may be no place for a char16_t.
+    const qsizetype length = bytes.size() / static_cast<qsizetype>(sizeof(char16_t));
+    QString text(length, Qt::Uninitialized);
+    if (length > 0) {
+        std::memcpy(text.data(), bytes.data(), static_cast<std::size_t>(length) * sizeof(char16_t));
+    }
     return text;
 }
 

@@ -1,5 +1,6 @@
 #include "db/FetchedFields.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 using namespace db;
@@ -75,6 +76,33 @@ TEST(FetchedFields, mayComeAsUtf16AndAsBits)
     EXPECT_EQ(fields.value(0, 1), Value(true));
     EXPECT_EQ(fields.value(1, 0), text(""));
     EXPECT_EQ(fields.value(1, 1), Value(false));
+}
+
+TEST(FetchedFields, areEmptyTextsWhereNothingCame)
+{
+    for (const SQLSMALLINT cType :
+         std::array<SQLSMALLINT, 3>{SQL_C_CHAR, SQL_C_BINARY, SQL_C_WCHAR}) {
+        FetchedFields fields = fieldsOf({{SQL_VARCHAR, cType}});
+        fields.end();
+        EXPECT_EQ(fields.value(0, 0), text(""));
+    }
+    FetchedFields bit = fieldsOf({{SQL_BIT, SQL_C_BIT}});
+    bit.end();
+    EXPECT_EQ(bit.value(0, 0), Value(false));
+}
+
+TEST(FetchedFields, leaveHalfACharacterOut)
+{
+    FetchedFields fields = fieldsOf({{SQL_VARCHAR, SQL_C_WCHAR}});
+    const QString wide = QStringLiteral("éx");
+    for (const std::size_t bytes : {3U, 1U}) {
+        fields.append(reinterpret_cast<const char*>(wide.utf16()), bytes);
+        fields.end();
+    }
+    const QString one = fields.value(0, 0).toText();
+    EXPECT_EQ(one, QStringLiteral("é"));
+    EXPECT_EQ(one.utf16()[1], 0); // nothing was written behind the text
+    EXPECT_EQ(fields.value(1, 0), text(""));
 }
 
 TEST(FetchedFields, areNumbersAndDatesWhereTheyReadAsSuch)
