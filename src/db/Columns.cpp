@@ -1,8 +1,9 @@
-#include "db/Recordset.h"
+#include "db/Columns.h"
 
 #include "runtime/RunTimeError.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace db
 {

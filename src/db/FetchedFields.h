@@ -1,7 +1,7 @@
 #pragma once
 
 #include "db/OdbcApi.h"
-#include "db/Recordset.h"
+#include "db/RowFields.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "db/Recordset.h"
+#include "db/Row.h"
 
 #include "runtime/RunTimeError.h"
 
@@ -43,11 +43,6 @@ Value Row::field(int position) const
         throw runtime::RunTimeError(runtime::ErrorNumber::ItemNotFound);
     }
     return m_fields->value(m_row, static_cast<std::size_t>(position));
-}
-
-Recordset::Recordset(std::shared_ptr<const Columns> columns, std::vector<Row> rows)
-    : m_columns(std::move(columns)), m_rows(std::move(rows))
-{
 }
 
 } // namespace db
