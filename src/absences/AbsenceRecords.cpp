@@ -121,26 +121,25 @@ void AbsenceRecords::Basculer_AbsClasse(Marqueur& marker, const QString& classNa
 void AbsenceRecords::addClass(const Marqueur& marker, const QString& className)
 {
     // The séance types that the lookup does not keep are 0.
-    m_database.Db().insert(
-        QStringLiteral("abscence"),
-        {{QStringLiteral("Classe"), Value(className)},
-         {QStringLiteral("Seance"), Value(marker.Seance)},
-         {QStringLiteral("Tranche"), number(marker.Tranche)},
-         {QStringLiteral("matière"), Value(marker.Matiere)},
-         {QStringLiteral("Salle"), Value(marker.Salle)},
-         {QStringLiteral("Enseignant1"), Value(marker.Enseignant1)},
-         {QStringLiteral("newnature"), Value(marker.newnature)},
-         {QStringLiteral("TypeS1"), number(marker.TypeS1)},
-         {QStringLiteral("TypeS2"), number(0)},
-         {QStringLiteral("TypeS3"), number(0)},
-         {QStringLiteral("TypeS1B"), number(0)},
-         {QStringLiteral("TypeS2B"), number(0)},
-         {QStringLiteral("TypeS3B"), number(marker.TypeS3B)},
-         {QStringLiteral("Durée"), number(marker.Duree)},
-         {QStringLiteral("Commune"), Value(marker.Commune)},
-         {QStringLiteral("Debut"), Value(marker.Debut)},
-         {QStringLiteral("Datex"), Value(m_database.dialect().dateText(marker.Jour))},
-         {QStringLiteral("Choix"), number(marker.Choix)}});
+    m_database.Db().insert(QStringLiteral("abscence"),
+                           {{QStringLiteral("Classe"), Value(className)},
+                            {QStringLiteral("Seance"), Value(marker.Seance)},
+                            {QStringLiteral("Tranche"), number(marker.Tranche)},
+                            {QStringLiteral("matière"), Value(marker.Matiere)},
+                            {QStringLiteral("Salle"), Value(marker.Salle)},
+                            {QStringLiteral("Enseignant1"), Value(marker.Enseignant1)},
+                            {QStringLiteral("newnature"), Value(marker.newnature)},
+                            {QStringLiteral("TypeS1"), number(marker.TypeS1)},
+                            {QStringLiteral("TypeS2"), number(0)},
+                            {QStringLiteral("TypeS3"), number(0)},
+                            {QStringLiteral("TypeS1B"), number(0)},
+                            {QStringLiteral("TypeS2B"), number(0)},
+                            {QStringLiteral("TypeS3B"), number(marker.TypeS3B)},
+                            {QStringLiteral("Durée"), number(marker.Duree)},
+                            {QStringLiteral("Commune"), Value(marker.Commune)},
+                            {QStringLiteral("Debut"), Value(marker.Debut)},
+                            {QStringLiteral("Datex"), Value(marker.Jour)},
+                            {QStringLiteral("Choix"), number(marker.Choix)}});
 }
 
 void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className,
@@ -160,17 +159,16 @@ void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className
 void AbsenceRecords::addStudent(const Marqueur& marker, const QString& className,
                                 const QString& name)
 {
-    m_database.Db().insert(
-        QStringLiteral("etud_abs"),
-        {{QStringLiteral("Classe"), Value(className)},
-         {QStringLiteral("Nom"), Value(name)},
-         {QStringLiteral("Seance"), Value(marker.Seance)},
-         {QStringLiteral("Tranche"), number(marker.Tranche)},
-         {QStringLiteral("matière"), Value(marker.Matiere)},
-         {QStringLiteral("HeureD"), Value(marker.Debut)},
-         {QStringLiteral("HeureF"), Value(endTime(marker.Debut, marker.Duree))},
-         {QStringLiteral("Jour"), Value(m_database.dialect().dateText(marker.Jour))},
-         {QStringLiteral("Ident"), Value(name.left(kIdentLength))}});
+    m_database.Db().insert(QStringLiteral("etud_abs"),
+                           {{QStringLiteral("Classe"), Value(className)},
+                            {QStringLiteral("Nom"), Value(name)},
+                            {QStringLiteral("Seance"), Value(marker.Seance)},
+                            {QStringLiteral("Tranche"), number(marker.Tranche)},
+                            {QStringLiteral("matière"), Value(marker.Matiere)},
+                            {QStringLiteral("HeureD"), Value(marker.Debut)},
+                            {QStringLiteral("HeureF"), Value(endTime(marker.Debut, marker.Duree))},
+                            {QStringLiteral("Jour"), Value(marker.Jour)},
+                            {QStringLiteral("Ident"), Value(name.left(kIdentLength))}});
 }
 
 } // namespace absences

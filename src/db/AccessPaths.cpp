@@ -23,7 +23,7 @@ bool isPlainWalk(const QString& remarks)
 
 /// The walk of one line of MariaDB's answer; empty when it is of another kind. Parts of a table are
 /// walked through one after the other for one point of an index, but side by side for several.
-QString mySqlWalk(const Row& line)
+QString mariaDbWalk(const Row& line)
 {
     const QString type = textOf(line, QStringLiteral("type"));
     if (!isPlainWalk(textOf(line, QStringLiteral("Extra"))) ||
@@ -59,7 +59,7 @@ AccessPaths sqliteAccessPaths(const Recordset& explained)
     return paths;
 }
 
-AccessPaths mySqlAccessPaths(const Recordset& explained)
+AccessPaths mariaDbAccessPaths(const Recordset& explained)
 {
     std::vector<AccessPath> paths;
     for (const Row& line : explained.rows()) {
@@ -67,7 +67,7 @@ AccessPaths mySqlAccessPaths(const Recordset& explained)
             continue; // not a walk through a table
         }
         paths.push_back(
-            {textOf(line, QStringLiteral("table")), mySqlWalk(line),
+            {textOf(line, QStringLiteral("table")), mariaDbWalk(line),
              textOf(line, QStringLiteral("possible_keys")) == textOf(line, QStringLiteral("key"))});
     }
     return paths;

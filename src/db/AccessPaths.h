@@ -38,6 +38,6 @@ using AccessPaths = std::optional<std::vector<AccessPath>>;
 /// what else could serve.
 [[nodiscard]] AccessPaths sqliteAccessPaths(const Recordset& explained);
 /// From the rows of MariaDB's "explain partitions" or MySQL's "explain".
-[[nodiscard]] AccessPaths mySqlAccessPaths(const Recordset& explained);
+[[nodiscard]] AccessPaths mariaDbAccessPaths(const Recordset& explained);
 
 } // namespace db

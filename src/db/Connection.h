@@ -2,6 +2,7 @@
 
 #include "db/AccessPaths.h"
 #include "db/Recordset.h"
+#include "db/SqlDialect.h"
 
 #include <QString>
 #include <memory>
@@ -11,9 +12,10 @@
 namespace db
 {
 
-/// The one connection to the timetable database, through ODBC. Statements are in the dialect of
-/// the database kind in use (see SqlDialect.h); where the driver at hand is the embedded SQLite,
-/// what it does not speak of the Access dialect is adapted on the way.
+class Session;
+
+/// The one connection to the timetable database, through ODBC. Statements are in the connection's
+/// own dialect; what its product does not speak of Access's is adapted on the way.
 ///
 /// Errors of every member, as runtime::RunTimeError with the driver's own text: DatabaseFailure
 /// (no connection, connection lost, driver fault), StatementRefused, TableMissing.
@@ -22,10 +24,15 @@ class Connection
 public:
     /// Opens with an empty user and password: the connection string holds what is needed. Its
     /// password never appears in an error's text.
-    explicit Connection(const QString& connectString);
+    /// `bySetting`: the dialect that the settings choose, for a product that has none of its own.
+    explicit Connection(const QString& connectString,
+                        const SqlDialect& bySetting = SqlDialect(false));
     ~Connection();
     Connection(Connection&&) noexcept;
     Connection& operator=(Connection&&) noexcept;
+
+    /// How dates are written into this connection's statements.
+    [[nodiscard]] SqlDialect dialect() const;
 
     /// Runs a query and reads all its rows.
     [[nodiscard]] Recordset open(const QString& sql);
@@ -38,8 +45,8 @@ public:
     void execute(const QString& sql);
 
     /// Adds one row by one parameterised statement with exactly these columns, in this order.
-    /// A text meant for a date column may stand in the dialect's date format.
-    /// The row is there as a whole or not at all.
+    /// A date is written so that the dialect's literal finds it, whatever the column's type; a text
+    /// is written as it is. The row is there as a whole or not at all.
     void insert(const QString& table, const std::vector<std::pair<QString, Value>>& columns);
 
     /// Deletes exactly the first row that the query finds, also where the table has no key and
@@ -55,8 +62,9 @@ public:
     void close();
 
 private:
-    class Session;
     [[nodiscard]] Session& session() const;
+    [[nodiscard]] Value valueToWrite(const QString& table, const QString& column,
+                                     const Value& value);
 
     std::unique_ptr<Session> m_session;
 };

@@ -16,15 +16,19 @@ class Database
 {
 public:
     /// `useMySql` is the setting "Mysql".
-    explicit Database(bool useMySql = false) : m_dialect(useMySql) {}
+    explicit Database(bool useMySql = false) : m_bySetting(useMySql) {}
 
-    /// Chooses the database kind, before the connection is opened.
-    void setUseMySql(bool useMySql) { m_dialect = SqlDialect(useMySql); }
+    /// Chooses the database kind by the setting, before the connection is opened.
+    void setUseMySql(bool useMySql) { m_bySetting = SqlDialect(useMySql); }
     /// Error: DatabaseFailure.
-    void open(const QString& connectString) { m_connection.emplace(connectString); }
+    void open(const QString& connectString) { m_connection.emplace(connectString, m_bySetting); }
     void close() { m_connection.reset(); }
 
-    [[nodiscard]] const SqlDialect& dialect() const { return m_dialect; }
+    /// The open connection's dialect; before, that of the setting.
+    [[nodiscard]] SqlDialect dialect() const
+    {
+        return m_connection ? m_connection->dialect() : m_bySetting;
+    }
     /// Whether the connection is open and its driver the embedded SQLite.
     [[nodiscard]] bool isEmbedded() const { return m_connection && m_connection->isEmbedded(); }
     /// Error: DatabaseFailure when the connection is not open.
@@ -38,7 +42,7 @@ public:
     }
 
 private:
-    SqlDialect m_dialect;
+    SqlDialect m_bySetting;
     std::optional<Connection> m_connection;
 };
 

@@ -1,4 +1,7 @@
-#include "db/OdbcHandles.h"
+#include "db/Diagnostics.h"
+
+#include <QStringList>
+#include <array>
 
 namespace db
 {
@@ -7,62 +10,69 @@ namespace
 
 using runtime::ErrorNumber;
 
-/// SQLite's driver reports every failure as HY000 with SQLite's own result code.
-ErrorNumber sqliteErrorNumber(const Diagnostics& diagnostics)
+/// One diagnostic record of a handle; false when there is no such record.
+bool readRecord(SQLSMALLINT type, SQLHANDLE handle, SQLSMALLINT index, TextForm form,
+                Diagnostics& record)
 {
-    constexpr int genericError = 1;
-    constexpr int tooBig = 18;
-    constexpr int constraint = 19;
-    constexpr int mismatch = 20;
-    constexpr int range = 25;
-    switch (diagnostics.nativeCode) {
-    case genericError:
-        return diagnostics.text.contains(QStringLiteral("no such table"))
-                   ? ErrorNumber::TableMissing
-                   : ErrorNumber::StatementRefused;
-    case tooBig:
-    case constraint:
-    case mismatch:
-    case range:
-        return ErrorNumber::StatementRefused;
-    default: // locked, read-only, full disk, damaged file, …
-        return ErrorNumber::DatabaseFailure;
+    constexpr std::size_t longestMessage = 2048;
+    constexpr int stateLength = 5;
+    SQLINTEGER native = 0;
+    SQLSMALLINT length = 0;
+    if (form == TextForm::Utf8) {
+        std::array<SQLCHAR, stateLength + 1> state{};
+        std::array<SQLCHAR, longestMessage> text{};
+        if (!SQL_SUCCEEDED(SQLGetDiagRec(type, handle, index, state.data(), &native, text.data(),
+                                         static_cast<SQLSMALLINT>(text.size()), &length))) {
+            return false;
+        }
+        record.state = QString::fromUtf8(reinterpret_cast<const char*>(state.data()));
+        record.text = QString::fromUtf8(reinterpret_cast<const char*>(text.data()));
+    } else {
+        std::array<SQLWCHAR, stateLength + 1> state{};
+        std::array<SQLWCHAR, longestMessage> text{};
+        if (!SQL_SUCCEEDED(SQLGetDiagRecW(type, handle, index, state.data(), &native, text.data(),
+                                          static_cast<SQLSMALLINT>(text.size()), &length))) {
+            return false;
+        }
+        record.state = QString::fromUtf16(reinterpret_cast<const char16_t*>(state.data()));
+        record.text = QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()));
     }
-}
-
-/// Codes by which MariaDB and MySQL report that the connection is gone, whatever the SQLSTATE: the
-/// two ranges of errors found at this end of it, and two of the server's.
-bool isConnectionLost(int nativeCode)
-{
-    constexpr int serverShutdown = 1053;
-    constexpr int connectionKilled = 1927;
-    const int range = nativeCode / 1000;
-    return range == 2 || range == 5 || nativeCode == serverShutdown ||
-           nativeCode == connectionKilled;
+    record.nativeCode = native;
+    return true;
 }
 
 } // namespace
 
-ErrorNumber errorNumberOf(const Diagnostics& diagnostics, Product product, bool opening)
+Diagnostics diagnosticsOf(SQLSMALLINT type, SQLHANDLE handle, TextForm form)
 {
-    constexpr int mariaDbNoSuchTable = 1146;
+    constexpr SQLSMALLINT mostRecords = 20;
+    Diagnostics all;
+    QStringList texts;
+    Diagnostics record;
+    for (SQLSMALLINT i = 1; i <= mostRecords && readRecord(type, handle, i, form, record); ++i) {
+        if (i == 1) {
+            all = record;
+        }
+        texts << record.text;
+    }
+    texts.removeDuplicates();
+    if (texts.isEmpty()) {
+        texts << QStringLiteral("The driver gives no reason.");
+    }
+    all.text = texts.join(u'\n');
+    return all;
+}
+
+ErrorNumber errorNumberByState(const Diagnostics& diagnostics)
+{
     const QString& state = diagnostics.state;
-    if (opening || state.isEmpty() || state.startsWith(QStringLiteral("08")) ||
+    if (state.isEmpty() || state.startsWith(QStringLiteral("08")) ||
         state == QStringLiteral("HYT00") || state == QStringLiteral("HYT01") ||
         state.startsWith(QStringLiteral("IM0"))) {
         return ErrorNumber::DatabaseFailure;
     }
-    if (product == Product::Sqlite && diagnostics.nativeCode != 0) {
-        return sqliteErrorNumber(diagnostics);
-    }
-    if (product == Product::MySql && isConnectionLost(diagnostics.nativeCode)) {
-        return ErrorNumber::DatabaseFailure;
-    }
-    if (state == QStringLiteral("42S02") ||
-        (product == Product::MySql && diagnostics.nativeCode == mariaDbNoSuchTable)) {
-        return ErrorNumber::TableMissing;
-    }
-    return ErrorNumber::StatementRefused;
+    return state == QStringLiteral("42S02") ? ErrorNumber::TableMissing
+                                            : ErrorNumber::StatementRefused;
 }
 
 } // namespace db

@@ -27,4 +27,10 @@ namespace db
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t),
               "a QString's UTF-16 passes to the wide API as it is");
 
+/// How texts pass to and from a driver.
+enum class TextForm {
+    Utf16, ///< Through the wide API
+    Utf8,  ///< Through the narrow API, which the driver reads as UTF-8
+};
+
 } // namespace db

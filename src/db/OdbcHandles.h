@@ -1,40 +1,15 @@
 #pragma once
 
 #include "db/OdbcApi.h"
-#include "runtime/RunTimeError.h"
+#include "db/Product.h"
 
 #include <QString>
 #include <QStringList>
-#include <cstddef>
+#include <memory>
 #include <utility>
 
 namespace db
 {
-
-/// The product behind a connection, as far as it makes a difference here.
-enum class Product {
-    Sqlite,
-    MySql, ///< MariaDB included
-    Other, ///< Access
-};
-
-/// How texts pass to and from the driver.
-enum class TextForm {
-    Utf16, ///< Through the wide API
-    Utf8,  ///< Through the narrow API, which the driver reads as UTF-8
-};
-
-/// The driver's answer to a failing call.
-struct Diagnostics {
-    QString state; ///< SQLSTATE of the first record, five characters; empty without a record
-    int nativeCode = 0;
-    QString text; ///< The texts of all records, a line each
-};
-
-/// The run-time error that a failing call amounts to.
-/// `opening`: the call was to open the connection, so whatever failed, there is none.
-[[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics, Product product,
-                                                 bool opening);
 
 /// One ODBC handle of the given type. At its end a connection is closed and the handle freed;
 /// nothing is thrown there.
@@ -94,34 +69,27 @@ public:
     ConnectionHandle(const EnvironmentHandle& environment, const QString& connectString);
 
     [[nodiscard]] SQLHDBC get() const { return m_handle.get(); }
-    [[nodiscard]] Product product() const { return m_product; }
-    [[nodiscard]] TextForm textForm() const { return m_textForm; }
-    /// Whether the bytes in which a server sends texts are known to be UTF-8. Its driver spends
-    /// most of a fetch on turning them into UTF-16, text by text.
-    [[nodiscard]] bool sendsUtf8() const { return m_sendsUtf8; }
-    /// Whether the server is MariaDB and not MySQL, whatever the driver.
-    [[nodiscard]] bool isMariaDb() const { return m_isMariaDb; }
+    [[nodiscard]] const Product& product() const { return *m_product; }
+    [[nodiscard]] TextForm textForm() const { return m_product->textForm(); }
     /// Whether a field that is bound to a place in memory, and was too long for it, can be read
     /// from its beginning, wherever it stands in the row.
     [[nodiscard]] bool rereadsBoundFields() const { return m_rereadsBoundFields; }
     /// The name between the driver's own quotes.
     [[nodiscard]] QString quoted(const QString& identifier) const;
+    /// A text that the driver tells of itself or of the database, by its SQL_… code; empty when it
+    /// does not.
+    [[nodiscard]] QString info(SQLUSMALLINT what) const;
 
     /// Throws what the failing call on `handle` amounts to.
     [[noreturn]] void raise(SQLSMALLINT handleType, SQLHANDLE handle) const;
 
 private:
     void connect(const QString& connectString);
-    [[nodiscard]] QString info(SQLUSMALLINT what) const;
-    void askServer();
     [[nodiscard]] bool readsBoundFieldsInAnyOrder() const;
 
     QStringList m_passwords;
     OdbcHandle<SQL_HANDLE_DBC> m_handle;
-    Product m_product = Product::Other;
-    TextForm m_textForm = TextForm::Utf16;
-    bool m_sendsUtf8 = false;
-    bool m_isMariaDb = false;
+    std::unique_ptr<const Product> m_product; ///< one without ways of its own until it is known
     bool m_rereadsBoundFields = false;
     QString m_quote;
 };

@@ -4,19 +4,6 @@
 
 namespace db
 {
-namespace
-{
-
-/// `Struct` is one of ODBC's structures that hold a date.
-template <typename Struct>
-void fillDay(Struct& day, QDate date)
-{
-    day.year = static_cast<SQLSMALLINT>(date.year());
-    day.month = static_cast<SQLUSMALLINT>(date.month());
-    day.day = static_cast<SQLUSMALLINT>(date.day());
-}
-
-} // namespace
 
 void ParameterSet::bind(const Value& value)
 {
@@ -76,19 +63,11 @@ void ParameterSet::bindInteger(Slot& slot, std::int64_t integer)
 
 void ParameterSet::bindDate(Slot& slot, QDate date)
 {
-    switch (m_statement.connection().product()) {
-    case Product::Sqlite:
-        bindText(slot, date.toString(Qt::ISODate)); // the form in which SQLite keeps dates
-        break;
-    case Product::MySql:
-        fillDay(slot.date, date);
-        bindRaw(slot, SQL_C_TYPE_DATE, SQL_TYPE_DATE, 10, &slot.date);
-        break;
-    case Product::Other: // the only type for dates that Access lists: midnight is the date alone
-        fillDay(slot.timestamp, date);
-        bindRaw(slot, SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP, 19, &slot.timestamp);
-        break;
-    }
+    // Midnight is the date alone, and the only type for dates that Access lists.
+    slot.timestamp.year = static_cast<SQLSMALLINT>(date.year());
+    slot.timestamp.month = static_cast<SQLUSMALLINT>(date.month());
+    slot.timestamp.day = static_cast<SQLUSMALLINT>(date.day());
+    bindRaw(slot, SQL_C_TYPE_TIMESTAMP, SQL_TYPE_TIMESTAMP, 19, &slot.timestamp);
 }
 
 void ParameterSet::bindRaw(Slot& slot, SQLSMALLINT cType, SQLSMALLINT sqlType, SQLULEN size,

@@ -17,7 +17,7 @@ public:
     ParameterSet(const ParameterSet&) = delete;
     ParameterSet& operator=(const ParameterSet&) = delete;
 
-    /// Binds the value to the next parameter.
+    /// Binds the value to the next parameter; a date as its midnight (see Product::dateToWrite).
     void bind(const Value& value);
 
 private:
@@ -25,7 +25,6 @@ private:
     struct Slot {
         QByteArray bytes;
         QString text;
-        SQL_DATE_STRUCT date{};
         SQL_TIMESTAMP_STRUCT timestamp{};
         SQLINTEGER narrow = 0;
         std::int64_t integer = 0;

@@ -85,48 +85,7 @@ SQLSMALLINT ResultReader::columnType(SQLUSMALLINT index)
 
 FieldForm ResultReader::formOf(SQLSMALLINT type) const
 {
-    // A server's BIT column read as text is a raw byte; SQLite's is what was stored there.
-    if (type == SQL_BIT && m_statement.connection().product() != Product::Sqlite) {
-        return {type, SQL_C_BIT};
-    }
-    return {type, cTypeForText(type)};
-}
-
-/// SQLite's driver speaks UTF-8. A server's driver gives numbers and dates in characters that are
-/// the same in every character set; texts it gives as the bytes that the server sent, where these
-/// are known to be UTF-8.
-SQLSMALLINT ResultReader::cTypeForText(SQLSMALLINT type) const
-{
-    const ConnectionHandle& connection = m_statement.connection();
-    if (connection.textForm() == TextForm::Utf8) {
-        return SQL_C_CHAR;
-    }
-    if (!connection.sendsUtf8()) {
-        return SQL_C_WCHAR;
-    }
-    switch (type) {
-    case SQL_CHAR:
-    case SQL_VARCHAR:
-    case SQL_LONGVARCHAR:
-    case SQL_WCHAR:
-    case SQL_WVARCHAR:
-    case SQL_WLONGVARCHAR:
-        return SQL_C_BINARY;
-    case SQL_TINYINT:
-    case SQL_SMALLINT:
-    case SQL_INTEGER:
-    case SQL_BIGINT:
-    case SQL_REAL:
-    case SQL_FLOAT:
-    case SQL_DOUBLE:
-    case SQL_DECIMAL:
-    case SQL_NUMERIC:
-    case SQL_TYPE_DATE:
-    case SQL_TYPE_TIMESTAMP:
-        return SQL_C_CHAR;
-    default:
-        return SQL_C_WCHAR;
-    }
+    return {type, m_statement.connection().product().cTypeOf(type)};
 }
 
 /// `bound`: where the driver has put the row, if anywhere.
@@ -164,7 +123,7 @@ void ResultReader::read(SQLUSMALLINT index, const FieldForm& form, FetchedFields
 
 Value ResultReader::readText(SQLUSMALLINT index)
 {
-    const FieldForm text{SQL_WVARCHAR, cTypeForText(SQL_WVARCHAR)};
+    const FieldForm text = formOf(SQL_WVARCHAR);
     FetchedFields field(std::make_shared<const Columns>(QStringList{QString()}), {text});
     read(index, text, field);
     return field.value(0, 0);

@@ -38,7 +38,6 @@ private:
     void readRow(const BoundColumns* bound, FetchedFields& fields);
     void read(SQLUSMALLINT index, const FieldForm& form, FetchedFields& fields);
     [[nodiscard]] FieldForm formOf(SQLSMALLINT type) const;
-    [[nodiscard]] SQLSMALLINT cTypeForText(SQLSMALLINT type) const;
 
     static constexpr std::size_t bufferBytes = 2048;
 

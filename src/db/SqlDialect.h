@@ -10,7 +10,8 @@ namespace db
 class SqlDialect
 {
 public:
-    /// `useMySql` is the setting "Mysql".
+    /// That of MySQL, else that of Access; the setting "Mysql" chooses, as long as no driver has
+    /// told which product it leads to.
     explicit SqlDialect(bool useMySql) : m_useMySql(useMySql) {}
 
     /// "#" for Access, "'" for MySQL.

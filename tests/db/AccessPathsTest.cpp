@@ -117,31 +117,31 @@ TEST(SqliteAccessPaths, areUnknownWhereAnIndexHoldsAllThatIsAsked)
               std::nullopt);
 }
 
-TEST(MySqlAccessPaths, takeSeveralPointsOfAnIndexForTheWalkOfOne)
+TEST(MariaDbAccessPaths, takeSeveralPointsOfAnIndexForTheWalkOfOne)
 {
-    const auto paths = mySqlAccessPaths(
+    const auto paths = mariaDbAccessPaths(
         mySqlAnswer({{"range", "i", "i", "408", "Using index condition; Using where"},
                      {"ref", "i", "i", "408", "Using where"}}));
     ASSERT_TRUE(paths);
     EXPECT_EQ(walksOf(*paths), QStringList({"i 408", "i 408"}));
 }
 
-TEST(MySqlAccessPaths, differByIndexAndByHowMuchOfItIsUsed)
+TEST(MariaDbAccessPaths, differByIndexAndByHowMuchOfItIsUsed)
 {
-    const auto paths = mySqlAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
-                                                     {"ref", "i", "i", "5", "Using where"},
-                                                     {"ref", "j", "j", "408", "Using where"},
-                                                     {"ALL", "", "", "", "Using where"}}));
+    const auto paths = mariaDbAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
+                                                       {"ref", "i", "i", "5", "Using where"},
+                                                       {"ref", "j", "j", "408", "Using where"},
+                                                       {"ALL", "", "", "", "Using where"}}));
     ASSERT_TRUE(paths);
     EXPECT_EQ(walksOf(*paths), QStringList({"i 408", "i 5", "j 408", "ALL"}));
 }
 
-TEST(MySqlAccessPaths, sayWhetherThereIsAnotherWay)
+TEST(MariaDbAccessPaths, sayWhetherThereIsAnotherWay)
 {
-    const auto paths = mySqlAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
-                                                     {"ref", "i,j", "i", "408", "Using where"},
-                                                     {"ALL", "", "", "", "Using where"},
-                                                     {"ALL", "i", "", "", "Using where"}}));
+    const auto paths = mariaDbAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
+                                                       {"ref", "i,j", "i", "408", "Using where"},
+                                                       {"ALL", "", "", "", "Using where"},
+                                                       {"ALL", "i", "", "", "Using where"}}));
     ASSERT_TRUE(paths);
     EXPECT_TRUE(paths->at(0).isOnlyWay);
     EXPECT_FALSE(paths->at(1).isOnlyWay);
@@ -149,30 +149,30 @@ TEST(MySqlAccessPaths, sayWhetherThereIsAnotherWay)
     EXPECT_FALSE(paths->at(3).isOnlyWay);
 }
 
-TEST(MySqlAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
+TEST(MariaDbAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
 {
-    const auto paths =
-        mySqlAccessPaths(mySqlAnswer({{"range", "i", "i", "408", "Using where; Rowid-ordered scan"},
-                                      {"index_merge", "i,j", "i,j", "403,403", "Using where"},
-                                      {"ref|filter", "i,j", "i|j", "5|403", "Using where"},
-                                      {"ref", "i", "i", "408", "Using where; Using index"}}));
+    const auto paths = mariaDbAccessPaths(
+        mySqlAnswer({{"range", "i", "i", "408", "Using where; Rowid-ordered scan"},
+                     {"index_merge", "i,j", "i,j", "403,403", "Using where"},
+                     {"ref|filter", "i,j", "i|j", "5|403", "Using where"},
+                     {"ref", "i", "i", "408", "Using where; Using index"}}));
     ASSERT_TRUE(paths);
     EXPECT_EQ(walksOf(*paths), QStringList({"", "", "", ""}));
 }
 
-TEST(MySqlAccessPaths, areUnknownOnATableInParts)
+TEST(MariaDbAccessPaths, areUnknownOnATableInParts)
 {
-    const auto paths = mySqlAccessPaths(
+    const auto paths = mariaDbAccessPaths(
         mySqlLines({{"SIMPLE", "emplois", "p0,p1", "ref", "i", "i", "408", "Using where"}}));
     ASSERT_TRUE(paths);
     EXPECT_EQ(walksOf(*paths), QStringList({""}));
 }
 
-TEST(MySqlAccessPaths, nameTheTableAndPassOverTheUnionItself)
+TEST(MariaDbAccessPaths, nameTheTableAndPassOverTheUnionItself)
 {
     const auto paths =
-        mySqlAccessPaths(mySqlLines({{"PRIMARY", "courses", "", "ALL", "", "", "", "Using where"},
-                                     {"UNION RESULT", "<union1,2>", "", "ALL", "", "", "", ""}}));
+        mariaDbAccessPaths(mySqlLines({{"PRIMARY", "courses", "", "ALL", "", "", "", "Using where"},
+                                       {"UNION RESULT", "<union1,2>", "", "ALL", "", "", "", ""}}));
     ASSERT_TRUE(paths);
     EXPECT_EQ(*paths, (std::vector<AccessPath>{{"courses", "ALL", true}}));
 }

@@ -1,7 +1,5 @@
 #include "ConnectedTest.h"
 
-#include "db/SqlDialect.h"
-
 using namespace db;
 using runtime::ErrorNumber;
 using test::errorNumberOf;
@@ -206,9 +204,8 @@ TEST_P(Reading, findsADateByTheDialectsLiteral)
     database().execute({QStringLiteral("create table ratrap (n integer, DateX date)"),
                         QStringLiteral("insert into ratrap values (1, '2007-03-15')"),
                         QStringLiteral("insert into ratrap values (2, '2007-03-16')")});
-    const SqlDialect dialect(database().usesMySql());
     EXPECT_EQ(single(QStringLiteral("select n from ratrap where DateX =") +
-                     dialect.dateLiteral(QDate(2007, 3, 15))),
+                     connection().dialect().dateLiteral(QDate(2007, 3, 15))),
               integer(1));
 }
 

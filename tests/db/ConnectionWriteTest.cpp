@@ -1,6 +1,6 @@
 #include "ConnectedTest.h"
 
-#include "db/SqlDialect.h"
+#include <array>
 
 using namespace db;
 using runtime::ErrorNumber;
@@ -11,11 +11,6 @@ namespace
 
 class Writing : public ConnectedTest
 {
-protected:
-    [[nodiscard]] QString dialectDate(QDate date)
-    {
-        return SqlDialect(database().usesMySql()).dateText(date);
-    }
 };
 
 Value text(const char* value)
@@ -42,7 +37,7 @@ TEST_P(Writing, insertsExactlyTheGivenColumns)
                          {QStringLiteral("matière"), text("Génie civil 😀")},
                          {QStringLiteral("Commune"), Value(true)},
                          {QStringLiteral("Classe"), text("A")},
-                         {QStringLiteral("Datex"), Value(dialectDate(QDate(2007, 3, 16)))}});
+                         {QStringLiteral("Datex"), Value(QDate(2007, 3, 16))}});
     EXPECT_EQ(database().read(QStringLiteral("select Classe, `matière`, `Durée`, Commune+0, Debut, "
                                              "Datex from abscence")),
               QList<QStringList>(
@@ -73,7 +68,7 @@ TEST_P(Writing, givesBackTheValuesThatWereInserted)
     connection().insert(QStringLiteral("abscence"),
                         {{QStringLiteral("Classe"), text(" A\tB ")},
                          {QStringLiteral("Commune"), Value(true)},
-                         {QStringLiteral("Datex"), Value(dialectDate(QDate(2007, 3, 16)))}});
+                         {QStringLiteral("Datex"), Value(QDate(2007, 3, 16))}});
     const Row row = connection().open(QStringLiteral("select * from abscence")).first();
     EXPECT_EQ(row.field(QStringLiteral("classe")), text(" A\tB "));
     EXPECT_EQ(row.field(QStringLiteral("commune")), Value(true));
@@ -81,23 +76,43 @@ TEST_P(Writing, givesBackTheValuesThatWereInserted)
     EXPECT_TRUE(row.field(QStringLiteral("durée")).isNull());
 }
 
-TEST_P(Writing, findsByTheDialectsLiteralTheDateThatWasInsertedAsText)
+TEST_P(Writing, findsByTheDialectsLiteralTheDateThatWasInsertedWhateverItsColumnsType)
 {
-    database().execute(abscence);
-    const SqlDialect dialect(database().usesMySql());
-    connection().insert(QStringLiteral("abscence"),
-                        {{QStringLiteral("Datex"), Value(dialect.dateText(QDate(2026, 9, 7)))}});
-    EXPECT_EQ(connection().recordCount(QStringLiteral("Select * from abscence where Datex=") +
-                                       dialect.dateLiteral(QDate(2026, 9, 7))),
-              1);
+    const std::array<const char*, 5> types = {"date", "text", "varchar(10)", "datetime",
+                                              "char(10)"};
+    const QDate date(2026, 10, 5);
+    for (const char* type : types) {
+        SCOPED_TRACE(type);
+        database().execute({QStringLiteral("drop table if exists t"),
+                            QStringLiteral("create table t (a integer, d ") + type + u')'});
+        const QString query = QStringLiteral("Select * from t where d=");
+        connection().insert(QStringLiteral("t"), {{QStringLiteral("d"), Value(date)}});
+        const SqlDialect dialect = connection().dialect();
+        EXPECT_EQ(connection().recordCount(query + dialect.dateLiteral(date)), 1);
+        EXPECT_EQ(connection().recordCount(query + dialect.dateLiteral(date.addDays(1))), 0);
+        EXPECT_TRUE(connection().deleteFirst(query + dialect.dateLiteral(date)));
+        EXPECT_EQ(database().read(QStringLiteral("select * from t")), QList<QStringList>());
+    }
 }
 
-TEST_P(Writing, keepsADialectsDateInATextColumnAsText)
+TEST_P(Writing, keepsATextThatLooksLikeADateAsItIs)
 {
     database().execute(abscence);
-    connection().insert(QStringLiteral("abscence"), {{QStringLiteral("Debut"), text("03/15/07")}});
-    EXPECT_EQ(database().read(QStringLiteral("select Debut from abscence")),
-              QList<QStringList>({{QStringLiteral("03/15/07")}}));
+    connection().insert(QStringLiteral("abscence"),
+                        {{QStringLiteral("Debut"), text("03/15/07")},
+                         {QStringLiteral("Classe"), text("10/05/26")},
+                         {QStringLiteral("matière"), text("2026/10/05")}});
+    EXPECT_EQ(database().read(QStringLiteral("select Debut, Classe, `matière` from abscence")),
+              QList<QStringList>({{QStringLiteral("03/15/07"), QStringLiteral("10/05/26"),
+                                   QStringLiteral("2026/10/05")}}));
+}
+
+TEST_P(Writing, takesADateThatIsNoneForNull)
+{
+    database().execute(abscence);
+    connection().insert(QStringLiteral("abscence"), {{QStringLiteral("Datex"), Value(QDate())}});
+    EXPECT_EQ(database().read(QStringLiteral("select Datex from abscence")),
+              QList<QStringList>({{QStringLiteral("NULL")}}));
 }
 
 TEST_P(Writing, acceptsAnApostropheInAParameterButNotInAConcatenatedText)
@@ -193,10 +208,9 @@ TEST_P(Writing, deletesByADateLiteralAndAnAccentedName)
 {
     database().execute({abscence, QStringLiteral("insert into abscence (`matière`, Datex) values "
                                                  "('été', '2007-03-15'), ('été', '2007-03-16')")});
-    const SqlDialect dialect(database().usesMySql());
     EXPECT_TRUE(connection().deleteFirst(
         QStringLiteral("Select * from abscence Where matière='été' and Datex=") +
-        dialect.dateLiteral(QDate(2007, 3, 15))));
+        connection().dialect().dateLiteral(QDate(2007, 3, 15))));
     EXPECT_EQ(database().read(QStringLiteral("select Datex from abscence")),
               QList<QStringList>({{QStringLiteral("2007-03-16")}}));
 }

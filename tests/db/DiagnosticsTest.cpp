@@ -1,5 +1,6 @@
-#include "db/OdbcHandles.h"
+#include "db/Diagnostics.h"
 
+#include "db/OdbcHandles.h"
 #include "support/RuntimeMatchers.h"
 
 using namespace db;
@@ -8,64 +9,56 @@ using runtime::ErrorNumber;
 namespace
 {
 
-ErrorNumber numberOf(const char* state, int native, Product product, const char* text = "",
-                     bool opening = false)
+ErrorNumber numberOf(const char* state)
 {
-    return errorNumberOf({QLatin1String(state), native, QLatin1String(text)}, product, opening);
+    return errorNumberByState({QLatin1String(state), 0, QString()});
 }
 
 } // namespace
 
-TEST(Diagnostics, takeEveryFailureToOpenForADatabaseFailure)
-{
-    EXPECT_EQ(numberOf("28000", 1045, Product::Other, "", true), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("42000", 1049, Product::Other, "", true), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("", 0, Product::Other, "", true), ErrorNumber::DatabaseFailure);
-}
-
 TEST(Diagnostics, takeALostConnectionForADatabaseFailure)
 {
-    EXPECT_EQ(numberOf("08S01", 0, Product::Other), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("HYT00", 0, Product::Other), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("IM004", 0, Product::Other), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("HY000", 2006, Product::MySql), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("HY000", 2013, Product::MySql), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("HY000", 5014, Product::MySql), ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("70100", 1927, Product::MySql), ErrorNumber::DatabaseFailure);
+    for (const char* state : {"08S01", "08003", "HYT00", "HYT01", "IM004"}) {
+        EXPECT_EQ(numberOf(state), ErrorNumber::DatabaseFailure) << state;
+    }
 }
 
 TEST(Diagnostics, takeAFailureWithoutAReasonForADatabaseFailure)
 {
-    EXPECT_EQ(numberOf("", 0, Product::MySql), ErrorNumber::DatabaseFailure);
+    EXPECT_EQ(numberOf(""), ErrorNumber::DatabaseFailure);
 }
 
 TEST(Diagnostics, tellAMissingTable)
 {
-    EXPECT_EQ(numberOf("42S02", 0, Product::Other), ErrorNumber::TableMissing);
-    EXPECT_EQ(numberOf("HY000", 1146, Product::MySql), ErrorNumber::TableMissing);
-    EXPECT_EQ(numberOf("HY000", 1, Product::Sqlite, "[SQLite]no such table: x (1)"),
-              ErrorNumber::TableMissing);
+    EXPECT_EQ(numberOf("42S02"), ErrorNumber::TableMissing);
 }
 
 TEST(Diagnostics, takeEveryOtherFailureForARefusal)
 {
-    EXPECT_EQ(numberOf("42000", 1064, Product::MySql), ErrorNumber::StatementRefused);
-    EXPECT_EQ(numberOf("42000", 1142, Product::MySql), ErrorNumber::StatementRefused);
-    EXPECT_EQ(numberOf("22007", 1292, Product::MySql), ErrorNumber::StatementRefused);
-    EXPECT_EQ(numberOf("HY000", 1, Product::Sqlite, "near x: syntax error"),
-              ErrorNumber::StatementRefused);
-    EXPECT_EQ(numberOf("HY000", 19, Product::Sqlite, "constraint failed"),
-              ErrorNumber::StatementRefused);
+    for (const char* state : {"42000", "22007", "HY000", "HYC00", "IM100"}) {
+        EXPECT_EQ(numberOf(state), ErrorNumber::StatementRefused) << state;
+    }
 }
 
-TEST(Diagnostics, takeSqlitesTroubleWithItsFileForADatabaseFailure)
+TEST(Diagnostics, sayThatThereIsNoReasonWhereThereIsNone)
 {
-    EXPECT_EQ(numberOf("HY000", 5, Product::Sqlite, "database is locked"),
-              ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("HY000", 8, Product::Sqlite, "attempt to write a readonly database"),
-              ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("HY000", 13, Product::Sqlite, "database or disk is full"),
-              ErrorNumber::DatabaseFailure);
-    EXPECT_EQ(numberOf("HY000", 26, Product::Sqlite, "file is not a database"),
-              ErrorNumber::DatabaseFailure);
+    const EnvironmentHandle environment;
+    for (const TextForm form : {TextForm::Utf16, TextForm::Utf8}) {
+        const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_ENV, environment.get(), form);
+        EXPECT_EQ(diagnostics.state, QString());
+        EXPECT_EQ(diagnostics.text, QStringLiteral("The driver gives no reason."));
+    }
+}
+
+TEST(Diagnostics, tellStateAndTextInBothForms)
+{
+    const EnvironmentHandle environment;
+    // An attribute that there is not.
+    EXPECT_EQ(SQLSetEnvAttr(environment.get(), 99999, nullptr, 0), SQL_ERROR);
+    for (const TextForm form : {TextForm::Utf16, TextForm::Utf8}) {
+        const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_ENV, environment.get(), form);
+        EXPECT_EQ(diagnostics.state, QStringLiteral("HY092"));
+        EXPECT_TRUE(diagnostics.text.contains(QStringLiteral("attribute")))
+            << diagnostics.text.toStdString();
+    }
 }

@@ -1,13 +1,14 @@
 // What reaches the driver of Access, as far as a stand-in for it can tell (StrictDriver.cpp).
 
-#include "db/Connection.h"
+#include "db/AccessProduct.h"
 
-#include "db/SqlDialect.h"
+#include "db/Connection.h"
 #include "support/OdbcConfiguration.h"
 #include "support/RuntimeMatchers.h"
 #include "support/TestFolder.h"
 
 #include <QFile>
+#include <array>
 
 using db::Connection;
 using db::Value;
@@ -32,11 +33,10 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
     }
-    /// The date that stands in the record when this one is written in the dialect's format.
-    [[nodiscard]] QString recordedDate(QDate date) const
+    /// What is written into the column for this date.
+    [[nodiscard]] QString recordedDate(const char* column, QDate date) const
     {
-        const Value text(db::SqlDialect(false).dateText(date));
-        connect().insert(QStringLiteral("t"), {{QStringLiteral("Datex"), text}});
+        connect().insert(QStringLiteral("t"), {{QLatin1String(column), Value(date)}});
         return sent().last();
     }
 
@@ -52,17 +52,15 @@ TEST_F(TheDriverOfAccess, isGivenOnlyTypesThatItKnows)
                      {{QStringLiteral("Classe"), Value(QStringLiteral("L1"))},
                       {QStringLiteral("Tranche"), Value(std::int64_t{2})},
                       {QStringLiteral("Commune"), Value(true)},
-                      {QStringLiteral("Datex"), Value(QStringLiteral("03/17/25"))},
-                      {QStringLiteral("Jour"), Value(QDate(2025, 3, 17))},
+                      {QStringLiteral("Datex"), Value(QDate(2025, 3, 17))},
                       {QStringLiteral("Debut"), Value(QStringLiteral("03/17/25"))},
                       {QStringLiteral("Choix"), Value()}});
-    EXPECT_EQ(sent(), (QStringList{"SELECT `Datex` FROM `abscence` WHERE 0 = 1",
-                                   "SELECT `Debut` FROM `abscence` WHERE 0 = 1",
-                                   "INSERT INTO `abscence` (`Classe`, `Tranche`, `Commune`, "
-                                   "`Datex`, `Jour`, `Debut`, `Choix`) VALUES (?, ?, ?, ?, ?, ?, "
-                                   "?)",
-                                   "text L1", "integer 2", "bit 1", "time 2025 3 17 0",
-                                   "time 2025 3 17 0", "text 03/17/25", "null"}));
+    EXPECT_EQ(sent(),
+              (QStringList{"SELECT `Datex` FROM `abscence` WHERE 0 = 1",
+                           "INSERT INTO `abscence` (`Classe`, `Tranche`, `Commune`, `Datex`, "
+                           "`Debut`, `Choix`) VALUES (?, ?, ?, ?, ?, ?)",
+                           "text L1", "integer 2", "bit 1", "time 2025 3 17 0", "text 03/17/25",
+                           "null"}));
 }
 
 TEST_F(TheDriverOfAccess, refusesIntegersOf64Bits)
@@ -82,8 +80,36 @@ TEST_F(TheDriverOfAccess, refusesIntegersOf64Bits)
 
 TEST_F(TheDriverOfAccess, isGivenTheYearThatItReadsInALiteral)
 {
-    EXPECT_EQ(recordedDate(QDate(2029, 12, 31)), QStringLiteral("time 2029 12 31 0"));
-    EXPECT_EQ(recordedDate(QDate(2030, 1, 1)), QStringLiteral("time 1930 1 1 0"));
+    EXPECT_EQ(recordedDate("Datex", {2029, 12, 31}), QStringLiteral("time 2029 12 31 0"));
+    EXPECT_EQ(recordedDate("Datex", {2030, 1, 1}), QStringLiteral("time 1930 1 1 0"));
+}
+
+TEST_F(TheDriverOfAccess, isGivenTheDialectsTextForADateInATextColumn)
+{
+    EXPECT_EQ(recordedDate("Jour", {2026, 10, 5}), QStringLiteral("text 10/05/26"));
+}
+
+TEST_F(TheDriverOfAccess, isGivenTheStatementsAsTheyAre)
+{
+    Connection connection = connect();
+    const QString sql = QStringLiteral("select * from t where DateX =#03/15/07# and ISNULL(a)");
+    EXPECT_TRUE(connection.open(sql).isEmpty());
+    EXPECT_EQ(sent(), QStringList{sql});
+    EXPECT_EQ(connection.dialect().dateLiteral({2007, 3, 15}), QStringLiteral("#03/15/07#"));
+}
+
+TEST_F(TheDriverOfAccess, isGivenTheDialectOfTheSetting)
+{
+    const Connection connection(QStringLiteral("Driver=" TEMPORA_STRICT_DRIVER ";Log=/dev/null"),
+                                db::SqlDialect(true));
+    EXPECT_EQ(connection.dialect().dateLiteral({2007, 3, 15}), QStringLiteral("'2007/03/15'"));
+}
+
+TEST_F(TheDriverOfAccess, isNeverAskedToExplain)
+{
+    Connection connection = connect();
+    EXPECT_EQ(connection.accessPaths(QStringLiteral("select * from t")), std::nullopt);
+    EXPECT_EQ(connection.statementCount(), 0);
 }
 
 TEST_F(TheDriverOfAccess, deletesTheFirstRowThroughACursor)
@@ -98,4 +124,14 @@ TEST_F(TheDriverOfAccess, deletesTheFirstRowThroughACursor)
     EXPECT_EQ(sent().mid(sent().size() - 2), (QStringList{query, "delete row 1"}));
     EXPECT_TRUE(connection.deleteFirst(query));
     EXPECT_FALSE(connection.deleteFirst(query));
+}
+
+TEST(AccessProduct, readsFlagsAsBitsAndAllElseAsWideText)
+{
+    const db::AccessProduct access;
+    EXPECT_EQ(access.cTypeOf(SQL_BIT), SQL_C_BIT);
+    for (const SQLSMALLINT type :
+         std::array<SQLSMALLINT, 4>{SQL_WVARCHAR, SQL_INTEGER, SQL_DOUBLE, SQL_TYPE_TIMESTAMP}) {
+        EXPECT_EQ(access.cTypeOf(type), SQL_C_WCHAR);
+    }
 }

@@ -1,6 +1,9 @@
-#include "db/EmbeddedSql.h"
+#include "db/SqliteSql.h"
 
-#include <QRegularExpression>
+#include "db/DialectDate.h"
+
+#include <QDate>
+#include <optional>
 
 namespace db
 {
@@ -62,7 +65,8 @@ qsizetype adaptDate(const QString& sql, qsizetype start, QString& adapted)
 {
     const qsizetype close = sql.indexOf(u'#', start + 1);
     const std::optional<QDate> date =
-        close < 0 ? std::nullopt : dialectDate(sql.mid(start + 1, close - start - 1));
+        close < 0 ? std::nullopt
+                  : dialectDate(sql.mid(start + 1, close - start - 1), kSqliteFirstYear);
     if (!date) {
         return -1;
     }
@@ -83,14 +87,14 @@ qsizetype adaptIsNull(const QString& sql, qsizetype start, QString& adapted)
     if (close < 0) {
         return -1;
     }
-    const QString argument = adaptToEmbedded(sql.mid(open + 1, close - open - 1)).trimmed();
+    const QString argument = adaptToSqlite(sql.mid(open + 1, close - open - 1)).trimmed();
     adapted += u'(' + argument + QStringLiteral(" IS NULL)");
     return close + 1;
 }
 
 } // namespace
 
-QString adaptToEmbedded(const QString& sql)
+QString adaptToSqlite(const QString& sql)
 {
     if (!sql.contains(u'#') && !sql.contains(QLatin1String("isnull"), Qt::CaseInsensitive)) {
         return sql; // spares the long statements a walk letter by letter
@@ -116,27 +120,6 @@ QString adaptToEmbedded(const QString& sql)
     }
     adapted += QStringView(sql).mid(copied);
     return adapted;
-}
-
-std::optional<QDate> dialectDate(const QString& text, int firstYear)
-{
-    static const QRegularExpression form(
-        QStringLiteral("^ *(?:(?<m>[0-9]{1,2})/(?<d>[0-9]{1,2})/(?<y>[0-9]{4}|[0-9]{2})|"
-                       "(?<y2>[0-9]{4})([-/])(?<m2>[0-9]{1,2})\\5(?<d2>[0-9]{1,2})) *\\z"));
-    constexpr int century = 100;
-    const QRegularExpressionMatch match = form.match(text);
-    const bool yearFirst = !match.captured(QStringLiteral("y2")).isEmpty();
-    const auto number = [&](const char* name) {
-        return match.captured(QLatin1String(name)).toInt();
-    };
-    int year = yearFirst ? number("y2") : number("y");
-    if (!yearFirst && year < century) {
-        year += firstYear - firstYear % century;
-        year += year < firstYear ? century : 0;
-    }
-    const QDate date(year, yearFirst ? number("m2") : number("m"),
-                     yearFirst ? number("d2") : number("d"));
-    return match.hasMatch() && date.isValid() ? std::optional(date) : std::nullopt;
 }
 
 } // namespace db

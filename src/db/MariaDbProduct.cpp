@@ -1,0 +1,117 @@
+#include "db/MariaDbProduct.h"
+
+#include "db/DeletionSql.h"
+#include "db/ResultReader.h"
+#include "db/Session.h"
+
+namespace db
+{
+namespace
+{
+
+using runtime::ErrorNumber;
+
+/// Codes by which the connection is reported to be gone, whatever the SQLSTATE: the two ranges of
+/// errors found at this end of it, and two of the server's.
+bool isConnectionLost(int nativeCode)
+{
+    constexpr int serverShutdown = 1053;
+    constexpr int connectionKilled = 1927;
+    const int range = nativeCode / 1000;
+    return range == 2 || range == 5 || nativeCode == serverShutdown ||
+           nativeCode == connectionKilled;
+}
+
+/// What the driver is asked for where texts come as UTF-8: these as the bytes that the server sent,
+/// numbers and dates in characters that are the same in every character set.
+SQLSMALLINT cTypeWithoutConversion(SQLSMALLINT type)
+{
+    switch (type) {
+    case SQL_CHAR:
+    case SQL_VARCHAR:
+    case SQL_LONGVARCHAR:
+    case SQL_WCHAR:
+    case SQL_WVARCHAR:
+    case SQL_WLONGVARCHAR:
+        return SQL_C_BINARY;
+    case SQL_TINYINT:
+    case SQL_SMALLINT:
+    case SQL_INTEGER:
+    case SQL_BIGINT:
+    case SQL_REAL:
+    case SQL_FLOAT:
+    case SQL_DOUBLE:
+    case SQL_DECIMAL:
+    case SQL_NUMERIC:
+    case SQL_TYPE_DATE:
+    case SQL_TYPE_TIMESTAMP:
+        return SQL_C_CHAR;
+    default:
+        return SQL_C_WCHAR;
+    }
+}
+
+} // namespace
+
+/// The driver chooses the character set of results when it connects, by its version and options;
+/// what it says of the server is its own product's name.
+MariaDbProduct::Server MariaDbProduct::serverBehind(const ConnectionHandle& connection)
+{
+    Server server;
+    runtime::skipOnError([&] {
+        StatementHandle statement(connection);
+        statement.execute(
+            QStringLiteral("select concat_ws(' ', @@character_set_results, @@version)"));
+        if (statement.fetch()) {
+            const QString answer = ResultReader(statement).readText(1).toJoinedText();
+            server.sendsUtf8 = answer.startsWith(u"utf8"); // utf8, utf8mb3, utf8mb4
+            server.isMariaDb = answer.contains(u"mariadb", Qt::CaseInsensitive);
+        }
+    });
+    return server;
+}
+
+ErrorNumber MariaDbProduct::errorNumberOf(const Diagnostics& diagnostics) const
+{
+    constexpr int noSuchTable = 1146;
+    const ErrorNumber byState = errorNumberByState(diagnostics);
+    if (byState == ErrorNumber::DatabaseFailure || isConnectionLost(diagnostics.nativeCode)) {
+        return ErrorNumber::DatabaseFailure;
+    }
+    return diagnostics.nativeCode == noSuchTable ? ErrorNumber::TableMissing : byState;
+}
+
+SqlDialect MariaDbProduct::dialect(const SqlDialect& /*bySetting*/) const
+{
+    return SqlDialect(true);
+}
+
+bool MariaDbProduct::deleteFirst(const QString& sql, Session& session) const
+{
+    return session.executed(DeletionSql(sql).deletingFirst()).changedRows() > 0;
+}
+
+SQLSMALLINT MariaDbProduct::cTypeOf(SQLSMALLINT type) const
+{
+    if (type == SQL_BIT) {
+        return SQL_C_BIT; // as text it is a raw byte
+    }
+    return m_server.sendsUtf8 ? cTypeWithoutConversion(type) : SQL_C_WCHAR;
+}
+
+Value MariaDbProduct::dateToWrite(QDate date, const ColumnName& /*column*/, Session& session) const
+{
+    return Value(session.dialect().dateText(date));
+}
+
+AccessPaths MariaDbProduct::accessPaths(const QString& sql, Session& session) const
+{
+    // In capitals: where "i" and "I" are no pair, as in Turkish, the driver does not know the word
+    // in small letters, takes the statement for one without rows and falls over. MySQL tells of
+    // partitions unasked, and does not know the word.
+    return mariaDbAccessPaths(session.open(
+        (m_server.isMariaDb ? QStringLiteral("EXPLAIN PARTITIONS ") : QStringLiteral("EXPLAIN ")) +
+        sql));
+}
+
+} // namespace db

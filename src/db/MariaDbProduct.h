@@ -1,0 +1,49 @@
+#pragma once
+
+#include "db/Product.h"
+
+namespace db
+{
+
+class ConnectionHandle;
+
+/// MariaDB and MySQL, whichever of their drivers leads there.
+class MariaDbProduct : public Product
+{
+public:
+    /// What the server says of itself; of one that does not answer neither is known.
+    struct Server {
+        /// The bytes in which it sends texts are UTF-8. The driver spends most of a fetch on
+        /// turning them into UTF-16, text by text.
+        bool sendsUtf8 = false;
+        bool isMariaDb = false; ///< and not MySQL, whatever the driver
+    };
+
+    explicit MariaDbProduct(const Server& server) : m_server(server) {}
+
+    /// Asks the server behind an open connection.
+    [[nodiscard]] static Server serverBehind(const ConnectionHandle& connection);
+
+    [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
+
+    /// Its own, whatever the settings say of the data source.
+    [[nodiscard]] SqlDialect dialect(const SqlDialect& bySetting) const override;
+    /// By one statement, so that two programs never delete the same row. Not through the cursor:
+    /// the driver then looks for a row with the same text in every column, which finds none where a
+    /// BIT is set or a number is real, and reports success.
+    bool deleteFirst(const QString& sql, Session& session) const override;
+
+    [[nodiscard]] SQLSMALLINT cTypeOf(SQLSMALLINT type) const override;
+    /// The text between the literal's quotes: a date column reads it as the literal is read, a text
+    /// column keeps it.
+    [[nodiscard]] Value dateToWrite(QDate date, const ColumnName& column,
+                                    Session& session) const override;
+
+    [[nodiscard]] AccessPaths accessPaths(const QString& sql, Session& session) const override;
+    [[nodiscard]] bool tellsOnlyPaths() const override { return true; }
+
+private:
+    Server m_server;
+};
+
+} // namespace db

@@ -1,0 +1,32 @@
+#include "db/Session.h"
+
+#include "db/ResultReader.h"
+
+namespace db
+{
+
+Session::Session(const QString& connectString, const SqlDialect& bySetting)
+    : m_connection(m_environment, connectString), m_dialect(product().dialect(bySetting))
+{
+}
+
+void Session::send(StatementHandle& statement, const QString& sql)
+{
+    countStatement();
+    statement.execute(product().adapted(sql));
+}
+
+StatementHandle Session::executed(const QString& sql)
+{
+    StatementHandle statement = newStatement();
+    send(statement, sql);
+    return statement;
+}
+
+Recordset Session::open(const QString& sql)
+{
+    StatementHandle statement = executed(sql);
+    return ResultReader(statement).readAll();
+}
+
+} // namespace db

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "db/OdbcHandles.h"
+#include "db/Recordset.h"
+#include "db/SqlDialect.h"
+
+#include <QString>
+
+namespace db
+{
+
+/// An open connection and all that is sent through it: each statement in the product's words, and
+/// counted. Its handles depend on one another in the order in which they stand here.
+///
+/// Errors of every member that sends: DatabaseFailure, StatementRefused, TableMissing.
+class Session
+{
+public:
+    /// `bySetting`: the dialect that the settings choose.
+    Session(const QString& connectString, const SqlDialect& bySetting);
+    Session(const Session&) = delete; // its handles refer to one another
+    Session& operator=(const Session&) = delete;
+
+    [[nodiscard]] const Product& product() const { return m_connection.product(); }
+    /// How dates are written for this product.
+    [[nodiscard]] const SqlDialect& dialect() const { return m_dialect; }
+    /// The name between the driver's own quotes.
+    [[nodiscard]] QString quoted(const QString& name) const { return m_connection.quoted(name); }
+
+    [[nodiscard]] StatementHandle newStatement() const { return StatementHandle(m_connection); }
+    /// Sends a statement of the program.
+    void send(StatementHandle& statement, const QString& sql);
+    /// Sends it through a handle of its own.
+    [[nodiscard]] StatementHandle executed(const QString& sql);
+    /// Sends a query and reads all its rows.
+    [[nodiscard]] Recordset open(const QString& sql);
+
+    /// Counts what was sent by other means.
+    void countStatement() { ++m_statementCount; }
+    [[nodiscard]] long long statementCount() const { return m_statementCount; }
+
+private:
+    EnvironmentHandle m_environment;
+    ConnectionHandle m_connection;
+    SqlDialect m_dialect;
+    long long m_statementCount = 0;
+};
+
+} // namespace db

@@ -1,0 +1,109 @@
+#include "db/SqliteProduct.h"
+
+#include "db/ConnectOptions.h"
+#include "db/DeletionSql.h"
+#include "db/ResultReader.h"
+#include "db/Session.h"
+#include "db/SqliteSql.h"
+
+namespace db
+{
+namespace
+{
+
+using runtime::ErrorNumber;
+using runtime::RunTimeError;
+
+/// The driver reports every failure as HY000 with SQLite's own result code.
+ErrorNumber errorNumberByCode(const Diagnostics& diagnostics)
+{
+    constexpr int genericError = 1;
+    constexpr int tooBig = 18;
+    constexpr int constraint = 19;
+    constexpr int mismatch = 20;
+    constexpr int range = 25;
+    switch (diagnostics.nativeCode) {
+    case genericError:
+        return diagnostics.text.contains(QStringLiteral("no such table"))
+                   ? ErrorNumber::TableMissing
+                   : ErrorNumber::StatementRefused;
+    case tooBig:
+    case constraint:
+    case mismatch:
+    case range:
+        return ErrorNumber::StatementRefused;
+    default: // locked, read-only, full disk, damaged file, …
+        return ErrorNumber::DatabaseFailure;
+    }
+}
+
+} // namespace
+
+std::optional<QString> SqliteProduct::reconnectString(const QString& connectString) const
+{
+    return withLockTimeout(connectString);
+}
+
+/// The driver knows UTF-8 alone where there is no Windows. The driver manager would put texts into
+/// the process's character set for it, and cut every character outside the Basic Multilingual Plane
+/// down to single bytes; the narrow functions pass UTF-8 on untouched.
+TextForm SqliteProduct::textForm() const
+{
+#ifdef _WIN32
+    return TextForm::Utf16;
+#else
+    return TextForm::Utf8;
+#endif
+}
+
+ErrorNumber SqliteProduct::errorNumberOf(const Diagnostics& diagnostics) const
+{
+    const ErrorNumber byState = errorNumberByState(diagnostics);
+    return byState == ErrorNumber::DatabaseFailure || diagnostics.nativeCode == 0
+               ? byState
+               : errorNumberByCode(diagnostics);
+}
+
+QString SqliteProduct::adapted(const QString& sql) const
+{
+    return adaptToSqlite(sql);
+}
+
+bool SqliteProduct::deleteFirst(const QString& sql, Session& session) const
+{
+    const DeletionSql deletion(sql);
+    constexpr int attempts = 100; // each one lost to another program that deletes the same rows
+    for (int i = 0; i < attempts; ++i) {
+        QString rowId;
+        {
+            StatementHandle found = session.executed(deletion.selectingRowId());
+            if (!found.fetch()) {
+                return false;
+            }
+            rowId = ResultReader(found).readText(1).toText();
+        }
+        if (session.executed(deletion.deletingRowId(rowId)).changedRows() > 0) {
+            return true;
+        }
+    }
+    throw RunTimeError(ErrorNumber::DatabaseFailure,
+                       QStringLiteral("Row cannot be located for updating."));
+}
+
+SQLSMALLINT SqliteProduct::cTypeOf(SQLSMALLINT /*type*/) const
+{
+    return textForm() == TextForm::Utf8 ? SQL_C_CHAR : SQL_C_WCHAR;
+}
+
+Value SqliteProduct::dateToWrite(QDate date, const ColumnName& /*column*/, Session& session) const
+{
+    const QString literal = adaptToSqlite(session.dialect().dateLiteral(date));
+    return Value(literal.mid(1, literal.size() - 2)); // between its quotes
+}
+
+AccessPaths SqliteProduct::accessPaths(const QString& sql, Session& session) const
+{
+    return sqliteAccessPaths(session.open(QStringLiteral("explain query plan ") + sql));
+}
+
+} // namespace db

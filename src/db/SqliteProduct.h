@@ -1,0 +1,33 @@
+#pragma once
+
+#include "db/Product.h"
+
+namespace db
+{
+
+/// SQLite, the embedded database: a file behind a driver, without a server.
+class SqliteProduct : public Product
+{
+public:
+    /// With a limit to the wait for another program's lock.
+    [[nodiscard]] std::optional<QString>
+    reconnectString(const QString& connectString) const override;
+    [[nodiscard]] TextForm textForm() const override;
+    [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
+
+    [[nodiscard]] QString adapted(const QString& sql) const override;
+    /// By the row's identity, which every row has: the driver cannot delete through a cursor.
+    /// Error: DatabaseFailure when other programs go on deleting what was found.
+    bool deleteFirst(const QString& sql, Session& session) const override;
+
+    /// Always text: SQLite keeps the type of the value and not that of the column.
+    [[nodiscard]] SQLSMALLINT cTypeOf(SQLSMALLINT type) const override;
+    /// The very text that the literal becomes: no column of SQLite makes a date of it.
+    [[nodiscard]] Value dateToWrite(QDate date, const ColumnName& column,
+                                    Session& session) const override;
+
+    [[nodiscard]] bool joinedQueriesKeepOrder() const override { return true; }
+    [[nodiscard]] AccessPaths accessPaths(const QString& sql, Session& session) const override;
+};
+
+} // namespace db
