@@ -319,6 +319,76 @@ TEST_P(AKeylessTable, keepsEveryRowButTheOneFound)
 
 TEMPORA_ON_BOTH_DATABASES(AKeylessTable);
 
+/// Databases that grew over the years keep dates in columns of many types; SQLite asks for none.
+class ADateColumn : public OnBothDatabases
+{
+protected:
+    [[nodiscard]] QStringList types()
+    {
+        const QStringList everywhere{"DATE", "TEXT", "VARCHAR(10)", "DATETIME"};
+        return database().usesMySql() ? everywhere
+                                      : everywhere + QStringList{QString(), "INTEGER", "BLOB"};
+    }
+
+    /// Both tables anew, empty, with the dates declared as this type.
+    void declare(const QString& type)
+    {
+        database().execute({"drop table if exists abscence", "drop table if exists etud_abs"});
+        createKeylessAbsenceTables(database(), type);
+    }
+};
+
+TEST_P(ADateColumn, ofAnyTypeHoldsWhatTheSearchFinds)
+{
+    for (const QString& type : types()) {
+        SCOPED_TRACE(type.toStdString());
+        declare(type);
+        db::Database opened(database().usesMySql());
+        opened.open(database().connectString());
+        AbsenceRecords records(opened);
+        Marqueur marker = lesson(classA);
+        marker.Jour = QDate(2026, 10, 5);
+        Marqueur nextDay = marker;
+        nextDay.Jour = QDate(2026, 10, 6);
+
+        records.Basculer_AbsClasse(marker, classA);
+        records.Basculer_AbsEtud(marker, classA, classA);
+        EXPECT_TRUE(records.Existe_AbsClasse(marker, classA));
+        EXPECT_TRUE(records.Existe_AbsEtud(marker, classA, classA));
+        EXPECT_FALSE(records.Existe_AbsClasse(nextDay, classA));
+        EXPECT_FALSE(records.Existe_AbsEtud(nextDay, classA, classA));
+
+        records.Basculer_AbsClasse(marker, classA);
+        records.Basculer_AbsEtud(marker, classA, classA);
+        EXPECT_FALSE(marker.AbsClasse);
+        EXPECT_FALSE(marker.AbsEtud);
+        EXPECT_TRUE(classAbsences(database()).isEmpty());
+        EXPECT_TRUE(studentAbsences(database()).isEmpty());
+    }
+}
+
+TEST_P(ADateColumn, isTheOnlyOneThatADateIsWrittenTo)
+{
+    declare(QStringLiteral("VARCHAR(10)"));
+    const QString name = QStringLiteral("10/05/26"); // of a class
+    db::Database opened(database().usesMySql());
+    opened.open(database().connectString());
+    AbsenceRecords records(opened);
+    Marqueur marker = lesson(name);
+    marker.Jour = QDate(2026, 10, 5);
+    marker.Matiere = QStringLiteral("2026/10/05");
+    records.Basculer_AbsClasse(marker, name);
+    records.Basculer_AbsEtud(marker, name, name);
+    const QString date =
+        database().usesMySql() ? QStringLiteral("2026/10/05") : QStringLiteral("2026-10-05");
+    EXPECT_EQ(database().read("select Classe, `matière`, Datex from abscence"),
+              QList<QStringList>({{name, marker.Matiere, date}}));
+    EXPECT_EQ(database().read("select Classe, Nom, `matière`, Jour, Ident from etud_abs"),
+              QList<QStringList>({{name, name, marker.Matiere, date, name}}));
+}
+
+TEMPORA_ON_BOTH_DATABASES(ADateColumn);
+
 TEST(EndTime, isTheStartAndTheLength)
 {
     EXPECT_EQ(absences::endTime(QStringLiteral("10:15"), 90), QStringLiteral("11:45"));

@@ -12,14 +12,14 @@ bool isOfAbsences(const QString& table)
     return table == u"abscence" || table == u"etud_abs";
 }
 
-QString withoutKey(const demo::Table& table)
+QString withoutKey(const demo::Table& table, const QString& dateType)
 {
     QStringList columns;
     for (const demo::Column& column : table.columns) {
         const QString type = column.kind == demo::ColumnKind::Text ? QStringLiteral("VARCHAR(100)")
                              : column.kind == demo::ColumnKind::Number ? QStringLiteral("INTEGER")
                              : column.kind == demo::ColumnKind::Flag   ? QStringLiteral("BOOLEAN")
-                                                                       : QStringLiteral("DATE");
+                                                                       : dateType;
         columns << u'`' + column.name + QStringLiteral("` ") + type;
     }
     return QStringLiteral("CREATE TABLE ") + table.name + QStringLiteral(" (") +
@@ -62,11 +62,11 @@ void createAbsenceTables(TestDatabase& database)
     database.execute(absenceTableStatements(database.kind()));
 }
 
-void createKeylessAbsenceTables(TestDatabase& database)
+void createKeylessAbsenceTables(TestDatabase& database, const QString& dateType)
 {
     for (const demo::Table& table : demo::tables()) {
         if (isOfAbsences(table.name)) {
-            database.execute(withoutKey(table));
+            database.execute(withoutKey(table, dateType));
         }
     }
 }

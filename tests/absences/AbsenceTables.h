@@ -15,8 +15,10 @@ namespace test
 /// Creates the two tables of absences as the demo faculty has them, with a counted key, and the
 /// period that `lesson` belongs to.
 void createAbsenceTables(TestDatabase& database);
-/// Creates the two tables of absences without any key, so that rows can be identical.
-void createKeylessAbsenceTables(TestDatabase& database);
+/// Creates the two tables of absences without any key, so that rows can be identical. `dateType` is
+/// what `Datex` and `Jour` are declared as.
+void createKeylessAbsenceTables(TestDatabase& database,
+                                const QString& dateType = QStringLiteral("DATE"));
 
 /// The séance that the tests mark: an algebra class on Monday, 17 March 2025, at 10h15.
 [[nodiscard]] plan::Marqueur lesson(const QString& classes);
