@@ -1,11 +1,14 @@
 #include "lookup/CellText.h"
 
 #include "runtime/RunTimeError.h"
+#include "timetable/MeetingColumns.h"
 
 namespace lookup
 {
 namespace
 {
+
+namespace column = timetable::column;
 
 using runtime::skipOnError;
 
@@ -96,34 +99,34 @@ void Composer::separateOccupants()
 void Composer::composeInvigilators()
 {
     if (m_options.exam && m_options.showInvigilators) {
-        append(QStringLiteral(" "), QStringLiteral("Resp1"));
-        appendIfFilled(QStringLiteral("Resp2"), QStringLiteral("Resp2"));
-        appendIfFilled(QStringLiteral("Resp3"), QStringLiteral("Resp3"));
+        append(QStringLiteral(" "), column::kResp1);
+        appendIfFilled(column::kResp2, column::kResp2);
+        appendIfFilled(column::kResp3, column::kResp3);
         separate();
     }
 }
 
 void Composer::composeRoomA()
 {
-    const QString nature = textOf(QStringLiteral("newnature"));
+    const QString nature = textOf(column::kNewNature);
     const bool meets =
         m_options.everyWeek || nature == u"00" || (m_options.showsWeekA && nature == u"10/20");
-    if (!meets || !isRoom(QStringLiteral("Salle"))) {
+    if (!meets || !isRoom(column::kSalle)) {
         return;
     }
     if (m_options.showClass) {
-        append({}, QStringLiteral("Classe"), m_options.separator);
+        append({}, column::kClasse, m_options.separator);
     }
     if (m_options.showTeachers) {
-        append(QStringLiteral(" "), QStringLiteral("Enseignant1"));
-        appendIfFilled(QStringLiteral("Enseignant2"), QStringLiteral("Enseignant2"));
-        appendIfFilled(QStringLiteral("Enseignant3"), QStringLiteral("Enseignant3"));
+        append(QStringLiteral(" "), column::kEnseignant1);
+        appendIfFilled(column::kEnseignant2, column::kEnseignant2);
+        appendIfFilled(column::kEnseignant3, column::kEnseignant3);
         if (!m_options.showInvigilators) {
             separate();
         }
     }
     composeInvigilators();
-    appendSubject(QStringLiteral("matière"));
+    appendSubject(column::kMatiere);
 }
 
 // The blocks below belong to courses only: an exam is held in `Salle` alone, so none of them has
@@ -131,56 +134,56 @@ void Composer::composeRoomA()
 
 void Composer::composeSecondRoomA()
 {
-    if (!isRoom(QStringLiteral("XSalle"))) { // whatever the week: the part follows its course
+    if (!isRoom(column::kXSalle)) { // whatever the week: the part follows its course
         return;
     }
     if (m_options.showClass && m_text.isEmpty()) {
-        append({}, QStringLiteral("Classe"), m_options.separator);
+        append({}, column::kClasse, m_options.separator);
     }
     if (m_options.showTeachers) {
-        append(QStringLiteral("  "), QStringLiteral("XEnseignant1"));
-        appendIfFilled(QStringLiteral("XEnseignant2"), QStringLiteral("XEnseignant2"));
-        appendIfFilled(QStringLiteral("XEnseignant3"), QStringLiteral("XEnseignant3"));
+        append(QStringLiteral("  "), column::kXEnseignant1);
+        appendIfFilled(column::kXEnseignant2, column::kXEnseignant2);
+        appendIfFilled(column::kXEnseignant3, column::kXEnseignant3);
     }
-    appendSubject(QStringLiteral("XMatière"));
+    appendSubject(column::kXMatiere);
 }
 
 // No separator stands inside the B blocks: they may follow an A occupant on the same line.
 
 void Composer::composeRoomB()
 {
-    if (!isRoom(QStringLiteral("SalleB")) || !(m_options.everyWeek || m_options.showsWeekB)) {
+    if (!isRoom(column::kSalleB) || !(m_options.everyWeek || m_options.showsWeekB)) {
         return;
     }
     separateOccupants();
     if (m_options.showClass) {
-        append({}, QStringLiteral("Classe"));
+        append({}, column::kClasse);
     }
     if (m_options.showTeachers) {
-        append(QStringLiteral("  "), QStringLiteral("Enseignant1b"));
+        append(QStringLiteral("  "), column::kEnseignant1b);
         // An alternating pair has as many teachers in week B as in week A, so the A columns tell
         // whether there is a second and a third.
-        appendIfFilled(QStringLiteral("Enseignant2"), QStringLiteral("Enseignant2b"));
-        appendIfFilled(QStringLiteral("Enseignant3"), QStringLiteral("Enseignant3b"));
+        appendIfFilled(column::kEnseignant2, column::kEnseignant2b);
+        appendIfFilled(column::kEnseignant3, column::kEnseignant3b);
     }
-    appendSubject(QStringLiteral("Matièreb"));
+    appendSubject(column::kMatiereb);
 }
 
 void Composer::composeSecondRoomB()
 {
-    if (!isRoom(QStringLiteral("XSalleB")) || !(m_options.everyWeek || m_options.showsWeekB)) {
+    if (!isRoom(column::kXSalleB) || !(m_options.everyWeek || m_options.showsWeekB)) {
         return;
     }
     separateOccupants();
     if (m_options.showClass) {
-        append({}, QStringLiteral("Classe"));
+        append({}, column::kClasse);
     }
     if (m_options.showTeachers) {
-        append(QStringLiteral("  "), QStringLiteral("XEnseignant1B"));
-        appendIfFilled(QStringLiteral("XEnseignant2B"), QStringLiteral("XEnseignant2B"));
-        appendIfFilled(QStringLiteral("XEnseignant3B"), QStringLiteral("XEnseignant3B"));
+        append(QStringLiteral("  "), column::kXEnseignant1B);
+        appendIfFilled(column::kXEnseignant2B, column::kXEnseignant2B);
+        appendIfFilled(column::kXEnseignant3B, column::kXEnseignant3B);
     }
-    appendSubject(QStringLiteral("XMatièreB"));
+    appendSubject(column::kXMatiereB);
 }
 
 QString Composer::finish(const SeanceTypeShortNames& typeNames)
@@ -190,7 +193,7 @@ QString Composer::finish(const SeanceTypeShortNames& typeNames)
     }
     if (m_options.showType) {
         skipOnError([&] {
-            const int type = m_row.field(QStringLiteral("TypeS1")).toInt32();
+            const int type = m_row.field(column::kTypeS1).toInt32();
             if (type >= 0 && type < static_cast<int>(typeNames.size())) {
                 m_text +=
                     QStringLiteral(" (") + typeNames.at(static_cast<std::size_t>(type)) + u')';

@@ -3,6 +3,7 @@
 #include "lookup/ClassSizes.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/MeetingColumns.h"
 
 #include <optional>
 #include <utility>
@@ -11,6 +12,8 @@ namespace lookup
 {
 namespace
 {
+
+namespace column = timetable::column;
 
 using runtime::skipOnError;
 
@@ -99,24 +102,23 @@ void OccupancyLookup::keepFacts(RoomCell& cell, const db::Recordset& rows,
 {
     const db::Row& row = rows.first();
     skipOnError([&] { cell.CellRowCount = runtime::nearestInt16(rows.recordCount()); });
-    keepText(cell.CellStart, row, QStringLiteral("Debut"));
-    keepText(cell.CellDuration, row, QStringLiteral("Durée"));
-    keepText(cell.CellTeacher, row,
-             m_view.day.exam ? QStringLiteral("Resp1") : QStringLiteral("Enseignant1"));
-    keepText(cell.CellSubject, row, QStringLiteral("matière"));
-    skipOnError([&] { cell.CellCommon = row.field(QStringLiteral("Commune")).toBoolean(); });
-    keepText(cell.CellTypeA, row, QStringLiteral("TypeS1"));
+    keepText(cell.CellStart, row, column::kDebut);
+    keepText(cell.CellDuration, row, column::kDuree);
+    keepText(cell.CellTeacher, row, m_view.day.exam ? column::kResp1 : column::kEnseignant1);
+    keepText(cell.CellSubject, row, column::kMatiere);
+    skipOnError([&] { cell.CellCommon = row.field(column::kCommune).toBoolean(); });
+    keepText(cell.CellTypeA, row, column::kTypeS1);
     // The third B type is the one that an absence record carries on.
-    keepText(cell.CellTypeB, row, QStringLiteral("TypeS3B"));
-    keepText(cell.CellSeance, row, QStringLiteral("Seance"));
+    keepText(cell.CellTypeB, row, column::kTypeS3B);
+    keepText(cell.CellSeance, row, column::kSeance);
     cell.CellRoom = room;
-    keepText(cell.CellWeekNature, row, QStringLiteral("newnature"));
+    keepText(cell.CellWeekNature, row, column::kNewNature);
 }
 
 void OccupancyLookup::keepOneClass(RoomCell& cell, const db::Row& row)
 {
     skipOnError([&] {
-        const db::Value className = row.field(QStringLiteral("Classe"));
+        const db::Value className = row.field(column::kClasse);
         // A single class ends with a line break where several are only joined by one: the
         // counter's details then open with a line of their own.
         cell.CellClasses = className.toJoinedText() + kLineEnd;
@@ -129,11 +131,11 @@ void OccupancyLookup::keepClasses(RoomCell& cell, const db::Recordset& rows)
 {
     for (const db::Row& row : rows.rows()) {
         QString className;
-        keepText(className, row, QStringLiteral("Classe"));
+        keepText(className, row, column::kClasse);
         QString line = m_view.options.showClass ? className : QString();
         if (m_view.options.showTeachers) {
             skipOnError([&] {
-                const QString teacher = row.field(QStringLiteral("Enseignant1")).toJoinedText();
+                const QString teacher = row.field(column::kEnseignant1).toJoinedText();
                 if (!line.isEmpty()) {
                     line += u'\t';
                 }
@@ -156,7 +158,7 @@ void OccupancyLookup::keepClasses(RoomCell& cell, const db::Recordset& rows)
 void OccupancyLookup::addSizes(RoomCell& cell, const db::Row& row)
 {
     std::optional<QString> className; // a class without a name counts, a null does not
-    skipOnError([&] { className = row.field(QStringLiteral("Classe")).toText(); });
+    skipOnError([&] { className = row.field(column::kClasse).toText(); });
     if (!className) {
         return;
     }

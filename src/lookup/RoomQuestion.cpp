@@ -1,51 +1,57 @@
 #include "lookup/RoomQuestion.h"
 
+#include "timetable/MeetingColumns.h"
+
 namespace lookup
 {
+
+namespace column = timetable::column;
 
 // Texts are joined piece by piece, never by numbered places: a room name may hold a "%1".
 
 QStringList RoomQuestion::roomColumns(Table table)
 {
-    if (table == Table::examen) {
-        return {QStringLiteral("Salle")};
-    }
-    return {QStringLiteral("Salle"),  QStringLiteral("XSalle"),  QStringLiteral("YSalle"),
-            QStringLiteral("SalleB"), QStringLiteral("XSalleB"), QStringLiteral("YSalleB")};
+    return table == Table::examen
+               ? QStringList(column::kExamRooms.begin(), column::kExamRooms.end())
+               : QStringList(column::kRooms.begin(), column::kRooms.end());
 }
 
 QString RoomQuestion::roomCondition() const
 {
-    if (table == Table::examen || room.isEmpty()) {
-        return QStringLiteral(" ( Salle = '") + room + QStringLiteral("' )");
+    const QString asked = u'\'' + room + u'\'';
+    QString condition = QStringLiteral(" ( ") + column::kSalle + QStringLiteral(" = ") + asked;
+    if (table != Table::examen && !room.isEmpty()) {
+        for (const QString& further : roomColumns(table).mid(1)) {
+            condition += QStringLiteral(" or ") + further + QStringLiteral(" =") + asked;
+        }
     }
-    return QStringLiteral(" ( Salle = '") + room + QStringLiteral("' or XSalle ='") + room +
-           QStringLiteral("' or YSalle ='") + room + QStringLiteral("' or SalleB ='") + room +
-           QStringLiteral("' or XSalleB ='") + room + QStringLiteral("' or YSalleB ='") + room +
-           QStringLiteral("' )");
+    return condition + QStringLiteral(" )");
 }
 
 QString RoomQuestion::tableName() const
 {
     switch (table) {
     case Table::examen:
-        return QStringLiteral("examen");
+        return timetable::table::kExamen;
     case Table::ratrap:
-        return QStringLiteral("ratrap");
+        return timetable::table::kRatrap;
     case Table::emplois:
         break;
     }
-    return QStringLiteral("emplois");
+    return timetable::table::kEmplois;
 }
 
 QString RoomQuestion::periodCondition(const db::SqlDialect& dialect) const
 {
-    QString period = QStringLiteral(" and Tranche =") + tranche;
+    const auto is = [](const QString& name, const QString& value) {
+        return QStringLiteral(" and ") + name + QStringLiteral(" =") + value;
+    };
+    const QString period = is(column::kTranche, tranche);
     switch (table) {
     case Table::examen:
-        return period + QStringLiteral(" and Semaine =") + examWeek;
+        return period + is(column::kSemaine, examWeek);
     case Table::ratrap:
-        return period + QStringLiteral(" and DateX =") + dialect.dateLiteral(date);
+        return period + is(column::kDateX, dialect.dateLiteral(date));
     case Table::emplois:
         break;
     }
@@ -54,7 +60,8 @@ QString RoomQuestion::periodCondition(const db::SqlDialect& dialect) const
 
 QString RoomQuestion::slotCondition(const db::SqlDialect& dialect) const
 {
-    return QStringLiteral(" Seance = '") + seanceKey + u'\'' + periodCondition(dialect);
+    return u' ' + QString(column::kSeance) + QStringLiteral(" = '") + seanceKey + u'\'' +
+           periodCondition(dialect);
 }
 
 QString RoomQuestion::condition(const db::SqlDialect& dialect) const
