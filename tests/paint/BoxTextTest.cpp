@@ -4,6 +4,8 @@
 #include "plan/CellLayout.h"
 #include "support/RuntimeMatchers.h"
 
+#include <QFontMetricsF>
+
 using plan::CellLayout;
 using test::Canvas;
 
@@ -11,6 +13,39 @@ namespace
 {
 
 constexpr QRect area(100, 50, 160, 60);
+
+QFont arial(int pixels)
+{
+    QFont font("Arial");
+    font.setPixelSize(pixels);
+    return font;
+}
+
+double lineHeight()
+{
+    return QFontMetricsF(arial(13)).height();
+}
+
+double ascent()
+{
+    return QFontMetricsF(arial(13)).ascent();
+}
+
+/// The first rows below each block of ink: the baselines of lines of capitals.
+QList<int> feetOf(const Canvas& canvas)
+{
+    QList<int> feet;
+    bool inked = false;
+    for (int y = 0; y < canvas.image().height(); ++y) {
+        const bool ink =
+            !canvas.bounds(Canvas::untouched, {0, y, canvas.image().width(), 1}).isEmpty();
+        if (inked && !ink) {
+            feet << y;
+        }
+        inked = ink;
+    }
+    return feet;
+}
 
 Canvas written(const QString& text, int format = CellLayout::kCentredLines,
                const QRectF& place = area)
@@ -39,27 +74,61 @@ Canvas label(const QString& text, const QRectF& place, Qt::AlignmentFlag side = 
 
 } // namespace
 
+// An H is as high as a capital and stands on the baseline; the area's middle is 180, 80. Letters of
+// 13 pixels take lines of `lineHeight`, whose baseline lies `ascent` below their top.
+
 TEST(BoxText, isCentredBothWays)
 {
-    const QRect ink = written("GC1").touched();
-    ASSERT_FALSE(ink.isEmpty());
-    EXPECT_NEAR(ink.center().x(), area.center().x(), 2);
-    EXPECT_NEAR(ink.center().y(), area.center().y(), 4);
+    const QRect ink = written("H").touched();
+    EXPECT_NEAR(ink.center().x(), 179.5, 1);
+    EXPECT_NEAR(ink.bottom() + 1, 80 - lineHeight() / 2 + ascent(), 1);
+    EXPECT_NEAR(ink.height(), 9, 1);
 }
 
 TEST(BoxText, startsAtTheTopLeftWhenItsLinesAreBroken)
 {
-    const QRect ink = written("GC1", CellLayout::kWordBreak).touched();
-    ASSERT_FALSE(ink.isEmpty());
-    EXPECT_LT(ink.left(), area.left() + 4);
-    EXPECT_LT(ink.bottom(), area.center().y());
+    const QRect ink = written("H", CellLayout::kWordBreak).touched();
+    EXPECT_NEAR(ink.left(), area.left() + 1, 1);
+    EXPECT_NEAR(ink.bottom() + 1, area.top() + ascent(), 1);
 }
 
 TEST(BoxText, standsOneLineBelowTheOther)
 {
-    const int one = written("GC1").touched().height();
-    const int two = written("GC1\r\nGC2").touched().height();
-    EXPECT_GT(two, 2 * one);
+    const QList<int> feet = feetOf(written("H\r\nH\r\nH"));
+    ASSERT_EQ(feet.size(), 3);
+    for (int line = 0; line < 3; ++line) {
+        EXPECT_NEAR(feet[line], 80 + (line - 1.5) * lineHeight() + ascent(), 1) << line;
+    }
+}
+
+TEST(BoxText, hasEachLineInTheMiddle)
+{
+    const Canvas canvas = written("HHHHHH\r\nH");
+    EXPECT_NEAR(canvas.bounds(Canvas::untouched, {100, 50, 160, 29}).center().x(), 179.5, 1);
+    EXPECT_NEAR(canvas.bounds(Canvas::untouched, {100, 82, 160, 28}).center().x(), 179.5, 1);
+}
+
+TEST(BoxText, movesLinesTogetherThatAreTooManyForTheirArea)
+{
+    // Four lines of nine pixels, each more than ten high, in 38: nine and a half for each.
+    const QRectF low(100, 50, 160, 38);
+    const QList<int> feet = feetOf(written("H\r\nH\r\nH\r\nH", CellLayout::kCentredLines, low));
+    ASSERT_EQ(feet.size(), 4);
+    EXPECT_NEAR(feet[3] - feet[0], 3 * 9.5, 1);
+    const QFontMetricsF nine(arial(9));
+    EXPECT_NEAR(feet[0], 50 + (9.5 - nine.height()) / 2 + nine.ascent(), 1);
+}
+
+TEST(BoxText, isAsLargeAsItsAreaAllows)
+{
+    // One line of 13 pixels takes 15 of height, one of 11 takes 12.6; one pixel may be missing.
+    const auto capital = [](double height) {
+        return written("H", CellLayout::kCentredLines, {100, 50, 160, height}).touched().height();
+    };
+    EXPECT_EQ(capital(lineHeight()), capital(60));
+    EXPECT_EQ(capital(lineHeight() - 1), capital(60));
+    EXPECT_LT(capital(lineHeight() - 2.5), capital(60));
+    EXPECT_NEAR(capital(8), 6.5, 1); // nine pixels, however low the area is
 }
 
 TEST(BoxText, isNotMovedByASeparatorAtItsEnd)
@@ -109,31 +178,40 @@ TEST(BoxText, shrinksToFitARowOfManyRooms)
 
 TEST(LabelText, standsAtItsSideHalfwayDown)
 {
-    const QRect left = label("120", area).touched();
-    EXPECT_NEAR(left.left(), area.left(), 3);
-    EXPECT_NEAR(left.center().y(), area.center().y(), 4);
-    const QRect right = label("120", area, Qt::AlignRight).touched();
-    EXPECT_NEAR(right.right(), area.right(), 3);
-    EXPECT_NEAR(right.center().y(), area.center().y(), 4);
+    const double baseline = 80 - lineHeight() / 2 + ascent();
+    const QRect left = label("H", area).touched();
+    EXPECT_NEAR(left.left(), area.left() + 1, 1);
+    EXPECT_NEAR(left.bottom() + 1, baseline, 1);
+    const QRect right = label("H", area, Qt::AlignRight).touched();
+    EXPECT_NEAR(right.right(), area.right() - 1, 1);
+    EXPECT_NEAR(right.bottom() + 1, baseline, 1);
 }
-
-// A name that is cut looks the same whatever it goes on with.
 
 TEST(LabelText, takesTwoLinesForANameThatIsTooLongForOne)
 {
-    const QRectF narrow(100, 50, 90, 38);
-    const Canvas whole = label("Amphi Al Khwarizmi", narrow);
-    EXPECT_GT(whole.touched().height(), label("Amphi", narrow).touched().height() + 8);
-    EXPECT_NE(whole.image(), label("Amphi Al Khwarizmu", narrow).image());
+    const Canvas canvas = label("HHHHH HHHH", {100, 50, 60, 38});
+    const QList<int> feet = feetOf(canvas);
+    ASSERT_EQ(feet.size(), 2);
+    EXPECT_NEAR(feet[0], 69 - lineHeight() + ascent(), 1);
+    EXPECT_NEAR(feet[1], 69 + ascent(), 1);
+    const QRect upper = canvas.bounds(Canvas::untouched, {100, 50, 60, feet[0] - 50});
+    const QRect lower = canvas.bounds(Canvas::untouched, {100, feet[0], 60, 30});
+    EXPECT_NEAR(upper.left(), 101, 1);
+    EXPECT_NEAR(lower.left(), 101, 1);
+    EXPECT_NEAR(lower.width() * 5.0 / 4, upper.width(), 3); // four letters below five
 }
 
 TEST(LabelText, shrinksForANameThatIsALittleTooLongInALowRow)
 {
-    const QRectF low(100, 50, 105, 16);
-    const Canvas whole = label("Amphi Al Khwarizmi", low);
-    EXPECT_TRUE(QRect(98, 49, 109, 18).contains(whole.touched()));
-    EXPECT_NE(whole.image(), label("Amphi Al Khwarizmu", low).image());
+    const QString name = "HHHHHHHHHH";
+    const double whole = label(name, {100, 50, 200, 16}).touched().width();
+    const QRect shrunk = label(name, {100, 50, whole - 4, 16}).touched();
+    EXPECT_GT(shrunk.width(), whole * 11 / 13); // one size smaller, or two, and not cut
+    EXPECT_LT(shrunk.width(), whole - 3);
+    EXPECT_TRUE(QRectF(98, 49, whole, 18).contains(shrunk));
 }
+
+// A name that is cut looks the same whatever it goes on with.
 
 TEST(LabelText, isCutWhereNothingElseHelps)
 {

@@ -42,6 +42,17 @@ public:
         });
         return found;
     }
+    /// The smallest rectangle that holds all pixels of the area that have exactly the colour.
+    [[nodiscard]] QRect boundsOf(const QColor& color, const QRect& area) const
+    {
+        QRect found;
+        forEach(area, [&](int x, int y) {
+            if (at(x, y) == color) {
+                found |= QRect(x, y, 1, 1);
+            }
+        });
+        return found;
+    }
     /// How many pixels of the area have exactly the colour.
     [[nodiscard]] int count(const QColor& color, const QRect& area) const
     {

@@ -95,7 +95,17 @@ TEST(CellBox, isFilledWithItsColour)
 {
     const Canvas canvas = drawn(filled(yellow), "");
     EXPECT_EQ(canvas.count(toColor(yellow), inside), inside.width() * inside.height());
-    EXPECT_NE(canvas.at(100, 60), toColor(yellow)); // the outline
+}
+
+TEST(CellBox, hasAGreyFrameOfOnePixelAtEachSide)
+{
+    const Canvas canvas = drawn(filled(yellow), "");
+    const QColor grey(60, 60, 60);
+    EXPECT_EQ(canvas.count(grey, box), 2 * 160 + 2 * 18);
+    for (const QPoint& on : {QPoint(100, 50), QPoint(259, 50), QPoint(100, 69), QPoint(259, 69),
+                             QPoint(180, 50), QPoint(180, 69), QPoint(100, 60), QPoint(259, 60)}) {
+        EXPECT_EQ(canvas.at(on.x(), on.y()), grey) << on.x() << ' ' << on.y();
+    }
 }
 
 TEST(CellBox, isHatchedForAMakeUp)
@@ -105,6 +115,27 @@ TEST(CellBox, isHatchedForAMakeUp)
     EXPECT_GT(filled, 0);
     EXPECT_LT(filled, inside.width() * inside.height());
     EXPECT_EQ(canvas.touched(), box);
+}
+
+TEST(CellBox, isHatchedInTheTextsColourWhereThatContrastsAmply)
+{
+    // Black at 64 of 255 over yellow: 250 * 191 / 255 = 187, 230 → 172, 120 → 90.
+    const Canvas canvas = drawn(filled(yellow, true), "");
+    const int crosses = canvas.count(QColor(187, 172, 90), inside);
+    const int rest = canvas.count(toColor(yellow), inside);
+    EXPECT_EQ(crosses + rest, inside.width() * inside.height());
+    // Two diagonals in every eight by eight pixels, which meet twice at most.
+    EXPECT_NEAR(crosses * 64.0 / (crosses + rest), 15, 1.5);
+}
+
+TEST(CellBox, isHatchedInTheOtherColourWhereTheTextNeedsIt)
+{
+    // White on purple has a contrast of 10.2; black at 160 of 255 leaves 95 / 255 of it.
+    const Colour purple = Colour::fromRgb(85, 45, 125);
+    const Canvas canvas = drawn(filled(purple, true), "");
+    const int crosses = canvas.count(QColor(32, 17, 47), inside);
+    EXPECT_EQ(crosses + canvas.count(toColor(purple), inside), inside.width() * inside.height());
+    EXPECT_GT(crosses, 0);
 }
 
 TEST(CellBox, isHatchedSoThatItsTextStaysReadable)

@@ -123,19 +123,91 @@ TEST(PrinterCellText, staysInItsRectangle)
     }
 }
 
-TEST(PrintedBox, isHatchedWithLinesOfItsOwn)
+namespace
+{
+
+constexpr QColor yellow(250, 230, 120);
+
+/// 1700 × 400 twips at 250, 50: 850 by 200 pixels.
+Canvas printedBox(bool hatched, const QString& text = {}, int format = CellLayout::kCentredLines)
 {
     BoxStyle style;
     style.fill = form::Colour::fromRgb(250, 230, 120);
-    style.hatched = true;
+    style.hatched = hatched;
     style.rowHeight = 400;
+    style.textFormat = format;
     Canvas canvas(1200, 400);
-    canvas.draw([&](QPainter& painter) { DrawCellBox(painter, paper(), style, 100, 50, 90, ""); });
-    // 1700 × 400 twips at 250, 50. A line of half a point stands every six and a half.
-    const QRect inside(256, 56, 838, 188);
-    const int filled = canvas.count(QColor(250, 230, 120), inside);
-    const int all = inside.width() * inside.height();
-    EXPECT_GT(filled, all / 2);
-    EXPECT_LT(filled, all * 9 / 10);
+    canvas.draw([&](QPainter& painter) {
+        painter.setFont(arial(9));
+        DrawCellBox(painter, paper(), style, 100, 50, 90, text);
+    });
+    return canvas;
+}
+
+} // namespace
+
+TEST(PrintedBox, hasAFrameOfHalfAPoint)
+{
+    const Canvas canvas = printedBox(false);
+    const QColor grey(60, 60, 60);
+    for (const int off : {-2, 0, 2}) { // five pixels, half of them outside
+        EXPECT_EQ(canvas.at(250 + off, 150), grey) << off;
+        EXPECT_EQ(canvas.at(1099 + off, 150), grey) << off;
+        EXPECT_EQ(canvas.at(600, 50 + off), grey) << off;
+        EXPECT_EQ(canvas.at(600, 249 + off), grey) << off;
+    }
+    EXPECT_EQ(canvas.at(254, 150), yellow);
+    EXPECT_EQ(canvas.at(1094, 150), yellow);
+    EXPECT_EQ(canvas.at(600, 54), yellow);
+    EXPECT_EQ(canvas.at(600, 244), yellow);
     EXPECT_TRUE(QRect(247, 47, 857, 207).contains(canvas.touched()));
+}
+
+TEST(PrintedBox, isHatchedWithLinesOfItsOwn)
+{
+    const Canvas canvas = printedBox(true);
+    const QColor cross(187, 172, 90); // black at 64 of 255 over the fill
+    // Half a point wide, a line every six and a half, each way. They start at the top 200 pixels
+    // left of the box and every 65 from there, and at the bottom alike. 50 pixels below the top
+    // the falling ones have come to 295 and 360, the rising ones to 265 and 330.
+    for (const int x : {265, 295, 330, 360, 1045, 1075}) {
+        EXPECT_EQ(canvas.at(x, 100), cross) << x;
+    }
+    for (const int x : {280, 312, 345, 1060}) {
+        EXPECT_EQ(canvas.at(x, 100), yellow) << x;
+    }
+    // 50 pixels above the bottom they have changed places.
+    for (const int x : {265, 295, 330, 360, 1045, 1075}) {
+        EXPECT_EQ(canvas.at(x, 200), cross) << x;
+    }
+    EXPECT_EQ(canvas.at(312, 200), yellow);
+    EXPECT_TRUE(QRect(247, 47, 857, 207).contains(canvas.touched()));
+    EXPECT_EQ(printedBox(false).at(295, 100), yellow);
+}
+
+TEST(PrintedBox, hasItsTextInTheMiddleOrAtTheTopLeft)
+{
+    const QColor black(0, 0, 0);
+    const QRect inside(256, 56, 838, 188);
+    const QRect centred = printedBox(false, "H").boundsOf(black, inside);
+    EXPECT_NEAR(centred.center().x(), 674, 2);
+    EXPECT_NEAR(centred.height(), 63, 3); // an H of 90 pixels is 0.72 high
+    const double line = QFontMetricsF(arial(9)).height();
+    const double baseline = 150 - line / 2 + QFontMetricsF(arial(9)).ascent();
+    EXPECT_NEAR(centred.bottom() + 1, baseline, 3);
+    const QRect left = printedBox(false, "H", CellLayout::kWordBreak).boundsOf(black, inside);
+    EXPECT_NEAR(left.left(), 250 + 15 + 7, 3); // a gap of 1.5 points, and the H's own
+    EXPECT_NEAR(left.bottom() + 1, 50 + QFontMetricsF(arial(9)).ascent(), 3);
+}
+
+TEST(PrintedBox, setsOneLineBelowTheOther)
+{
+    const QColor black(0, 0, 0);
+    // Two lines of nine points, 103 pixels each, move together a little: they have 200.
+    const Canvas canvas = printedBox(false, "H\r\nH");
+    const QRect upper = canvas.boundsOf(black, QRect(256, 56, 838, 94));
+    const QRect lower = canvas.boundsOf(black, QRect(256, 150, 838, 94));
+    EXPECT_NEAR(upper.center().x(), 674, 2);
+    EXPECT_NEAR(lower.center().x(), 674, 2);
+    EXPECT_NEAR(lower.top() - upper.top(), std::min(100.0, QFontMetricsF(arial(9)).height()), 2);
 }
