@@ -209,3 +209,39 @@ TEST_F(RoomPages, stayWhenTheyStartExactlyAtTheNumberOfRooms)
     desk->form.cb_Locaux.setListIndex(1);
     EXPECT_EQ(page().PageOffset, 35);
 }
+
+TEST(RoomPage, writesARoomAndItsLabelTogether)
+{
+    form::PlanForm form;
+    context::RoomPage page;
+    page.setName(form, 2, "A101");
+    page.setPlaces(form, 2, "45");
+    EXPECT_EQ(page.room(2).name, "A101");
+    EXPECT_EQ(page.room(2).places, "45");
+    EXPECT_EQ(form.Salle[2].caption, "A101");
+    EXPECT_EQ(form.Cap[2].caption, "45");
+    EXPECT_EQ(page.room(1).name, "");
+    EXPECT_EQ(page.room(3).places, "");
+}
+
+TEST(RoomPage, hasThirtyRowsAndNoOther)
+{
+    const context::RoomPage page;
+    EXPECT_EQ(page.room(0).name, "");
+    EXPECT_EQ(page.room(29).name, "");
+    using runtime::ErrorNumber;
+    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(page.room(30)); }),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(page.room(-1)); }),
+              ErrorNumber::SubscriptOutOfRange);
+}
+
+TEST(RoomPage, holdsTheLinesThatItsBoxBeginsWith)
+{
+    form::PlanForm form;
+    EXPECT_EQ(context::linesPerPage(form), 0);
+    form.Total_L_P.setText("12 lignes");
+    EXPECT_EQ(context::linesPerPage(form), 12);
+    form.Total_L_P.setText("-3");
+    EXPECT_EQ(context::linesPerPage(form), -3);
+}

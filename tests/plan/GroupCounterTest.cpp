@@ -1,13 +1,25 @@
-#include "plan/PlanContent.h"
+#include "plan/GroupCounter.h"
 
 #include "plan/PlanDesk.h"
 #include "support/RuntimeMatchers.h"
 
 using plan::GroupCounter;
+using plan::groupCounterOf;
 using test::PlanDesk;
 
 namespace
 {
+
+/// A cell of that many rows.
+lookup::RoomCell cellOf(std::int16_t rows, std::int16_t students, std::int16_t capacity)
+{
+    lookup::RoomCell cell;
+    cell.CellRowCount = rows;
+    cell.CellStudents = students;
+    cell.CellCapacity = capacity;
+    cell.CellClasses = "GC1\r\n";
+    return cell;
+}
 
 /// One box in a room of 30 places, held by class GC1.
 class GroupCounters : public testing::Test
@@ -30,6 +42,39 @@ protected:
 };
 
 } // namespace
+
+TEST(GroupCounter, isNoneForOneClassThatFillsTheRoom)
+{
+    EXPECT_FALSE(groupCounterOf(cellOf(1, 30, 30), "30", false));
+    EXPECT_TRUE(groupCounterOf(cellOf(1, 31, 0), "30", false));
+    EXPECT_TRUE(groupCounterOf(cellOf(1, 0, 31), "30", false));
+}
+
+TEST(GroupCounter, countsTheRowsAndTellsTheirStudents)
+{
+    const auto group = groupCounterOf(cellOf(3, 12, 20), "30", false);
+    ASSERT_TRUE(group);
+    EXPECT_EQ(group->counter, "3");
+    EXPECT_EQ(group->sizeLabel, "12");
+    EXPECT_EQ(group->details, "GC1\r\n");
+    EXPECT_FALSE(group->overfull);
+    EXPECT_FALSE(group->atRight);
+}
+
+TEST(GroupCounter, tellsBySoManyWhatIsTooManyForTheRoom)
+{
+    EXPECT_EQ(groupCounterOf(cellOf(1, 31, 40), "30", true)->sizeLabel, "Dépassement 31/30");
+    EXPECT_EQ(groupCounterOf(cellOf(1, 0, 40), "30", true)->sizeLabel, "Dépassement 40/30");
+    EXPECT_TRUE(groupCounterOf(cellOf(2, 0, 40), "30", true)->overfull);
+    EXPECT_TRUE(groupCounterOf(cellOf(2, 0, 40), "30", true)->atRight);
+}
+
+TEST(GroupCounter, takesAPlaceLessTextForNoPlaces)
+{
+    EXPECT_EQ(groupCounterOf(cellOf(1, 1, 0), "", false)->sizeLabel, "Dépassement 1/");
+    EXPECT_FALSE(groupCounterOf(cellOf(1, 0, 0), "", false));
+    EXPECT_FALSE(groupCounterOf(cellOf(1, 35, 35), "40 places", false));
+}
 
 TEST_F(GroupCounters, areNotShownForASingleClassThatFits)
 {
