@@ -1,0 +1,100 @@
+// Pages as values: the window shows what it showed.
+
+#include "EngineDesk.h"
+
+using namespace test;
+
+namespace
+{
+
+class ThePages : public testing::Test
+{
+protected:
+    ThePages() { createTinyFaculty(m_database); }
+
+    EngineDesk& desk()
+    {
+        if (!m_desk) {
+            m_desk = std::make_unique<EngineDesk>(m_database);
+        }
+        return *m_desk;
+    }
+    [[nodiscard]] static QStringList roomsOf(const plan::PlanPage& page)
+    {
+        QStringList rooms;
+        for (const plan::PlanRow& row : page.content.rows) {
+            rooms << row.room;
+        }
+        return rooms;
+    }
+
+private:
+    TestDatabase m_database{DatabaseKind::Sqlite};
+    std::unique_ptr<EngineDesk> m_desk;
+};
+
+} // namespace
+
+TEST_F(ThePages, areThoseThatThePageButtonsShow)
+{
+    desk().form.Total_L_P.setText("2"); // A1 to B1, then B2's page from the room behind it on
+    const std::vector<plan::PlanPage> pages = desk().engine.allPages();
+    ASSERT_EQ(pages.size(), 2U);
+    EXPECT_EQ(roomsOf(pages[0]), QStringList({"A2", "B1"}));
+    EXPECT_EQ(pages[0].state.form.Salle[0].caption, "A1");
+    EXPECT_EQ(pages[0].number, 1);
+    EXPECT_EQ(pages[1].number, 2);
+    EXPECT_EQ(pages[1].count, 2);
+    EXPECT_EQ(roomsOf(pages[1]), QStringList({"C1"}));
+}
+
+TEST_F(ThePages, startWithTheFirstOneWhateverIsShown)
+{
+    desk().form.Total_L_P.setText("2");
+    desk().form.Command3.press();
+    const QStringList drawn = desk().drawn();
+    const std::uint64_t refreshes = desk().engine.refreshCount();
+    EXPECT_EQ(roomsOf(desk().engine.allPages().front()), QStringList({"A2", "B1"}));
+    EXPECT_EQ(desk().drawn(), drawn);
+    EXPECT_EQ(desk().engine.refreshCount(), refreshes);
+    EXPECT_EQ(desk().engine.state().page.PageStart, 2);
+}
+
+TEST_F(ThePages, areOneEvenWithoutRooms)
+{
+    desk().form.cb_Locaux.setListIndex(9);
+    const std::vector<plan::PlanPage> pages = desk().engine.allPages();
+    ASSERT_EQ(pages.size(), 1U);
+    EXPECT_TRUE(pages[0].content.rows.empty());
+    EXPECT_EQ(pages[0].count, 1);
+}
+
+TEST_F(ThePages, lookUpTheShownOneAnewWithTheWindowsColours)
+{
+    desk().form.Colorer.setChecked(true);
+    desk().form.Salle[1].backColor = form::Colour::fromRgb(1, 2, 3);
+    desk().form.Check2.setChecked(true); // which draws nothing by itself
+    EXPECT_EQ(desk().drawn().first(), "A2:1");
+    const plan::PlanPage page = desk().engine.shownPage();
+    ASSERT_EQ(page.content.rows[0].boxes.size(), 2U); // with the make-up of that Monday
+    EXPECT_EQ(page.content.rows[0].color, form::Colour::fromRgb(1, 2, 3));
+    EXPECT_EQ(page.state.form.Salle[1].backColor, form::Colour::fromRgb(1, 2, 3));
+    EXPECT_EQ(page.state.form.Cap[1].backColor, form::Colour::fromRgb(1, 2, 3));
+    EXPECT_EQ(page.number, 0);
+    EXPECT_EQ(desk().drawn().first(), "A2:1");
+}
+
+TEST_F(ThePages, keepTheWindowsTotals)
+{
+    desk().form.Chk_Compt.setChecked(true);
+    desk().form.CbJour.setListIndex(0);
+    const QString seats = desk().form.Tot[0].caption;
+    EXPECT_EQ(seats, "52"); // A2 and C1
+    EXPECT_EQ(desk().engine.shownPage().state.form.Tot[0].caption, seats);
+    EXPECT_EQ(desk().form.Tot[0].caption, seats);
+}
+
+TEST_F(ThePages, areDrawnInOneGo)
+{
+    EXPECT_EQ(roomsOf(desk().engine.drawnPage()), roomsOf(desk().engine.shownPage()));
+}
