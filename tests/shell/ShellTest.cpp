@@ -3,6 +3,7 @@
 #include "shell/ShellDesk.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace test;
 
@@ -170,4 +171,28 @@ TEST_P(TheShell, servesTheSecondDigitOfTheRoomsPerPageWhileTheFirstIsDrawn)
     desk.form().Total_L_P.setText("2");
     EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
     EXPECT_EQ(desk.shell().engine().state().page.PageOffset, 0);
+}
+
+TEST_P(TheShell, keepsTheExamWeekThatIsChosenWhileTeachingIsDrawn)
+{
+    form::PlanForm& form = desk.form();
+    form.Check2.setChecked(true); // so that the picker's change redraws
+    form.OpExam().select();
+    bool pressed = false;
+    desk.whileYielding = [&] {
+        if (!std::exchange(pressed, true)) {
+            EXPECT_TRUE(form.OpEns().isSelected());
+            form.OpExam().select();
+        }
+    };
+    form.OpEns().select();
+    EXPECT_TRUE(pressed);
+    EXPECT_TRUE(form.OpExam().isSelected());
+    EXPECT_TRUE(form.Combo10.visible);
+    // Exam week 1 is that of Monday, 9 June 2025, and opens on its second day.
+    EXPECT_EQ(form.Label4[1].caption, "09/JUIN/2025");
+    EXPECT_EQ(form.Label4[3].caption, "14/JUIN/2025");
+    EXPECT_EQ(desk.shell().engine().state().period.CurrentDate, QDate(2025, 6, 9));
+    EXPECT_EQ(form.DTPicker1.value(), QDate(2025, 6, 10));
+    EXPECT_EQ(form.CbJour.text(), "Mardi");
 }

@@ -2,6 +2,8 @@
 #include "support/WithoutPrivileges.h"
 
 #include <QFile>
+#include <array>
+#include <tuple>
 
 using namespace test;
 
@@ -152,4 +154,56 @@ TEST_P(Shutdown, inTheMiddleOfARefreshEndsIt)
     };
     desk.form().OptA().select();
     EXPECT_EQ(rows, 2);
+}
+
+TEST_P(Shutdown, leavesAnotherNumberOfAnOptionAloneUntilItChanges)
+{
+    const QStringList keys{"ChkEnseignant", "ChkClasse", "ChkMatiere"};
+    for (const QString& key : keys) {
+        desk.setup.set(key, "2"); // only 1 is ticked
+    }
+    desk.start();
+    const auto options = [this] {
+        form::PlanForm& form = desk.form();
+        return std::array{&form.XOpEns, &form.XOpCl, &form.XpMat};
+    };
+    for (const form::CheckBox* option : options()) {
+        EXPECT_FALSE(option->isChecked());
+    }
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+    desk.start();
+    for (form::CheckBox* option : options()) {
+        option->setChecked(true);
+        option->setChecked(false); // as at the start again
+    }
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+    EXPECT_EQ(desk.setup.saved("ChkMatiere"), "2");
+    desk.start();
+    for (form::CheckBox* option : options()) {
+        option->setChecked(true);
+    }
+    EXPECT_EQ(writtenAtClosing(), QStringList({"ChkClasse=1", "ChkEnseignant=1", "ChkMatiere=1"}));
+    desk.start();
+    for (form::CheckBox* option : options()) {
+        option->setChecked(false);
+    }
+    EXPECT_EQ(writtenAtClosing(), QStringList({"ChkClasse=0", "ChkEnseignant=0", "ChkMatiere=0"}));
+}
+
+TEST_P(Shutdown, leavesARoomsPerPageThatTheBoxCannotShowAloneUntilItChanges)
+{
+    // As the settings have it, as box and plan take it, and how many of A2, B1, B2 and C1 are
+    // drawn below A1.
+    for (const auto& [set, taken, drawn] :
+         {std::tuple("0", "1", 1U), std::tuple("-3", "1", 1U), std::tuple("40", "29", 4U)}) {
+        desk.setup.set("Total_L_P", set);
+        desk.start();
+        EXPECT_EQ(desk.form().Total_L_P.text(), taken) << set;
+        EXPECT_EQ(desk.shell().engine().content().rows.size(), drawn) << set;
+        EXPECT_EQ(writtenAtClosing(), QStringList()) << set;
+        EXPECT_EQ(desk.setup.saved("Total_L_P"), set);
+        desk.start();
+        desk.form().Total_L_P.setText("3");
+        EXPECT_EQ(writtenAtClosing(), QStringList({"Total_L_P=3"})) << set;
+    }
 }
