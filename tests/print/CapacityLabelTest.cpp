@@ -1,7 +1,11 @@
 #include "print/CapacityLabel.h"
 
+#include "paint/Canvas.h"
+#include "print/FittedText.h"
 #include "print/SheetDesk.h"
 #include "support/RuntimeMatchers.h"
+
+#include <QFontMetricsF>
 
 using namespace test;
 using form::Colour;
@@ -114,4 +118,40 @@ TEST(CapacityLabel, standsBesideTheTextOfALowBox)
     EXPECT_EQ(place.width(), 425);
     EXPECT_TRUE(low.contains(place));
     EXPECT_EQ(print::reservedByCapacity(target, low, place), QMarginsF(0, 0, 425, 0));
+}
+
+TEST(CapacityLabel, isAsLargeAsItsTextAndItsFrame)
+{
+    paint::DrawingTarget target;
+    target.PixelsPerPoint = 10;
+    const CapacityLabel label{blue, "12/30"};
+    const QFontMetricsF metrics(print::paperFont({"Arial", 7, true}, target, 7));
+    const QRectF place = print::capacityPlace(target, QRectF(1000, 500, 850, 350), label);
+    // A frame of 1.2 points and a gap of 1.5 at each side; a frame above and below.
+    EXPECT_DOUBLE_EQ(place.width(), metrics.horizontalAdvance("12/30") + 2 * 27);
+    EXPECT_DOUBLE_EQ(place.height(), metrics.ascent() + 2 * 12);
+    EXPECT_DOUBLE_EQ(print::capacityPlace(target, QRectF(0, 0, 850, 60), label).height(), 60);
+}
+
+TEST(CapacityLabel, isBlackOnWhiteInAFrameOfItsColour)
+{
+    paint::DrawingTarget target;
+    target.PixelsPerPoint = 10;
+    Canvas canvas(400, 200);
+    canvas.draw([&](QPainter& painter) {
+        print::drawCapacity(painter, target, QRectF(50, 40, 300, 100), {red, "31/30"});
+    });
+    EXPECT_EQ(canvas.touched(), QRect(50, 40, 300, 100));
+    for (const QPoint& on : {QPoint(50, 40), QPoint(61, 90), QPoint(338, 90), QPoint(349, 139),
+                             QPoint(200, 51), QPoint(200, 128)}) {
+        EXPECT_EQ(canvas.at(on.x(), on.y()), QColor(255, 0, 0)) << on.x() << ' ' << on.y();
+    }
+    const QRect within(62, 52, 276, 76);
+    EXPECT_EQ(canvas.at(62, 52), QColor(Qt::white));
+    EXPECT_EQ(canvas.at(337, 127), QColor(Qt::white));
+    const QRect text = canvas.bounds(Qt::white, within);
+    EXPECT_NEAR(text.center().x(), 199.5, 4);
+    EXPECT_NEAR(text.center().y(), 89.5, 4);
+    EXPECT_EQ(canvas.count(QColor(255, 0, 0), within), 0);
+    EXPECT_EQ(canvas.lightness(text).first, 0);
 }

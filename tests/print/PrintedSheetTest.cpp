@@ -68,6 +68,31 @@ TEST(PrintedSheet, fillsNamesAndBoxesWithTheRowsColour)
     EXPECT_FALSE(canvas.isTouched(second.center().x(), second.center().y()));
 }
 
+TEST(PrintedSheet, framesNamesAndPlacesAndWritesThemAtTheirOuterSides)
+{
+    PlanDesk desk(3);
+    desk.tick(desk.form.Colorer, false);
+    const Canvas canvas = bodyOf(desk);
+    const QColor frame(60, 60, 60);
+    const QColor fill(240, 240, 240);
+    // The axis ends with 19h00 at 1620 + 12467 twips, the places begin 60 further right and are
+    // 540 wide: 1564.7 to 1618.7 pixels.
+    for (const auto& [left, right] : {std::pair(150, 300), std::pair(1564, 1618)}) {
+        EXPECT_EQ(canvas.at(left, name.center().y()), frame) << left;
+        EXPECT_EQ(canvas.at(right, name.center().y()), frame) << right;
+        EXPECT_EQ(canvas.at(left + 2, name.top() + 3), fill) << left;
+        EXPECT_EQ(canvas.at(right - 2, name.bottom() - 3), fill) << right;
+        EXPECT_FALSE(canvas.isTouched(left - 2, name.center().y())) << left;
+    }
+    const QRect room = canvas.bounds(fill, inner(name));
+    EXPECT_NEAR(room.left(), 150 + 4 + 1, 2); // two points off the frame
+    EXPECT_LT(room.right(), 225);
+    EXPECT_NEAR(room.center().y(), name.center().y(), 2);
+    const QRect places = canvas.bounds(fill, {1567, name.top() + 3, 49, 40});
+    EXPECT_NEAR(places.right(), 1618 - 4 - 1, 2);
+    EXPECT_GT(places.left(), 1585);
+}
+
 TEST(PrintedSheet, isPaleGreyWhileColorerIsNotTicked)
 {
     PlanDesk desk(3);
@@ -101,10 +126,18 @@ TEST(PrintedSheet, drawsTheGridWithoutTheGreyLines)
     PlanDesk desk(3);
     desk.tick(desk.form.ChkGrille);
     const Canvas canvas = bodyOf(desk);
-    const QRect all(0, 0, 1800, 600);
-    EXPECT_GT(canvas.count(QColor(0, 0, 180), all), 12 * 50);
-    EXPECT_GT(canvas.count(QColor(0, 180, 0), all), 33 * 50);
-    EXPECT_EQ(canvas.count(QColor(125, 125, 125), all), 0);
+    // From row 0's foot, 30 pixels down, to row 2's at 131: an hour is 113.33 pixels from 312 on,
+    // a quarter of one 28.
+    const int between = top + 83; // the rows themselves lie elsewhere
+    for (const int hour : {312, 425, 538, 652, 1558 - 113}) {
+        EXPECT_EQ(canvas.at(hour, between), QColor(0, 0, 180)) << hour;
+    }
+    for (const int quarter : {340, 368, 396, 453}) {
+        EXPECT_EQ(canvas.at(quarter, between), QColor(0, 180, 0)) << quarter;
+    }
+    EXPECT_FALSE(canvas.isTouched(326, between));
+    EXPECT_FALSE(canvas.isTouched(312, top + 28));
+    EXPECT_EQ(canvas.count(QColor(125, 125, 125), QRect(0, 0, 1800, 600)), 0);
 }
 
 TEST(PrintedSheet, drawsNoGridWhileItIsNotTicked)
@@ -205,4 +238,61 @@ TEST(PrintedHeader, keepsManyChoicesLegible)
     const QRect line = canvas.bounds(Canvas::untouched, QRect(800, 95, 1000, 48));
     EXPECT_GE(line.height(), 14);
     EXPECT_LE(line.right(), 150 + sheet.width / 10);
+}
+
+namespace
+{
+
+/// The header over an empty plan of two rows, its hours from 200 pixels down on.
+Canvas headerOf(PlanDesk& desk)
+{
+    Canvas canvas(1800, 600);
+    const paint::DrawingTarget target = print::UsePrinterTarget(paper());
+    canvas.draw([&](QPainter& painter) {
+        painter.translate(0, 200);
+        print::PrintHeader(painter, target, sheetOf(desk));
+    });
+    return canvas;
+}
+
+} // namespace
+
+TEST(PrintedHeader, hasAMarkBelowEveryHour)
+{
+    PlanDesk desk(3);
+    desk.draw();
+    const Canvas canvas = headerOf(desk);
+    // Four points, or eight pixels, down to the header's foot at 30.
+    for (const int hour : {312, 425, 538}) {
+        EXPECT_EQ(canvas.at(hour, 228), QColor(Qt::black)) << hour;
+        EXPECT_EQ(canvas.at(hour, 223), QColor(Qt::black)) << hour;
+        EXPECT_FALSE(canvas.isTouched(hour + 3, 228)) << hour;
+        EXPECT_FALSE(canvas.isTouched(hour, 232)) << hour;
+    }
+}
+
+TEST(PrintedHeader, framesTheTotalsUnderTheirSlots)
+{
+    PlanDesk desk(3);
+    desk.draw();
+    desk.totals.isOld = false;
+    desk.form.Tot[1].visible = true;
+    desk.form.Tot[1].caption = "30";
+    // 9h30 lies 1700 twips behind 8h00; the rows end at 345 + 518 + 450 = 1313 twips, and the
+    // totals begin 60 below them: 137.3 to 165.8 pixels.
+    const Canvas canvas = headerOf(desk);
+    const QColor frame(60, 60, 60);
+    EXPECT_EQ(canvas.at(482, 350), frame);
+    EXPECT_EQ(canvas.at(652, 350), frame);
+    EXPECT_FALSE(canvas.isTouched(484, 339));
+    EXPECT_FALSE(canvas.isTouched(567, 334));
+    EXPECT_FALSE(canvas.isTouched(567, 368));
+    EXPECT_FALSE(canvas.isTouched(312, 350)); // the hidden ones
+    const QRect within(485, 340, 164, 22);
+    const QRect number = canvas.bounds(Canvas::untouched, within);
+    EXPECT_NEAR(number.center().x(), 567, 2);
+    EXPECT_NEAR(number.center().y(), 351, 3);
+    EXPECT_EQ(canvas.lightness(number).first, 0);
+    desk.totals.isOld = true; // greyed
+    EXPECT_NEAR(headerOf(desk).lightness(number).first, 130, 2);
 }
