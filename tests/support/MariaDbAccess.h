@@ -24,7 +24,8 @@ public:
     QByteArray runScript(const QString& statements, const QString& database = {}) const;
 
     /// Creates an account that may connect from this machine with that password; `grants` like
-    /// "SELECT ON `base`.*", several separated by ";". An account of that name is replaced.
+    /// "SELECT ON `base`.*", several separated by ";". An account of that name is replaced, so on a
+    /// server that cases share it is one that no other case has.
     void createAccount(const QString& user, const QString& password, const QString& grants) const;
 
     /// The connection string as the program builds it from the web application's file.
