@@ -1,6 +1,7 @@
 #include "absences/AbsenceRecords.h"
 #include "absences/PageAbsences.h"
 #include "db/Database.h"
+#include "judge/JudgedCells.h"
 #include "judge/RandomTimetable.h"
 #include "lookup/OccupancyLookup.h"
 #include "lookup/PageRowSource.h"
@@ -8,8 +9,6 @@
 #include "plan/ClassList.h"
 #include "plan/PlanState.h"
 #include "runtime/RunTimeError.h"
-
-#include <QByteArray>
 
 using namespace test;
 
@@ -38,12 +37,6 @@ static void PrintTo(const RoomCell& cell, std::ostream* stream)
 
 namespace
 {
-
-int wantedCells()
-{
-    const int asked = qEnvironmentVariableIntValue("TEMPORA_JUDGE_CELLS");
-    return asked > 0 ? asked : 10000;
-}
 
 /// One way of answering the plan's questions, with the connection that it uses.
 struct Way {
@@ -181,7 +174,7 @@ protected:
 
 TEST_P(PageSources, answerEveryCellAsThePlainOnesDo)
 {
-    const int wanted = wantedCells();
+    const int wanted = judgedCells();
     int cells = 0;
     for (unsigned seed = 1; cells < wanted && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);

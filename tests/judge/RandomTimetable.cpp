@@ -95,11 +95,39 @@ QString RandomTimetable::randomLoss(const QStringList& indexes)
     return anyOf(losses);
 }
 
+/// What is the same in every timetable: two periods around the date, their exam weeks, Monday's
+/// four slots, and the rooms that have a name.
+void RandomTimetable::addSchool(Timetable& tables) const
+{
+    for (int period = 1; period <= 2; ++period) {
+        tables.row("tranche", {{"ident", period},
+                               {"Tranche", QStringLiteral("S%1").arg(period)},
+                               {"DateDebut", date().addDays(-60)},
+                               {"DateFin", date().addDays(60)}});
+        tables.row("dat_exam", {{"Tranche", period},
+                                {"Semaine1", date().addDays(63)},
+                                {"Semaine2", date().addDays(70)},
+                                {"Controle", date().addDays(77)}});
+    }
+    const QStringList times{"8h00", "9h30", "11h00", "12h30", "14h00"};
+    for (int slot = 1; slot <= 4; ++slot) {
+        tables.row("seances", {{"Seance", QStringLiteral("Lundi%1").arg(slot)},
+                               {"Horaire1", times[slot - 1]},
+                               {"Horaire2", times[slot]}});
+    }
+    for (const QString& room : m_rooms) {
+        if (!room.isEmpty()) {
+            tables.row("salle", {{"Zone", 1}, {"Nom", room}, {"places", 30}});
+        }
+    }
+}
+
 RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engine(seed)
 {
     m_rooms = chance(20) ? withManyBefore(oddRooms()) : oddRooms();
     m_classes = chance(20) ? withManyBefore(oddClasses()) : oddClasses();
     Timetable tables(database);
+    addSchool(tables);
     const auto text = [](const QString& column, const QString& value) {
         return value == QLatin1String(kNull) ? Field(column, nullptr) : Field(column, value);
     };

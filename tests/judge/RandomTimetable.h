@@ -10,6 +10,8 @@
 namespace test
 {
 
+class Timetable;
+
 /// A timetable database of odd rows: rooms and classes that differ only by case, accent or
 /// trailing blank, quotes in names, nulls, empty texts, several rows in one cell, sometimes a
 /// column or a whole table missing, some index or other, more rooms or classes than a mask column
@@ -32,6 +34,7 @@ public:
     [[nodiscard]] bool chance(int percent) { return pick(100) < percent; }
 
 private:
+    void addSchool(Timetable& tables) const;
     [[nodiscard]] QString anyOf(const QStringList& texts);
     [[nodiscard]] QStringList randomIndexes();
     [[nodiscard]] QString randomLoss(const QStringList& indexes);
