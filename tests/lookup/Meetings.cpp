@@ -93,7 +93,7 @@ db::Recordset FakeRows::timetableRows(const lookup::RoomQuestion& question)
     }
     const auto& meetings = question.table == lookup::RoomQuestion::Table::emplois  ? m_emplois
                            : question.table == lookup::RoomQuestion::Table::ratrap ? m_ratrap
-                                                                                 : m_examen;
+                                                                                   : m_examen;
     std::vector<db::Row> rows;
     for (const Meeting& meeting : meetings) {
         if (answers(meeting, question)) {

@@ -85,7 +85,7 @@ TEST(RemarkWords, sayWhatHatchingLabelAndPicturesSay)
     box.classAbsent = true;
     box.studentAbsent = true;
     EXPECT_EQ(remarkWords(shown, box), QStringList({"Rattrapage", "Dépassement 35/30",
-                                                   "Classe absente", "Étudiants absents"}));
+                                                    "Classe absente", "Étudiants absents"}));
 }
 
 TEST(RemarkWords, areNoneForAPlainBox)

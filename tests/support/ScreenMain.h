@@ -16,7 +16,7 @@ namespace test
 /// when the application exists.
 template <typename Application = QApplication>
 int runAllTestsOnAScreen(int argc, char** argv, QSize screen,
-                                const std::function<void()>& prepare = {})
+                         const std::function<void()>& prepare = {})
 try {
     testing::InitGoogleTest(&argc, argv);
     std::optional<XSession> session;
