@@ -1,11 +1,7 @@
 #include "runtime/FrenchDate.h"
 
-#include "runtime/RunTimeError.h"
-
 #include <QLocale>
 #include <QRegularExpression>
-#include <QStringList>
-#include <algorithm>
 
 namespace runtime
 {
@@ -47,21 +43,6 @@ QString frenchDayAndDate(QDate date)
 {
     return QLocale(QLocale::French, QLocale::France)
         .toString(date, QStringLiteral("dddd dd/MM/yyyy"));
-}
-
-QDate fromFrenchLongDate(const QString& text)
-{
-    const QStringList fields = text.split(u'/');
-    if (fields.size() == 3) {
-        const auto& months = upperMonthNames();
-        const auto month = std::find(months.begin(), months.end(), fields[1].toUpper());
-        const QDate date(fields[2].toInt(), static_cast<int>(month - months.begin()) + 1,
-                         fields[0].toInt());
-        if (month != months.end() && date.isValid()) {
-            return date;
-        }
-    }
-    throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
 bool isDateSeparator(QChar character)

@@ -17,9 +17,6 @@ namespace runtime
 /// The date in the form "dddd dd/MM/yyyy": mardi 24/11/2026. Empty for no date.
 [[nodiscard]] QString frenchDayAndDate(QDate date);
 
-/// The date that `frenchLongDate` wrote. Error: TypeMismatch for any other text.
-[[nodiscard]] QDate fromFrenchLongDate(const QString& text);
-
 /// Whether the character may stand between the parts of a typed date.
 [[nodiscard]] bool isDateSeparator(QChar character);
 
