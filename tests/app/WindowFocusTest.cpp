@@ -154,6 +154,23 @@ TEST_F(TheWindow, stepsThroughTheZonesWithTheArrowKeys)
     EXPECT_TRUE(zones->hasFocus());
 }
 
+TEST_F(TheWindow, givesTheFocusToColorerWhenItIsOpened)
+{
+    open();
+    EXPECT_TRUE(until([&] { return control<QCheckBox>("Colorer")->hasFocus(); }));
+}
+
+TEST_F(TheWindow, givesTheFocusToColorerAfterAnActionThatAsksForIt)
+{
+    open();
+    control<QSpinBox>("Total_L_P")->setFocus();
+    ASSERT_TRUE(until([&] { return control<QSpinBox>("Total_L_P")->hasFocus(); }));
+    window().shell().MatchControlBackgrounds();
+    EXPECT_TRUE(control<QSpinBox>("Total_L_P")->hasFocus());
+    hands.press({"F2"});
+    EXPECT_TRUE(until([&] { return control<QCheckBox>("Colorer")->hasFocus(); }));
+}
+
 TEST_F(TheWindow, givesTheFocusToColorerWhenItIsResized)
 {
     open();
