@@ -51,7 +51,9 @@ tempora_precompile(tempora_usual_headers HEADERS ${TEMPORA_USUAL_HEADERS} USES Q
 #   tempora_layer(NAME SOURCES a.cpp ... USES layer ... [EXTERNAL target ...])
 function(tempora_layer name)
   cmake_parse_arguments(LAYER "" "" "SOURCES;USES;EXTERNAL" ${ARGN})
-  add_library(tempora_${name} STATIC ${LAYER_SOURCES})
+  add_library(tempora_${name} ${LAYER_SOURCES})
+  # Shared libraries (BUILD_SHARED_LIBS) are compiled like static ones, so that ccache knows them.
+  set_target_properties(tempora_${name} PROPERTIES DEFINE_SYMBOL "")
   target_include_directories(tempora_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   set(layers "")
   foreach(layer IN LISTS LAYER_USES)
