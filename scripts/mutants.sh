@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Tells what the tests do not notice: changes the sources in one place at a time, at random, and runs
-# the tests that use what was changed, until one fails.
+# Tells what the tests do not notice: changes the sources in one place at a time, at random, and
+# runs the tests that use what was changed, until one fails.
 #
 #   scripts/mutants.sh [--count N] [--seed S] [--layer L ...] [--paths FILE ...]
 #                      [--skip TESTS,...] [--jobs N]
