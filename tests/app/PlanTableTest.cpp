@@ -126,6 +126,10 @@ TEST_F(TheTable, tellsTheTotalsOfTheSlotsThatShowOne)
     EXPECT_EQ(table().note(), greyed);
     desk.form.Tot[1].visible = true;
     desk.form.Tot[1].caption = "30";
+    desk.totals.isOld = true;
+    EXPECT_EQ(table().note(), greyed + " Places occupées, comptées avant le dernier choix, 9h30 à "
+                                       "11h00 : 30.");
+    desk.totals.isOld = false;
     EXPECT_EQ(table().note(), greyed + " Places occupées, 9h30 à 11h00 : 30.");
     desk.form.Salle[0].visible = false;
     EXPECT_EQ(table().note(), "Places occupées, 9h30 à 11h00 : 30.");
