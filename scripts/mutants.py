@@ -68,11 +68,11 @@ class Build:
                           stdout=subprocess.DEVNULL).returncode != 0:
             sys.exit("The tests cannot be built without a mutant.")
 
-    def library_of(self, layer):
+    def lib_of(self, layer):
         return f"libtempora_{layer}.so"
 
     def link_command(self, layer):
-        target = f"src/{layer}/{self.library_of(layer)}"
+        target = f"src/{layer}/{self.lib_of(layer)}"
         commands = subprocess.run(
             ["ninja", "-C", self.folder, "-t", "commands", "-s", target],
             check=True, capture_output=True, text=True,
@@ -90,7 +90,7 @@ class Build:
 
     def tests_of(self, layer):
         """The layer's own tests, then the others that use it, the quickest first."""
-        using = [test for test in self.tests if self.library_of(layer) in self.used_libraries(test)]
+        using = [test for test in self.tests if self.lib_of(layer) in self.used_libraries(test)]
         own = layer + "_tests"
         return sorted(using, key=lambda test: (test.name != own, self.seconds.get(test, 0)))
 
@@ -172,7 +172,7 @@ class Mutant:
         finally:
             changed.unlink()
         link = shlex.split(build.link_command(self.layer))
-        library = build.library_of(self.layer)
+        library = build.lib_of(self.layer)
         link = [
             str(folder / library) if part.endswith("/" + library)
             else str(made) if part.endswith("/" + old_name(self.path)) else part for part in link
