@@ -1,5 +1,6 @@
 #include "db/Connection.h"
 
+#include "db/JoinedQueries.h"
 #include "db/ParameterSet.h"
 #include "db/ResultReader.h"
 #include "db/Session.h"
@@ -43,9 +44,19 @@ int Connection::recordCount(const QString& sql)
     return ResultReader(statement).countRows();
 }
 
-AccessPaths Connection::accessPaths(const QString& sql)
+std::vector<Recordset> Connection::openJoined(const QStringList& queries)
 {
-    return session().product().accessPaths(sql, session());
+    return db::openJoined(queries, session());
+}
+
+bool Connection::joinedQueriesKeepOrder() const
+{
+    return session().product().joinedQueriesKeepOrder();
+}
+
+std::vector<RowOrder> Connection::rowOrders(const std::vector<WideQuery>& queries)
+{
+    return session().queryPlans().rowOrders(queries);
 }
 
 void Connection::execute(const QString& sql)
@@ -90,11 +101,6 @@ bool Connection::deleteFirst(const QString& sql)
 long long Connection::statementCount() const
 {
     return session().statementCount();
-}
-
-bool Connection::isEmbedded() const
-{
-    return session().product().joinedQueriesKeepOrder();
 }
 
 void Connection::close()

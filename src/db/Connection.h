@@ -1,10 +1,11 @@
 #pragma once
 
-#include "db/AccessPaths.h"
 #include "db/Recordset.h"
+#include "db/RowOrder.h"
 #include "db/SqlDialect.h"
 
 #include <QString>
+#include <QStringList>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -38,9 +39,15 @@ public:
     [[nodiscard]] Recordset open(const QString& sql);
     /// Runs a query and counts its rows without reading their fields.
     [[nodiscard]] int recordCount(const QString& sql);
-    /// How the database would walk through its table for the joined queries, without running them;
-    /// see AccessPaths.h. Nothing where the database does not tell.
-    [[nodiscard]] AccessPaths accessPaths(const QString& sql);
+    /// Runs several queries, each without its "Select", as one statement. Returns the rows of each,
+    /// a number put before their first column; fewer record sets than queries when not so many can
+    /// be joined.
+    [[nodiscard]] std::vector<Recordset> openJoined(const QStringList& queries);
+    /// Whether these rows always come in the order in which each query alone would bring them.
+    [[nodiscard]] bool joinedQueriesKeepOrder() const;
+    /// Whether the wide queries have brought the rows of their parts in each part's own order; by
+    /// one statement at most. Raises no error while the connection is open.
+    [[nodiscard]] std::vector<RowOrder> rowOrders(const std::vector<WideQuery>& queries);
     /// Runs a statement that returns no rows.
     void execute(const QString& sql);
 
@@ -55,8 +62,9 @@ public:
 
     /// How many statements were sent so far: what a refresh costs over a far server.
     [[nodiscard]] long long statementCount() const;
+
     /// Whether the driver is the embedded SQLite.
-    [[nodiscard]] bool isEmbedded() const;
+    [[nodiscard]] bool isEmbedded() const { return joinedQueriesKeepOrder(); }
 
     /// Closes early; every later call fails with DatabaseFailure. Closing twice does nothing.
     void close();

@@ -29,8 +29,6 @@ public:
     {
         return m_connection ? m_connection->dialect() : m_bySetting;
     }
-    /// Whether the connection is open and its driver the embedded SQLite.
-    [[nodiscard]] bool isEmbedded() const { return m_connection && m_connection->isEmbedded(); }
     /// Error: DatabaseFailure when the connection is not open.
     [[nodiscard]] Connection& Db()
     {

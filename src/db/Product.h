@@ -1,6 +1,6 @@
 #pragma once
 
-#include "db/AccessPaths.h"
+#include "db/AccessPath.h"
 #include "db/Diagnostics.h"
 #include "db/OdbcApi.h"
 #include "db/SqlDialect.h"
@@ -71,7 +71,7 @@ public:
     /// The access path of each joined query, without running them; nothing where the product does
     /// not tell. Error: any database error.
     [[nodiscard]] virtual AccessPaths accessPaths(const QString& sql, Session& session) const;
-    /// Whether an access path says that no other index could serve its query.
+    /// Whether an access path says that no other index could serve its query (isOnlyOne).
     [[nodiscard]] virtual bool tellsOnlyPaths() const { return false; }
 };
 

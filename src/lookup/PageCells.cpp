@@ -1,82 +1,14 @@
 #include "lookup/PageCells.h"
 
-#include "db/MatchMasks.h"
-#include "lookup/JoinedQueries.h"
+#include "lookup/CellMasks.h"
 #include "runtime/RunTimeError.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace lookup
 {
 namespace
 {
-
-/// The room and the slot of every row, told by masks in front of its columns. Rooms and keys count
-/// from 0, in the order in which they were given.
-class CellMasks
-{
-public:
-    /// A room without a name comes last, if at all.
-    CellMasks(RoomQuestion::Table table, const QStringList& rooms, const QStringList& keys)
-        : m_keys(QStringLiteral("Seance"), keys)
-    {
-        for (const QString& column : RoomQuestion::roomColumns(table)) {
-            QStringList names = rooms;
-            if (column != u"Salle") {
-                names.removeAll(QString()); // without a name only `Salle` is asked about
-            }
-            m_rooms.emplace_back(column, names);
-        }
-    }
-
-    [[nodiscard]] QString selectList() const
-    {
-        QString lists = m_keys.selectList(QStringLiteral("tempora_k"));
-        for (std::size_t column = 0; column < m_rooms.size(); ++column) {
-            if (m_rooms[column].columnCount() > 0) {
-                lists += QStringLiteral(", ");
-                lists += m_rooms[column].selectList(QStringLiteral("tempora_r%1_").arg(column));
-            }
-        }
-        return lists;
-    }
-
-    [[nodiscard]] QString condition() const
-    {
-        QStringList rooms;
-        for (const db::MatchMasks& column : m_rooms) {
-            rooms << column.anyOf();
-        }
-        return u'(' + rooms.join(QStringLiteral(" or ")) + QStringLiteral(") and ") +
-               m_keys.anyOf();
-    }
-
-    /// Calls `take` for every cell that the row belongs to, once each.
-    template <typename Take>
-    void forCells(const db::Row& row, Take take) const
-    {
-        std::vector<int> rooms;
-        int first = m_keys.columnCount();
-        for (const db::MatchMasks& column : m_rooms) {
-            for (const int room : column.matches(row, first)) {
-                if (std::find(rooms.begin(), rooms.end(), room) == rooms.end()) {
-                    rooms.push_back(room);
-                }
-            }
-            first += column.columnCount();
-        }
-        for (const int key : m_keys.matches(row, 0)) {
-            for (const int room : rooms) {
-                take(static_cast<std::size_t>(room), static_cast<std::size_t>(key));
-            }
-        }
-    }
-
-private:
-    db::MatchMasks m_keys;
-    std::vector<db::MatchMasks> m_rooms;
-};
 
 /// The rooms, one without a name behind the others.
 QStringList namelessLast(QStringList rooms)
@@ -88,87 +20,67 @@ QStringList namelessLast(QStringList rooms)
 }
 
 /// What stands between the columns put in front of a table's own and the conditions.
-QString wholeRows(const RoomQuestion& question)
+QString wholeRows(const QString& table)
 {
-    return question.tableName() + QStringLiteral(".* from ") + question.tableName() +
-           QStringLiteral(" WHERE");
+    return table + QStringLiteral(".* from ") + table + QStringLiteral(" WHERE");
 }
 
-/// Cells that several rows answer, and the questions about them.
+/// The cells of one table that several rows answer.
 struct Crowded {
-    std::vector<std::optional<db::Recordset>*> cells;
-    WalkCheck::TableCells asked;
+    RoomQuestion::Table table;
+    std::vector<PageCells::Cell> cells;
+    db::WideQuery query; ///< the page's; its parts are the questions about these cells
 };
 
-/// `asked` has no questions yet.
-Crowded crowdedOf(PageCells& cells, RoomQuestion question, WalkCheck::TableCells asked)
+/// `condition`: of the query that has brought the page's rows.
+Crowded crowdedOf(const PageCells& page, RoomQuestion question, const QString& condition,
+                  const db::SqlDialect& dialect)
 {
-    Crowded crowded{{}, std::move(asked)};
-    for (qsizetype room = 0; room < cells.rooms().size(); ++room) {
-        for (qsizetype key = 0; key < cells.keys().size(); ++key) {
-            std::optional<db::Recordset>& cell =
-                cells.at(static_cast<std::size_t>(room), static_cast<std::size_t>(key));
-            if (cell->recordCount() > 1) {
-                question.room = cells.rooms()[room];
-                question.seanceKey = cells.keys()[key];
-                crowded.cells.push_back(&cell);
-                crowded.asked.questions.push_back(question);
-            }
-        }
+    Crowded crowded{question.table,
+                    page.crowded(),
+                    {question.tableName(), QStringLiteral("Salle"), condition, {}}};
+    for (const PageCells::Cell cell : crowded.cells) {
+        question.room = page.room(cell);
+        question.seanceKey = page.key(cell);
+        crowded.query.parts.push_back(question.narrowQuery(dialect));
     }
     return crowded;
 }
 
-/// The page's rows by room and slot key; cells without rows, too.
-PageCells sortedIntoCells(const db::Recordset& found, const CellMasks& masks,
-                          const QStringList& rooms, const QStringList& keys)
-{
-    const auto keyCount = static_cast<std::size_t>(keys.size());
-    std::vector<std::vector<db::Row>> rowsOf(static_cast<std::size_t>(rooms.size()) * keyCount);
-    for (const db::Row& row : found.rows()) {
-        masks.forCells(row, [&](std::size_t room, std::size_t key) {
-            rowsOf[room * keyCount + key].push_back(row);
-        });
-    }
-    PageCells cells(rooms, keys);
-    for (std::size_t index = 0; index < rowsOf.size(); ++index) {
-        cells.at(index / keyCount, index % keyCount) =
-            db::Recordset(found.columns(), std::move(rowsOf[index]));
-    }
-    return cells;
-}
-
-/// Asks for these cells once more, each in the words of the plain statement, so that their rows
-/// come in that statement's order. Those that cannot be asked for are left out.
-void askAgain(db::Database& database, const Crowded& crowded)
+/// Asks for these cells once more, each in the words of the plain statement. Those that cannot be
+/// asked for are left as they are.
+void askAgain(db::Connection& connection, const Crowded& crowded, PageCells& page)
 {
     QStringList queries;
-    for (const RoomQuestion& question : crowded.asked.questions) {
-        queries << wholeRows(question) + question.condition(database.dialect());
+    for (const db::NarrowQuery& question : crowded.query.parts) {
+        queries << wholeRows(crowded.query.table) + question.condition();
     }
-    const std::vector<db::Recordset> found = openJoined(database.Db(), queries);
+    const std::vector<db::Recordset> found = connection.openJoined(queries);
     for (std::size_t index = 0; index < found.size(); ++index) {
-        *crowded.cells[index] = found[index];
+        page.set(crowded.cells[index], found[index]);
     }
 }
 
 /// Sees to it that the rows of each crowded cell are in order, or the cell is left out.
-void putInOrder(db::Database& database, WalkCheck& walk, const std::vector<Crowded>& tables)
+void putInOrder(db::Connection& connection, const std::vector<Crowded>& tables,
+                std::map<RoomQuestion::Table, PageCells>& pages)
 {
-    std::vector<WalkCheck::TableCells> asked;
+    std::vector<db::WideQuery> queries;
     for (const Crowded& crowded : tables) {
-        asked.push_back(crowded.asked);
+        queries.push_back(crowded.query);
     }
-    const std::vector<WalkCheck::Answer> answers = walk.ask(database, asked);
-    for (std::size_t table = 0; table < tables.size(); ++table) {
-        if (answers[table] == WalkCheck::Answer::SameWalk) {
+    const std::vector<db::RowOrder> orders = connection.rowOrders(queries);
+    for (std::size_t index = 0; index < tables.size(); ++index) {
+        if (orders[index] == db::RowOrder::Same) {
             continue;
         }
-        for (std::optional<db::Recordset>* cell : tables[table].cells) {
-            cell->reset();
+        const Crowded& crowded = tables[index];
+        PageCells& page = pages.at(crowded.table);
+        for (const PageCells::Cell cell : crowded.cells) {
+            page.forget(cell);
         }
-        if (answers[table] == WalkCheck::Answer::OtherWalk) {
-            runtime::skipOnError([&] { askAgain(database, tables[table]); });
+        if (orders[index] == db::RowOrder::Other) {
+            runtime::skipOnError([&] { askAgain(connection, crowded, page); });
         }
     }
 }
@@ -177,30 +89,31 @@ void putInOrder(db::Database& database, WalkCheck& walk, const std::vector<Crowd
 
 PageCells::PageCells(QStringList rooms, QStringList keys)
     : m_rooms(std::move(rooms)), m_keys(std::move(keys)),
-      m_cells(static_cast<std::size_t>(m_rooms.size() * m_keys.size()))
+      m_rowsOf(static_cast<std::size_t>(m_rooms.size() * m_keys.size()))
 {
-}
-
-std::size_t PageCells::indexOf(std::size_t room, std::size_t key) const
-{
-    return room * static_cast<std::size_t>(m_keys.size()) + key;
-}
-
-std::optional<db::Recordset>& PageCells::at(std::size_t room, std::size_t key)
-{
-    return m_cells.at(indexOf(room, key));
 }
 
 std::optional<db::Recordset> PageCells::find(const QString& room, const QString& key) const
 {
-    const qsizetype roomIndex = m_rooms.indexOf(room);
-    const qsizetype keyIndex = m_keys.indexOf(key);
-    return roomIndex < 0 || keyIndex < 0 ? std::nullopt
-                                         : m_cells[indexOf(static_cast<std::size_t>(roomIndex),
-                                                           static_cast<std::size_t>(keyIndex))];
+    const Cell cell{m_rooms.indexOf(room), m_keys.indexOf(key)};
+    return cell.room < 0 || cell.key < 0 ? std::nullopt : m_rowsOf[position(cell)];
 }
 
-std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database, WalkCheck& walk,
+std::vector<PageCells::Cell> PageCells::crowded() const
+{
+    std::vector<Cell> cells;
+    for (Cell cell; cell.room < m_rooms.size(); ++cell.room) {
+        for (cell.key = 0; cell.key < m_keys.size(); ++cell.key) {
+            const std::optional<db::Recordset>& rows = m_rowsOf[position(cell)];
+            if (rows && rows->recordCount() > 1) {
+                cells.push_back(cell);
+            }
+        }
+    }
+    return cells;
+}
+
+std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database,
                                                         const std::vector<RoomQuestion>& pages,
                                                         const QStringList& askedRooms,
                                                         const QStringList& keys)
@@ -213,22 +126,18 @@ std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database, 
             const CellMasks masks(page.table, rooms, keys);
             const QString condition =
                 u' ' + masks.condition() + page.periodCondition(database.dialect());
-            QString select = QStringLiteral("Select ") + masks.selectList() + QStringLiteral(", ");
-            if (database.isEmbedded()) {
-                select += WalkCheck::whatLooksAtTexts() + QStringLiteral(" as tempora_w, ");
-            }
-            const db::Recordset rows = database.Db().open(select + wholeRows(page) + condition);
-            const bool anyTextsDo = database.isEmbedded() && !rows.isEmpty() &&
-                                    rows.first().field(QStringLiteral("tempora_w")).toInt32() == 0;
-            PageCells& cells = found[page.table] = sortedIntoCells(rows, masks, rooms, keys);
-            Crowded ofTable = crowdedOf(cells, page, {condition, {}, anyTextsDo});
+            PageCells cells = masks.sorted(
+                database.Db().open(QStringLiteral("Select ") + masks.selectList() +
+                                   QStringLiteral(", ") + wholeRows(page.tableName()) + condition));
+            Crowded ofTable = crowdedOf(cells, page, condition, database.dialect());
+            found[page.table] = std::move(cells);
             if (!ofTable.cells.empty()) {
                 crowded.push_back(std::move(ofTable));
             }
         });
     }
     if (!crowded.empty()) {
-        putInOrder(database, walk, crowded);
+        putInOrder(database.Db(), crowded, found);
     }
     return found;
 }

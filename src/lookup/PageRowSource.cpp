@@ -1,7 +1,6 @@
 #include "lookup/PageRowSource.h"
 
 #include "db/MatchMasks.h"
-#include "lookup/JoinedQueries.h"
 #include "runtime/RunTimeError.h"
 
 #include <QSet>
@@ -97,7 +96,7 @@ void PageRowSource::fetchTimetable()
     if (m_questions.makeUps) {
         pages.push_back(m_questions.question(RoomQuestion::Table::ratrap, {}, {}));
     }
-    m_cells = fetchPageCells(m_database, m_walk, pages, rooms, keys);
+    m_cells = fetchPageCells(m_database, pages, rooms, keys);
 }
 
 void PageRowSource::fetchStudents(const QStringList& classNames)
@@ -121,7 +120,7 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
     for (const QString& name : others) {
         statements << QStringLiteral("count(*) as n from etudiant WHERE classe='") + name + u'\'';
     }
-    const std::vector<db::Recordset> counts = openJoined(m_database.Db(), statements);
+    const std::vector<db::Recordset> counts = m_database.Db().openJoined(statements);
     for (std::size_t index = 0; index < counts.size(); ++index) {
         rows.insert(others[static_cast<qsizetype>(index)],
                     counts[index].first().field(1).toInt32());
@@ -151,10 +150,9 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
     for (const QString& name : others) {
         statements << QStringLiteral("classe.* from classe Where Nom='") + name + u'\'';
     }
-    const std::vector<db::Recordset> found = openJoined(m_database.Db(), statements);
+    const std::vector<db::Recordset> found = m_database.Db().openJoined(statements);
     for (std::size_t index = 0; index < found.size(); ++index) {
-        // A server's view may lose its order among joined questions.
-        if (m_database.isEmbedded() || haveOneCapacity(found[index])) {
+        if (m_database.Db().joinedQueriesKeepOrder() || haveOneCapacity(found[index])) {
             m_classRows.insert(others[static_cast<qsizetype>(index)], found[index]);
         }
     }

@@ -40,7 +40,6 @@ private:
 
     db::Database& m_database;
     RowSource& m_plain;
-    WalkCheck m_walk;
     PageQuestions m_questions;
     std::map<RoomQuestion::Table, PageCells> m_cells;
     QHash<QString, int> m_studentRows;

@@ -300,7 +300,6 @@ TEST(ReadingSqlite, keepsATextInANumberColumn)
                       QStringLiteral("insert into t values ('douze', 'x', 'oui', 'True')"),
                       QStringLiteral("insert into t values (1.5, 2, -1, 1)")});
     Connection connection(database.connectString());
-    EXPECT_TRUE(connection.isEmbedded());
     const Recordset rows = connection.open(QStringLiteral("select * from t order by _ROWID_"));
     const Row& texts = rows.rows()[0];
     EXPECT_EQ(texts.field(0), text("douze"));

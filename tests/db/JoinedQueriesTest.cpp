@@ -1,8 +1,10 @@
-#include "lookup/JoinedQueries.h"
+#include "db/JoinedQueries.h"
 
+#include "db/Session.h"
+#include "support/RuntimeMatchers.h"
 #include "support/TestDatabase.h"
 
-using namespace lookup;
+using namespace db;
 
 namespace
 {
@@ -16,18 +18,19 @@ protected:
                             "insert into t values (1, 'one'), (2, 'two'), (2, 'zwei')"});
     }
 
-    /// The rows of each query's `b`, joined by a comma.
-    QStringList open(const QStringList& queries)
+    /// The rows of each query's `b`, joined by a comma, and the statements that it took.
+    QStringList open(const QStringList& queries, int statements = 1)
     {
-        db::Connection connection(database().connectString());
+        Session session(database().connectString(), SqlDialect(database().usesMySql()));
         QStringList texts;
-        for (const db::Recordset& rows : openJoined(connection, queries)) {
+        for (const Recordset& rows : openJoined(queries, session)) {
             QStringList names;
-            for (const db::Row& row : rows.rows()) {
+            for (const Row& row : rows.rows()) {
                 names << row.field(QStringLiteral("b")).toText();
             }
             texts << names.join(u',');
         }
+        EXPECT_EQ(session.statementCount(), statements);
         return texts;
     }
 };
@@ -42,15 +45,20 @@ TEST_P(JoinedQueries, giveEachItsOwnRows)
 
 TEST_P(JoinedQueries, areNoStatementAtAllWhenThereAreNone)
 {
-    db::Connection connection(database().connectString());
-    const long long before = connection.statementCount();
-    EXPECT_TRUE(openJoined(connection, {}).empty());
-    EXPECT_EQ(connection.statementCount(), before);
+    EXPECT_EQ(open({}, 0), QStringList());
 }
 
 TEST_P(JoinedQueries, leaveOutWhatIsBeyondTheMostThatADatabaseJoins)
 {
     EXPECT_EQ(open(QStringList(451, "t.* from t where a = 1")), QStringList(450, "one"));
+}
+
+TEST_P(JoinedQueries, failTogether)
+{
+    EXPECT_EQ(test::errorNumberOf([this] {
+                  open({"t.* from t where a = 2", "t.* from t where nowhere = 3"});
+              }),
+              runtime::ErrorNumber::StatementRefused);
 }
 
 TEMPORA_ON_BOTH_DATABASES(JoinedQueries);

@@ -1,6 +1,6 @@
-#include "db/AccessPaths.h"
+#include "db/AccessPath.h"
 
-#include "ConnectedTest.h"
+#include "support/RuntimeMatchers.h"
 
 using namespace db;
 
@@ -39,7 +39,7 @@ Recordset mySqlLines(const std::vector<QStringList>& lines)
         lines);
 }
 
-/// The same without the first three: about an undivided table.
+/// The same without the first three: about a table without partitions.
 Recordset mySqlAnswer(const std::vector<QStringList>& lines)
 {
     std::vector<QStringList> whole;
@@ -49,55 +49,34 @@ Recordset mySqlAnswer(const std::vector<QStringList>& lines)
     return mySqlLines(whole);
 }
 
-QStringList walksOf(const std::vector<AccessPath>& paths)
+QStringList pathsOf(const std::vector<AccessPath>& paths)
 {
-    QStringList walks;
+    QStringList texts;
     for (const AccessPath& path : paths) {
-        walks << path.walk;
+        texts << path.path;
     }
-    return walks;
+    return texts;
 }
-
-/// A query of several rows and keys, and one of its cells, on real tables.
-class APath : public ConnectedTest
-{
-protected:
-    const QString page = "select * from t where a in ('x', 'y') and s in ('1', '2') and p = 3";
-    const QString cell = " union all select * from t where a = 'x' and s = '1' and p = 3";
-
-    void makeTable(const QStringList& indexes)
-    {
-        QStringList statements{"create table t (a varchar(20), s varchar(20), p integer)"};
-        // Enough rows for an index to be worth its while.
-        for (int row = 0; row < 400; ++row) {
-            statements << QString("insert into t values ('r%1', '%2', %3)")
-                              .arg(row % 20)
-                              .arg(row % 40)
-                              .arg(row % 5);
-        }
-        database().execute(statements + indexes);
-    }
-};
 
 } // namespace
 
-TEST(SqliteAccessPaths, nameTheWalkOfEachJoinedQuery)
+TEST(SqliteAccessPaths, nameThePathOfEachJoinedQuery)
 {
     const QStringList one{"SEARCH emplois USING INDEX i (Tranche=? AND Seance=?)"};
     const auto single = sqliteAccessPaths(sqliteAnswer(one));
     ASSERT_TRUE(single);
-    EXPECT_EQ(walksOf(*single), one);
+    EXPECT_EQ(pathsOf(*single), one);
     const auto joined = sqliteAccessPaths(sqliteAnswer(
         {"COMPOUND QUERY", "LEFT-MOST SUBQUERY", "SCAN emplois", "UNION ALL", "SCAN emplois"}));
     ASSERT_TRUE(joined);
-    EXPECT_EQ(walksOf(*joined), QStringList({"SCAN emplois", "SCAN emplois"}));
+    EXPECT_EQ(pathsOf(*joined), QStringList({"SCAN emplois", "SCAN emplois"}));
 }
 
-TEST(SqliteAccessPaths, neverSayThatThereIsNoOtherWay)
+TEST(SqliteAccessPaths, neverSayThatThereIsNoOther)
 {
     const auto paths = sqliteAccessPaths(sqliteAnswer({"SCAN emplois"}));
     ASSERT_TRUE(paths);
-    EXPECT_FALSE(paths->front().isOnlyWay);
+    EXPECT_FALSE(paths->front().isOnlyOne);
 }
 
 TEST(SqliteAccessPaths, areUnknownWhereSeveralIndexesServe)
@@ -117,13 +96,13 @@ TEST(SqliteAccessPaths, areUnknownWhereAnIndexHoldsAllThatIsAsked)
               std::nullopt);
 }
 
-TEST(MariaDbAccessPaths, takeSeveralPointsOfAnIndexForTheWalkOfOne)
+TEST(MariaDbAccessPaths, takeSeveralPointsOfAnIndexForThePathOfOne)
 {
     const auto paths = mariaDbAccessPaths(
         mySqlAnswer({{"range", "i", "i", "408", "Using index condition; Using where"},
                      {"ref", "i", "i", "408", "Using where"}}));
     ASSERT_TRUE(paths);
-    EXPECT_EQ(walksOf(*paths), QStringList({"i 408", "i 408"}));
+    EXPECT_EQ(pathsOf(*paths), QStringList({"i 408", "i 408"}));
 }
 
 TEST(MariaDbAccessPaths, differByIndexAndByHowMuchOfItIsUsed)
@@ -133,20 +112,20 @@ TEST(MariaDbAccessPaths, differByIndexAndByHowMuchOfItIsUsed)
                                                        {"ref", "j", "j", "408", "Using where"},
                                                        {"ALL", "", "", "", "Using where"}}));
     ASSERT_TRUE(paths);
-    EXPECT_EQ(walksOf(*paths), QStringList({"i 408", "i 5", "j 408", "ALL"}));
+    EXPECT_EQ(pathsOf(*paths), QStringList({"i 408", "i 5", "j 408", "ALL"}));
 }
 
-TEST(MariaDbAccessPaths, sayWhetherThereIsAnotherWay)
+TEST(MariaDbAccessPaths, sayWhetherThereIsAnother)
 {
     const auto paths = mariaDbAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
                                                        {"ref", "i,j", "i", "408", "Using where"},
                                                        {"ALL", "", "", "", "Using where"},
                                                        {"ALL", "i", "", "", "Using where"}}));
     ASSERT_TRUE(paths);
-    EXPECT_TRUE(paths->at(0).isOnlyWay);
-    EXPECT_FALSE(paths->at(1).isOnlyWay);
-    EXPECT_TRUE(paths->at(2).isOnlyWay);
-    EXPECT_FALSE(paths->at(3).isOnlyWay);
+    EXPECT_TRUE(paths->at(0).isOnlyOne);
+    EXPECT_FALSE(paths->at(1).isOnlyOne);
+    EXPECT_TRUE(paths->at(2).isOnlyOne);
+    EXPECT_FALSE(paths->at(3).isOnlyOne);
 }
 
 TEST(MariaDbAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
@@ -157,15 +136,15 @@ TEST(MariaDbAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
                      {"ref|filter", "i,j", "i|j", "5|403", "Using where"},
                      {"ref", "i", "i", "408", "Using where; Using index"}}));
     ASSERT_TRUE(paths);
-    EXPECT_EQ(walksOf(*paths), QStringList({"", "", "", ""}));
+    EXPECT_EQ(pathsOf(*paths), QStringList({"", "", "", ""}));
 }
 
-TEST(MariaDbAccessPaths, areUnknownOnATableInParts)
+TEST(MariaDbAccessPaths, areUnknownOnAPartitionedTable)
 {
     const auto paths = mariaDbAccessPaths(
         mySqlLines({{"SIMPLE", "emplois", "p0,p1", "ref", "i", "i", "408", "Using where"}}));
     ASSERT_TRUE(paths);
-    EXPECT_EQ(walksOf(*paths), QStringList({""}));
+    EXPECT_EQ(pathsOf(*paths), QStringList({""}));
 }
 
 TEST(MariaDbAccessPaths, nameTheTableAndPassOverTheUnionItself)
@@ -176,39 +155,3 @@ TEST(MariaDbAccessPaths, nameTheTableAndPassOverTheUnionItself)
     ASSERT_TRUE(paths);
     EXPECT_EQ(*paths, (std::vector<AccessPath>{{"courses", "ALL", true}}));
 }
-
-TEST_P(APath, isOneWithoutAnIndex)
-{
-    makeTable({});
-    const auto paths = connection().accessPaths(page + cell);
-    ASSERT_TRUE(paths);
-    ASSERT_EQ(paths->size(), 2);
-    EXPECT_EQ(paths->at(0).walk, paths->at(1).walk);
-}
-
-TEST_P(APath, isOneAlongAnIndexOfTheOtherColumns)
-{
-    makeTable({"create index i on t (p, s)"});
-    const auto paths = connection().accessPaths(page + cell);
-    ASSERT_TRUE(paths);
-    ASSERT_EQ(paths->size(), 2);
-    EXPECT_EQ(paths->at(0).walk, paths->at(1).walk);
-    EXPECT_TRUE(paths->at(0).walk.contains(QStringLiteral("i")));
-}
-
-TEST_P(APath, isAnotherAlongAnotherIndex)
-{
-    makeTable({"create index i on t (p, s)"});
-    const auto paths = connection().accessPaths("select * from t where p = 3 and s = '1'"
-                                                " union all select * from t where s like 'x%'");
-    ASSERT_TRUE(paths);
-    EXPECT_NE(paths->at(0).walk, paths->at(1).walk);
-}
-
-TEST_P(APath, needsTheTable)
-{
-    EXPECT_THROW(static_cast<void>(connection().accessPaths("select * from nowhere")),
-                 runtime::RunTimeError);
-}
-
-TEMPORA_ON_BOTH_DATABASES(APath);

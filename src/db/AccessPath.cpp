@@ -1,4 +1,4 @@
-#include "db/AccessPaths.h"
+#include "db/AccessPath.h"
 
 #include <algorithm>
 
@@ -12,8 +12,8 @@ QString textOf(const Row& row, const QString& column)
     return row.field(column).toJoinedText();
 }
 
-/// Whether the remarks say nothing about an order of the walk's own.
-bool isPlainWalk(const QString& remarks)
+/// Whether the remarks say nothing about sorted or gathered rows.
+bool keepsOrder(const QString& remarks)
 {
     const QStringList parts = remarks.split(QStringLiteral("; "), Qt::SkipEmptyParts);
     return std::all_of(parts.begin(), parts.end(), [](const QString& part) {
@@ -21,19 +21,19 @@ bool isPlainWalk(const QString& remarks)
     });
 }
 
-/// The walk of one line of MariaDB's answer; empty when it is of another kind. Parts of a table are
-/// walked through one after the other for one point of an index, but side by side for several.
-QString mariaDbWalk(const Row& line)
+/// The path that one line of MariaDB's answer tells; empty when it is of another kind. Partitions
+/// of a table are read one after the other for one point of an index, but side by side for several.
+QString mariaDbPath(const Row& line)
 {
     const QString type = textOf(line, QStringLiteral("type"));
-    if (!isPlainWalk(textOf(line, QStringLiteral("Extra"))) ||
+    if (!keepsOrder(textOf(line, QStringLiteral("Extra"))) ||
         !textOf(line, QStringLiteral("partitions")).isEmpty()) {
         return {};
     }
     if (type == u"ALL") {
         return type;
     }
-    // With "in" the walk is a "range" of several points, with "=" it is a "ref" of one.
+    // With "in" the path is a "range" of several points, with "=" it is a "ref" of one.
     return type == u"ref" || type == u"range" ? textOf(line, QStringLiteral("key")) + u' ' +
                                                     textOf(line, QStringLiteral("key_len"))
                                               : QString();
@@ -64,10 +64,10 @@ AccessPaths mariaDbAccessPaths(const Recordset& explained)
     std::vector<AccessPath> paths;
     for (const Row& line : explained.rows()) {
         if (textOf(line, QStringLiteral("select_type")) == u"UNION RESULT") {
-            continue; // not a walk through a table
+            continue; // reads no table
         }
         paths.push_back(
-            {textOf(line, QStringLiteral("table")), mariaDbWalk(line),
+            {textOf(line, QStringLiteral("table")), mariaDbPath(line),
              textOf(line, QStringLiteral("possible_keys")) == textOf(line, QStringLiteral("key"))});
     }
     return paths;

@@ -1,0 +1,57 @@
+#include "db/Connection.h"
+
+#include "ConnectedTest.h"
+
+using namespace db;
+
+namespace
+{
+
+class AConnection : public ConnectedTest
+{
+};
+
+} // namespace
+
+TEST_P(AConnection, writesDatesAsItsProductReadsThem)
+{
+    // No setting is given: that of Access counts where the product has no dialect of its own.
+    EXPECT_EQ(connection().dialect().dateLiteral({2026, 10, 5}),
+              database().usesMySql() ? QStringLiteral("'2026/10/05'")
+                                     : QStringLiteral("#10/05/26#"));
+}
+
+TEST_P(AConnection, keepsTheOrderOfJoinedQueriesThroughAViewOnSqliteAlone)
+{
+    database().execute({"create table t (a integer, b varchar(9))",
+                        "insert into t values (1, 'x'), (1, 'y'), (1, 'z')",
+                        "create view v as select * from t order by b desc"});
+    EXPECT_EQ(connection().joinedQueriesKeepOrder(), !database().usesMySql());
+    const std::vector<Recordset> found =
+        connection().openJoined({"v.* from v where a = 1", "v.* from v where a = 2"});
+    ASSERT_EQ(found.size(), 2);
+    EXPECT_EQ(found[0].recordCount(), 3);
+    EXPECT_TRUE(found[1].isEmpty());
+    if (connection().joinedQueriesKeepOrder()) {
+        EXPECT_EQ(found[0].first().field(QStringLiteral("b")), Value(QStringLiteral("z")));
+    }
+}
+
+TEST_P(AConnection, tellsWhereTheRowsOfAPartStand)
+{
+    database().execute(QStringLiteral("create table t (a integer, b integer)"));
+    const WideQuery query{
+        "t", "a", " a in (1,2) and b=3", {{" (a=1)", " b=3"}, {" (a=2)", " b=3"}}};
+    EXPECT_EQ(connection().rowOrders({query}), std::vector{RowOrder::Same});
+    EXPECT_EQ(connection().statementCount(), 1);
+}
+
+TEST_P(AConnection, countsOneStatementForAnInsert)
+{
+    database().execute(QStringLiteral("create table t (a varchar(9), d date)"));
+    connection().insert(QStringLiteral("t"), {{QStringLiteral("a"), Value(QStringLiteral("x"))},
+                                              {QStringLiteral("d"), Value(QDate(2026, 10, 5))}});
+    EXPECT_EQ(connection().statementCount(), 1);
+}
+
+TEMPORA_ON_BOTH_DATABASES(AConnection);
