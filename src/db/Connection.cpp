@@ -1,5 +1,6 @@
 #include "db/Connection.h"
 
+#include "db/EqualTexts.h"
 #include "db/JoinedQueries.h"
 #include "db/ParameterSet.h"
 #include "db/ResultReader.h"
@@ -57,6 +58,21 @@ bool Connection::joinedQueriesKeepOrder() const
 std::vector<RowOrder> Connection::rowOrders(const std::vector<WideQuery>& queries)
 {
     return session().queryPlans().rowOrders(queries);
+}
+
+std::vector<TextGroups> Connection::equalTexts(const std::vector<TextQuestion>& questions)
+{
+    return db::equalTexts(questions, session());
+}
+
+std::optional<Packing> Connection::packing() const
+{
+    return session().product().packing();
+}
+
+QString Connection::metByMost(const QString& condition) const
+{
+    return session().product().metByMost(condition);
 }
 
 void Connection::execute(const QString& sql)

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "db/PackedRow.h"
 #include "db/Recordset.h"
 #include "db/RowOrder.h"
 #include "db/SqlDialect.h"
+#include "db/TextQuestion.h"
 
 #include <QString>
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -48,6 +51,13 @@ public:
     /// Whether the wide queries have brought the rows of their parts in each part's own order; by
     /// one statement at most. Raises no error while the connection is open.
     [[nodiscard]] std::vector<RowOrder> rowOrders(const std::vector<WideQuery>& queries);
+    /// Which of the texts of each question are equal where its column is compared with them; by one
+    /// statement as a rule (see EqualTexts.h).
+    [[nodiscard]] std::vector<TextGroups> equalTexts(const std::vector<TextQuestion>& questions);
+    /// How a query's rows can arrive as one text each (see PackedRow.h); nothing where they cannot.
+    [[nodiscard]] std::optional<Packing> packing() const;
+    /// The condition, with a hint to the database that most rows of the table meet it.
+    [[nodiscard]] QString metByMost(const QString& condition) const;
     /// Runs a statement that returns no rows.
     void execute(const QString& sql);
 
@@ -62,9 +72,6 @@ public:
 
     /// How many statements were sent so far: what a refresh costs over a far server.
     [[nodiscard]] long long statementCount() const;
-
-    /// Whether the driver is the embedded SQLite.
-    [[nodiscard]] bool isEmbedded() const { return joinedQueriesKeepOrder(); }
 
     /// Closes early; every later call fails with DatabaseFailure. Closing twice does nothing.
     void close();

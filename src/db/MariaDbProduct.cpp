@@ -104,6 +104,12 @@ Value MariaDbProduct::dateToWrite(QDate date, const ColumnName& /*column*/, Sess
     return Value(session.dialect().dateText(date));
 }
 
+QString MariaDbProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
+                                      TextColumns columns) const
+{
+    return serverEqualTextsSql(questions, columns);
+}
+
 AccessPaths MariaDbProduct::accessPaths(const QString& sql, Session& session) const
 {
     // In capitals: where "i" and "I" are no pair, as in Turkish, the driver does not know the word

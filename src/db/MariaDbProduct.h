@@ -39,6 +39,10 @@ public:
     [[nodiscard]] Value dateToWrite(QDate date, const ColumnName& column,
                                     Session& session) const override;
 
+    [[nodiscard]] std::optional<Packing> packing() const override { return Packing::Separated; }
+    [[nodiscard]] QString equalTextsSql(const std::vector<TextQuestion>& questions,
+                                        TextColumns columns) const override;
+
     [[nodiscard]] AccessPaths accessPaths(const QString& sql, Session& session) const override;
     [[nodiscard]] bool tellsOnlyPaths() const override { return true; }
 

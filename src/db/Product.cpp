@@ -23,6 +23,17 @@ QString Product::adapted(const QString& sql) const
     return sql;
 }
 
+QString Product::metByMost(const QString& condition) const
+{
+    return condition;
+}
+
+QString Product::equalTextsSql(const std::vector<TextQuestion>& /*questions*/,
+                               TextColumns /*columns*/) const
+{
+    return {};
+}
+
 AccessPaths Product::accessPaths(const QString& /*sql*/, Session& /*session*/) const
 {
     return std::nullopt;

@@ -2,13 +2,16 @@
 
 #include "db/AccessPath.h"
 #include "db/Diagnostics.h"
+#include "db/EqualTextsSql.h"
 #include "db/OdbcApi.h"
+#include "db/PackedRow.h"
 #include "db/SqlDialect.h"
 #include "db/Value.h"
 
 #include <QDate>
 #include <QString>
 #include <optional>
+#include <vector>
 
 namespace db
 {
@@ -60,6 +63,17 @@ public:
     /// whatever the column's type. Error: any that asking for the type raises.
     [[nodiscard]] virtual Value dateToWrite(QDate date, const ColumnName& column,
                                             Session& session) const = 0;
+
+    // What not every product knows
+
+    /// The condition, with a hint that most rows meet it where the product would take them for few.
+    [[nodiscard]] virtual QString metByMost(const QString& condition) const;
+    /// How rows can arrive as one text each; nothing where they cannot.
+    [[nodiscard]] virtual std::optional<Packing> packing() const { return std::nullopt; }
+    /// The statement that asks which texts are equal (see EqualTextsSql.h); empty where the product
+    /// cannot be asked, or not about columns turned into Unicode.
+    [[nodiscard]] virtual QString equalTextsSql(const std::vector<TextQuestion>& questions,
+                                                TextColumns columns) const;
 
     // Queries joined by "union all"
 

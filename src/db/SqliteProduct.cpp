@@ -101,6 +101,17 @@ Value SqliteProduct::dateToWrite(QDate date, const ColumnName& /*column*/, Sessi
     return Value(literal.mid(1, literal.size() - 2)); // between its quotes
 }
 
+QString SqliteProduct::metByMost(const QString& condition) const
+{
+    return QStringLiteral("likelihood(") + condition + QStringLiteral(",0.9)");
+}
+
+QString SqliteProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
+                                     TextColumns columns) const
+{
+    return columns == TextColumns::AsTheyAre ? sqliteEqualTextsSql(questions) : QString();
+}
+
 AccessPaths SqliteProduct::accessPaths(const QString& sql, Session& session) const
 {
     return sqliteAccessPaths(session.open(QStringLiteral("explain query plan ") + sql));

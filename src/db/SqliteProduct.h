@@ -26,6 +26,13 @@ public:
     [[nodiscard]] Value dateToWrite(QDate date, const ColumnName& column,
                                     Session& session) const override;
 
+    /// With the likelihood: SQLite takes the rows of a condition for few, and looks up each by
+    /// itself where a scan of the table is quicker.
+    [[nodiscard]] QString metByMost(const QString& condition) const override;
+    [[nodiscard]] std::optional<Packing> packing() const override { return Packing::Json; }
+    [[nodiscard]] QString equalTextsSql(const std::vector<TextQuestion>& questions,
+                                        TextColumns columns) const override;
+
     [[nodiscard]] bool joinedQueriesKeepOrder() const override { return true; }
     [[nodiscard]] AccessPaths accessPaths(const QString& sql, Session& session) const override;
 };

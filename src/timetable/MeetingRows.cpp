@@ -1,7 +1,7 @@
 #include "timetable/MeetingRows.h"
 
+#include "db/PackedRow.h"
 #include "runtime/RunTimeError.h"
-#include "timetable/PackedRow.h"
 
 #include <algorithm>
 
@@ -10,11 +10,11 @@ namespace timetable
 namespace
 {
 
-std::vector<SqlName> namesOf(std::span<const FieldColumn> columns)
+QStringList namesOf(std::span<const FieldColumn> columns)
 {
-    std::vector<SqlName> names;
+    QStringList names;
     for (const FieldColumn& each : columns) {
-        names.push_back(each.column);
+        names << each.column;
     }
     return names;
 }
@@ -32,25 +32,25 @@ std::vector<int> positionsOf(std::span<const FieldColumn> columns, const db::Col
 
 } // namespace
 
-/// SQLite takes a period for a few rows unless told otherwise, and looks up each by itself where
-/// walking through the table is quicker. The hint changes nothing else.
 QString MeetingRows::source() const
 {
-    const QString ofPeriod = column::kTranche + QStringLiteral(" =") + QString::number(m_period);
     return QStringLiteral(" from ") + tableOf(m_kind) + QStringLiteral(" where ") +
-           (m_connection.isEmbedded()
-                ? QStringLiteral("likelihood(") + ofPeriod + QStringLiteral(",0.9)")
-                : ofPeriod);
+           m_connection.metByMost(column::kTranche + QStringLiteral(" =") +
+                                  QString::number(m_period));
 }
 
 bool MeetingRows::readPacked(MeetingTaker& taker)
 {
     const std::span<const FieldColumn> columns = columnsOf(m_kind);
-    const Packing packing = m_connection.isEmbedded() ? Packing::Json : Packing::Separated;
+    const std::optional<db::Packing> packing = m_connection.packing();
+    if (!packing) {
+        return false;
+    }
     db::Recordset rows;
     try {
-        rows = m_connection.open(QStringLiteral("select ") + packed(packing, namesOf(columns)) +
-                                 QStringLiteral(" as packed") + source());
+        rows =
+            m_connection.open(QStringLiteral("select ") + db::packed(*packing, namesOf(columns)) +
+                              QStringLiteral(" as packed") + source());
     } catch (const runtime::RunTimeError& error) {
         if (error.number() != runtime::ErrorNumber::StatementRefused) {
             throw;
@@ -58,7 +58,7 @@ bool MeetingRows::readPacked(MeetingTaker& taker)
         return false;
     }
     taker.expect(rows.rows().size());
-    PackedRow packedRow(packing, columns.size());
+    db::PackedRow packedRow(*packing, columns.size());
     MeetingTexts texts;
     for (const db::Row& row : rows.rows()) {
         const db::Value whole = row.field(0);

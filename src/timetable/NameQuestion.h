@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/TextQuestion.h"
 #include "timetable/SqlName.h"
 #include "timetable/TextPool.h"
 
@@ -16,9 +17,8 @@ struct NameQuestion {
     TextPool texts;
 };
 
-/// The answer: for each text the number of the first one that it is equal to, its own where it is
-/// the first itself.
-using NameGroups = std::vector<int>;
+/// The answer.
+using NameGroups = db::TextGroups;
 
 /// Whoever answers such questions; the answers are in their order.
 using AskNames = std::function<std::vector<NameGroups>(const std::vector<NameQuestion>&)>;

@@ -116,6 +116,18 @@ TEST_F(TheDriverOfAccess, isNeverAskedToExplain)
     EXPECT_EQ(connection.statementCount(), 0);
 }
 
+TEST_F(TheDriverOfAccess, isNotAskedForWhatItDoesNotKnow)
+{
+    Connection connection = connect();
+    EXPECT_EQ(connection.packing(), std::nullopt);
+    EXPECT_EQ(connection.metByMost(QStringLiteral("a=1")), QStringLiteral("a=1"));
+    EXPECT_EQ(test::errorNumberOf([&] {
+                  static_cast<void>(connection.equalTexts({{"t", "a", {"x", "X"}}}));
+              }),
+              ErrorNumber::StatementRefused);
+    EXPECT_EQ(connection.statementCount(), 0);
+}
+
 TEST_F(TheDriverOfAccess, deletesTheFirstRowThroughACursor)
 {
     Connection connection = connect();

@@ -54,4 +54,29 @@ TEST_P(AConnection, countsOneStatementForAnInsert)
     EXPECT_EQ(connection().statementCount(), 1);
 }
 
+TEST_P(AConnection, bringsRowsAsOneTextEach)
+{
+    database().execute({"create table t (a integer, b varchar(9))",
+                        "insert into t values (1, null), (2, 'deux')"});
+    const Packing packing = connection().packing().value();
+    const Recordset rows =
+        connection().open("select " + packed(packing, {"a", "b"}) + " from t where " +
+                          connection().metByMost(QStringLiteral("a>0")) + " order by a");
+    ASSERT_EQ(rows.recordCount(), 2);
+    PackedRow row(packing, 2);
+    ASSERT_TRUE(row.unpack(rows.rows()[0].field(0).toText()));
+    EXPECT_EQ(row.fields()[0], QStringLiteral("1"));
+    EXPECT_TRUE(row.fields()[1].isNull());
+    ASSERT_TRUE(row.unpack(rows.rows()[1].field(0).toText()));
+    EXPECT_EQ(row.fields()[1], QStringLiteral("deux"));
+}
+
+TEST_P(AConnection, tellsWhichTextsAreEqual)
+{
+    database().execute(QStringLiteral("create table t (a varchar(9))"));
+    EXPECT_EQ(connection().equalTexts({{"t", "a", {"x", "y", "X"}}}),
+              std::vector<TextGroups>{database().usesMySql() ? TextGroups({0, 1, 0})
+                                                             : TextGroups({0, 1, 2})});
+}
+
 TEMPORA_ON_BOTH_DATABASES(AConnection);

@@ -132,20 +132,3 @@ TEST_P(EqualNames, cannotBeComparedWithAColumnThatIsNotThere)
 }
 
 TEMPORA_ON_BOTH_DATABASES(EqualNames);
-
-TEST(EqualNamesSql, writesAListForSqliteOnceHoweverManyAskAboutIt)
-{
-    const QString sql = equalNamesSql({about(column::kSalle, {"Amphi", "Labo"}),
-                                       about(column::kXSalle, {"Amphi", "Labo"}),
-                                       about(column::kYSalle, {"Labo", "Amphi"})},
-                                      NameComparison::Sqlite);
-    EXPECT_EQ(sql.count("'Amphi'"), 2);
-}
-
-TEST(EqualNamesSql, isNoneWithoutTwoTexts)
-{
-    for (const NameComparison comparison :
-         {NameComparison::Sqlite, NameComparison::Server, NameComparison::ServerUnicode}) {
-        EXPECT_EQ(equalNamesSql({about(column::kSalle, {"A1"})}, comparison), QString());
-    }
-}

@@ -1,12 +1,10 @@
-#include "timetable/PackedRow.h"
+#include "db/PackedRow.h"
 
 #include "support/RuntimeMatchers.h"
-#include "timetable/MeetingColumns.h"
 
-#include <array>
 #include <gtest/gtest.h>
 
-using namespace timetable;
+using namespace db;
 
 namespace
 {
@@ -34,13 +32,12 @@ QString separated(const QStringList& fields)
 
 TEST(PackedRow, asksSqliteForAnArray)
 {
-    EXPECT_EQ(packed(Packing::Json, std::array{column::kSalle, column::kDuree}),
-              QStringLiteral("json_array(Salle,Durée)"));
+    EXPECT_EQ(packed(Packing::Json, {"Salle", "Durée"}), QStringLiteral("json_array(Salle,Durée)"));
 }
 
 TEST(PackedRow, asksAServerForSeparatedFields)
 {
-    EXPECT_EQ(packed(Packing::Separated, std::array{column::kSalle, column::kDuree}),
+    EXPECT_EQ(packed(Packing::Separated, {"Salle", "Durée"}),
               QStringLiteral("concat_ws('\u001f',ifnull(Salle,'\u001e'),ifnull(Durée,'\u001e'))"));
 }
 

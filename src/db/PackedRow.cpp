@@ -1,9 +1,8 @@
-#include "timetable/PackedRow.h"
+#include "db/PackedRow.h"
 
-#include <QStringList>
 #include <algorithm>
 
-namespace timetable
+namespace db
 {
 namespace
 {
@@ -41,18 +40,18 @@ QChar unescaped(QStringView row, qsizetype& position)
 
 } // namespace
 
-QString packed(Packing packing, std::span<const SqlName> columns)
+QString packed(Packing packing, const QStringList& columns)
 {
-    QStringList names;
-    for (const SqlName& column : columns) {
-        names << (packing == Packing::Json
-                      ? QString(column)
-                      : QStringLiteral("ifnull(") + column + QStringLiteral(",'") + kNull +
-                            QStringLiteral("')"));
+    if (packing == Packing::Json) {
+        return QStringLiteral("json_array(") + columns.join(u',') + u')';
     }
-    return packing == Packing::Json ? QStringLiteral("json_array(") + names.join(u',') + u')'
-                                    : QStringLiteral("concat_ws('") + kSeparator +
-                                          QStringLiteral("',") + names.join(u',') + u')';
+    QStringList fields;
+    for (const QString& column : columns) {
+        fields << QStringLiteral("ifnull(") + column + QStringLiteral(",'") + kNull +
+                      QStringLiteral("')");
+    }
+    return QStringLiteral("concat_ws('") + kSeparator + QStringLiteral("',") + fields.join(u',') +
+           u')';
 }
 
 bool PackedRow::unpack(const QString& row)
@@ -136,4 +135,4 @@ QStringView PackedRow::readJsonText(QStringView row, qsizetype& position)
     return QStringView(m_unescaped).sliced(first);
 }
 
-} // namespace timetable
+} // namespace db

@@ -1,24 +1,24 @@
 #pragma once
 
-#include "timetable/SqlName.h"
-
 #include <QString>
+#include <QStringList>
 #include <QStringView>
+#include <cstddef>
 #include <span>
 #include <vector>
 
-namespace timetable
+namespace db
 {
 
-/// Rows whose fields arrive as one text: drivers take as long for each field of a row as SQLite
-/// takes for the whole row, and most fields of a timetable are null.
+/// How the fields of a row arrive as one text: drivers take as long for each field of a row as
+/// SQLite takes for the whole row, and most fields of a timetable are null.
 enum class Packing {
     Json,      ///< SQLite's own array: ["A101",null]
     Separated, ///< a server's fields between separators, which texts do not hold
 };
 
 /// The expression that packs the columns of a row into one text.
-[[nodiscard]] QString packed(Packing packing, std::span<const SqlName> columns);
+[[nodiscard]] QString packed(Packing packing, const QStringList& columns);
 
 /// Takes such texts apart.
 class PackedRow
@@ -43,4 +43,4 @@ private:
     QString m_unescaped; ///< characters of the current row's fields that were written otherwise
 };
 
-} // namespace timetable
+} // namespace db

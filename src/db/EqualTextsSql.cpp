@@ -1,0 +1,156 @@
+#include "db/EqualTextsSql.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <cstddef>
+
+namespace db
+{
+namespace
+{
+
+/// Whether a backslash could hide something in the text, or a null character end it.
+bool isOdd(const QString& text)
+{
+    return text.contains(u'\\') || text.contains(QChar(u'\0'));
+}
+
+QString quoted(QString text)
+{
+    return u'\'' + text.replace(u'\'', QStringLiteral("''")) + u'\'';
+}
+
+QString hexadecimal(const QString& text)
+{
+    return QStringLiteral("x'") + QString::fromLatin1(text.toUtf8().toHex()) + u'\'';
+}
+
+/// The texts with their numbers as rows, on SQLite, which takes any number of them.
+QString numberedTexts(const std::vector<QString>& texts)
+{
+    QStringList rows;
+    for (const QString& text : texts) {
+        const QString literal =
+            isOdd(text) ? QStringLiteral("cast(") + hexadecimal(text) + QStringLiteral(" as text)")
+                        : quoted(text);
+        rows << u'(' + QString::number(rows.size() + 1) + u',' + literal + u')';
+    }
+    return QStringLiteral("values ") + rows.join(u',');
+}
+
+/// The numbers from 1 up to `count` as a query on any server.
+QString numbers(std::size_t count)
+{
+    constexpr int base = 10;
+    QString digit = QStringLiteral("(select 0 as d");
+    for (int value = 1; value < base; ++value) {
+        digit += QStringLiteral(" union all select ") + QString::number(value);
+    }
+    digit += u')';
+    QString sum = QStringLiteral("1");
+    QStringList places;
+    for (std::size_t unit = 1; unit < std::max<std::size_t>(count, 2); unit *= base) {
+        const QString name = QStringLiteral("d") + QString::number(places.size());
+        sum += u'+' + QString::number(unit) + u'*' + name + QStringLiteral(".d");
+        places << digit + u' ' + name;
+    }
+    return QStringLiteral("select ") + sum + QStringLiteral(" as n from ") +
+           places.join(QStringLiteral(" cross join "));
+}
+
+QString questionSql(std::size_t number, const QString& numberedTexts)
+{
+    const QString name = QString::number(number);
+    return QStringLiteral("select ") + name +
+           QStringLiteral(" as q, group_concat(n) as members, count(*) as c from (") +
+           numberedTexts + QStringLiteral(") u") + name +
+           QStringLiteral(" group by t having count(*)>1");
+}
+
+/// The texts with their numbers on SQLite: without a single row, the column still gives its
+/// collation to the texts behind it.
+QString comparedBySqlite(const TextQuestion& question, const QString& numberedTexts)
+{
+    return QStringLiteral("select 0 as n, ") + question.column + QStringLiteral(" as t from ") +
+           question.table + QStringLiteral(" where 0=1 union all ") + numberedTexts;
+}
+
+/// The same on a server. There the column must stand among the literals of one function: only then
+/// are they turned into its character set. Not every server knows rows of values, and a query per
+/// text takes MariaDB three times as long.
+QString comparedByServer(const TextQuestion& question, TextColumns columns)
+{
+    const QString column =
+        columns == TextColumns::InUnicode
+            ? QStringLiteral("convert(") + question.column + QStringLiteral(" using utf8mb4)")
+            : question.column;
+    const std::vector<QString>& texts = question.texts;
+    // All literals of one kind: two kinds may have two collations, which do not mix.
+    const bool hasOdd = std::any_of(texts.begin(), texts.end(), isOdd);
+    QStringList literals;
+    for (const QString& text : texts) {
+        literals << (hasOdd ? QStringLiteral("_utf8mb4 ") + hexadecimal(text) : quoted(text));
+    }
+    return QStringLiteral("select n, elt(n,") + literals.join(u',') + QStringLiteral(",(select ") +
+           column + QStringLiteral(" from ") + question.table +
+           QStringLiteral(" where 0=1)) as t from (") + numbers(texts.size()) +
+           QStringLiteral(") k where n<=") + QString::number(texts.size());
+}
+
+/// Lists of texts, each written once in front of the statement: most questions are about the same
+/// rooms.
+class SharedLists
+{
+public:
+    /// The query that yields the texts. They outlive this list of lists.
+    [[nodiscard]] QString query(const std::vector<QString>& texts)
+    {
+        const auto isSame = [&texts](const auto* each) { return *each == texts; };
+        const auto found = std::find_if(m_lists.begin(), m_lists.end(), isSame);
+        const QString name = QStringLiteral("l") + QString::number(found - m_lists.begin());
+        if (found == m_lists.end()) {
+            m_lists.push_back(&texts);
+            m_sql << name + QStringLiteral("(n,t) as (") + numberedTexts(texts) + u')';
+        }
+        return QStringLiteral("select n,t from ") + name;
+    }
+    /// "with", the lists, and a blank.
+    [[nodiscard]] QString sql() const { return QStringLiteral("with ") + m_sql.join(u',') + u' '; }
+
+private:
+    std::vector<const std::vector<QString>*> m_lists;
+    QStringList m_sql;
+};
+
+/// The queries of all questions that have something to compare, `compared` giving the texts of one.
+template <typename Compared>
+QString joined(const std::vector<TextQuestion>& questions, Compared compared)
+{
+    QStringList parts;
+    for (std::size_t number = 0; number < questions.size(); ++number) {
+        if (questions[number].texts.size() > 1) {
+            parts << questionSql(number, compared(questions[number]));
+        }
+    }
+    return parts.join(QStringLiteral(" union all "));
+}
+
+} // namespace
+
+QString sqliteEqualTextsSql(const std::vector<TextQuestion>& questions)
+{
+    SharedLists lists;
+    const QString sql = joined(questions, [&lists](const TextQuestion& question) {
+        return comparedBySqlite(question, lists.query(question.texts));
+    });
+    return sql.isEmpty() ? sql : lists.sql() + sql;
+}
+
+QString serverEqualTextsSql(const std::vector<TextQuestion>& questions, TextColumns columns)
+{
+    return joined(questions, [columns](const TextQuestion& question) {
+        return comparedByServer(question, columns);
+    });
+}
+
+} // namespace db
