@@ -80,8 +80,11 @@ bool PackedRow::unpackJson(QStringView row)
     if (row.size() < 2 || row.front() != u'[' || row.back() != u']') {
         return false;
     }
-    m_unescaped.clear();
-    m_unescaped.reserve(row.size()); // so that it never moves under the fields
+    m_hasEscapes = row.contains(u'\\');
+    if (m_hasEscapes) {
+        m_unescaped.clear();
+        m_unescaped.reserve(row.size()); // so that it never moves under the fields
+    }
     qsizetype position = 0;
     for (QStringView& field : m_fields) {
         if (position >= row.size() - 1) {
@@ -118,15 +121,13 @@ QStringView PackedRow::readJsonText(QStringView row, qsizetype& position)
 {
     const qsizetype start = position + 1;
     qsizetype end = start;
-    while (end < row.size() && row[end] != u'"' && row[end] != u'\\') {
-        ++end;
-    }
-    if (end < row.size() && row[end] == u'"') {
+    if (!m_hasEscapes) {
+        end = row.indexOf(u'"', start);
+        end = end < 0 ? row.size() : end;
         position = end + 1;
         return row.sliced(start, end - start);
     }
     const qsizetype first = m_unescaped.size();
-    m_unescaped += row.sliced(start, end - start);
     for (; end < row.size() && row[end] != u'"'; ++end) {
         const bool isEscape = row[end] == u'\\' && end + 1 < row.size();
         m_unescaped += isEscape ? unescaped(row, ++end) : row[end];

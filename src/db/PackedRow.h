@@ -40,7 +40,8 @@ private:
 
     Packing m_packing;
     std::vector<QStringView> m_fields;
-    QString m_unescaped; ///< characters of the current row's fields that were written otherwise
+    bool m_hasEscapes = false; ///< whether the current row writes a character otherwise
+    QString m_unescaped;       ///< the texts of such a row
 };
 
 } // namespace db

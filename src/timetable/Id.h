@@ -20,7 +20,8 @@ public:
     /// Position in its list. Requires: not nothing.
     [[nodiscard]] constexpr int index() const { return m_index; }
 
-    friend constexpr auto operator<=>(Id, Id) = default;
+    friend constexpr bool operator==(Id, Id) = default;
+    friend constexpr auto operator<=>(Id left, Id right) { return left.m_index <=> right.m_index; }
 
 private:
     int m_index = -1;

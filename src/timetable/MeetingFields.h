@@ -45,7 +45,7 @@ using MeetingTexts = std::array<QStringView, field::kCount>;
 
 /// Where a field stands in the database.
 struct FieldColumn {
-    std::size_t field;
+    std::size_t field = 0;
     SqlName column;
 };
 

@@ -5,9 +5,9 @@ namespace timetable
 namespace
 {
 
-constexpr int kDaysOfWeek = 7;
+constexpr qint64 kDaysOfWeek = 7;
 constexpr int kDaysOfExamWeek = 6;
-constexpr int kWeeksBeforeControls = 4;
+constexpr qint64 kWeeksBeforeControls = 4;
 
 /// The first Monday after the day, never the day itself.
 QDate nextMonday(QDate day)

@@ -22,7 +22,8 @@ public:
     /// A room of the room table; their ids count from 0 in the order in which they come. Before the
     /// names of the rows.
     void addRoom(const QString& name);
-    /// The id of a text in a room column; nothing for a null.
+    /// The id of a text in a room column; nothing for a null, and for an empty text unless a room
+    /// of the room table has no name and the column is `Salle`.
     [[nodiscard]] RoomNameId name(MeetingKind kind, std::size_t field, QStringView text);
 
     void ask(NameInquiry& inquiry);

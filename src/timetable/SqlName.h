@@ -31,8 +31,8 @@ public:
     }
 
 private:
-    const char16_t* m_name; ///< ends with a null character, for whoever reads that far
-    qsizetype m_length;
+    const char16_t* m_name = u""; ///< ends with a null character, for whoever reads that far
+    qsizetype m_length = 0;
 };
 
 } // namespace timetable

@@ -1,7 +1,39 @@
 #include "timetable/TextPool.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace timetable
 {
+
+std::size_t TextPool::Hash::operator()(QStringView text) const
+{
+    constexpr std::uint64_t odd = 0x9e3779b97f4a7c15;
+    constexpr int half = 32;
+    constexpr qsizetype block = sizeof(std::uint64_t) / sizeof(char16_t);
+    std::uint64_t hash = static_cast<std::uint64_t>(text.size());
+    const auto mix = [&hash](std::uint64_t bits) {
+        hash = (hash ^ bits) * odd;
+        hash ^= hash >> half;
+    };
+    qsizetype done = 0;
+    for (; done + block <= text.size(); done += block) {
+        std::uint64_t bits = 0;
+        std::memcpy(&bits, text.utf16() + done, sizeof(bits));
+        mix(bits);
+    }
+    for (; done < text.size(); ++done) {
+        mix(text.utf16()[done]);
+    }
+    return static_cast<std::size_t>(hash);
+}
+
+bool TextPool::Same::operator()(QStringView left, QStringView right) const
+{
+    return left.size() == right.size() &&
+           std::memcmp(left.utf16(), right.utf16(),
+                       static_cast<std::size_t>(left.size()) * sizeof(char16_t)) == 0;
+}
 
 int TextPool::add(QStringView text)
 {

@@ -9,14 +9,22 @@ namespace timetable
 /// A length of time.
 struct Minutes {
     int value = 0;
-    friend constexpr auto operator<=>(Minutes, Minutes) = default;
+    friend constexpr bool operator==(Minutes, Minutes) = default;
+    friend constexpr auto operator<=>(Minutes left, Minutes right)
+    {
+        return left.value <=> right.value;
+    }
 };
 
 /// A time of day, in minutes since midnight. An end may lie beyond 1440: the day's meetings stay
 /// the day's, however long.
 struct MinuteOfDay {
     int value = 0;
-    friend constexpr auto operator<=>(MinuteOfDay, MinuteOfDay) = default;
+    friend constexpr bool operator==(MinuteOfDay, MinuteOfDay) = default;
+    friend constexpr auto operator<=>(MinuteOfDay left, MinuteOfDay right)
+    {
+        return left.value <=> right.value;
+    }
 };
 
 [[nodiscard]] constexpr MinuteOfDay operator+(MinuteOfDay time, Minutes length)
@@ -41,7 +49,13 @@ struct TimeSpan {
         return std::max(start, other.start) < std::min(end(), other.end());
     }
 
-    friend constexpr auto operator<=>(const TimeSpan&, const TimeSpan&) = default;
+    friend constexpr bool operator==(const TimeSpan&, const TimeSpan&) = default;
+    /// By start; of those that start together the shorter one first.
+    friend constexpr auto operator<=>(const TimeSpan& left, const TimeSpan& right)
+    {
+        return left.start == right.start ? left.length <=> right.length
+                                         : left.start <=> right.start;
+    }
 };
 
 /// The stretch between two times of a day. Requires: `end` is not before `start`.

@@ -54,6 +54,11 @@ TEST(PackedRow, undoesTheEscapesOfAnArray)
               (QStringList{"B\\2 \"x\"", "aé\tb\n", "\b\f\r/"}));
 }
 
+TEST(PackedRow, keepsAnEmptyTextOfARowWithEscapes)
+{
+    EXPECT_EQ(fieldsOf(Packing::Json, 3, R"(["",null,"\t"])"), (QStringList{"", "<null>", "\t"}));
+}
+
 TEST(PackedRow, tellsTheWordNullFromANull)
 {
     EXPECT_EQ(fieldsOf(Packing::Json, 2, R"(["null",null])"), (QStringList{"null", "<null>"}));

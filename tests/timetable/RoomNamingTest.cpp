@@ -68,9 +68,10 @@ TEST_F(NamingRooms, hasNoIdForANullAndForAnEmptyText)
     EXPECT_TRUE(name(kSalle, "").isNone());
 }
 
-TEST_F(NamingRooms, takesAnEmptyTextForTheRoomWithoutAName)
+TEST_F(NamingRooms, takesAnEmptyTextInSalleForTheRoomWithoutAName)
 {
     m_naming.addRoom("");
+    EXPECT_TRUE(name(kYSalle, "").isNone());
     static_cast<void>(name(kSalle, ""));
     EXPECT_EQ(take(Draft::spelling).names, (std::vector<RoomName>{{"", {RoomId(3)}}}));
 }
