@@ -1,5 +1,6 @@
 #include "timetable/TextPool.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -30,9 +31,8 @@ std::size_t TextPool::Hash::operator()(QStringView text) const
 
 bool TextPool::Same::operator()(QStringView left, QStringView right) const
 {
-    return left.size() == right.size() &&
-           std::memcmp(left.utf16(), right.utf16(),
-                       static_cast<std::size_t>(left.size()) * sizeof(char16_t)) == 0;
+    return std::equal(left.utf16(), left.utf16() + left.size(), right.utf16(),
+                      right.utf16() + right.size());
 }
 
 int TextPool::add(QStringView text)
