@@ -25,7 +25,7 @@ bool keepsOrder(const QString& remarks)
 /// of a table are read one after the other for one point of an index, but side by side for several.
 QString mariaDbPath(const Row& line)
 {
-    const QString type = textOf(line, QStringLiteral("type"));
+    QString type = textOf(line, QStringLiteral("type"));
     if (!keepsOrder(textOf(line, QStringLiteral("Extra"))) ||
         !textOf(line, QStringLiteral("partitions")).isEmpty()) {
         return {};

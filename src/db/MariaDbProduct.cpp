@@ -96,7 +96,10 @@ SQLSMALLINT MariaDbProduct::cTypeOf(SQLSMALLINT type) const
     if (type == SQL_BIT) {
         return SQL_C_BIT; // as text it is a raw byte
     }
-    return m_server.sendsUtf8 ? cTypeWithoutConversion(type) : SQL_C_WCHAR;
+    if (!m_server.sendsUtf8) {
+        return SQL_C_WCHAR;
+    }
+    return cTypeWithoutConversion(type);
 }
 
 Value MariaDbProduct::dateToWrite(QDate date, const ColumnName& /*column*/, Session& session) const

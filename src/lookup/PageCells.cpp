@@ -66,6 +66,7 @@ void putInOrder(db::Connection& connection, const std::vector<Crowded>& tables,
                 std::map<RoomQuestion::Table, PageCells>& pages)
 {
     std::vector<db::WideQuery> queries;
+    queries.reserve(tables.size());
     for (const Crowded& crowded : tables) {
         queries.push_back(crowded.query);
     }
