@@ -22,6 +22,9 @@ public:
     /// (0: leave it); `plain` sends one statement per question.
     [[nodiscard]] std::unique_ptr<shell::Shell> open(bool plain, quint16 port = 0) const;
 
+    /// The database itself.
+    [[nodiscard]] test::TestDatabase& database() { return m_database; }
+
 private:
     test::TestDatabase m_database;
     QTemporaryDir m_folder;
