@@ -1,5 +1,7 @@
 #include "lookup/CellMasks.h"
 
+#include "timetable/MeetingColumns.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -7,11 +9,11 @@ namespace lookup
 {
 
 CellMasks::CellMasks(RoomQuestion::Table table, QStringList rooms, QStringList keys)
-    : m_rooms(std::move(rooms)), m_keyMasks(QStringLiteral("Seance"), std::move(keys))
+    : m_rooms(std::move(rooms)), m_keyMasks(timetable::column::kSeance, std::move(keys))
 {
     for (const QString& column : RoomQuestion::roomColumns(table)) {
         QStringList names = m_rooms;
-        if (column != u"Salle") {
+        if (column != timetable::column::kSalle) {
             names.removeAll(QString()); // without a name only `Salle` is asked about
         }
         m_roomMasks.emplace_back(column, names);

@@ -2,6 +2,7 @@
 
 #include "lookup/CellMasks.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/MeetingColumns.h"
 
 #include <utility>
 
@@ -38,7 +39,7 @@ Crowded crowdedOf(const PageCells& page, RoomQuestion question, const QString& c
 {
     Crowded crowded{question.table,
                     page.crowded(),
-                    {question.tableName(), QStringLiteral("Salle"), condition, {}}};
+                    {question.tableName(), timetable::column::kSalle, condition, {}}};
     for (const PageCells::Cell cell : crowded.cells) {
         question.room = page.room(cell);
         question.seanceKey = page.key(cell);

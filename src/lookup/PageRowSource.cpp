@@ -2,6 +2,7 @@
 
 #include "db/MatchMasks.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/MeetingColumns.h"
 
 #include <QSet>
 #include <optional>
@@ -164,7 +165,7 @@ QStringList PageRowSource::allClasses() const
     for (const auto& [table, cells] : m_cells) {
         cells.forTaken([&names](const db::Recordset& rows) {
             for (const db::Row& row : rows.rows()) {
-                names.collect(row, QStringLiteral("Classe"));
+                names.collect(row, timetable::column::kClasse);
             }
         });
     }
@@ -180,8 +181,8 @@ PageFacts PageRowSource::facts() const
     for (const auto& [table, cells] : m_cells) {
         cells.forTaken([&](const db::Recordset& rows) {
             names.collect(m_questions.listsOccupants ? rows.first() : rows.rows().back(),
-                          QStringLiteral("Classe"));
-            starts.collect(rows.first(), QStringLiteral("Debut"));
+                          timetable::column::kClasse);
+            starts.collect(rows.first(), timetable::column::kDebut);
         });
     }
     return {names.texts(), starts.texts()};
