@@ -18,8 +18,7 @@ namespace
 /// Read aloud: a dash between two times would be swallowed.
 QString timeWords(const QString& start, int minutes)
 {
-    const QString end = plan::endText(start, minutes);
-    return end.isEmpty() ? start : start + QStringLiteral(" à ") + end;
+    return plan::stretchWords(start, QStringLiteral(" à "), minutes);
 }
 
 /// Like what is drawn, in one line.
@@ -142,21 +141,19 @@ QRectF PlanTable::placeOf(const Cell& cell) const
 {
     const form::PlanForm& form = m_state.form;
     const plan::PlanRow& row = rowOf(cell);
-    const auto inPixels = [this](const form::Place& across, const form::Place& down) {
-        return QRectF(m_target.toPixelsX(across.left), m_target.toPixelsY(down.top),
-                      m_target.toPixelsX(across.width), m_target.toPixelsY(down.height));
-    };
     const form::Place& room = form.Salle.at(static_cast<std::size_t>(row.index)).place;
     if (cell.column == 0) {
-        return inPixels(room, room);
+        return m_target.toPixels(room);
     }
     if (const plan::PlanBox* box = boxOf(cell)) {
         return paint::overlayPlaces(form, m_target, row.index, *box).ZAbs;
     }
     const int slot = slotOf(cell);
-    return m_state.slots.slot(slot)
-               ? inPixels(form.Tot.at(static_cast<std::size_t>(slot - 1)).place, room)
-               : QRectF();
+    if (!m_state.slots.slot(slot)) {
+        return {};
+    }
+    const form::Place& across = form.Tot.at(static_cast<std::size_t>(slot - 1)).place;
+    return m_target.toPixels(QRectF(across.left, room.top, across.width, room.height));
 }
 
 QString PlanTable::slotTitle(int slot) const

@@ -1,5 +1,6 @@
 #include "paint/BoxText.h"
 
+#include "paint/FittingSize.h"
 #include "paint/MeasuredWords.h"
 #include "plan/BoxLines.h"
 #include "plan/CellLayout.h"
@@ -34,8 +35,9 @@ Setting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& 
 {
     const MeasuredWords words(ruler, lines);
     const MeasuredWords::Extent written{static_cast<int>(lines.size()), widest(ruler, lines)};
+    Setting setting{kSmallestText, lines, false};
     const int start = std::max(ruler.font().pixelSize(), kSmallestText);
-    for (int pixels = start; pixels >= kSmallestText; --pixels) {
+    (void)fittingSize(start, kSmallestText, [&](int pixels) {
         // The area as it looks at the ruler's own size.
         const double scale = static_cast<double>(ruler.font().pixelSize()) / pixels;
         const double width = area.width() * scale;
@@ -44,13 +46,13 @@ Setting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& 
             return ruler.height() * set.lines <= height && set.width <= width;
         };
         if (!wordBreak && fits(written)) {
-            return {pixels, lines};
+            setting = {pixels, lines};
+        } else if (fits(words.extent(width))) {
+            setting = {pixels, words.broken(width)};
         }
-        if (fits(words.extent(width))) {
-            return {pixels, words.broken(width)};
-        }
-    }
-    return {kSmallestText, lines, false};
+        return setting.fits;
+    });
+    return setting;
 }
 
 void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,

@@ -119,14 +119,18 @@ form::Colour readableOn(form::Colour background)
     return light / kFlare >= (1 + kFlare) / light ? black : white;
 }
 
+QRectF boxArea(const DrawingTarget& target, double x, double y, double width, int rowHeight)
+{
+    return {x + target.TargetXOffset, y, target.toPixelsX(width), target.toPixelsY(rowHeight)};
+}
+
 QRect boxRectangle(const DrawingTarget& target, double x, double y, double minutes, int rowHeight)
 {
-    const double height = target.toPixelsY(rowHeight);
-    const double width = target.toPixelsX(context::widthOf(minutes, target.SlotWidth));
-    const int left = nearestInteger(x + target.TargetXOffset);
-    const int top = nearestInteger(y);
-    return {left, top, nearestInteger(x + target.TargetXOffset + width) - left,
-            nearestInteger(y + height) - top};
+    const QRectF area =
+        boxArea(target, x, y, context::widthOf(minutes, target.SlotWidth), rowHeight);
+    const int left = nearestInteger(area.left());
+    const int top = nearestInteger(area.top());
+    return {left, top, nearestInteger(area.right()) - left, nearestInteger(area.bottom()) - top};
 }
 
 void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& style, double x,

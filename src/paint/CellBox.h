@@ -8,6 +8,7 @@
 #include <QMarginsF>
 #include <QPainter>
 #include <QRect>
+#include <QRectF>
 #include <QString>
 
 namespace paint
@@ -25,8 +26,13 @@ struct BoxStyle {
     const TextRuler* ruler = nullptr;
 };
 
-/// The rectangle of a box in device pixels; `x` and `y` are its top left corner before the
-/// target's offset, `minutes` its length in time.
+/// Where a box lies, in device pixels not yet rounded: what a click hits and what the labels over
+/// it lean on. `x` and `y` are its top left corner in device pixels before the target's offset,
+/// `width` and `rowHeight` its size in twips.
+[[nodiscard]] QRectF boxArea(const DrawingTarget& target, double x, double y, double width,
+                             int rowHeight);
+
+/// The whole pixels of a box's area that are drawn; `minutes` is its length in time.
 [[nodiscard]] QRect boxRectangle(const DrawingTarget& target, double x, double y, double minutes,
                                  int rowHeight);
 

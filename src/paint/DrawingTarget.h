@@ -1,7 +1,9 @@
 #pragma once
 
 #include "context/TimeAxis.h"
-#include "runtime/Numbers.h"
+#include "form/Controls.h"
+
+#include <QRectF>
 
 namespace paint
 {
@@ -24,6 +26,16 @@ struct DrawingTarget {
 
     [[nodiscard]] double toPixelsX(double twips) const { return twips / TargetTwipsPerPixelX; }
     [[nodiscard]] double toPixelsY(double twips) const { return twips / TargetTwipsPerPixelY; }
+    /// A rectangle in twips as it lies on the target, without the boxes' offset.
+    [[nodiscard]] QRectF toPixels(const QRectF& twips) const
+    {
+        return {toPixelsX(twips.x()), toPixelsY(twips.y()), toPixelsX(twips.width()),
+                toPixelsY(twips.height())};
+    }
+    [[nodiscard]] QRectF toPixels(const form::Place& place) const
+    {
+        return toPixels(QRectF(place.left, place.top, place.width, place.height));
+    }
 };
 
 } // namespace paint

@@ -1,5 +1,7 @@
 #include "paint/Overlays.h"
 
+#include "paint/CellBox.h"
+
 #include <QFont>
 #include <algorithm>
 
@@ -57,14 +59,14 @@ OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& tar
     const int rowHeight = form.Salle.front().place.height;
     const int size = std::min(rowHeight, kPictureSize);
     const double right = box.x + box.width;
-    const auto picture = [&](double left, double width, double height) {
-        return QRectF(target.toPixelsX(left), target.toPixelsY(room.top), target.toPixelsX(width),
-                      target.toPixelsY(height));
+    const auto picture = [&](double left) {
+        return target.toPixels(QRectF(left, room.top, size, size));
     };
     OverlayPlaces places;
-    places.YAbs = picture(right - size, size, size);
-    places.XAbs = picture(right - kClassPictureStep * size, size, size);
-    places.ZAbs = picture(box.x, box.width, rowHeight);
+    places.YAbs = picture(right - size);
+    places.XAbs = picture(right - kClassPictureStep * size);
+    places.ZAbs =
+        boxArea(target, target.toPixelsX(box.x), target.toPixelsY(room.top), box.width, rowHeight);
     if (box.group) {
         const GlyphFont& font = fonts.fitting({}, places.ZAbs.width());
         const double height = std::min(font.height(), places.ZAbs.height());

@@ -180,9 +180,7 @@ void PlanPainter::paintOverlayLabel(const QRectF& place, const QColor& fill, boo
 
 void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side)
 {
-    const QRectF place(
-        m_scene.target.toPixelsX(label.place.left), m_scene.target.toPixelsY(label.place.top),
-        m_scene.target.toPixelsX(label.place.width), m_scene.target.toPixelsY(label.place.height));
+    const QRectF place = m_scene.target.toPixels(label.place);
     // Row 0 is the room before the first drawn one: greyed, so that nobody takes it for free.
     m_surface.fillRect(place, isRowZero ? kGreyedFill : toColor(label.backColor));
     m_surface.setPen(isRowZero ? kGreyedInk : toColor(readableOn(label.backColor)));

@@ -1,12 +1,14 @@
 #include "paint/PrinterCellText.h"
 
 #include "paint/BoxText.h"
+#include "paint/FittingSize.h"
 #include "paint/MeasuredWords.h"
 #include "plan/BoxLines.h"
 #include "plan/CellLayout.h"
 #include "runtime/Numbers.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace paint
 {
@@ -38,18 +40,13 @@ PrinterSetting printerSetting(const TextRuler& ruler, const DrawingTarget& targe
         return widest(ruler, lines) <= seen.width() &&
                ruler.height() * kClosest * static_cast<double>(lines.size()) <= seen.height();
     };
-    int points = start;
-    while (points > 1 && !fits(written, points)) {
-        --points;
-    }
+    const int points =
+        fittingSize(start, 2, [&](int size) { return fits(written, size); }).value_or(1);
     const MeasuredWords words(ruler, written);
-    for (int larger = std::min(kLegible, start); larger > points; --larger) {
-        QStringList broken = words.broken(seenAt(larger).width());
-        if (fits(broken, larger)) {
-            return {larger, std::move(broken)};
-        }
-    }
-    return {points, written};
+    const auto broken = [&](int size) { return words.broken(seenAt(size).width()); };
+    const std::optional<int> larger = fittingSize(
+        std::min(kLegible, start), points + 1, [&](int size) { return fits(broken(size), size); });
+    return larger ? PrinterSetting{*larger, broken(*larger)} : PrinterSetting{points, written};
 }
 
 void PrinterCellText(QPainter& surface, const DrawingTarget& target, const QRectF& rectangle,

@@ -1,5 +1,6 @@
 #include "print/FittedText.h"
 
+#include "paint/FittingSize.h"
 #include "runtime/Numbers.h"
 
 #include <QFontMetricsF>
@@ -20,15 +21,16 @@ QFont paperFont(const form::Font& font, const paint::DrawingTarget& target, int 
 double drawFitted(QPainter& surface, const paint::DrawingTarget& target, const form::Font& font,
                   const QRectF& rectangle, Qt::Alignment alignment, const QString& text)
 {
-    int points = std::max(1, font.points);
-    QFont fitted = paperFont(font, target, points);
-    while (points > 1 && QFontMetricsF(fitted).horizontalAdvance(text) > rectangle.width()) {
-        fitted = paperFont(font, target, --points);
-    }
-    surface.setFont(fitted);
+    const auto widthAt = [&](int points) {
+        return QFontMetricsF(paperFont(font, target, points)).horizontalAdvance(text);
+    };
+    const int points = paint::fittingSize(font.points, 2, [&](int size) {
+                           return widthAt(size) <= rectangle.width();
+                       }).value_or(1);
+    surface.setFont(paperFont(font, target, points));
     surface.drawText(rectangle, static_cast<int>(alignment) | Qt::TextSingleLine | Qt::TextDontClip,
                      text);
-    return QFontMetricsF(fitted).horizontalAdvance(text);
+    return widthAt(points);
 }
 
 } // namespace print

@@ -32,8 +32,7 @@ QColor toColor(form::Colour color)
 
 QRectF pixels(const DrawingTarget& target, const form::Place& place)
 {
-    return {target.toPixelsX(place.left) + target.TargetXOffset, target.toPixelsY(place.top),
-            target.toPixelsX(place.width), target.toPixelsY(place.height)};
+    return target.toPixels(place).translated(target.TargetXOffset, 0);
 }
 
 /// Returns the width that the text takes.
