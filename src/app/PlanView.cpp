@@ -3,6 +3,7 @@
 #include "absences/MarkerToolTips.h"
 #include "app/PlanAccess.h"
 #include "app/PlanHit.h"
+#include "app/PlanToolTips.h"
 #include "app/ViewScale.h"
 #include "context/AxisLabels.h"
 #include "plan/RoomRows.h"
@@ -24,20 +25,6 @@ namespace
 {
 
 constexpr QColor kBandEdge(190, 196, 208);
-
-QString boxToolTip(const plan::PlanRow& row, const plan::PlanBox& box)
-{
-    const lookup::RoomCell& cell = box.cell;
-    QStringList lines;
-    lines << QStringLiteral("%1 – %2, %3 min").arg(row.room, cell.CellStart, cell.CellDuration);
-    for (const QString& line : cell.CellText.split(QStringLiteral("\r\n"), Qt::SkipEmptyParts)) {
-        lines << line.simplified();
-    }
-    if (box.makeUp) {
-        lines << QStringLiteral("Rattrapage");
-    }
-    return lines.join(u'\n');
-}
 
 } // namespace
 
@@ -235,38 +222,15 @@ void PlanView::mouseDoubleClickEvent(QMouseEvent* event)
     mousePressEvent(event); // what comes in the place of a quick second press
 }
 
-QString PlanView::rowToolTip(double y) const
-{
-    const std::vector<form::Label>& rooms = m_engine.form().Salle;
-    const auto room = std::find_if(rooms.begin(), rooms.end(), [y](const form::Label& label) {
-        return label.visible && y >= label.place.top && y < label.place.top + label.place.height;
-    });
-    if (room == rooms.end()) {
-        return {};
-    }
-    return room != rooms.begin()
-               ? room->caption // the label may be too narrow for it
-               : room->caption + QStringLiteral("\nSalle placée juste avant la première ligne du "
-                                                "plan : ses séances ne sont pas dessinées ici");
-}
-
-QString PlanView::totalsToolTip() const
-{
-    return m_engine.state().totals.isOld
-               ? QStringLiteral("Places occupées, comptées avant le dernier choix.\n"
-                                "Choisir le jour les compte à nouveau.")
-               : QString();
-}
-
 QString PlanView::toolTipAt(QPoint point) const
 {
     const Bands view = bands();
     const form::PlanForm& form = m_engine.form();
     if (view.names.contains(point) || view.places.contains(point)) {
-        return rowToolTip(m_target.TargetTwipsPerPixelY * toPlan(point).y());
+        return roomToolTip(form, m_target.TargetTwipsPerPixelY * toPlan(point).y());
     }
     if (view.totals.contains(point)) {
-        return totalsToolTip();
+        return totalsToolTip(m_engine.state());
     }
     if (!view.boxes.contains(point)) {
         return {};
@@ -287,7 +251,7 @@ QString PlanView::toolTipAt(QPoint point) const
     case PlanHit::Part::Box:
         break;
     }
-    return boxToolTip(*hit.row, *hit.box) + QStringLiteral("\n\n") +
+    return boxToolTip(form, *hit.row, *hit.box) + QStringLiteral("\n\n") +
            absences::ZAbsToolTip(*hit.box, day());
 }
 

@@ -86,10 +86,6 @@ private:
     void drawAll();
     /// Where a cell lies in the viewport; the rooms' names stay when the boxes scroll sideways.
     [[nodiscard]] QRect inViewport(const PlanTable::Cell& cell) const;
-    /// The tooltip of a row's name and places, `y` in twips of the plan.
-    [[nodiscard]] QString rowToolTip(double y) const;
-    /// That the totals are old, where they are.
-    [[nodiscard]] QString totalsToolTip() const;
 
     shell::Shell& m_shell;
     engine::Engine& m_engine;

@@ -16,8 +16,7 @@ namespace
 
 QString stretchText(const QString& start, int minutes)
 {
-    const QString end = plan::endText(start, minutes);
-    return end.isEmpty() ? start : start + u'–' + end;
+    return plan::stretchWords(start, QStringLiteral("–"), minutes);
 }
 
 QString paragraph(const QString& cssClass, const QString& text)

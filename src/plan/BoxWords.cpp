@@ -17,6 +17,12 @@ QString endText(const QString& start, int minutes)
     return text;
 }
 
+QString stretchWords(const QString& start, const QString& between, int minutes)
+{
+    const QString end = endText(start, minutes);
+    return end.isEmpty() ? start : start + between + end;
+}
+
 QStringList groupWords(const form::PlanForm& form, const PlanBox& box)
 {
     QStringList words;

@@ -14,6 +14,9 @@ namespace plan
 /// The time at which something ends, for example 10h00; empty when the start is no time of day.
 [[nodiscard]] QString endText(const QString& start, int minutes);
 
+/// "8h30 à 10h00": start and end with `between` them; the start alone when it is no time of day.
+[[nodiscard]] QString stretchWords(const QString& start, const QString& between, int minutes);
+
 /// What the group counter stands for, where "S. Groupées" shows it; on the screen a click tells the
 /// classes. The blanks in a class's name do not break.
 [[nodiscard]] QStringList groupWords(const form::PlanForm& form, const PlanBox& box);

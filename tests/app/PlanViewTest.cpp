@@ -41,7 +41,9 @@ TEST_F(ThePlansToolTips, tellWhatIsRecordedAndWhatAClickDoes)
         "Ctrl + clic : retirer l’absence d’étudiants de la classe G1 le lundi 17/03/2025";
     EXPECT_EQ(toolTipsOfG1.XAbs, "Classe absente\n" + gestures);
     EXPECT_EQ(toolTipsOfG1.YAbs, "G1 Absent");
-    EXPECT_EQ(toolTipsOfG1.ZAbs, "A2 – 8h30, 90 min\nG1\nDupont/Durand\n[Algèbre]\n\n" + gestures);
+    EXPECT_EQ(toolTipsOfG1.ZAbs, "A2 – 8h30, 90 min\nG1\nDupont/Durand\n[Algèbre]\n"
+                                 "Classe absente\nÉtudiants absents\n\n" +
+                                     gestures);
 }
 
 TEST_F(ThePlansToolTips, areEmptyAtTheTriangleWithoutAbsentStudents)

@@ -43,6 +43,12 @@ TEST(EndText, isEmptyWithoutATimeToStartFrom)
     EXPECT_EQ(endText("", 90), "");
 }
 
+TEST(StretchWords, areStartAndEnd)
+{
+    EXPECT_EQ(stretchWords("8h30", " à ", 90), "8h30 à 10h00");
+    EXPECT_EQ(stretchWords("matin", " à ", 90), "matin");
+}
+
 TEST(GroupWords, nameTheClassesAndTheirStudents)
 {
     EXPECT_EQ(groupWords(shown, crowdedBox()),
