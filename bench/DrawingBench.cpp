@@ -26,7 +26,9 @@ shell::Shell& fullPage()
 
 void paintPage(benchmark::State& state)
 {
-    const paint::PlanScene scene = fullPage().scene(paint::DrawingTarget());
+    const engine::Engine& engine = fullPage().engine();
+    const paint::PlanScene scene =
+        paint::sceneOf(engine.state(), engine.content(), paint::DrawingTarget());
     QImage image(1366, 620, QImage::Format_RGB32);
     for (auto iteration : state) {
         image.fill(Qt::white);

@@ -29,11 +29,11 @@ Figures measure(shell::Shell& program, int clicks)
     std::vector<double> times;
     long long statements = 0;
     for (int click = 0; click < clicks; ++click) {
-        const long long before = program.database().Db().statementCount();
+        const long long before = program.engine().statementCount();
         const auto start = Clock::now();
         program.form().CbJour.setListIndex(click % 5);
         times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-        statements = std::max(statements, program.database().Db().statementCount() - before);
+        statements = std::max(statements, program.engine().statementCount() - before);
     }
     std::nth_element(times.begin(), times.begin() + clicks / 2, times.end());
     return {times[static_cast<std::size_t>(clicks / 2)], statements};
