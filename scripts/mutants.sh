@@ -30,14 +30,10 @@ done
     [[ -f $file ]] || rm "$copy/$file"
 done
 
-# Libraries that a mutant's own library can take the place of.
 (
     # shellcheck disable=SC2030 # meant for this block alone
     project=$copy
-    configure "$copy/build-test" -D CMAKE_BUILD_TYPE=Debug -D TEMPORA_WERROR=ON \
-        -D BUILD_SHARED_LIBS=ON -D CMAKE_LINK_DEPENDS_NO_SHARED=ON \
-        -D CMAKE_EXE_LINKER_FLAGS=-Wl,--enable-new-dtags \
-        -D CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    configure "$copy/build-test" mutants
 )
 use_private_folders "$copy/home"
 # shellcheck disable=SC2031
