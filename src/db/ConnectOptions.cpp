@@ -12,7 +12,10 @@ QString withServerTimeouts(const QString& connectString)
         QStringLiteral("(?:^|;)\\s*DRIVER\\s*=[^;]*(?:MySQL|MariaDB)"),
         QRegularExpression::CaseInsensitiveOption);
     return connectString.contains(mySql)
-               ? connectString + QStringLiteral(";CONN_TIMEOUT=15;READ_TIMEOUT=60;WRITE_TIMEOUT=60")
+               ? connectString +
+                     QStringLiteral(";CONN_TIMEOUT=15;READ_TIMEOUT=%1;WRITE_TIMEOUT=%1")
+                         .arg(
+                             std::chrono::duration_cast<std::chrono::seconds>(kAnswerLimit).count())
                : connectString;
 }
 

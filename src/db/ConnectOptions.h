@@ -2,14 +2,19 @@
 
 #include <QString>
 #include <QStringList>
+#include <chrono>
 
 /// What is added to a connection string on its way to the driver, and what of it must not show.
 namespace db
 {
 
+/// How long an answer is waited for. A server gives up waiting for somebody else's lock before
+/// that (MariaDbProduct), so that it is known then that nothing was done.
+constexpr std::chrono::milliseconds kAnswerLimit{10'000};
+
 /// The connection string with limits for MySQL's driver, when it names that one: 15 s to connect
-/// and 60 s for an answer, longer than the server itself waits for a lock. The driver pays no heed
-/// to ODBC's own login timeout, and without limits a silent server would hang the program.
+/// and kAnswerLimit for an answer. The driver pays no heed to ODBC's own login timeout, and without
+/// limits a silent server would hang the program.
 [[nodiscard]] QString withServerTimeouts(const QString& connectString);
 
 /// The connection string for a data source that is known to be SQLite's. The driver's own wait for

@@ -3,9 +3,9 @@
 #include "db/EqualTexts.h"
 #include "db/JoinedQueries.h"
 #include "db/ParameterSet.h"
+#include "db/Repeated.h"
 #include "db/ResultReader.h"
 #include "db/Session.h"
-#include "runtime/RunTimeError.h"
 
 namespace db
 {
@@ -22,9 +22,8 @@ Connection& Connection::operator=(Connection&&) noexcept = default;
 Session& Connection::session() const
 {
     if (!m_session) {
-        throw runtime::RunTimeError(
-            runtime::ErrorNumber::DatabaseFailure,
-            QStringLiteral("Operation is not allowed when the object is closed."));
+        throw DatabaseError(Failure::Unreachable, runtime::ErrorNumber::DatabaseFailure,
+                            QStringLiteral("Operation is not allowed when the object is closed."));
     }
     return *m_session;
 }
@@ -103,15 +102,21 @@ void Connection::insert(const QString& table, const std::vector<std::pair<QStrin
     for (const Value& value : values) {
         parameters.bind(value);
     }
-    session().countStatement();
-    statement.execute(QStringLiteral("INSERT INTO ") + session().quoted(table) +
-                      QStringLiteral(" (") + names.join(QStringLiteral(", ")) +
-                      QStringLiteral(") VALUES (") + marks.join(QStringLiteral(", ")) + u')');
+    const QString sql = QStringLiteral("INSERT INTO ") + session().quoted(table) +
+                        QStringLiteral(" (") + names.join(QStringLiteral(", ")) +
+                        QStringLiteral(") VALUES (") + marks.join(QStringLiteral(", ")) + u')';
+    againWhile({Failure::Locked}, [&] { session().sendAsItIs(statement, sql); });
 }
 
 bool Connection::deleteFirst(const QString& sql)
 {
-    return session().product().deleteFirst(sql, session());
+    return againWhile({Failure::Locked},
+                      [&] { return session().product().deleteFirst(sql, session()); });
+}
+
+bool Connection::isDead() const
+{
+    return m_session == nullptr || m_session->isDead();
 }
 
 long long Connection::statementCount() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/DatabaseError.h"
 #include "db/PackedRow.h"
 #include "db/Recordset.h"
 #include "db/RowOrder.h"
@@ -63,12 +64,18 @@ public:
 
     /// Adds one row by one parameterised statement with exactly these columns, in this order.
     /// A date is written so that the dialect's literal finds it, whatever the column's type; a text
-    /// is written as it is. The row is there as a whole or not at all.
+    /// is written as it is. The row is there as a whole or not at all. Another program's lock is
+    /// waited for longer than in a read.
     void insert(const QString& table, const std::vector<std::pair<QString, Value>>& columns);
 
     /// Deletes exactly the first row that the query finds, also where the table has no key and
     /// holds identical rows. `sql` is a "select * from" one table. Tells whether there was a row.
+    /// Another program's lock is waited for longer than in a read.
     bool deleteFirst(const QString& sql);
+
+    /// Whether the connection is known to be gone. Raises no error; asks no more than the driver
+    /// needs to tell, which is a short question to the server or nothing at all.
+    [[nodiscard]] bool isDead() const;
 
     /// How many statements were sent so far: what a refresh costs over a far server.
     [[nodiscard]] long long statementCount() const;

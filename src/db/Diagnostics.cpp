@@ -75,4 +75,22 @@ ErrorNumber errorNumberByState(const Diagnostics& diagnostics)
                                             : ErrorNumber::StatementRefused;
 }
 
+Failure failureByState(const Diagnostics& diagnostics)
+{
+    const QString& state = diagnostics.state;
+    if (state.startsWith(u"08")) {
+        return Failure::ConnectionLost;
+    }
+    if (state == u"HYT00" || state == u"HYT01") {
+        return Failure::NoAnswer;
+    }
+    if (state == u"40001") {
+        return Failure::RolledBack;
+    }
+    if (state == u"42S02") {
+        return Failure::TableMissing;
+    }
+    return state.isEmpty() || state.startsWith(u"IM0") ? Failure::Other : Failure::Refused;
+}
+
 } // namespace db

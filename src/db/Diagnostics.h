@@ -1,7 +1,7 @@
 #pragma once
 
+#include "db/DatabaseError.h"
 #include "db/OdbcApi.h"
-#include "runtime/RunTimeError.h"
 
 #include <QString>
 
@@ -22,5 +22,9 @@ struct Diagnostics {
 /// The run-time error that a failing call amounts to by its SQLSTATE alone, as ODBC defines it;
 /// products know more (Product::errorNumberOf).
 [[nodiscard]] runtime::ErrorNumber errorNumberByState(const Diagnostics& diagnostics);
+
+/// What a failing call on an open connection amounts to by its SQLSTATE alone; products know more
+/// (Product::failureOf).
+[[nodiscard]] Failure failureByState(const Diagnostics& diagnostics);
 
 } // namespace db

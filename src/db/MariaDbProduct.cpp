@@ -11,6 +11,8 @@ namespace
 
 using runtime::ErrorNumber;
 
+constexpr int kNoSuchTable = 1146;
+
 /// Codes by which the connection is reported to be gone, whatever the SQLSTATE: the two ranges of
 /// errors found at this end of it, and two of the server's.
 bool isConnectionLost(int nativeCode)
@@ -73,12 +75,33 @@ MariaDbProduct::Server MariaDbProduct::serverBehind(const ConnectionHandle& conn
 
 ErrorNumber MariaDbProduct::errorNumberOf(const Diagnostics& diagnostics) const
 {
-    constexpr int noSuchTable = 1146;
     const ErrorNumber byState = errorNumberByState(diagnostics);
     if (byState == ErrorNumber::DatabaseFailure || isConnectionLost(diagnostics.nativeCode)) {
         return ErrorNumber::DatabaseFailure;
     }
-    return diagnostics.nativeCode == noSuchTable ? ErrorNumber::TableMissing : byState;
+    return diagnostics.nativeCode == kNoSuchTable ? ErrorNumber::TableMissing : byState;
+}
+
+Failure MariaDbProduct::failureOf(const Diagnostics& diagnostics) const
+{
+    constexpr int lockWaitTimeout = 1205;
+    constexpr int deadlock = 1213;
+    constexpr int statementTimeout = 1969;
+    if (isConnectionLost(diagnostics.nativeCode)) {
+        return Failure::ConnectionLost;
+    }
+    switch (diagnostics.nativeCode) {
+    case kNoSuchTable:
+        return Failure::TableMissing;
+    case lockWaitTimeout:
+        return Failure::Locked;
+    case deadlock:
+        return Failure::RolledBack;
+    case statementTimeout:
+        return Failure::NoAnswer;
+    default:
+        return failureByState(diagnostics);
+    }
 }
 
 SqlDialect MariaDbProduct::dialect(const SqlDialect& /*bySetting*/) const

@@ -25,6 +25,7 @@ public:
     [[nodiscard]] static Server serverBehind(const ConnectionHandle& connection);
 
     [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
+    [[nodiscard]] Failure failureOf(const Diagnostics& diagnostics) const override;
 
     /// Its own, whatever the settings say of the data source.
     [[nodiscard]] SqlDialect dialect(const SqlDialect& bySetting) const override;

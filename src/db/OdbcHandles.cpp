@@ -13,10 +13,11 @@ namespace
 {
 
 using runtime::ErrorNumber;
-using runtime::RunTimeError;
 
 /// Nobody waits longer for a server that does not answer.
 constexpr SQLULEN loginTimeoutSeconds = 15;
+/// How much earlier than told a driver's timer may go off.
+constexpr std::chrono::milliseconds kTimerSlack{500};
 
 SQLPOINTER numberArgument(SQLULEN value)
 {
@@ -40,7 +41,8 @@ SQLHANDLE allocated(SQLSMALLINT type, SQLHANDLE parent)
 {
     SQLHANDLE handle = nullptr;
     if (!SQL_SUCCEEDED(SQLAllocHandle(type, parent, &handle))) {
-        throw RunTimeError(ErrorNumber::DatabaseFailure, QStringLiteral("ODBC is not available."));
+        throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
+                            QStringLiteral("ODBC is not available."));
     }
     return handle;
 }
@@ -79,8 +81,8 @@ void ConnectionHandle::connect(const QString& connectString)
                                                nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
     if (!SQL_SUCCEEDED(result)) {
         const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), TextForm::Utf16);
-        throw RunTimeError(ErrorNumber::DatabaseFailure,
-                           withoutPasswords(diagnostics.text, m_passwords));
+        throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
+                            withoutPasswords(diagnostics.text, m_passwords));
     }
 }
 
@@ -113,11 +115,24 @@ QString ConnectionHandle::quoted(const QString& identifier) const
     return m_quote + QString(identifier).replace(m_quote, m_quote + m_quote) + m_quote;
 }
 
-void ConnectionHandle::raise(SQLSMALLINT handleType, SQLHANDLE handle) const
+bool ConnectionHandle::isDead() const
+{
+    SQLUINTEGER state = SQL_CD_FALSE;
+    return SQL_SUCCEEDED(SQLGetConnectAttr(get(), SQL_ATTR_CONNECTION_DEAD, &state, 0, nullptr)) &&
+           state == SQL_CD_TRUE;
+}
+
+void ConnectionHandle::raise(SQLSMALLINT handleType, SQLHANDLE handle,
+                             std::chrono::milliseconds waited) const
 {
     const Diagnostics diagnostics = diagnosticsOf(handleType, handle, textForm());
-    throw RunTimeError(m_product->errorNumberOf(diagnostics),
-                       withoutPasswords(diagnostics.text, m_passwords));
+    Failure failure = m_product->failureOf(diagnostics);
+    // A driver that has waited in vain gives the connection up and says that it is lost.
+    if (failure == Failure::ConnectionLost && waited >= kAnswerLimit - kTimerSlack) {
+        failure = Failure::NoAnswer;
+    }
+    throw DatabaseError(failure, m_product->errorNumberOf(diagnostics),
+                        withoutPasswords(diagnostics.text, m_passwords));
 }
 
 StatementHandle::StatementHandle(const ConnectionHandle& connection)
@@ -138,6 +153,7 @@ void StatementHandle::setAttribute(SQLINTEGER attribute, SQLULEN value)
 void StatementHandle::execute(const QString& sql)
 {
     SQLRETURN result = SQL_SUCCESS;
+    m_asked = std::chrono::steady_clock::now();
     if (m_connection->textForm() == TextForm::Utf8) {
         const QByteArray text = sql.toUtf8();
         result = SQLExecDirect(get(), narrow(text), static_cast<SQLINTEGER>(text.size()));
@@ -151,6 +167,7 @@ void StatementHandle::execute(const QString& sql)
 
 bool StatementHandle::fetch()
 {
+    m_asked = std::chrono::steady_clock::now();
     return isRow(SQLFetch(get()));
 }
 
@@ -177,7 +194,9 @@ SQLLEN StatementHandle::changedRows() const
 void StatementHandle::check(SQLRETURN result) const
 {
     if (!SQL_SUCCEEDED(result)) {
-        m_connection->raise(SQL_HANDLE_STMT, get());
+        m_connection->raise(SQL_HANDLE_STMT, get(),
+                            std::chrono::duration_cast<std::chrono::milliseconds>(
+                                std::chrono::steady_clock::now() - m_asked));
     }
 }
 

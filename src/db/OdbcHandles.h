@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -80,8 +81,12 @@ public:
     /// does not.
     [[nodiscard]] QString info(SQLUSMALLINT what) const;
 
-    /// Throws what the failing call on `handle` amounts to.
-    [[noreturn]] void raise(SQLSMALLINT handleType, SQLHANDLE handle) const;
+    /// Whether the connection is known to be gone. Asks no more than the driver needs to tell.
+    [[nodiscard]] bool isDead() const;
+
+    /// Throws what the failing call on `handle` amounts to. `waited`: how long the call took.
+    [[noreturn]] void raise(SQLSMALLINT handleType, SQLHANDLE handle,
+                            std::chrono::milliseconds waited = {}) const;
 
 private:
     void connect(const QString& connectString);
@@ -123,6 +128,7 @@ private:
 
     const ConnectionHandle* m_connection;
     OdbcHandle<SQL_HANDLE_STMT> m_handle;
+    std::chrono::steady_clock::time_point m_asked; ///< when the call that may wait began
 };
 
 } // namespace db

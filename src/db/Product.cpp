@@ -13,6 +13,11 @@ runtime::ErrorNumber Product::errorNumberOf(const Diagnostics& diagnostics) cons
     return errorNumberByState(diagnostics);
 }
 
+Failure Product::failureOf(const Diagnostics& diagnostics) const
+{
+    return failureByState(diagnostics);
+}
+
 SqlDialect Product::dialect(const SqlDialect& bySetting) const
 {
     return bySetting;

@@ -44,6 +44,8 @@ public:
     [[nodiscard]] virtual TextForm textForm() const { return TextForm::Utf16; }
     /// The run-time error that a failing call on the open connection amounts to.
     [[nodiscard]] virtual runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const;
+    /// What became of that call.
+    [[nodiscard]] virtual Failure failureOf(const Diagnostics& diagnostics) const;
 
     // Statements
 

@@ -1,5 +1,6 @@
 #include "db/Session.h"
 
+#include "db/Repeated.h"
 #include "db/ResultReader.h"
 
 namespace db
@@ -12,8 +13,15 @@ Session::Session(const QString& connectString, const SqlDialect& bySetting)
 
 void Session::send(StatementHandle& statement, const QString& sql)
 {
-    countStatement();
-    statement.execute(product().adapted(sql));
+    sendAsItIs(statement, product().adapted(sql));
+}
+
+void Session::sendAsItIs(StatementHandle& statement, const QString& sql)
+{
+    againWhile({Failure::RolledBack}, [&] {
+        ++m_statementCount;
+        statement.execute(sql);
+    });
 }
 
 StatementHandle Session::executed(const QString& sql)

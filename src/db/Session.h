@@ -23,14 +23,19 @@ public:
     Session& operator=(const Session&) = delete;
 
     [[nodiscard]] const Product& product() const { return m_connection.product(); }
+    /// Whether the connection is known to be gone.
+    [[nodiscard]] bool isDead() const { return m_connection.isDead(); }
     /// How dates are written for this product.
     [[nodiscard]] const SqlDialect& dialect() const { return m_dialect; }
     /// The name between the driver's own quotes.
     [[nodiscard]] QString quoted(const QString& name) const { return m_connection.quoted(name); }
 
     [[nodiscard]] StatementHandle newStatement() const { return StatementHandle(m_connection); }
-    /// Sends a statement of the program.
+    /// Sends a statement of the program, and a few times again while the database rolls it back:
+    /// then nothing of it was done.
     void send(StatementHandle& statement, const QString& sql);
+    /// The same for a statement that is in the product's words already.
+    void sendAsItIs(StatementHandle& statement, const QString& sql);
     /// Sends it through a handle of its own.
     [[nodiscard]] StatementHandle executed(const QString& sql);
     /// Sends a query and reads all its rows.

@@ -12,7 +12,6 @@ namespace
 {
 
 using runtime::ErrorNumber;
-using runtime::RunTimeError;
 
 /// The driver reports every failure as HY000 with SQLite's own result code.
 ErrorNumber errorNumberByCode(const Diagnostics& diagnostics)
@@ -64,6 +63,23 @@ ErrorNumber SqliteProduct::errorNumberOf(const Diagnostics& diagnostics) const
                : errorNumberByCode(diagnostics);
 }
 
+Failure SqliteProduct::failureOf(const Diagnostics& diagnostics) const
+{
+    constexpr int busy = 5;
+    constexpr int locked = 6;
+    if (diagnostics.nativeCode == busy || diagnostics.nativeCode == locked) {
+        return Failure::Locked;
+    }
+    switch (errorNumberOf(diagnostics)) {
+    case ErrorNumber::TableMissing:
+        return Failure::TableMissing;
+    case ErrorNumber::StatementRefused:
+        return Failure::Refused;
+    default: // there is no connection that could be lost
+        return Failure::Other;
+    }
+}
+
 QString SqliteProduct::adapted(const QString& sql) const
 {
     return adaptToSqlite(sql);
@@ -86,8 +102,8 @@ bool SqliteProduct::deleteFirst(const QString& sql, Session& session) const
             return true;
         }
     }
-    throw RunTimeError(ErrorNumber::DatabaseFailure,
-                       QStringLiteral("Row cannot be located for updating."));
+    throw DatabaseError(Failure::Locked, ErrorNumber::DatabaseFailure,
+                        QStringLiteral("Row cannot be located for updating."));
 }
 
 SQLSMALLINT SqliteProduct::cTypeOf(SQLSMALLINT /*type*/) const

@@ -14,6 +14,7 @@ public:
     reconnectString(const QString& connectString) const override;
     [[nodiscard]] TextForm textForm() const override;
     [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
+    [[nodiscard]] Failure failureOf(const Diagnostics& diagnostics) const override;
 
     [[nodiscard]] QString adapted(const QString& sql) const override;
     /// By the row's identity, which every row has: the driver cannot delete through a cursor.

@@ -1,7 +1,7 @@
 #include "lookup/PageCells.h"
 
+#include "db/DatabaseError.h"
 #include "lookup/CellMasks.h"
-#include "runtime/RunTimeError.h"
 #include "timetable/MeetingColumns.h"
 
 #include <utility>
@@ -82,7 +82,7 @@ void putInOrder(db::Connection& connection, const std::vector<Crowded>& tables,
             page.forget(cell);
         }
         if (orders[index] == db::RowOrder::Other) {
-            runtime::skipOnError([&] { askAgain(connection, crowded, page); });
+            db::skipWhenRefused([&] { askAgain(connection, crowded, page); });
         }
     }
 }
@@ -124,7 +124,7 @@ std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database,
     std::map<RoomQuestion::Table, PageCells> found;
     std::vector<Crowded> crowded;
     for (const RoomQuestion& page : pages) {
-        runtime::skipOnError([&] {
+        db::skipWhenRefused([&] {
             const CellMasks masks(page.table, rooms, keys);
             const QString condition =
                 u' ' + masks.condition() + page.periodCondition(database.dialect());

@@ -16,7 +16,7 @@ QStringList passwords(const char* connectString)
 
 TEST(ServerTimeouts, areAddedForMySqlsDriverWhateverItsName)
 {
-    const QString limits = QStringLiteral(";CONN_TIMEOUT=15;READ_TIMEOUT=60;WRITE_TIMEOUT=60");
+    const QString limits = QStringLiteral(";CONN_TIMEOUT=15;READ_TIMEOUT=10;WRITE_TIMEOUT=10");
     for (const char* text : {"DRIVER={MySQL ODBC 3.51 Driver};SERVER=a;port=3306OPTION=35",
                              "SERVER=a;driver = {MariaDB Unicode}"}) {
         const QString connectString = QString::fromUtf8(text);

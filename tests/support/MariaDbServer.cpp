@@ -78,7 +78,7 @@ void MariaDbServer::startSomewhere()
 {
     constexpr int attempts = 5; // another process may take the port that was free
     for (int i = 0; i < attempts; ++i) {
-        if (start()) {
+        if (start(freePort())) {
             return;
         }
     }
@@ -103,14 +103,14 @@ const MariaDbAccess& MariaDbServer::shared()
     return own;
 }
 
-bool MariaDbServer::start()
+bool MariaDbServer::start(quint16 port)
 {
     constexpr int longestStartMilliseconds = 60000;
-    setPort(freePort());
+    setPort(port);
     dieWithParent(m_process);
     QStringList options = commonOptions(m_folder)
                           << QStringLiteral("--socket=server.sock") // in the data folder
-                          << QStringLiteral("--port=%1").arg(port())
+                          << QStringLiteral("--port=%1").arg(port)
                           << QStringLiteral("--bind-address=127.0.0.1")
                           << QStringLiteral("--skip-name-resolve")
                           << QStringLiteral("--init-file=") + m_folder +
@@ -146,6 +146,14 @@ void MariaDbServer::restart()
 {
     kill();
     startSomewhere();
+}
+
+void MariaDbServer::restartInPlace()
+{
+    kill();
+    if (!start(port())) {
+        throw std::runtime_error("the MariaDB server does not start again on its port");
+    }
 }
 
 } // namespace test

@@ -31,10 +31,12 @@ public:
     void kill();
     /// Ends the server at once and starts it again with the data it had, on another port.
     void restart();
+    /// The same, on the port that it had. Throws std::runtime_error when somebody has taken it.
+    void restartInPlace();
 
 private:
     void startSomewhere();
-    bool start();
+    bool start(quint16 port);
 
     QString m_folder;
     QProcess m_process;

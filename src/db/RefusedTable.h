@@ -1,0 +1,43 @@
+#pragma once
+
+#include "db/DatabaseError.h"
+
+#include <optional>
+#include <utility>
+
+namespace db
+{
+
+/// What is known of a table that a statement for a whole page was refused for. The first statement
+/// about a single thing tells whether it was the table's fault; then nothing more is asked of it.
+class RefusedTable
+{
+public:
+    /// The page's statement was refused.
+    void suspect() { m_suspected = true; }
+
+    /// Runs a read about one thing. `isPlain`: its statement holds nothing that could be refused by
+    /// itself. Errors: the read's; without running it, that of an earlier read, once the table is
+    /// known to refuse.
+    template <typename Read>
+    decltype(auto) ask(bool isPlain, Read&& read)
+    {
+        if (isPlain && m_verdict) {
+            throw DatabaseError(*m_verdict);
+        }
+        try {
+            return std::forward<Read>(read)();
+        } catch (const DatabaseError& error) {
+            if (isPlain && m_suspected) {
+                m_verdict = error;
+            }
+            throw;
+        }
+    }
+
+private:
+    bool m_suspected = false;
+    std::optional<DatabaseError> m_verdict;
+};
+
+} // namespace db

@@ -1,0 +1,130 @@
+#include "db/DatabaseError.h"
+
+#include "db/RefusedTable.h"
+#include "db/Repeated.h"
+#include "support/RuntimeMatchers.h"
+
+#include <vector>
+
+using namespace db;
+using runtime::ErrorNumber;
+using runtime::RunTimeError;
+
+namespace
+{
+
+DatabaseError refusal(const char* text = "refused")
+{
+    return {Failure::Refused, ErrorNumber::StatementRefused, QString::fromUtf8(text)};
+}
+
+DatabaseError loss()
+{
+    return {Failure::ConnectionLost, ErrorNumber::DatabaseFailure, QStringLiteral("gone")};
+}
+
+} // namespace
+
+TEST(AFailure, concernsAllReadsUnlessTheStatementIsToBlame)
+{
+    for (const Failure ofOne : {Failure::Refused, Failure::TableMissing, Failure::RolledBack}) {
+        EXPECT_FALSE(concernsAllReads(ofOne));
+    }
+    for (const Failure ofAll : {Failure::Locked, Failure::NoAnswer, Failure::ConnectionLost,
+                                Failure::Unreachable, Failure::Other}) {
+        EXPECT_TRUE(concernsAllReads(ofAll));
+    }
+}
+
+TEST(AFailure, isToldByTheErrorOrByItsNumber)
+{
+    EXPECT_EQ(failureOf(loss()), Failure::ConnectionLost);
+    EXPECT_EQ(failureOf(RunTimeError(ErrorNumber::DatabaseFailure, QStringLiteral("x"))),
+              Failure::Other);
+    EXPECT_EQ(failureOf(RunTimeError(ErrorNumber::TableMissing, QStringLiteral("x"))),
+              Failure::TableMissing);
+    EXPECT_EQ(failureOf(RunTimeError(ErrorNumber::StatementRefused, QStringLiteral("x"))),
+              Failure::Refused);
+    EXPECT_EQ(failureOf(RunTimeError(ErrorNumber::Overflow)), Failure::Refused);
+}
+
+TEST(SkipWhenRefused, raisesWhatConcernsAllReads)
+{
+    EXPECT_TRUE(skipWhenRefused([] {}));
+    EXPECT_FALSE(skipWhenRefused([] { throw refusal(); }));
+    EXPECT_THROW(static_cast<void>(skipWhenRefused([] { throw loss(); })), DatabaseError);
+}
+
+TEST(ARefusedTable, isAskedOnceMoreAndThenNoLonger)
+{
+    RefusedTable table;
+    table.suspect();
+    int asked = 0;
+    const auto ask = [&](bool isPlain) {
+        return test::errorOf([&] {
+                   table.ask(isPlain, [&] {
+                       ++asked;
+                       throw refusal();
+                   });
+               })
+            .text();
+    };
+    EXPECT_EQ(ask(true), "refused");
+    EXPECT_EQ(ask(true), "refused");
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(ask(false), "refused"); // its own words may be the reason
+    EXPECT_EQ(asked, 2);
+}
+
+TEST(ARefusedTable, isAskedOnWhileItAnswers)
+{
+    RefusedTable table;
+    table.suspect();
+    EXPECT_EQ(table.ask(true, [] { return 1; }), 1);
+    EXPECT_EQ(table.ask(true, [] { return 2; }), 2);
+}
+
+TEST(ARefusedTable, isAskedAboutEachThingWhenThePageWasNotRefused)
+{
+    RefusedTable table;
+    int asked = 0;
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_THROW(table.ask(true,
+                               [&] {
+                                   ++asked;
+                                   throw refusal();
+                               }),
+                     DatabaseError);
+    }
+    EXPECT_EQ(asked, 2);
+}
+
+TEST(AStepThatIsRolledBack, isRunAgainFourTimesAtMost)
+{
+    int runs = 0;
+    const auto failing = [&runs](int times) {
+        return [&runs, times] {
+            if (runs++ < times) {
+                throw DatabaseError(Failure::RolledBack, ErrorNumber::StatementRefused,
+                                    QStringLiteral("deadlock"));
+            }
+            return runs;
+        };
+    };
+    EXPECT_EQ(againWhile({Failure::RolledBack}, failing(4)), 5);
+    runs = 0;
+    EXPECT_THROW(static_cast<void>(againWhile({Failure::RolledBack}, failing(5))), DatabaseError);
+    EXPECT_EQ(runs, 5);
+}
+
+TEST(AStepThatFailsOtherwise, isNotRunAgain)
+{
+    int runs = 0;
+    EXPECT_THROW(againWhile({Failure::RolledBack, Failure::Locked},
+                            [&] {
+                                ++runs;
+                                throw loss();
+                            }),
+                 DatabaseError);
+    EXPECT_EQ(runs, 1);
+}
