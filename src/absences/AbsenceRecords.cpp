@@ -103,7 +103,7 @@ bool AbsenceRecords::Existe_AbsEtud(const Marqueur& marker, const QString& class
 bool AbsenceRecords::removeFirst(const QString& search, const QString& record)
 {
     // Searched for first: whoever may not remove records can still add one.
-    return runtime::during(searching(record), [&] { return exists(search); }) &&
+    return runtime::during(searching(record), [&] { return !m_database.read(search).isEmpty(); }) &&
            runtime::during(removing(record), [&] { return m_database.Db().deleteFirst(search); });
 }
 

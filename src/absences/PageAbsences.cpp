@@ -1,9 +1,6 @@
 #include "absences/PageAbsences.h"
 
-#include "runtime/RunTimeError.h"
-
 #include <algorithm>
-#include <map>
 
 namespace absences
 {
@@ -24,6 +21,7 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
     m_classesAsked = QSet<QString>(m_classNames.begin(), m_classNames.end());
     m_classes.reset();
     m_students.reset();
+    m_tables.clear();
     if (m_classNames.isEmpty() || m_starts.isEmpty()) {
         return;
     }
@@ -58,7 +56,7 @@ QString PageAbsences::query(int kind) const
 /// Fetches the records of these kinds; after a failure nothing is known of them.
 void PageAbsences::fetch(const std::vector<int>& kinds)
 {
-    runtime::skipOnError([&] {
+    const bool fetched = db::skipWhenRefused([&] {
         QStringList queries;
         for (const int kind : kinds) {
             queries << query(kind);
@@ -77,6 +75,9 @@ void PageAbsences::fetch(const std::vector<int>& kinds)
             (kind == kClasses ? m_classes : m_students) = std::move(records);
         }
     });
+    if (!fetched && kinds.size() == 1) {
+        m_tables[kinds.front()].suspect();
+    }
 }
 
 void PageAbsences::keep(const db::Row& row, int kind, Recorded& recorded) const
@@ -107,7 +108,8 @@ bool PageAbsences::Existe_AbsClasse(const plan::Marqueur& marker, const QString&
     if (m_classes && isPrepared(marker, className)) {
         return m_classes->contains({className, marker.Debut});
     }
-    return m_plain.Existe_AbsClasse(marker, className);
+    return m_tables[kClasses].ask(db::isPlainLiteral(className),
+                                  [&] { return m_plain.Existe_AbsClasse(marker, className); });
 }
 
 bool PageAbsences::Existe_AbsEtud(const plan::Marqueur& marker, const QString& className,
@@ -116,7 +118,8 @@ bool PageAbsences::Existe_AbsEtud(const plan::Marqueur& marker, const QString& c
     if (m_students && className == name && isPrepared(marker, className)) {
         return m_students->contains({className, marker.Debut});
     }
-    return m_plain.Existe_AbsEtud(marker, className, name);
+    return m_tables[kStudents].ask(db::isPlainLiteral(className) && db::isPlainLiteral(name),
+                                   [&] { return m_plain.Existe_AbsEtud(marker, className, name); });
 }
 
 } // namespace absences

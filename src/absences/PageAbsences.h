@@ -3,6 +3,7 @@
 #include "absences/AbsenceRecords.h"
 #include "db/Database.h"
 #include "db/MatchMasks.h"
+#include "db/RefusedTable.h"
 #include "plan/AbsenceSource.h"
 
 #include <QDate>
@@ -10,6 +11,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -52,6 +54,7 @@ private:
     QSet<QString> m_classesAsked; ///< the same names, to find one among many
     std::optional<Recorded> m_classes;
     std::optional<Recorded> m_students;
+    std::map<int, db::RefusedTable> m_tables; ///< whether they refuse whatever is asked
 };
 
 } // namespace absences

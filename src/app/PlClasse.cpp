@@ -2,11 +2,13 @@
 
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
+#include "app/FaultBar.h"
 #include "app/HeaderBand.h"
 #include "app/HelpWindow.h"
 #include "app/OptionPanels.h"
 #include "app/PlanView.h"
 #include "app/WindowStyle.h"
+#include "plan/FaultWords.h"
 #include "runtime/FrenchDate.h"
 #include "shell/Player.h"
 
@@ -82,6 +84,12 @@ void PlClasse::buildContent()
     column->addWidget(new HeaderBand(m_shell.engine(), m_mirror, help));
     m_options = new OptionPanels(m_shell.engine(), m_mirror);
     column->addWidget(m_options);
+    auto* faults = new FaultBar([this] { readAgain(); });
+    m_mirror.follow([this, faults] {
+        const plan::PlanContent& plan = m_shell.engine().content();
+        faults->tell(plan::faultSentence(plan), plan::faultDetails(plan));
+    });
+    column->addWidget(faults);
     m_view = new PlanView(
         m_shell, [this](const std::function<void()>& action) { forward(action); },
         [this](int marker) { clickMarker(marker); });
@@ -251,6 +259,14 @@ void PlClasse::clickMarker(int marker)
     forward([this, marker] { m_shell.engine().clickMarker(marker, *m_keys); });
 }
 
+/// Only where something is missing: a refresh that counts begins its totals anew.
+void PlClasse::readAgain()
+{
+    if (!m_shell.engine().content().faults.empty()) {
+        forward([this] { m_shell.engine().refreshPlan(); });
+    }
+}
+
 void PlClasse::showHelp()
 {
     if (m_help == nullptr) {
@@ -265,6 +281,10 @@ void PlClasse::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F2) {
         forward([this] { m_shell.Form_KeyDown(kFormKeyF2); });
+        return;
+    }
+    if (event->key() == Qt::Key_F5) {
+        readAgain();
         return;
     }
     QMainWindow::keyPressEvent(event);

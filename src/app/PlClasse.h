@@ -66,6 +66,7 @@ private:
     void processEvents();
     [[nodiscard]] bool hasEnded() const { return m_failed || m_closed; }
     void clickMarker(int marker);
+    void readAgain();
     void showHelp();
 
     QString m_guide; ///< path of the guide

@@ -4,6 +4,7 @@
 #include "paint/Overlays.h"
 #include "plan/BoxLines.h"
 #include "plan/BoxWords.h"
+#include "plan/FaultWords.h"
 #include "plan/SlotColumns.h"
 #include "print/Heading.h"
 #include "runtime/FrenchDate.h"
@@ -128,7 +129,9 @@ QString PlanTable::nameOf(const Cell& cell) const
     }
     const plan::PlanBox* box = boxOf(cell);
     if (box == nullptr) {
-        return inOneLine({row.room, columnTitle(cell.column), QStringLiteral("pas de case")});
+        return inOneLine({row.room, columnTitle(cell.column),
+                          plan::isUnknown(row, slotOf(cell)) ? QStringLiteral("inconnu")
+                                                             : QStringLiteral("pas de case")});
     }
     QStringList parts{row.room, timeWords(box->cell.CellStart, box->minutes)};
     parts += plan::writtenLines(plan::SanitizeCellText(box->cell.CellText));
@@ -196,6 +199,10 @@ QString PlanTable::note() const
 {
     const form::PlanForm& form = m_state.form;
     QStringList sentences;
+    const QString faults = plan::faultSentence(m_content);
+    if (!faults.isEmpty()) {
+        sentences << faults;
+    }
     const form::Label& rowZero = form.Salle.front();
     if (rowZero.visible) {
         sentences << QStringLiteral("Première ligne, grisée, hors du tableau : %1. Ses séances ne "

@@ -2,15 +2,18 @@
 
 #include "engine/Engine.h"
 #include "files/WholeFile.h"
+#include "plan/FaultWords.h"
 #include "print/PdfDocument.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
 
 #include <QFile>
+#include <QMessageBox>
 #include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QScopeGuard>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -80,6 +83,19 @@ void printOn(QPrinter& printer, const std::vector<print::Sheet>& sheets)
     }
 }
 
+bool printIncomplete(QWidget* window, const QString& whatIsMissing)
+{
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Tempora"), whatIsMissing,
+                    QMessageBox::Cancel, window);
+    box.setObjectName(QStringLiteral("PrintIncomplete"));
+    box.setTextFormat(Qt::PlainText);
+    const QAbstractButton* print =
+        box.addButton(QStringLiteral("Imprimer tout de même"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == print;
+}
+
 bool choosePrinter(QWidget* window, QPrinter& printer, int sheets)
 {
     QPrintDialog dialog(&printer, window);
@@ -117,6 +133,7 @@ void showPreview(QWidget* window, QPrinter& printer, const std::function<void(QP
 PrintDialogs platformPrintDialogs(QWidget* window)
 {
     return {
+        [window](const QString& whatIsMissing) { return printIncomplete(window, whatIsMissing); },
         [window](QPrinter& printer, int sheets) { return choosePrinter(window, printer, sheets); },
         [window](QPrinter& printer, const std::function<void(QPrinter&)>& paint) {
             showPreview(window, printer, paint);
@@ -149,8 +166,22 @@ void Printing::PrintAllPages_Click()
     print(print::makeSheets(m_engine.allPages()));
 }
 
+bool Printing::mayPrint(const std::vector<print::Sheet>& sheets) const
+{
+    for (const print::Sheet& sheet : sheets) {
+        const QString missing = plan::faultSentence(sheet.page.content);
+        if (!missing.isEmpty()) {
+            return m_dialogs.printIncomplete(missing);
+        }
+    }
+    return true;
+}
+
 void Printing::print(std::vector<print::Sheet> sheets)
 {
+    if (!mayPrint(sheets)) {
+        return;
+    }
     QPrinter printer(QPrinter::HighResolution);
     static_cast<void>(prepare(printer, sheets)); // whatever it says, the user may choose another
     if (!m_dialogs.choosePrinter(printer, static_cast<int>(sheets.size()))) {

@@ -3,6 +3,7 @@
 #include "plan/PlanPage.h"
 #include "print/Sheet.h"
 
+#include <QString>
 #include <functional>
 #include <vector>
 
@@ -19,6 +20,8 @@ namespace app
 
 /// The dialogs of printing; tests answer for them.
 struct PrintDialogs {
+    /// Asks whether a plan that lacks something is to be printed all the same.
+    std::function<bool(const QString& whatIsMissing)> printIncomplete;
     /// Lets the user choose a printer and which of the `sheets` to print. False: nothing is.
     std::function<bool(QPrinter& printer, int sheets)> choosePrinter;
     /// Shows what `paint` paints on the printer, until the user closes it.
@@ -47,6 +50,7 @@ public:
 
 private:
     [[nodiscard]] std::vector<print::Sheet> shownSheet();
+    [[nodiscard]] bool mayPrint(const std::vector<print::Sheet>& sheets) const;
     void print(std::vector<print::Sheet> sheets);
 
     engine::Engine& m_engine;

@@ -16,6 +16,11 @@ QMainWindow { background: #f6f7fa; }
 #HeaderBand QToolButton { color: #ffffff; border: 1px solid #c9d6e8; border-radius: 4px;
                          padding: 4px 10px; }
 #HeaderBand QToolButton:hover { background: #33537f; }
+#FaultBar { background: #a81c1c; }
+#FaultBar QLabel { color: #ffffff; font-weight: bold; }
+#FaultBar QToolButton { color: #ffffff; border: 1px solid #ffffff; border-radius: 4px;
+                        padding: 3px 10px; font-weight: bold; }
+#FaultBar QToolButton:hover, #FaultBar QToolButton:focus { background: #c94a4a; }
 #Picture1 { background: #eef1f6; }
 QLabel[role="strong"] { font-weight: bold; }
 QGroupBox { border: 1px solid #cfd6e2; border-radius: 4px; margin-top: 9px;

@@ -72,7 +72,11 @@ void exportWithoutWindow(const shell::CommandLine& line)
     shell.fitPicture();
     shell.Form_Activate();
     shell::play(shell, line);
-    shell::exportPlan(shell, line.exportFile, line.allPages);
+    const QString told =
+        shell::exportPlan(shell, line.exportFile, {line.allPages, line.allowIncomplete});
+    if (!told.isEmpty()) {
+        app::writeError(told);
+    }
 }
 
 int runWindow(app::Application& application, const shell::CommandLine& line)

@@ -39,7 +39,7 @@ void Periods::chooseByIdent(std::int32_t ident)
 {
     m_viewed.labelledIdent = ident;
     m_form.Label11.caption = QString::number(ident);
-    const db::Recordset found = m_database.Db().open(
+    const db::Recordset found = m_database.read(
         QStringLiteral("select * from tranche where ident=") + m_form.Label11.caption);
     if (!found.isEmpty()) {
         m_form.CbTranche.showText(found.first().field(kName).toJoinedText());
@@ -57,7 +57,7 @@ db::Recordset Periods::periodRow()
 {
     const QString name = runtime::trimBlanks(m_form.CbTranche.text());
     return runtime::during(QStringLiteral("Lecture de la période « %1 »").arg(name), [&] {
-        return m_database.Db().open(
+        return m_database.read(
             QStringLiteral("select * from tranche where Tranche='%1'").arg(name));
     });
 }
@@ -105,19 +105,19 @@ void Periods::reckonExamDates(const db::Row& period)
 void Periods::LoadExamWeeks()
 {
     const QString ident = QString::number(m_viewed.labelledIdent);
-    runtime::during(QStringLiteral("Lecture des semaines d’examen de la période « %1 »").arg(ident),
-                    [&] {
-                        const db::Recordset exams = m_database.Db().open(
-                            QStringLiteral("select * from dat_exam where Tranche=") + ident);
-                        if (!exams.isEmpty()) {
-                            readExamDates(exams.first());
-                            return;
-                        }
-                        const db::Recordset found = periodRow();
-                        if (!found.isEmpty()) {
-                            reckonExamDates(found.first());
-                        }
-                    });
+    runtime::during(
+        QStringLiteral("Lecture des semaines d’examen de la période « %1 »").arg(ident), [&] {
+            const db::Recordset exams =
+                m_database.read(QStringLiteral("select * from dat_exam where Tranche=") + ident);
+            if (!exams.isEmpty()) {
+                readExamDates(exams.first());
+                return;
+            }
+            const db::Recordset found = periodRow();
+            if (!found.isEmpty()) {
+                reckonExamDates(found.first());
+            }
+        });
 }
 
 void Periods::Afficher_Dates()

@@ -64,7 +64,7 @@ void RoomSet::FillRoomPage()
 {
     const db::Recordset rooms =
         runtime::during(QStringLiteral("Lecture des salles (%1)").arg(filterInWords()),
-                        [&] { return m_database.Db().open(roomQuery()); });
+                        [&] { return m_database.read(roomQuery()); });
     fillRows(rooms);
     showRows();
 }

@@ -8,6 +8,7 @@ void Totals::clear(form::PlanForm& form)
     SlotSeats.fill(0);
     SlotTeacherCount.fill(0);
     sums.fill(0);
+    lacks.fill(false);
     isOld = false;
     for (form::Label& total : form.Tot) {
         total.caption = QStringLiteral("0000");
@@ -24,7 +25,10 @@ void Totals::addRoom(form::PlanForm& form, bool teachers)
         if (teachers) {
             total.caption += u'/' + QString::number(SlotTeacherCount.at(slot));
         }
-        total.visible = sums.at(slot) != 0;
+        if (lacks.at(slot)) {
+            total.caption += QStringLiteral(" ?");
+        }
+        total.visible = sums.at(slot) != 0 || lacks.at(slot);
     }
 }
 

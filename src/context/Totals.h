@@ -16,6 +16,8 @@ struct Totals {
     std::array<std::int16_t, kSlots> SlotSeats{};        ///< taken in the room counted last
     std::array<std::int16_t, kSlots> SlotTeacherCount{}; ///< teachers counted
     std::array<std::int32_t, kSlots> sums{};             ///< seats taken in all rooms counted
+    /// Whether a room counted is of unknown use in the slot.
+    std::array<bool, kSlots> lacks{};
     /// Whether the next refresh counts at all.
     bool CountingOn = false;
     /// The line was counted before the last choice: a refresh that does not count left it standing.
@@ -24,6 +26,7 @@ struct Totals {
     /// Starts the totals line from zero and hides it. Leaves `CountingOn` alone.
     void clear(form::PlanForm& form);
     /// Adds the room counted last to the line; with `teachers` their counts stand behind the seats.
+    /// A total that lacks a room is shown with a question mark.
     void addRoom(form::PlanForm& form, bool teachers);
 };
 

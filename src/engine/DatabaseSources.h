@@ -5,7 +5,6 @@
 #include "db/Database.h"
 #include "lookup/PageRowSource.h"
 #include "lookup/PlainRowSource.h"
-#include "plan/PlanRefresh.h"
 
 namespace engine
 {
@@ -24,8 +23,15 @@ public:
     DatabaseSources(const DatabaseSources&) = delete; // its parts refer to one another
     DatabaseSources& operator=(const DatabaseSources&) = delete;
 
-    [[nodiscard]] plan::PlanRefresh::Sources oneByOne() { return {m_plainRows, m_records}; }
-    [[nodiscard]] plan::PlanRefresh::Sources ahead() { return {m_pageRows, m_pageAbsences}; }
+    /// `plain`: one statement for each question.
+    [[nodiscard]] lookup::RowSource& rows(bool plain)
+    {
+        return plain ? static_cast<lookup::RowSource&>(m_plainRows) : m_pageRows;
+    }
+    [[nodiscard]] plan::AbsenceSource& absences(bool plain)
+    {
+        return plain ? static_cast<plan::AbsenceSource&>(m_records) : m_pageAbsences;
+    }
     [[nodiscard]] absences::AbsenceRecords& records() { return m_records; }
 
 private:

@@ -39,11 +39,13 @@ Engine::Engine(Surroundings surroundings, plan::PlanState state,
                std::shared_ptr<db::Database> database, StandIns standIns)
     : m_surroundings(std::move(surroundings)), m_state(std::move(state)),
       m_database(std::move(database)), m_standIns(standIns), m_sources(*m_database),
-      m_reads(*m_database, m_surroundings.plain),
+      m_pageReads(upkeep()), m_rowsAsked(whoKnowsRows(), m_pageReads),
+      m_absencesAsked(whoKnowsAbsences(), m_pageReads), m_reads(*m_database, m_surroundings.plain),
       m_periods(m_state.form, m_state.period, *m_database, m_state.totals, *this,
                 m_surroundings.today),
       m_rooms(m_state.form, *m_database, m_state.page, *this),
-      m_refresh(m_state, whoAnswers(), [this] { m_periods.yieldTo(m_surroundings.processEvents); }),
+      m_refresh(m_state, {m_rowsAsked, m_absencesAsked, m_pageReads},
+                [this] { m_periods.yieldTo(m_surroundings.processEvents); }),
       m_paging(m_state, m_rooms, m_refresh, [this] { adaptCells(); }),
       m_subjectFilter(m_state.form, *m_database, *this),
       m_palette(m_state.colors, m_state.form, *this, m_surroundings.applicationFolder,
@@ -54,17 +56,29 @@ Engine::Engine(Surroundings surroundings, plan::PlanState state,
 
 Engine::~Engine() = default;
 
-plan::PlanRefresh::Sources Engine::whoAnswers()
+lookup::PageReads::Upkeep Engine::upkeep()
 {
-    const plan::PlanRefresh::Sources own =
-        m_surroundings.plain ? m_sources.oneByOne() : m_sources.ahead();
-    return {m_standIns.rows != nullptr ? *m_standIns.rows : own.rows,
-            m_standIns.absences != nullptr ? *m_standIns.absences : own.absences};
+    lookup::PageReads::Upkeep upkeep;
+    upkeep.revive = [this] { m_database->revive(); };
+    upkeep.renew = [this] { m_database->renew(); };
+    upkeep.holds = [](const QString& name) { return db::isPlainLiteral(name); };
+    return upkeep;
+}
+
+lookup::RowSource& Engine::whoKnowsRows()
+{
+    return m_standIns.rows != nullptr ? *m_standIns.rows : m_sources.rows(m_surroundings.plain);
+}
+
+plan::AbsenceSource& Engine::whoKnowsAbsences()
+{
+    return m_standIns.absences != nullptr ? *m_standIns.absences
+                                          : m_sources.absences(m_surroundings.plain);
 }
 
 long long Engine::statementCount() const
 {
-    return m_database->Db().statementCount();
+    return m_database->statementCount();
 }
 
 void Engine::setUseMySql(bool useMySql)

@@ -11,11 +11,13 @@
 #include "db/Database.h"
 #include "engine/DatabaseSources.h"
 #include "engine/Surroundings.h"
+#include "lookup/WatchedRows.h"
 #include "plan/Paging.h"
 #include "plan/PlanPage.h"
 #include "plan/PlanRefresh.h"
 #include "plan/PlanState.h"
 #include "plan/SubjectFilter.h"
+#include "plan/WatchedAbsences.h"
 
 #include <QString>
 #include <cstdint>
@@ -124,7 +126,9 @@ private:
     void Command2_Click() override;
     void Command3_Click() override;
 
-    [[nodiscard]] plan::PlanRefresh::Sources whoAnswers();
+    [[nodiscard]] lookup::PageReads::Upkeep upkeep();
+    [[nodiscard]] lookup::RowSource& whoKnowsRows();
+    [[nodiscard]] plan::AbsenceSource& whoKnowsAbsences();
     void tieEvents();
     void tieContext();
     void tieOptions();
@@ -137,6 +141,9 @@ private:
     std::shared_ptr<db::Database> m_database;
     StandIns m_standIns;
     DatabaseSources m_sources;
+    lookup::PageReads m_pageReads;
+    lookup::WatchedRows m_rowsAsked;
+    plan::WatchedAbsences m_absencesAsked;
     context::StartReads m_reads;
     context::Periods m_periods;
     context::RoomSet m_rooms;

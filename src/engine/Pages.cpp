@@ -16,6 +16,7 @@ plan::PlanPage Engine::shownPage() const
 
 std::vector<plan::PlanPage> Engine::allPages() const
 {
+    runtime::skipOnError([this] { m_database->revive(); }); // the walk's reads say what failed
     Engine walk(*this, OnCopy());
     std::vector<plan::PlanPage> pages;
     walk.showFirstPage();

@@ -11,8 +11,7 @@ void Engine::readSeanceTypes()
 {
     lookup::SeanceTypeShortNames& names = m_state.SeanceTypeShortNames;
     runtime::during(QStringLiteral("Lecture des types de séance (table « typeseance »)"), [&] {
-        const db::Recordset types =
-            m_database->Db().open(QStringLiteral("select * from typeseance"));
+        const db::Recordset types = m_database->read(QStringLiteral("select * from typeseance"));
         for (const db::Row& type : types.rows()) {
             const int reference = type.field(QStringLiteral("Ref")).toInt16();
             runtime::during(
@@ -32,8 +31,7 @@ void Engine::listDepartments()
     form::List& departments = m_state.form.Combo1;
     runtime::during(QStringLiteral("Lecture des départements (table « Département »)"), [&] {
         departments.clear();
-        const db::Recordset found =
-            m_database->Db().open(QStringLiteral("select * from Département"));
+        const db::Recordset found = m_database->read(QStringLiteral("select * from Département"));
         for (const db::Row& department : found.rows()) {
             departments.addItem(department.field(QStringLiteral("Ident")).toJoinedText());
         }

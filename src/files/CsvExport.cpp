@@ -67,6 +67,25 @@ QStringList cellsOf(const PlanDocument& document, const plan::PlanRow& row,
             yesNo(box.studentAbsent)};
 }
 
+/// A line for what is not known: without it the room would look free.
+QStringList unknownCells(const PlanDocument& document, const plan::PlanRow& row,
+                         const plan::UnknownCell& cell)
+{
+    QStringList cells{document.date.toString(QStringLiteral("dd/MM/yyyy")),
+                      document.state().form.CbJour.text(),
+                      document.state().form.CbTranche.text(),
+                      row.room,
+                      row.places,
+                      QString::number(cell.slot),
+                      cell.start,
+                      QString::number(cell.minutes),
+                      QStringLiteral("inconnu")};
+    while (cells.size() < titles().size()) {
+        cells << QString();
+    }
+    return cells;
+}
+
 } // namespace
 
 QString csvLine(const QStringList& cells)
@@ -85,6 +104,9 @@ QByteArray planAsCsv(const PlanDocument& document)
         for (const plan::PlanRow& row : page.content.rows) {
             for (const plan::PlanBox& box : row.boxes) {
                 text += csvLine(cellsOf(document, row, box));
+            }
+            for (const plan::UnknownCell& cell : row.unknown) {
+                text += csvLine(unknownCells(document, row, cell));
             }
         }
     }

@@ -4,6 +4,7 @@
 #include "paint/CellBox.h"
 #include "plan/BoxLines.h"
 #include "plan/BoxWords.h"
+#include "plan/FaultWords.h"
 #include "plan/SlotColumns.h"
 #include "print/Heading.h"
 
@@ -13,6 +14,10 @@ namespace files
 {
 namespace
 {
+
+/// Grey with lines across, as on the plan; a page without a gap has no style for gaps.
+const QLatin1String kUnknownCell("<td style=\"color:#282828;background:repeating-linear-gradient("
+                                 "135deg,#e1e1e1 0 6px,#b9b9b9 6px 7px)\">? inconnu</td>");
 
 QString stretchText(const QString& start, int minutes)
 {
@@ -62,7 +67,8 @@ QString rowHtml(const plan::PlanState& state, const plan::PlanRow& row,
     for (std::size_t column = 0; column < columns.size();) {
         const plan::PlanBox* box = plan::boxAt(row, columns[column]);
         if (box == nullptr) {
-            html += QStringLiteral("<td></td>");
+            html +=
+                plan::isUnknown(row, columns[column]) ? kUnknownCell : QStringLiteral("<td></td>");
             ++column;
             continue;
         }
@@ -138,19 +144,36 @@ QString line(const QString& cssClass, const QStringList& parts)
     return text.isEmpty() ? QString() : paragraph(cssClass, text) + u'\n';
 }
 
+/// What the pages lack, each sentence once.
+QString faultsHtml(const PlanDocument& document)
+{
+    QStringList sentences;
+    for (const plan::PlanPage& page : document.pages) {
+        sentences << plan::faultSentence(page.content);
+    }
+    sentences.removeAll(QString());
+    sentences.removeDuplicates();
+    QString html;
+    for (const QString& sentence : sentences) {
+        html += QStringLiteral("<p role=\"alert\"><strong>") + escaped(sentence) +
+                QStringLiteral("</strong></p>\n");
+    }
+    return html;
+}
+
 } // namespace
 
 QByteArray planAsHtml(const PlanDocument& document)
 {
     const print::Heading heading =
         print::headingOf(document.state().form, document.state().establishment);
-    const QString body = QStringLiteral("<header>\n<h1>") + escaped(heading.title) +
-                         QStringLiteral("</h1>\n") +
-                         line(QStringLiteral("name"), {heading.establishment, heading.university}) +
-                         line(QStringLiteral("context"),
-                              {heading.day, heading.period, heading.dates, heading.choice}) +
-                         QStringLiteral("</header>\n<main>\n") +
-                         tableHtml(document, heading.title) + QStringLiteral("</main>\n");
+    const QString body =
+        QStringLiteral("<header>\n<h1>") + escaped(heading.title) + QStringLiteral("</h1>\n") +
+        line(QStringLiteral("name"), {heading.establishment, heading.university}) +
+        line(QStringLiteral("context"),
+             {heading.day, heading.period, heading.dates, heading.choice}) +
+        QStringLiteral("</header>\n<main>\n") + tableHtml(document, heading.title) +
+        faultsHtml(document) + QStringLiteral("</main>\n");
     return htmlDocument(heading.title, body).toUtf8();
 }
 

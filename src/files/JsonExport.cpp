@@ -69,6 +69,28 @@ QJsonObject boxObject(const plan::PlanBox& box)
     return object;
 }
 
+QJsonArray unknownArray(const plan::PlanRow& row)
+{
+    QJsonArray unknown;
+    for (const plan::UnknownCell& cell : row.unknown) {
+        unknown.append(QJsonObject{{Key("slot"), cell.slot},
+                                   {Key("start"), cell.start},
+                                   {Key("duration"), QString::number(cell.minutes)},
+                                   {Key("x_twips"), cell.x},
+                                   {Key("width_twips"), runtime::nearestInteger(cell.width)}});
+    }
+    return unknown;
+}
+
+QJsonArray faultArray(const plan::PlanContent& content)
+{
+    QJsonArray faults;
+    for (const lookup::ReadFault& fault : content.faults) {
+        faults.append(QJsonObject{{Key("name"), fault.name}, {Key("text"), fault.text}});
+    }
+    return faults;
+}
+
 QJsonArray rowArray(const plan::PlanContent& content)
 {
     QJsonArray rows;
@@ -77,11 +99,15 @@ QJsonArray rowArray(const plan::PlanContent& content)
         for (const plan::PlanBox& box : row.boxes) {
             boxes.append(boxObject(box));
         }
-        rows.append(QJsonObject{{Key("index"), row.index},
-                                {Key("room"), row.room},
-                                {Key("places"), row.places},
-                                {Key("color"), colorText(row.color)},
-                                {Key("boxes"), boxes}});
+        QJsonObject object{{Key("index"), row.index},
+                           {Key("room"), row.room},
+                           {Key("places"), row.places},
+                           {Key("color"), colorText(row.color)},
+                           {Key("boxes"), boxes}};
+        if (!row.unknown.empty()) {
+            object.insert(Key("unknown"), unknownArray(row));
+        }
+        rows.append(object);
     }
     return rows;
 }
@@ -114,21 +140,24 @@ QByteArray planAsJson(const PlanDocument& document)
     const plan::PlanState& state = document.state();
     const form::PlanForm& form = state.form;
     const context::EstablishmentHeader& header = state.establishment;
-    const QJsonObject plan{
-        {Key("title"), form.title()},
-        {Key("mode"),
-         form.OpExam().isSelected() ? QStringLiteral("exam") : QStringLiteral("teaching")},
-        {Key("tranche"), QJsonObject{{Key("ident"), state.period.TrancheIdent},
-                                     {Key("name"), form.CbTranche.text()}}},
-        {Key("date"), state.period.shownDate(form).toString(Qt::ISODate)},
-        {Key("establishment"), QJsonObject{{Key("university"), header.UniversityName},
-                                           {Key("name"), header.EstablishmentName},
-                                           {Key("year"), header.AcademicYear}}},
-        {Key("axis"), axisObject(state)},
-        {Key("slots"), slotArray(state)},
-        {Key("rows"), rowArray(document.pages.front().content)},
-        {Key("totals"), totalArray(state)},
-        {Key("page"), pageObject(state)}};
+    QJsonObject plan{{Key("title"), form.title()},
+                     {Key("mode"), form.OpExam().isSelected() ? QStringLiteral("exam")
+                                                              : QStringLiteral("teaching")},
+                     {Key("tranche"), QJsonObject{{Key("ident"), state.period.TrancheIdent},
+                                                  {Key("name"), form.CbTranche.text()}}},
+                     {Key("date"), state.period.shownDate(form).toString(Qt::ISODate)},
+                     {Key("establishment"), QJsonObject{{Key("university"), header.UniversityName},
+                                                        {Key("name"), header.EstablishmentName},
+                                                        {Key("year"), header.AcademicYear}}},
+                     {Key("axis"), axisObject(state)},
+                     {Key("slots"), slotArray(state)},
+                     {Key("rows"), rowArray(document.pages.front().content)},
+                     {Key("totals"), totalArray(state)},
+                     {Key("page"), pageObject(state)}};
+    const plan::PlanContent& content = document.pages.front().content;
+    if (!content.faults.empty()) { // a plan without a gap has no word for gaps
+        plan.insert(Key("faults"), faultArray(content));
+    }
     return QJsonDocument(plan).toJson();
 }
 

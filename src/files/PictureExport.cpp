@@ -1,6 +1,7 @@
 #include "files/PictureExport.h"
 
 #include "paint/PlanPainter.h"
+#include "plan/FaultWords.h"
 #include "print/Targets.h"
 #include "runtime/FrenchDate.h"
 
@@ -17,6 +18,7 @@ namespace
 constexpr int kHeaderPixels = 64;
 constexpr int kMargin = 12;
 constexpr int kTotalsPixels = 30;
+constexpr int kFooterPixels = 40;
 
 QFont headerFont(int pixels, bool bold)
 {
@@ -43,6 +45,14 @@ void paintHeader(QPainter& painter, const plan::PlanState& state, const QRectF& 
     painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, state.establishment.UniversityName);
 }
 
+/// What the plan lacks.
+void paintFooter(QPainter& painter, const QString& faults, const QRectF& area)
+{
+    painter.setPen(QColor(150, 0, 0));
+    painter.setFont(headerFont(13, true));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, faults);
+}
+
 } // namespace
 
 QByteArray planAsPng(const PlanDocument& document)
@@ -51,9 +61,11 @@ QByteArray planAsPng(const PlanDocument& document)
     const paint::PlanScene scene =
         paint::sceneOf(state, document.pages.front().content, print::UseScreenTarget());
     const double bottom = paint::PlanPainter::rowsBottom(scene);
+    const QString faults = plan::faultSentence(document.pages.front().content);
+    const int footer = faults.isEmpty() ? 0 : kFooterPixels;
     const QSize size(
         static_cast<int>(std::ceil(scene.target.toPixelsX(state.form.scaleWidth))) + 2 * kMargin,
-        static_cast<int>(std::ceil(bottom)) + kHeaderPixels + kTotalsPixels + 3 * kMargin);
+        static_cast<int>(std::ceil(bottom)) + kHeaderPixels + kTotalsPixels + 3 * kMargin + footer);
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -68,6 +80,7 @@ QByteArray planAsPng(const PlanDocument& document)
     plan.paintPlaces();
     painter.translate(0, bottom + 6);
     plan.paintTotals();
+    paintFooter(painter, faults, QRectF(0, kTotalsPixels, size.width() - 2 * kMargin, footer));
     painter.end();
     QByteArray bytes;
     QBuffer buffer(&bytes);

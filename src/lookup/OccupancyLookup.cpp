@@ -56,12 +56,18 @@ std::optional<RoomCell> OccupancyLookup::RoomOccupancy(const QString& Room,
     if (MakeUp && m_view.day.exam) {
         return std::nullopt;
     }
-    const db::Recordset rows = findRows(Room, SeanceKey, Tranche, MakeUp);
-    return rows.isEmpty() ? RoomCell() : cellOf(rows, Room, SeanceKey);
+    const std::optional<db::Recordset> rows = findRows(Room, SeanceKey, Tranche, MakeUp);
+    if (!rows || rows->isEmpty()) {
+        RoomCell cell;
+        cell.isUnknown = !rows;
+        return cell;
+    }
+    return cellOf(*rows, Room, SeanceKey);
 }
 
-db::Recordset OccupancyLookup::findRows(const QString& room, const QString& seanceKey,
-                                        const QString& tranche, bool makeUp)
+std::optional<db::Recordset> OccupancyLookup::findRows(const QString& room,
+                                                       const QString& seanceKey,
+                                                       const QString& tranche, bool makeUp)
 {
     RoomQuestion question;
     question.room = room;
@@ -74,7 +80,7 @@ db::Recordset OccupancyLookup::findRows(const QString& room, const QString& sean
         question.table = RoomQuestion::Table::ratrap;
         question.date = m_view.day.date;
     }
-    db::Recordset rows;
+    std::optional<db::Recordset> rows;
     skipOnError([&] { rows = m_source.timetableRows(question); });
     return rows;
 }

@@ -32,7 +32,8 @@ struct View {
 };
 
 /// Answers what occupies a room in a slot. No error stops it and none is reported: a step that
-/// fails is left out, so the plan stays up whatever one odd row holds.
+/// fails is left out, so the plan stays up whatever one odd row holds. Where the very question got
+/// no answer the cell is unknown.
 class OccupancyLookup
 {
 public:
@@ -50,8 +51,9 @@ public:
                                                         const QString& Tranche, bool MakeUp);
 
 private:
-    [[nodiscard]] db::Recordset findRows(const QString& room, const QString& seanceKey,
-                                         const QString& tranche, bool makeUp);
+    /// Nothing where the question got no answer.
+    [[nodiscard]] std::optional<db::Recordset>
+    findRows(const QString& room, const QString& seanceKey, const QString& tranche, bool makeUp);
     [[nodiscard]] RoomCell cellOf(const db::Recordset& rows, const QString& room,
                                   const QString& seanceKey);
     void keepFacts(RoomCell& cell, const db::Recordset& rows, const QString& room) const;

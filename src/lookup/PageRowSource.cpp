@@ -77,11 +77,18 @@ PageFacts PageRowSource::prepare(const PageQuestions& questions)
     m_cells.clear();
     m_studentRows.clear();
     m_classRows.clear();
+    m_tables.clear();
+    m_students = {};
+    m_classes = {};
     fetchTimetable();
     const QStringList classNames = db::plainLiterals(allClasses());
     if (!classNames.isEmpty()) {
-        runtime::skipOnError([&] { fetchStudents(classNames); });
-        runtime::skipOnError([&] { fetchClasses(classNames); });
+        if (!db::skipWhenRefused([&] { fetchStudents(classNames); })) {
+            m_students.suspect();
+        }
+        if (!db::skipWhenRefused([&] { fetchClasses(classNames); })) {
+            m_classes.suspect();
+        }
     }
     return facts();
 }
@@ -98,6 +105,11 @@ void PageRowSource::fetchTimetable()
         pages.push_back(m_questions.question(RoomQuestion::Table::ratrap, {}, {}));
     }
     m_cells = fetchPageCells(m_database, pages, rooms, keys);
+    for (const RoomQuestion& page : pages) {
+        if (!m_cells.contains(page.table)) {
+            m_tables[page.table].suspect();
+        }
+    }
 }
 
 void PageRowSource::fetchStudents(const QStringList& classNames)
@@ -201,19 +213,28 @@ db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
             return *rows;
         }
     }
-    return m_plain.timetableRows(question);
+    return m_tables[question.table].ask(db::isPlainLiteral(question.room),
+                                        [&] { return m_plain.timetableRows(question); });
 }
 
 int PageRowSource::studentRows(const QString& className)
 {
     const auto rows = m_studentRows.constFind(className);
-    return rows != m_studentRows.constEnd() ? *rows : m_plain.studentRows(className);
+    if (rows != m_studentRows.constEnd()) {
+        return *rows;
+    }
+    return m_students.ask(db::isPlainLiteral(className),
+                          [&] { return m_plain.studentRows(className); });
 }
 
 db::Recordset PageRowSource::classRows(const QString& className)
 {
     const auto rows = m_classRows.constFind(className);
-    return rows != m_classRows.constEnd() ? *rows : m_plain.classRows(className);
+    if (rows != m_classRows.constEnd()) {
+        return *rows;
+    }
+    return m_classes.ask(db::isPlainLiteral(className),
+                         [&] { return m_plain.classRows(className); });
 }
 
 } // namespace lookup

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Database.h"
+#include "db/RefusedTable.h"
 #include "lookup/PageCells.h"
 #include "lookup/RowSource.h"
 
@@ -17,7 +18,8 @@ namespace lookup
 /// No answer differs from the plain source's: the database itself says which row answers which
 /// question. Where a name was found under another spelling only the database knows what it equals;
 /// such questions are put once more, each in the plain statement's own words, all joined into one.
-/// What cannot be fetched is left to the plain source.
+/// What cannot be fetched is left to the plain source; a table that refuses the page and then the
+/// first plain question, too, is not asked any more.
 class PageRowSource : public RowSource
 {
 public:
@@ -44,6 +46,10 @@ private:
     std::map<RoomQuestion::Table, PageCells> m_cells;
     QHash<QString, int> m_studentRows;
     QHash<QString, db::Recordset> m_classRows;
+    /// Of the tables: whether they refuse whatever is asked.
+    std::map<RoomQuestion::Table, db::RefusedTable> m_tables;
+    db::RefusedTable m_students;
+    db::RefusedTable m_classes;
 };
 
 } // namespace lookup

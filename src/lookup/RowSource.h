@@ -17,7 +17,8 @@ public:
     virtual ~RowSource() = default;
 
     /// Told of all questions of a page before the first is asked: a source may fetch the answers
-    /// ahead. Whatever it could not fetch it is asked for all the same. Raises no error.
+    /// ahead. Whatever it could not fetch it is asked for all the same.
+    /// Errors: those that concern all reads (db::concernsAllReads); nothing more need be asked.
     virtual PageFacts prepare(const PageQuestions& /*questions*/) { return {}; }
 
     /// The timetable rows of a room in a slot, in the database's own order.

@@ -6,6 +6,7 @@
 #include "paint/CellBox.h"
 #include "paint/Overlays.h"
 #include "paint/PlanGrid.h"
+#include "paint/UnknownMark.h"
 
 #include <QColor>
 #include <algorithm>
@@ -104,10 +105,21 @@ void PlanPainter::paintBoxesOf(const plan::PlanRow& row)
     }
     m_surface.save();
     m_surface.setFont(textFont(kTextPixels));
+    paintUnknownCells(row);
     for (const plan::PlanBox& box : row.boxes) {
         paintBox(row, box);
     }
     m_surface.restore();
+}
+
+void PlanPainter::paintUnknownCells(const plan::PlanRow& row)
+{
+    const form::Place& room = m_scene.form.Salle[static_cast<std::size_t>(row.index)].place;
+    for (const plan::UnknownCell& cell : row.unknown) {
+        drawUnknownMark(m_surface, m_scene.target, m_scene.target.toPixelsX(cell.x),
+                        m_scene.target.toPixelsY(room.top), cell.minutes,
+                        m_scene.form.Salle.front().place.height);
+    }
 }
 
 void PlanPainter::paintBox(const plan::PlanRow& row, const plan::PlanBox& box)

@@ -51,6 +51,7 @@ public:
     [[nodiscard]] static double rowsBottom(const PlanScene& scene);
 
 private:
+    void paintUnknownCells(const plan::PlanRow& row);
     void paintBox(const plan::PlanRow& row, const plan::PlanBox& box);
     void paintOverlays(const OverlayPlaces& places, const plan::PlanBox& box, form::Colour under);
     void paintOverlayLabel(const QRectF& place, const QColor& fill, bool isEdged,

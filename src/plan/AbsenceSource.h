@@ -22,7 +22,8 @@ class AbsenceSource
 public:
     virtual ~AbsenceSource() = default;
 
-    /// Told of all questions of a page before the first is asked. Raises no error.
+    /// Told of all questions of a page before the first is asked.
+    /// Errors: those that concern all reads (db::concernsAllReads); nothing more need be asked.
     virtual void prepare(const AbsenceQuestions& /*questions*/) {}
 
     /// Whether a class absence is recorded for the class, the date and the start time.

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "form/Colour.h"
+#include "lookup/ReadFault.h"
 #include "lookup/RoomCell.h"
 #include "plan/GroupCounter.h"
 
+#include <QDateTime>
 #include <QString>
 #include <optional>
 #include <vector>
@@ -27,18 +29,32 @@ struct PlanBox {
     QString absentToolTip;      ///< tooltip of `YAbs`
 };
 
+/// A slot of a room of which it is not known what is in it. Positions are in twips.
+struct UnknownCell {
+    int slot = 0;       ///< slot number, 1 to 10
+    QString start;      ///< start of the slot, for example 8h30
+    int minutes = 0;    ///< length of the slot
+    int x = 0;          ///< left edge
+    double width = 0.0; ///< as long as the slot lasts
+};
+
 struct PlanRow {
     int index = 0; ///< row of the page, 1 upward
     QString room;
     QString places;
     form::Colour color;
     std::vector<PlanBox> boxes;
+    std::vector<UnknownCell> unknown;
 };
 
 /// What one refresh worked out: whatever shows the plan, on the screen, on paper or in a file,
 /// reads these values.
 struct PlanContent {
     std::vector<PlanRow> rows;
+    /// What got no answer, each once. A box can lack a size or an absence because of it.
+    std::vector<lookup::ReadFault> faults;
+    /// Since when answers that the database should give have been missing; nothing while none is.
+    std::optional<QDateTime> failingSince;
 
     /// The box of a marker; null when none was drawn with this number.
     [[nodiscard]] const PlanBox* box(int marker) const;

@@ -51,13 +51,18 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
     const std::uint64_t refresh = ++m_refreshes;
     m_inProgress = refresh;
     startTotals(start);
-    ClearPlanOverlays();
-    m_state.colors.reseed();
-    m_nextRow = 1;
-    m_lastRow = m_state.page.RowsShown;
-    prepareQuestions();
+    const context::Totals totals = m_state.totals;
+    const auto totalLabels = m_state.form.Tot;
+    m_sources.reads.begin();
+    startRows();
     while (m_nextRow <= m_lastRow) {
         drawRow(m_nextRow++);
+        if (m_sources.reads.startAgain()) {
+            m_state.totals = totals;
+            m_state.form.Tot = totalLabels;
+            startRows();
+            continue;
+        }
         if (m_yields) {
             m_yield();
         }
@@ -65,7 +70,28 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
             return;
         }
     }
+    endPage();
     m_state.colors.RedrawMode = true;
+}
+
+/// The page from its first row on, all of it over one connection.
+void PlanRefresh::startRows()
+{
+    ClearPlanOverlays();
+    m_state.colors.reseed();
+    m_nextRow = 1;
+    m_lastRow = m_state.page.RowsShown;
+    prepareQuestions();
+    if (m_sources.reads.startAgain()) {
+        prepareQuestions();
+    }
+}
+
+void PlanRefresh::endPage()
+{
+    m_sources.reads.end();
+    m_content.faults = m_sources.reads.faults();
+    m_content.failingSince = m_sources.reads.failingSince();
 }
 
 /// A line that a refresh leaves standing tells of another choice from then on; nothing can be added
@@ -83,7 +109,7 @@ void PlanRefresh::startTotals(TotalsStart start)
 
 void PlanRefresh::ClearPlanOverlays()
 {
-    m_content.rows.clear();
+    m_content = {};
     m_markers.startAgain();
 }
 
@@ -92,6 +118,7 @@ void PlanRefresh::finishRows()
     while (m_nextRow <= m_lastRow) {
         drawRow(m_nextRow++);
     }
+    endPage();
 }
 
 void PlanRefresh::withoutYielding(const std::function<void()>& action)
@@ -145,7 +172,7 @@ void PlanRefresh::prepareQuestions()
 void PlanRefresh::drawRow(int row)
 {
     const context::RoomPage::Room room = m_state.page.room(row);
-    PlanRow planRow{row, room.name, room.places, rowColor(row), {}};
+    PlanRow planRow{row, room.name, room.places, rowColor(row), {}, {}};
     m_state.form.Salle[static_cast<std::size_t>(row)].backColor = planRow.color;
     m_state.form.Cap[static_cast<std::size_t>(row)].backColor = planRow.color;
     lookup::OccupancyLookup lookup(m_sources.rows, viewOf(m_state));
@@ -158,6 +185,8 @@ void PlanRefresh::drawRow(int row)
             durationBefore = cell.CellDuration;
             if (!cell.CellText.isEmpty()) {
                 drawSlot(planRow, slot, std::move(cell), makeUp);
+            } else if (cell.isUnknown) {
+                noteUnknown(planRow, slot);
             }
         } catch (runtime::RunTimeError& error) {
             error.addPlace(QStringLiteral("Dessin de la salle « %1 », séance « %2 »")
@@ -180,8 +209,10 @@ lookup::RoomCell PlanRefresh::lookUp(lookup::OccupancyLookup& lookup, const QStr
     lookup::RoomCell cell = *lookup.RoomOccupancy(room, key, tranche, false);
     if (cell.CellText.isEmpty() && m_state.form.Check2.isChecked()) {
         makeUp = true;
+        const bool isUnknown = cell.isUnknown;
         if (auto found = lookup.RoomOccupancy(room, key, tranche, true)) {
             cell = std::move(*found);
+            cell.isUnknown |= isUnknown;
         }
     }
     return cell;
@@ -224,6 +255,40 @@ void PlanRefresh::drawSlot(PlanRow& planRow, int slot, lookup::RoomCell cell, bo
         m_state.layout.displayStyle >= 2 && context::linesPerPage(m_state.form) < kManyRooms;
     box.group = groupCounterOf(box.cell, planRow.places, atRight);
     planRow.boxes.push_back(std::move(box));
+}
+
+/// Slots that the day does not have are not missed.
+void PlanRefresh::noteUnknown(PlanRow& planRow, int slot)
+{
+    const std::optional<UnknownCell> cell = unknownCell(slot);
+    if (!cell) {
+        return;
+    }
+    planRow.unknown.push_back(*cell);
+    if (m_counting) {
+        m_state.totals.lacks.at(static_cast<std::size_t>(slot - 1)) = true;
+    }
+}
+
+/// Where the slot stands on the plan. A day that is known does not have slots beyond its own; of
+/// one that is not, each slot may be any stretch behind its tick.
+std::optional<UnknownCell> PlanRefresh::unknownCell(int slot) const
+{
+    const context::TimeAxis axis = context::screenAxis(m_state.form);
+    UnknownCell cell{slot, {}, context::kSlotMinutes, 0, 0.0};
+    if (const auto& facts = m_state.slots.slot(slot)) {
+        cell.start = facts->start;
+        cell.minutes = facts->minutes;
+    } else if (m_state.slots.SlotCount() == 0) {
+        cell.start = viewOf(m_state).tickCaptions.value(slot - 1);
+    }
+    try {
+        cell.x = axis.TimeToX(cell.start);
+    } catch (const runtime::RunTimeError&) {
+        return std::nullopt; // no slot of the day
+    }
+    cell.width = axis.widthOf(cell.minutes);
+    return cell;
 }
 
 void PlanRefresh::testAbsences(PlanBox& box)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lookup/PageReads.h"
 #include "plan/AbsenceSource.h"
 #include "plan/MarkerRecords.h"
 #include "plan/PlanContent.h"
@@ -7,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace plan
 {
@@ -27,6 +29,7 @@ public:
     struct Sources {
         lookup::RowSource& rows;
         AbsenceSource& absences;
+        lookup::PageReads& reads; ///< told of what got no answer
     };
 
     /// `yield` lets waiting events run; it is called once per row. State and sources outlive the
@@ -60,6 +63,10 @@ public:
 
 private:
     void startTotals(TotalsStart start);
+    void startRows();
+    void endPage();
+    void noteUnknown(PlanRow& planRow, int slot);
+    [[nodiscard]] std::optional<UnknownCell> unknownCell(int slot) const;
     void prepareQuestions();
     [[nodiscard]] QString seanceKey(int slot) const;
     void drawRow(int row);

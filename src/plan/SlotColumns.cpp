@@ -3,6 +3,7 @@
 #include "runtime/RunTimeError.h"
 #include "runtime/TimeOfDay.h"
 
+#include <algorithm>
 #include <set>
 
 namespace plan
@@ -21,6 +22,9 @@ std::vector<int> slotColumns(const context::DaySlots& slots,
             for (const PlanBox& box : row.boxes) {
                 columns.insert(box.slot);
             }
+            for (const UnknownCell& cell : row.unknown) {
+                columns.insert(cell.slot);
+            }
         }
     }
     return {columns.begin(), columns.end()};
@@ -36,6 +40,12 @@ const PlanBox* boxAt(const PlanRow& row, int slot)
     return nullptr;
 }
 
+bool isUnknown(const PlanRow& row, int slot)
+{
+    return std::any_of(row.unknown.begin(), row.unknown.end(),
+                       [slot](const UnknownCell& cell) { return cell.slot == slot; });
+}
+
 std::size_t columnsOf(const context::DaySlots& slots, const PlanRow& row, const PlanBox& box,
                       const std::vector<int>& columns, std::size_t column)
 {
@@ -43,7 +53,8 @@ std::size_t columnsOf(const context::DaySlots& slots, const PlanRow& row, const 
     runtime::skipOnError([&] {
         const int start = runtime::secondsOfDay(runtime::normaliseTimeText(box.cell.CellStart));
         const auto isCovered = [&](int next) {
-            return slots.reaches(next, start, box.minutes) && boxAt(row, next) == nullptr;
+            return slots.reaches(next, start, box.minutes) && boxAt(row, next) == nullptr &&
+                   !isUnknown(row, next);
         };
         while (column + count < columns.size() && isCovered(columns[column + count])) {
             ++count;

@@ -22,7 +22,7 @@ void SubjectFilter::Check1_Click()
     m_form.Cb_Mat.clear();
     runtime::during(QStringLiteral("Lecture des matières (table « matière »)"), [&] {
         const db::Recordset subjects =
-            m_database.Db().open(QStringLiteral("select * from matière order by Nom "));
+            m_database.read(QStringLiteral("select * from matière order by Nom "));
         for (const db::Row& subject : subjects.rows()) {
             m_form.Cb_Mat.addItem(subject.field(QStringLiteral("Nom")).toJoinedText());
         }

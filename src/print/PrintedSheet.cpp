@@ -2,6 +2,8 @@
 
 #include "paint/CellBox.h"
 #include "paint/PlanGrid.h"
+#include "paint/UnknownMark.h"
+#include "plan/FaultWords.h"
 #include "print/CapacityLabel.h"
 #include "print/FittedText.h"
 
@@ -194,6 +196,11 @@ void PrintPlanBody(QPainter& surface, const DrawingTarget& target, const Sheet& 
         surface.restore();
         surface.save();
         clipToPlan(surface, target, sheet);
+        for (const plan::UnknownCell& cell : row.unknown) {
+            paint::drawUnknownMark(surface, target, target.toPixelsX(cell.x),
+                                   target.toPixelsY(room.place.top), cell.minutes,
+                                   form.Salle.front().place.height);
+        }
         for (const plan::PlanBox& box : row.boxes) {
             printBox(surface, target, sheet, row, color, box);
         }
@@ -213,10 +220,14 @@ bool hasMakeUps(const plan::PlanContent& content)
     });
 }
 
-/// What hatching and greyed totals mean, where the page has any.
+/// What the page lacks, and what hatching and greyed totals mean, where it has any.
 QStringList legendOf(const plan::PlanPage& page)
 {
     QStringList legend;
+    const QString faults = plan::faultSentence(page.content);
+    if (!faults.isEmpty()) {
+        legend << faults;
+    }
     if (hasMakeUps(page.content)) {
         legend << QStringLiteral("Case hachurée : rattrapage");
     }

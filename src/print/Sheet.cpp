@@ -81,6 +81,10 @@ void placeBoxes(plan::PlanContent& content, const TimeAxis& axis)
             box.x = axis.TimeToX(box.cell.CellStart);
             box.width = axis.widthOf(runtime::leadingNumber(box.cell.CellDuration));
         }
+        for (plan::UnknownCell& cell : row.unknown) {
+            cell.x = axis.TimeToX(cell.start);
+            cell.width = axis.widthOf(cell.minutes);
+        }
     }
 }
 

@@ -43,6 +43,9 @@ const std::vector<OptionText>& optionTexts()
         {"all-pages",
          {},
          QStringLiteral("écrit toutes les pages (avec --export en %1)").arg(endingsOfPages())},
+        {"allow-incomplete",
+         {},
+         QStringLiteral("écrit le fichier même si la base n’a pas tout dit (avec --export)")},
         {"settings", QStringLiteral("FICHIER.ini"),
          QStringLiteral("remplace les paramètres de l’utilisateur pour cette fois")},
         {"tranche", QStringLiteral("NOM"), QStringLiteral("période affichée")},
@@ -227,6 +230,10 @@ void readFiles(const Reader& reader, CommandLine& line)
     if (line.allPages && (format == nullptr || !format->holdsPages)) {
         fail(QStringLiteral("all-pages"),
              QStringLiteral("demande --export en ") + endingsOfPages());
+    }
+    line.allowIncomplete = reader.has("allow-incomplete");
+    if (line.allowIncomplete && !reader.has("export")) {
+        fail(QStringLiteral("allow-incomplete"), QStringLiteral("demande --export"));
     }
     line.settingsFile = reader.text("settings");
     if (!reader.has("settings")) {

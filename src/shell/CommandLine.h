@@ -38,7 +38,8 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     QString exportFile;
-    bool allPages = false; ///< the export holds every page of the room set
+    bool allPages = false;        ///< the export holds every page of the room set
+    bool allowIncomplete = false; ///< the export is written although the database has failed
     QString settingsFile;
     std::optional<std::uint32_t> seed;
     bool plain = false; ///< one statement per question

@@ -7,10 +7,17 @@
 namespace shell
 {
 
-/// Writes the plan as it stands into a file, in the form that the file's ending names; with
-/// `allPages` every page of the room set, where the form can hold several. The file is replaced as
-/// a whole or not at all. Requires: files::formatOf knows the ending. Errors: files::ExportError;
-/// those of a refresh and any database error.
-void exportPlan(const Shell& shell, const QString& path, bool allPages = false);
+/// What an export holds.
+struct ExportChoice {
+    bool allPages = false;        ///< every page of the room set, where the form can hold several
+    bool allowIncomplete = false; ///< written although the database has failed
+};
+
+/// Writes the plan as it stands into a file, in the form that the file's ending names. The file is
+/// replaced as a whole or not at all. Returns what the user should know of a file that was written,
+/// in French; empty as a rule.
+/// Requires: files::formatOf knows the ending. Errors: files::ExportError, also for a plan that the
+/// database has left incomplete; those of a refresh and any database error.
+QString exportPlan(const Shell& shell, const QString& path, ExportChoice choice = {});
 
 } // namespace shell

@@ -30,11 +30,17 @@ struct Answer {
     int from = 0; ///< pages, when not 0
     int to = 0;
     int sheetsOffered = 0;
+    bool printsIncomplete = false;
+    QStringList missing; ///< what was said to be missing
     QString document;
 
     app::PrintDialogs dialogs()
     {
-        return {[this](QPrinter& printer, int sheets) {
+        return {[this](const QString& whatIsMissing) {
+                    missing << whatIsMissing;
+                    return printsIncomplete;
+                },
+                [this](QPrinter& printer, int sheets) {
                     sheetsOffered = sheets;
                     document = printer.docName();
                     answer(printer);

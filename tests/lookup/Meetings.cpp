@@ -91,6 +91,9 @@ db::Recordset FakeRows::timetableRows(const lookup::RoomQuestion& question)
     if (timetableFails) {
         fail();
     }
+    if (beforeAnswer) {
+        beforeAnswer(question);
+    }
     const auto& meetings = question.table == lookup::RoomQuestion::Table::emplois  ? m_emplois
                            : question.table == lookup::RoomQuestion::Table::ratrap ? m_ratrap
                                                                                    : m_examen;

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <deque>
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -69,6 +70,8 @@ public:
     std::vector<lookup::RoomQuestion> asked;
     /// Questions about timetable rows, or about classes, end in a database error.
     bool timetableFails = false;
+    /// Runs before a question about timetable rows is answered; what it throws is the answer.
+    std::function<void(const lookup::RoomQuestion&)> beforeAnswer;
     bool classesFail = false;
 
 private:

@@ -172,12 +172,21 @@ TEST_F(Occupancy, leavesOutWhatTheTableLacks)
     EXPECT_EQ(cell().CellTeacher, "");
 }
 
-TEST_F(Occupancy, isEmptyWhenTheQueryFails)
+TEST_F(Occupancy, isUnknownWhenTheQueryFails)
 {
     rows.emplois("A1", "Lundi1");
     rows.timetableFails = true;
     EXPECT_EQ(lookUp(), "");
-    EXPECT_EQ(cell(), RoomCell());
+    RoomCell unknown;
+    unknown.isUnknown = true;
+    EXPECT_EQ(cell(), unknown);
+}
+
+TEST_F(Occupancy, isNotUnknownWhenAFieldFails)
+{
+    rows.emplois("A1", "Lundi1").without("Enseignant1").without("Debut");
+    EXPECT_NE(lookUp(), "");
+    EXPECT_FALSE(cell().isUnknown);
 }
 
 TEST_F(Occupancy, countsTheStudentsOfASingleClass)

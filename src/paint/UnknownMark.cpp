@@ -1,0 +1,68 @@
+#include "paint/UnknownMark.h"
+
+#include "paint/CellBox.h"
+#include "runtime/Numbers.h"
+
+#include <QColor>
+#include <algorithm>
+
+namespace paint
+{
+namespace
+{
+
+constexpr QColor kFill(225, 225, 225);
+constexpr QColor kLines(150, 150, 150);
+constexpr QColor kInk(40, 40, 40);
+// Between two lines across, in points.
+constexpr double kStep = 5;
+// The question mark: its share of the row's height, and its largest size in points.
+constexpr double kMarkShare = 0.72;
+constexpr double kLargestMark = 14;
+
+void drawLines(QPainter& surface, const DrawingTarget& target, const QRect& box)
+{
+    surface.setPen(QPen(kLines, std::max(1.0, 0.5 * target.PixelsPerPoint)));
+    const double step = kStep * target.PixelsPerPoint;
+    for (double x = box.left() - box.height(); x < box.right(); x += step) {
+        surface.drawLine(QPointF(x, box.top() + box.height()),
+                         QPointF(x + box.height(), box.top()));
+    }
+}
+
+QFont markFont(const DrawingTarget& target, int height)
+{
+    QFont font(QStringLiteral("Arial"));
+    font.setBold(true);
+    const double largest = kLargestMark * target.PixelsPerPoint;
+    font.setPixelSize(std::max(1, runtime::nearestInteger(std::min(kMarkShare * height, largest))));
+    return font;
+}
+
+} // namespace
+
+void drawUnknownMark(QPainter& surface, const DrawingTarget& target, double x, double y,
+                     int minutes, int rowHeight)
+{
+    const QRect box = boxRectangle(target, x, y, minutes, rowHeight);
+    if (box.width() <= 0 || box.height() <= 0) {
+        return;
+    }
+    surface.save();
+    surface.setClipRect(box, Qt::IntersectClip);
+    surface.fillRect(box, kFill);
+    drawLines(surface, target, box);
+    surface.setFont(markFont(target, box.height()));
+    const int width = std::min(box.width(), 2 * surface.fontMetrics().horizontalAdvance(u'?'));
+    QRect around(0, 0, width, box.height());
+    around.moveCenter(box.center());
+    surface.fillRect(around, kFill); // the lines would run through it
+    surface.setPen(kInk);
+    surface.drawText(around, Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("?"));
+    surface.setBrush(Qt::NoBrush);
+    surface.setPen(QPen(kLines, std::max(1.0, 0.5 * target.PixelsPerPoint)));
+    surface.drawRect(box.adjusted(0, 0, -1, -1));
+    surface.restore();
+}
+
+} // namespace paint

@@ -1,0 +1,97 @@
+#include "plan/FaultWords.h"
+
+#include <algorithm>
+
+namespace plan
+{
+namespace
+{
+
+using db::Failure;
+using lookup::ReadFault;
+
+QString sinceWords(const QDateTime& since)
+{
+    const bool today = since.date() == QDate::currentDate();
+    return QStringLiteral(" depuis ") +
+           since.toString(today ? QStringLiteral("HH:mm") : QStringLiteral("dd/MM/yyyy HH:mm"));
+}
+
+bool hasUnknownCells(const PlanContent& content)
+{
+    return std::any_of(content.rows.begin(), content.rows.end(),
+                       [](const PlanRow& row) { return !row.unknown.empty(); });
+}
+
+} // namespace
+
+QString failureWords(Failure failure)
+{
+    switch (failure) {
+    case Failure::Unreachable:
+        return QStringLiteral("la base de données ne s’ouvre pas");
+    case Failure::ConnectionLost:
+        return QStringLiteral("la connexion à la base de données est coupée");
+    case Failure::NoAnswer:
+        return QStringLiteral("la base de données ne répond pas");
+    case Failure::Locked:
+        return QStringLiteral("un autre programme tient la base de données verrouillée");
+    case Failure::TableMissing:
+        return QStringLiteral("une table manque dans la base de données");
+    case Failure::Refused:
+    case Failure::RolledBack:
+        return QStringLiteral("la base de données refuse de répondre à une question");
+    case Failure::Other:
+        break;
+    }
+    return QStringLiteral("la base de données ne se laisse pas lire");
+}
+
+QString unheldNames(const std::vector<ReadFault>& faults)
+{
+    QStringList names;
+    for (const ReadFault& fault : faults) {
+        if (!fault.name.isEmpty()) {
+            names << QStringLiteral("« ") + fault.name + QStringLiteral(" »");
+        }
+    }
+    if (names.isEmpty()) {
+        return {};
+    }
+    return (names.size() == 1 ? QStringLiteral("Nom impossible à chercher : ")
+                              : QStringLiteral("Noms impossibles à chercher : ")) +
+           names.join(QStringLiteral(", ")) +
+           QStringLiteral(". Le réglage « Apostrophes=True » y remédie.");
+}
+
+QString faultSentence(const PlanContent& content)
+{
+    const auto failed = std::find_if(content.faults.begin(), content.faults.end(),
+                                     [](const ReadFault& fault) { return fault.name.isEmpty(); });
+    QStringList sentences;
+    if (failed != content.faults.end()) {
+        const QString since = content.failingSince ? sinceWords(*content.failingSince) : QString();
+        sentences << QStringLiteral("Plan incomplet") + since + QStringLiteral(" : ") +
+                         failureWords(failed->failure) + u'.';
+    }
+    const QString names = unheldNames(content.faults);
+    if (!names.isEmpty()) {
+        sentences << names;
+    }
+    if (hasUnknownCells(content)) {
+        sentences << QStringLiteral("Les cases « ? » sont inconnues, et non libres.");
+    }
+    return sentences.join(u' ');
+}
+
+QString faultDetails(const PlanContent& content)
+{
+    QStringList texts;
+    for (const ReadFault& fault : content.faults) {
+        texts << fault.text;
+    }
+    texts.removeDuplicates();
+    return texts.join(u'\n');
+}
+
+} // namespace plan

@@ -1,0 +1,81 @@
+#include "plan/FaultWords.h"
+
+#include "support/RuntimeMatchers.h"
+
+using namespace plan;
+using db::Failure;
+
+namespace
+{
+
+PlanContent lacking(std::vector<lookup::ReadFault> faults, bool hasUnknownCells = true)
+{
+    PlanContent content;
+    content.faults = std::move(faults);
+    content.rows.emplace_back();
+    if (hasUnknownCells) {
+        content.rows.back().unknown.emplace_back();
+    }
+    return content;
+}
+
+const lookup::ReadFault silent{{}, "timed out", Failure::NoAnswer};
+
+lookup::ReadFault unheld(const QString& name)
+{
+    return {name, "syntax error", Failure::Refused};
+}
+
+} // namespace
+
+TEST(FaultSentence, isEmptyWithoutAFault)
+{
+    EXPECT_EQ(faultSentence(PlanContent()), "");
+    EXPECT_EQ(faultDetails(PlanContent()), "");
+}
+
+TEST(FaultSentence, saysWhatFailedAndSinceWhen)
+{
+    PlanContent content = lacking({silent});
+    content.failingSince = QDateTime(QDate::currentDate(), {9, 5});
+    EXPECT_EQ(faultSentence(content), "Plan incomplet depuis 09:05 : la base de données ne répond "
+                                      "pas. Les cases « ? » sont inconnues, et non libres.");
+    content.failingSince = QDateTime({2025, 3, 17}, {18, 30});
+    EXPECT_EQ(faultSentence(content),
+              "Plan incomplet depuis 17/03/2025 18:30 : la base de données ne répond pas. Les "
+              "cases « ? » sont inconnues, et non libres.");
+}
+
+TEST(FaultSentence, speaksOfNoCellsWhereNoneIsUnknown)
+{
+    EXPECT_EQ(faultSentence(lacking({silent}, false)),
+              "Plan incomplet : la base de données ne répond pas.");
+}
+
+TEST(FaultSentence, saysWhichNamesCannotBeHeldAndHowToMendIt)
+{
+    EXPECT_EQ(faultSentence(lacking({unheld("Salle d'info")})),
+              "Nom impossible à chercher : « Salle d'info ». Le réglage « Apostrophes=True » y "
+              "remédie. Les cases « ? » sont inconnues, et non libres.");
+    EXPECT_EQ(faultSentence(lacking({unheld("A'1"), silent, unheld("B'2")}, false)),
+              "Plan incomplet : la base de données ne répond pas. Noms impossibles à chercher : "
+              "« A'1 », « B'2 ». Le réglage « Apostrophes=True » y remédie.");
+}
+
+TEST(FailureWords, tellTheFailuresApart)
+{
+    QStringList words;
+    for (const Failure failure :
+         {Failure::Refused, Failure::TableMissing, Failure::Locked, Failure::NoAnswer,
+          Failure::ConnectionLost, Failure::Unreachable, Failure::Other}) {
+        words << failureWords(failure);
+    }
+    EXPECT_EQ(words.removeDuplicates(), 0);
+    EXPECT_EQ(words[4], "la connexion à la base de données est coupée");
+}
+
+TEST(FaultDetails, areTheDatabasesOwnWordsEachOnce)
+{
+    EXPECT_EQ(faultDetails(lacking({silent, unheld("A'1"), unheld("B'2")})),
+              "timed out\nsyntax error");
+}
