@@ -23,15 +23,27 @@ void Database::connect()
 {
     m_statementsBefore = statementCount();
     m_connection.reset();
+    const auto began = Clock::now();
     try {
         m_connection.emplace(*m_connectString, m_bySetting);
         m_fault.reset();
     } catch (const DatabaseError& error) {
         m_fault = error;
         m_used = Clock::now();
+        m_attempt = std::chrono::duration_cast<std::chrono::milliseconds>(m_used - began);
         throw;
     }
     m_used = Clock::now();
+}
+
+/// How long nothing is asked about the connection, or done about a missing one.
+std::chrono::milliseconds Database::notBefore() const
+{
+    constexpr std::chrono::milliseconds atOnce{200};
+    if (m_connection) {
+        return m_patience.used;
+    }
+    return m_attempt < atOnce ? std::chrono::milliseconds(-1) : m_patience.failed;
 }
 
 bool Database::hasPassed(std::chrono::milliseconds time) const
@@ -42,7 +54,7 @@ bool Database::hasPassed(std::chrono::milliseconds time) const
 
 void Database::revive()
 {
-    if (!m_connectString || !hasPassed(m_connection ? m_patience.used : m_patience.failed)) {
+    if (!m_connectString || !hasPassed(notBefore())) {
         return;
     }
     if (!m_connection || hasPassed(m_patience.idle) || m_connection->isDead()) {

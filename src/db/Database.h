@@ -26,7 +26,8 @@ public:
         std::chrono::milliseconds idle = std::chrono::minutes(3);
         /// One that has just been used is not asked about: one action asks once.
         std::chrono::milliseconds used = std::chrono::milliseconds(100);
-        /// After a failed attempt no other one is made: one action waits once.
+        /// After an attempt that failed no other one is made for so long, unless it failed at once:
+        /// one action waits once.
         std::chrono::milliseconds failed = std::chrono::seconds(2);
     };
 
@@ -67,15 +68,17 @@ public:
 
 private:
     void connect();
+    [[nodiscard]] std::chrono::milliseconds notBefore() const;
     [[nodiscard]] bool hasPassed(std::chrono::milliseconds time) const;
 
     SqlDialect m_bySetting;
     Patience m_patience;
     std::optional<QString> m_connectString; ///< while the program wants to be connected
     std::optional<Connection> m_connection;
-    std::optional<DatabaseError> m_fault; ///< why there is no connection
-    Clock::time_point m_used;             ///< when it was last asked for, or tried to be opened
-    long long m_statementsBefore = 0;     ///< sent over connections that are gone
+    std::optional<DatabaseError> m_fault;   ///< why there is no connection
+    Clock::time_point m_used;               ///< when it was last asked for, or tried to be opened
+    std::chrono::milliseconds m_attempt{0}; ///< how long the last attempt to open it took
+    long long m_statementsBefore = 0;       ///< sent over connections that are gone
 };
 
 } // namespace db

@@ -37,6 +37,29 @@ SQLCHAR* narrow(const QByteArray& text)
     return const_cast<SQLCHAR*>(reinterpret_cast<const SQLCHAR*>(text.constData()));
 }
 
+QString fromWide(const SQLWCHAR* text)
+{
+    return QString::fromUtf16(reinterpret_cast<const char16_t*>(text));
+}
+
+/// The driver of a data source, as the driver manager lists it; empty for an unknown one.
+QString driverOf(const QString& dataSource, const EnvironmentHandle& environment)
+{
+    constexpr std::size_t longest = 512;
+    std::array<SQLWCHAR, longest> name{};
+    std::array<SQLWCHAR, longest> driver{};
+    SQLUSMALLINT direction = SQL_FETCH_FIRST;
+    while (SQL_SUCCEEDED(SQLDataSourcesW(environment.get(), direction, name.data(),
+                                         static_cast<SQLSMALLINT>(longest), nullptr, driver.data(),
+                                         static_cast<SQLSMALLINT>(longest), nullptr))) {
+        if (fromWide(name.data()).compare(dataSource, Qt::CaseInsensitive) == 0) {
+            return fromWide(driver.data());
+        }
+        direction = SQL_FETCH_NEXT;
+    }
+    return {};
+}
+
 SQLHANDLE allocated(SQLSMALLINT type, SQLHANDLE parent)
 {
     SQLHANDLE handle = nullptr;
@@ -62,9 +85,14 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
 {
     // Drivers without a server have no login timeout and may say so.
     SQLSetConnectAttr(get(), SQL_ATTR_LOGIN_TIMEOUT, numberArgument(loginTimeoutSeconds), 0);
-    connect(withServerTimeouts(connectString));
+    const QString driver = driverIn(connectString);
+    const QString limited =
+        withLimits(connectString,
+                   driver.isEmpty() ? driverOf(dataSourceIn(connectString), environment) : driver);
+    connect(limited);
     m_product = productBehind(*this);
-    if (const std::optional<QString> again = m_product->reconnectString(connectString)) {
+    const std::optional<QString> again = m_product->reconnectString(connectString);
+    if (again && *again != limited) {
         SQLDisconnect(get());
         connect(*again);
     }
@@ -76,6 +104,12 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
 /// Whatever fails here, there is no connection.
 void ConnectionHandle::connect(const QString& connectString)
 {
+    // A driver may take the word for the name of a file, and make it.
+    if (connectString.startsWith(u"DSN=", Qt::CaseInsensitive) &&
+        dataSourceIn(connectString).isEmpty()) {
+        throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
+                            QStringLiteral("No data source is named."));
+    }
     const SQLRETURN result = SQLDriverConnectW(get(), nullptr, wide(connectString),
                                                static_cast<SQLSMALLINT>(connectString.size()),
                                                nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
@@ -93,9 +127,7 @@ QString ConnectionHandle::info(SQLUSMALLINT what) const
     const SQLRETURN result =
         SQLGetInfoW(get(), what, text.data(),
                     static_cast<SQLSMALLINT>(text.size() * sizeof(SQLWCHAR)), nullptr);
-    return SQL_SUCCEEDED(result)
-               ? QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()))
-               : QString();
+    return SQL_SUCCEEDED(result) ? fromWide(text.data()) : QString();
 }
 
 bool ConnectionHandle::readsBoundFieldsInAnyOrder() const

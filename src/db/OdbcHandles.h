@@ -66,7 +66,7 @@ private:
 class ConnectionHandle
 {
 public:
-    /// Errors: DatabaseFailure with the driver's text.
+    /// Errors: DatabaseFailure with the driver's text, also for a data source without a name.
     ConnectionHandle(const EnvironmentHandle& environment, const QString& connectString);
 
     [[nodiscard]] SQLHDBC get() const { return m_handle.get(); }

@@ -40,7 +40,7 @@ ErrorNumber errorNumberByCode(const Diagnostics& diagnostics)
 
 std::optional<QString> SqliteProduct::reconnectString(const QString& connectString) const
 {
-    return withLockTimeout(connectString);
+    return withFileLimits(connectString);
 }
 
 /// The driver knows UTF-8 alone where there is no Windows. The driver manager would put texts into

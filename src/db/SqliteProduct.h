@@ -9,7 +9,7 @@ namespace db
 class SqliteProduct : public Product
 {
 public:
-    /// With a limit to the wait for another program's lock.
+    /// With limits (see withFileLimits), where the driver's name has not told that it is SQLite's.
     [[nodiscard]] std::optional<QString>
     reconnectString(const QString& connectString) const override;
     [[nodiscard]] TextForm textForm() const override;

@@ -6,6 +6,7 @@
 #include "support/TestFolder.h"
 #include "support/WithoutPrivileges.h"
 
+#include <QDir>
 #include <QFile>
 #include <chrono>
 #include <functional>
@@ -57,6 +58,22 @@ TEST(Opening, failsForAMissingDriver)
 TEST(Opening, failsForAnEmptyConnectionString)
 {
     EXPECT_EQ(openingErrorOf(QString()).number(), ErrorNumber::DatabaseFailure);
+}
+
+TEST(Opening, failsForADataSourceWithoutANameAndMakesNoFile)
+{
+    const QStringList before = QDir().entryList();
+    EXPECT_EQ(openingErrorOf(QStringLiteral("DSN=")).number(), ErrorNumber::DatabaseFailure);
+    EXPECT_EQ(openingErrorOf(QStringLiteral("DSN= ")).number(), ErrorNumber::DatabaseFailure);
+    EXPECT_EQ(QDir().entryList(), before);
+}
+
+TEST(Opening, failsForAFileThatIsMissingAndDoesNotMakeIt)
+{
+    const QString file = test::processFolder() + QStringLiteral("/absent.sqlite");
+    test::OdbcConfiguration::instance().addSqliteSource(QStringLiteral("absent"), file);
+    EXPECT_EQ(openingErrorOf(QStringLiteral("DSN=absent")).number(), ErrorNumber::DatabaseFailure);
+    EXPECT_FALSE(QFile::exists(file));
 }
 
 TEST(Opening, failsForAFileThatIsNoDatabase)

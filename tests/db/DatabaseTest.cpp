@@ -149,19 +149,6 @@ TEST_F(AProgramsConnection, saysWhyThereIsNoneAndComesBack)
     EXPECT_EQ(database.Db().open("select 1").recordCount(), 1);
 }
 
-TEST_F(AProgramsConnection, triesOnceInOneAction)
-{
-    test::MariaDbServer server;
-    server.runScript("create database d;");
-    db::Database patient(
-        true, {std::chrono::hours(1), std::chrono::milliseconds(-1), std::chrono::hours(1)});
-    patient.open(server.connectString("d", "root", ""));
-    server.kill();
-    EXPECT_THROW(patient.revive(), db::DatabaseError);
-    EXPECT_NO_THROW(patient.revive()); // an attempt has just failed
-    EXPECT_THROW(static_cast<void>(patient.Db()), db::DatabaseError);
-}
-
 TEST_F(AProgramsConnection, staysClosedOnceItIsClosed)
 {
     database.open(faculty.connectString());

@@ -59,7 +59,7 @@ TEST(SqliteProduct, goesByTheStateWhereItHasNoCodeOfItsOwn)
 TEST(SqliteProduct, isConnectedToAgainWithALimitToItsWaits)
 {
     EXPECT_EQ(SqliteProduct().reconnectString(QStringLiteral("DSN=x")),
-              QStringLiteral("DSN=x;Timeout=1000"));
+              QStringLiteral("DSN=x;Timeout=1000;NoCreat=1"));
 }
 
 TEST(SqliteProduct, readsEveryFieldAsText)

@@ -15,7 +15,9 @@ namespace test
 class EngineDesk
 {
 public:
-    explicit EngineDesk(const TestDatabase& database, bool plain = false)
+    /// `through`: the connection string, when it is not the database's own.
+    explicit EngineDesk(const TestDatabase& database, bool plain = false,
+                        const QString& through = {})
         : engine(surroundings(plain))
     {
         engine.setUseMySql(database.usesMySql());
@@ -26,7 +28,8 @@ public:
         }
         form.Total_L_P.setText("19");
         engine.adaptCells();
-        engine.loadEstablishment({database.baseName(), database.connectString(), "1"});
+        engine.loadEstablishment(
+            {database.baseName(), through.isEmpty() ? database.connectString() : through, "1"});
         engine.loadSlots();
         engine.placeRoomRows();
         engine.fillRoomPage();
