@@ -3,6 +3,7 @@
 #include "runtime/RunTimeError.h"
 #include "runtime/TimeOfDay.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace absences
@@ -71,17 +72,27 @@ QString endTime(const QString& start, int minutes)
 
 QString AbsenceRecords::classSearch(const Marqueur& marker, const QString& className) const
 {
-    return QStringLiteral(" Select * from abscence Where Classe='") + className +
-           QStringLiteral("' and Datex=") + m_database.dialect().dateLiteral(marker.Jour) +
-           QStringLiteral(" and Debut='") + marker.Debut + u'\'';
+    const db::SqlDialect dialect = m_database.dialect();
+    return QStringLiteral(" Select * from abscence Where Classe=") + dialect.literal(className) +
+           QStringLiteral(" and Datex=") + dialect.dateLiteral(marker.Jour) +
+           QStringLiteral(" and Debut=") + dialect.literal(marker.Debut);
 }
 
 QString AbsenceRecords::studentSearch(const Marqueur& marker, const QString& className,
-                                      const QString& nameCondition) const
+                                      const QString& andName, const QString& name) const
 {
-    return QStringLiteral(" Select * from etud_abs Where Classe='") + className + nameCondition +
-           QStringLiteral("' and Jour=") + m_database.dialect().dateLiteral(marker.Jour) +
-           QStringLiteral(" and HeureD='") + marker.Debut + u'\'';
+    const db::SqlDialect dialect = m_database.dialect();
+    return QStringLiteral(" Select * from etud_abs Where Classe=") + dialect.literal(className) +
+           andName + dialect.literal(name) + QStringLiteral(" and Jour=") +
+           dialect.dateLiteral(marker.Jour) + QStringLiteral(" and HeureD=") +
+           dialect.literal(marker.Debut);
+}
+
+bool AbsenceRecords::holds(const QStringList& names) const
+{
+    const db::SqlDialect dialect = m_database.dialect();
+    return std::all_of(names.begin(), names.end(),
+                       [&dialect](const QString& name) { return dialect.holds(name); });
 }
 
 bool AbsenceRecords::exists(const QString& search)
@@ -97,21 +108,35 @@ bool AbsenceRecords::Existe_AbsClasse(const Marqueur& marker, const QString& cla
 bool AbsenceRecords::Existe_AbsEtud(const Marqueur& marker, const QString& className,
                                     const QString& name)
 {
-    return exists(studentSearch(marker, className, QStringLiteral("' and Nom='") + name));
+    return exists(studentSearch(marker, className, QStringLiteral(" and Nom="), name));
 }
 
-bool AbsenceRecords::removeFirst(const QString& search, const QString& record)
+bool AbsenceRecords::removeFirst(const Removal& removal)
 {
     // Searched for first: whoever may not remove records can still add one.
-    return runtime::during(searching(record), [&] { return !m_database.read(search).isEmpty(); }) &&
-           runtime::during(removing(record), [&] { return m_database.Db().deleteFirst(search); });
+    const db::Recordset found =
+        runtime::during(searching(removal.record), [&] { return m_database.read(removal.search); });
+    if (found.isEmpty()) {
+        return false;
+    }
+    return runtime::during(removing(removal.record), [&] {
+        // A name whose quotes are not its own may make the search find anybody's record.
+        if (!removal.isHeld &&
+            found.first().field(QStringLiteral("Classe")).toText() != removal.className) {
+            throw runtime::RunTimeError(
+                runtime::ErrorNumber::StatementRefused,
+                QStringLiteral("The record found belongs to another class."));
+        }
+        return m_database.Db().deleteFirst(removal.search);
+    });
 }
 
 void AbsenceRecords::Basculer_AbsClasse(Marqueur& marker, const QString& className)
 {
     ++m_toggles;
     const QString record = classRecordName(marker, className);
-    const bool removed = removeFirst(classSearch(marker, className), record);
+    const bool removed = removeFirst(
+        {classSearch(marker, className), record, className, holds({className, marker.Debut})});
     if (!removed) {
         runtime::during(adding(record), [&] { addClass(marker, className); });
     }
@@ -148,8 +173,9 @@ void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className
     ++m_toggles;
     const QString record = studentRecordName(marker, className);
     // Two blanks before "and", where the test has one: both find the same rows.
-    const bool removed = removeFirst(
-        studentSearch(marker, className, QStringLiteral("'  and Nom='") + name), record);
+    const bool removed =
+        removeFirst({studentSearch(marker, className, QStringLiteral("  and Nom="), name), record,
+                     className, holds({className, name, marker.Debut})});
     if (!removed) {
         runtime::during(adding(record), [&] { addStudent(marker, className, name); });
     }

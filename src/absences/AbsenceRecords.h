@@ -5,6 +5,7 @@
 #include "plan/Marqueur.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace absences
 {
@@ -13,8 +14,9 @@ namespace absences
 /// that were absent, `etud_abs` the students. A record is about one séance, found again by class,
 /// date and start time (and by name in `etud_abs`).
 ///
-/// Values stand between single quotes as they are: a class name that holds an apostrophe is refused
-/// by the database, and nothing is written.
+/// Values stand between single quotes as they are, unless quotes are doubled (the setting
+/// "Apostrophes"): a class name that holds an apostrophe is refused by the database, and nothing is
+/// written. Where the database does not refuse it, no record of another class is removed.
 class AbsenceRecords : public plan::AbsenceSource
 {
 public:
@@ -40,13 +42,23 @@ public:
     [[nodiscard]] int toggleCount() const { return m_toggles; }
 
 private:
+    [[nodiscard]] bool holds(const QStringList& names) const;
     [[nodiscard]] bool exists(const QString& search);
+    /// What a removal is about.
+    struct Removal {
+        QString search;
+        QString record;     ///< for the user
+        QString className;  ///< of the gesture
+        bool isHeld = true; ///< the search asks about these names and no others
+    };
     /// Removes the first record that the search finds. False when there is none, also when another
-    /// program has removed it meanwhile.
-    [[nodiscard]] bool removeFirst(const QString& search, const QString& record);
+    /// program has removed it meanwhile. Error: StatementRefused, too, for a record of a class that
+    /// is not the gesture's.
+    [[nodiscard]] bool removeFirst(const Removal& removal);
     [[nodiscard]] QString classSearch(const plan::Marqueur& marker, const QString& className) const;
+    /// `andName`: " and Nom=" with the blanks that belong to it.
     [[nodiscard]] QString studentSearch(const plan::Marqueur& marker, const QString& className,
-                                        const QString& nameCondition) const;
+                                        const QString& andName, const QString& name) const;
     void addClass(const plan::Marqueur& marker, const QString& className);
     void addStudent(const plan::Marqueur& marker, const QString& className, const QString& name);
 

@@ -16,8 +16,8 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 {
     m_togglesBefore = m_plain.toggleCount();
     m_date = questions.date;
-    m_classNames = db::plainLiterals(questions.classNames);
-    m_starts = db::plainLiterals(questions.starts);
+    m_classNames = m_database.dialect().held(questions.classNames);
+    m_starts = m_database.dialect().held(questions.starts);
     m_classesAsked = QSet<QString>(m_classNames.begin(), m_classNames.end());
     m_classes.reset();
     m_students.reset();
@@ -36,11 +36,12 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 /// has no name; what stands in that place is not looked at.
 QString PageAbsences::query(int kind) const
 {
-    const db::MatchMasks classes(QStringLiteral("Classe"), m_classNames);
-    const db::MatchMasks names(QStringLiteral("Nom"), m_classNames);
+    const db::SqlDialect dialect = m_database.dialect();
+    const db::MatchMasks classes(QStringLiteral("Classe"), m_classNames, dialect);
+    const db::MatchMasks names(QStringLiteral("Nom"), m_classNames, dialect);
     const bool ofClasses = kind == kClasses;
     const db::MatchMasks starts(ofClasses ? QStringLiteral("Debut") : QStringLiteral("HeureD"),
-                                m_starts);
+                                m_starts, dialect);
     QString nameMasks = names.selectList(QStringLiteral("tempora_n"));
     if (ofClasses) {
         nameMasks = QStringLiteral("0") + QStringLiteral(", 0").repeated(names.columnCount() - 1);
@@ -50,7 +51,7 @@ QString PageAbsences::query(int kind) const
     return QStringLiteral("Select ") + QString::number(kind) + QStringLiteral(" as tempora_t, ") +
            classes.selectList(QStringLiteral("tempora_c")) + QStringLiteral(", ") + nameMasks +
            QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) + table +
-           m_database.dialect().dateLiteral(m_date) + QStringLiteral(" and ") + classes.anyOf();
+           dialect.dateLiteral(m_date) + QStringLiteral(" and ") + classes.anyOf();
 }
 
 /// Fetches the records of these kinds; after a failure nothing is known of them.
@@ -108,7 +109,7 @@ bool PageAbsences::Existe_AbsClasse(const plan::Marqueur& marker, const QString&
     if (m_classes && isPrepared(marker, className)) {
         return m_classes->contains({className, marker.Debut});
     }
-    return m_tables[kClasses].ask(db::isPlainLiteral(className),
+    return m_tables[kClasses].ask(m_database.dialect().holds(className),
                                   [&] { return m_plain.Existe_AbsClasse(marker, className); });
 }
 
@@ -118,7 +119,8 @@ bool PageAbsences::Existe_AbsEtud(const plan::Marqueur& marker, const QString& c
     if (m_students && className == name && isPrepared(marker, className)) {
         return m_students->contains({className, marker.Debut});
     }
-    return m_tables[kStudents].ask(db::isPlainLiteral(className) && db::isPlainLiteral(name),
+    return m_tables[kStudents].ask(m_database.dialect().holds(className) &&
+                                       m_database.dialect().holds(name),
                                    [&] { return m_plain.Existe_AbsEtud(marker, className, name); });
 }
 

@@ -57,8 +57,8 @@ db::Recordset Periods::periodRow()
 {
     const QString name = runtime::trimBlanks(m_form.CbTranche.text());
     return runtime::during(QStringLiteral("Lecture de la période « %1 »").arg(name), [&] {
-        return m_database.read(
-            QStringLiteral("select * from tranche where Tranche='%1'").arg(name));
+        return m_database.read(QStringLiteral("select * from tranche where Tranche=") +
+                               m_database.dialect().literal(name));
     });
 }
 

@@ -31,7 +31,7 @@ QString RoomSet::departmentCondition() const
         return {};
     }
     const QString department = runtime::trimBlanks(m_form.Combo1.text());
-    return QStringLiteral("  ( Département='") + department + u'\'' +
+    return QStringLiteral("  ( Département=") + m_database.dialect().literal(department) +
            (m_form.Chk_Neutre.isChecked() ? QStringLiteral(" or  ISNULL(Département)) ")
                                           : QStringLiteral(")"));
 }

@@ -31,15 +31,15 @@ db::Recordset StartReads::roomsByName(const QString& zone)
 
 db::Recordset StartReads::slotWithKey(const QString& key)
 {
-    return m_database.Db().open(
-        QStringLiteral("select * from seances  where Seance='%1'").arg(key));
+    return m_database.Db().open(QStringLiteral("select * from seances  where Seance=") +
+                                m_database.dialect().literal(key));
 }
 
 std::vector<std::optional<db::Recordset>> StartReads::slotsAtOnce(const QStringList& keys)
 {
     std::vector<std::optional<db::Recordset>> found(static_cast<std::size_t>(keys.size()));
     runtime::skipOnError([&] {
-        const db::MatchMasks masks(QStringLiteral("Seance"), keys);
+        const db::MatchMasks masks(QStringLiteral("Seance"), keys, m_database.dialect());
         const db::Recordset all = m_database.Db().open(
             QStringLiteral("select ") + masks.selectList(QStringLiteral("tempora_k")) +
             QStringLiteral(", seances.* from seances where ") + masks.anyOf());

@@ -36,7 +36,10 @@ public:
     Database(bool useMySql, Patience patience) : m_bySetting(useMySql), m_patience(patience) {}
 
     /// Chooses the database kind by the setting, before the connection is opened.
-    void setUseMySql(bool useMySql) { m_bySetting = SqlDialect(useMySql); }
+    void setKind(bool useMySql, SqlDialect::Quotes quotes)
+    {
+        m_bySetting = SqlDialect(useMySql, quotes);
+    }
     /// Error: DatabaseFailure.
     void open(const QString& connectString);
     /// Closes for good: nothing brings the connection back.

@@ -62,11 +62,12 @@ MariaDbProduct::Server MariaDbProduct::serverBehind(const ConnectionHandle& conn
     Server server;
     runtime::skipOnError([&] {
         StatementHandle statement(connection);
-        statement.execute(
-            QStringLiteral("select concat_ws(' ', @@character_set_results, @@version)"));
+        statement.execute(QStringLiteral(
+            "select concat_ws(' ', @@character_set_results, @@version, @@sql_mode)"));
         if (statement.fetch()) {
             const QString answer = ResultReader(statement).readText(1).toJoinedText();
             server.sendsUtf8 = answer.startsWith(u"utf8"); // utf8, utf8mb3, utf8mb4
+            server.backslashEscapes = !answer.contains(u"NO_BACKSLASH_ESCAPES");
             server.isMariaDb = answer.contains(u"mariadb", Qt::CaseInsensitive);
         }
     });
@@ -104,9 +105,9 @@ Failure MariaDbProduct::failureOf(const Diagnostics& diagnostics) const
     }
 }
 
-SqlDialect MariaDbProduct::dialect(const SqlDialect& /*bySetting*/) const
+SqlDialect MariaDbProduct::dialect(const SqlDialect& bySetting) const
 {
-    return SqlDialect(true);
+    return bySetting.ofMySql(m_server.backslashEscapes);
 }
 
 bool MariaDbProduct::deleteFirst(const QString& sql, Session& session) const

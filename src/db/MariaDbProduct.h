@@ -16,7 +16,8 @@ public:
         /// The bytes in which it sends texts are UTF-8. The driver spends most of a fetch on
         /// turning them into UTF-16, text by text.
         bool sendsUtf8 = false;
-        bool isMariaDb = false; ///< and not MySQL, whatever the driver
+        bool isMariaDb = false;       ///< and not MySQL, whatever the driver
+        bool backslashEscapes = true; ///< within a literal, as it does unless told otherwise
     };
 
     explicit MariaDbProduct(const Server& server) : m_server(server) {}

@@ -13,13 +13,6 @@ constexpr int kBits = 30;
 // Characters of a text's question around its column and the text itself, at most.
 constexpr qsizetype kAround = 20;
 
-void appendQuoted(QString& sql, const QString& text)
-{
-    sql += u'\'';
-    sql += text;
-    sql += u'\'';
-}
-
 /// Characters that a list takes which names every text, and the column with each.
 qsizetype lengthOfList(const QString& column, const QStringList& texts)
 {
@@ -32,8 +25,8 @@ qsizetype lengthOfList(const QString& column, const QStringList& texts)
 
 } // namespace
 
-MatchMasks::MatchMasks(QString column, QStringList texts)
-    : m_column(std::move(column)), m_texts(std::move(texts))
+MatchMasks::MatchMasks(QString column, QStringList texts, const SqlDialect& dialect)
+    : m_column(std::move(column)), m_texts(std::move(texts)), m_dialect(dialect)
 {
 }
 
@@ -56,7 +49,7 @@ QString MatchMasks::selectList(const QString& alias) const
             sql += index == first ? QStringLiteral("(") : QStringLiteral("+(");
             sql += m_column;
             sql += u'=';
-            appendQuoted(sql, m_texts[index]);
+            sql += m_dialect.literal(m_texts[index]);
             sql += QStringLiteral(")*");
             sql += QString::number(1 << (index - first));
         }
@@ -77,7 +70,7 @@ QString MatchMasks::anyOf() const
     sql += m_column;
     sql += QStringLiteral(" in (");
     for (const QString& text : m_texts) {
-        appendQuoted(sql, text);
+        sql += m_dialect.literal(text);
         sql += u',';
     }
     sql.back() = u')';
@@ -96,21 +89,6 @@ std::vector<int> MatchMasks::matches(const Row& row, int firstColumn) const
         }
     }
     return found;
-}
-
-bool isPlainLiteral(const QString& text)
-{
-    return std::none_of(text.begin(), text.end(), [](QChar character) {
-        return character == u'\'' || character == u'\\' || character == u'\0';
-    });
-}
-
-QStringList plainLiterals(const QStringList& texts)
-{
-    QStringList plain = texts;
-    plain.removeIf([](const QString& text) { return !isPlainLiteral(text); });
-    plain.removeDuplicates();
-    return plain;
 }
 
 } // namespace db

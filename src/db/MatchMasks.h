@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Recordset.h"
+#include "db/SqlDialect.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,8 +18,8 @@ namespace db
 class MatchMasks
 {
 public:
-    /// `texts` are plain literals (see isPlainLiteral).
-    MatchMasks(QString column, QStringList texts);
+    /// The dialect holds the texts (SqlDialect::holds).
+    MatchMasks(QString column, QStringList texts, const SqlDialect& dialect = SqlDialect(false));
 
     [[nodiscard]] const QStringList& texts() const { return m_texts; }
     /// How many columns `selectList` makes.
@@ -35,13 +36,7 @@ public:
 private:
     QString m_column;
     QStringList m_texts;
+    SqlDialect m_dialect;
 };
-
-/// Whether a text can stand between single quotes as it is, in every dialect: no quote ends it and
-/// no backslash hides one.
-[[nodiscard]] bool isPlainLiteral(const QString& text);
-
-/// The texts that are plain literals, each once, in their order.
-[[nodiscard]] QStringList plainLiterals(const QStringList& texts);
 
 } // namespace db

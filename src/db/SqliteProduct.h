@@ -16,6 +16,11 @@ public:
     [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
     [[nodiscard]] Failure failureOf(const Diagnostics& diagnostics) const override;
 
+    /// That of the setting, whose literals are adapted; a backslash is one.
+    [[nodiscard]] SqlDialect dialect(const SqlDialect& bySetting) const override
+    {
+        return bySetting.withoutBackslashes();
+    }
     [[nodiscard]] QString adapted(const QString& sql) const override;
     /// By the row's identity, which every row has: the driver cannot delete through a cursor.
     /// Error: DatabaseFailure when other programs go on deleting what was found.

@@ -61,7 +61,7 @@ lookup::PageReads::Upkeep Engine::upkeep()
     lookup::PageReads::Upkeep upkeep;
     upkeep.revive = [this] { m_database->revive(); };
     upkeep.renew = [this] { m_database->renew(); };
-    upkeep.holds = [](const QString& name) { return db::isPlainLiteral(name); };
+    upkeep.holds = [this](const QString& name) { return m_database->dialect().holds(name); };
     return upkeep;
 }
 
@@ -81,9 +81,10 @@ long long Engine::statementCount() const
     return m_database->statementCount();
 }
 
-void Engine::setUseMySql(bool useMySql)
+void Engine::chooseDatabase(bool useMySql, bool doublesQuotes)
 {
-    m_database->setUseMySql(useMySql);
+    m_database->setKind(useMySql, doublesQuotes ? db::SqlDialect::Quotes::Doubled
+                                                : db::SqlDialect::Quotes::AsTheyStand);
     m_state.form.ImgSql.visible = useMySql;
     m_state.form.ImgAccess.visible = !useMySql;
 }

@@ -66,8 +66,8 @@ public:
 
     // Steps of start-up, in their order.
 
-    /// `useMySql` is the setting "Mysql".
-    void setUseMySql(bool useMySql);
+    /// `useMySql` is the setting "Mysql", `doublesQuotes` is "Apostrophes".
+    void chooseDatabase(bool useMySql, bool doublesQuotes = false);
     void openDatabase(const QString& connectString) { m_database->open(connectString); }
     void loadPalette(const QString& path) { m_palette.Charger_Palette(path); }
     /// Fits the boxes to what they show and to the rooms per page.

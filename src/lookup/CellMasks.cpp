@@ -8,15 +8,16 @@
 namespace lookup
 {
 
-CellMasks::CellMasks(RoomQuestion::Table table, QStringList rooms, QStringList keys)
-    : m_rooms(std::move(rooms)), m_keyMasks(timetable::column::kSeance, std::move(keys))
+CellMasks::CellMasks(RoomQuestion::Table table, QStringList rooms, QStringList keys,
+                     const db::SqlDialect& dialect)
+    : m_rooms(std::move(rooms)), m_keyMasks(timetable::column::kSeance, std::move(keys), dialect)
 {
     for (const QString& column : RoomQuestion::roomColumns(table)) {
         QStringList names = m_rooms;
         if (column != timetable::column::kSalle) {
             names.removeAll(QString()); // without a name only `Salle` is asked about
         }
-        m_roomMasks.emplace_back(column, names);
+        m_roomMasks.emplace_back(column, names, dialect);
     }
 }
 

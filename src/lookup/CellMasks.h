@@ -16,8 +16,10 @@ namespace lookup
 class CellMasks
 {
 public:
-    /// Rooms and keys are plain literals, each once. A room without a name comes last, if at all.
-    CellMasks(RoomQuestion::Table table, QStringList rooms, QStringList keys);
+    /// The dialect holds rooms and keys (db::SqlDialect::holds), each of which comes once. A room
+    /// without a name comes last, if at all.
+    CellMasks(RoomQuestion::Table table, QStringList rooms, QStringList keys,
+              const db::SqlDialect& dialect);
 
     /// The mask columns, separated by commas.
     [[nodiscard]] QString selectList() const;

@@ -125,7 +125,7 @@ std::map<RoomQuestion::Table, PageCells> fetchPageCells(db::Database& database,
     std::vector<Crowded> crowded;
     for (const RoomQuestion& page : pages) {
         db::skipWhenRefused([&] {
-            const CellMasks masks(page.table, rooms, keys);
+            const CellMasks masks(page.table, rooms, keys, database.dialect());
             const QString condition =
                 u' ' + masks.condition() + page.periodCondition(database.dialect());
             PageCells cells = masks.sorted(

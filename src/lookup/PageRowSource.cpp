@@ -81,7 +81,7 @@ PageFacts PageRowSource::prepare(const PageQuestions& questions)
     m_students = {};
     m_classes = {};
     fetchTimetable();
-    const QStringList classNames = db::plainLiterals(allClasses());
+    const QStringList classNames = m_database.dialect().held(allClasses());
     if (!classNames.isEmpty()) {
         if (!db::skipWhenRefused([&] { fetchStudents(classNames); })) {
             m_students.suspect();
@@ -95,8 +95,8 @@ PageFacts PageRowSource::prepare(const PageQuestions& questions)
 
 void PageRowSource::fetchTimetable()
 {
-    const QStringList rooms = db::plainLiterals(m_questions.rooms);
-    const QStringList keys = db::plainLiterals(m_questions.seanceKeys);
+    const QStringList rooms = m_database.dialect().held(m_questions.rooms);
+    const QStringList keys = m_database.dialect().held(m_questions.seanceKeys);
     if (rooms.isEmpty() || keys.isEmpty()) {
         return;
     }
@@ -118,7 +118,7 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
     // spelt here equals that group and no other.
     const db::Recordset groups = m_database.Db().open(
         QStringLiteral("Select classe as v, count(*) as n from etudiant WHERE ") +
-        db::MatchMasks(QStringLiteral("classe"), classNames).anyOf() +
+        db::MatchMasks(QStringLiteral("classe"), classNames, m_database.dialect()).anyOf() +
         QStringLiteral(" group by classe"));
     QHash<QString, int> rows;
     rows.reserve(classNames.size());
@@ -131,7 +131,8 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
     const QStringList others = unanswered(classNames, rows);
     QStringList statements;
     for (const QString& name : others) {
-        statements << QStringLiteral("count(*) as n from etudiant WHERE classe='") + name + u'\'';
+        statements << QStringLiteral("count(*) as n from etudiant WHERE classe=") +
+                          m_database.dialect().literal(name);
     }
     const std::vector<db::Recordset> counts = m_database.Db().openJoined(statements);
     for (std::size_t index = 0; index < counts.size(); ++index) {
@@ -147,7 +148,7 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
     const db::Recordset groups = m_database.Db().open(
         QStringLiteral("select Nom as v, count(*) as n, min(Capacite) as Capacite from classe "
                        "Where ") +
-        db::MatchMasks(QStringLiteral("Nom"), classNames).anyOf() +
+        db::MatchMasks(QStringLiteral("Nom"), classNames, m_database.dialect()).anyOf() +
         QStringLiteral(" group by Nom"));
     m_classRows.reserve(classNames.size());
     for (const db::Row& group : groups.rows()) {
@@ -161,7 +162,8 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
     const QStringList others = unanswered(classNames, m_classRows);
     QStringList statements;
     for (const QString& name : others) {
-        statements << QStringLiteral("classe.* from classe Where Nom='") + name + u'\'';
+        statements << QStringLiteral("classe.* from classe Where Nom=") +
+                          m_database.dialect().literal(name);
     }
     const std::vector<db::Recordset> found = m_database.Db().openJoined(statements);
     for (std::size_t index = 0; index < found.size(); ++index) {
@@ -213,7 +215,7 @@ db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
             return *rows;
         }
     }
-    return m_tables[question.table].ask(db::isPlainLiteral(question.room),
+    return m_tables[question.table].ask(m_database.dialect().holds(question.room),
                                         [&] { return m_plain.timetableRows(question); });
 }
 
@@ -223,7 +225,7 @@ int PageRowSource::studentRows(const QString& className)
     if (rows != m_studentRows.constEnd()) {
         return *rows;
     }
-    return m_students.ask(db::isPlainLiteral(className),
+    return m_students.ask(m_database.dialect().holds(className),
                           [&] { return m_plain.studentRows(className); });
 }
 
@@ -233,7 +235,7 @@ db::Recordset PageRowSource::classRows(const QString& className)
     if (rows != m_classRows.constEnd()) {
         return *rows;
     }
-    return m_classes.ask(db::isPlainLiteral(className),
+    return m_classes.ask(m_database.dialect().holds(className),
                          [&] { return m_plain.classRows(className); });
 }
 

@@ -16,9 +16,9 @@ QStringList RoomQuestion::roomColumns(Table table)
                : QStringList(column::kRooms.begin(), column::kRooms.end());
 }
 
-QString RoomQuestion::roomCondition() const
+QString RoomQuestion::roomCondition(const db::SqlDialect& dialect) const
 {
-    const QString asked = u'\'' + room + u'\'';
+    const QString asked = dialect.literal(room);
     QString condition = QStringLiteral(" ( ") + column::kSalle + QStringLiteral(" = ") + asked;
     if (table != Table::examen && !room.isEmpty()) {
         for (const QString& further : roomColumns(table).mid(1)) {
@@ -60,13 +60,13 @@ QString RoomQuestion::periodCondition(const db::SqlDialect& dialect) const
 
 QString RoomQuestion::slotCondition(const db::SqlDialect& dialect) const
 {
-    return u' ' + QString(column::kSeance) + QStringLiteral(" = '") + seanceKey + u'\'' +
+    return u' ' + QString(column::kSeance) + QStringLiteral(" = ") + dialect.literal(seanceKey) +
            periodCondition(dialect);
 }
 
 db::NarrowQuery RoomQuestion::narrowQuery(const db::SqlDialect& dialect) const
 {
-    return {roomCondition(), slotCondition(dialect)};
+    return {roomCondition(dialect), slotCondition(dialect)};
 }
 
 QString RoomQuestion::condition(const db::SqlDialect& dialect) const

@@ -29,7 +29,7 @@ struct RoomQuestion {
     [[nodiscard]] static QStringList roomColumns(Table table);
     /// The condition on the room. A course can hold six rooms, an exam only `Salle`; without a
     /// room name the short form serves everywhere.
-    [[nodiscard]] QString roomCondition() const;
+    [[nodiscard]] QString roomCondition(const db::SqlDialect& dialect) const;
     [[nodiscard]] QString tableName() const;
     /// The conditions that all questions of a page share; starts with " and".
     [[nodiscard]] QString periodCondition(const db::SqlDialect& dialect) const;

@@ -64,7 +64,10 @@ void Shell::chooseDatabase()
     const bool useMySql =
         converted(QStringLiteral("Mysql"),
                   setting(QStringLiteral("Mysql"), QStringLiteral("False")), runtime::toBoolean);
-    m_engine.setUseMySql(useMySql);
+    const bool doublesQuotes = converted(
+        QStringLiteral("Apostrophes"),
+        setting(QStringLiteral("Apostrophes"), QStringLiteral("False")), runtime::toBoolean);
+    m_engine.chooseDatabase(useMySql, doublesQuotes);
     m_choice = shell::chooseDatabase(m_settings, useMySql, m_applicationFolder);
 }
 

@@ -63,7 +63,7 @@ MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<
                        const QString& preparation)
     : m_engine(surroundings(), {&m_rooms, nullptr})
 {
-    m_engine.setUseMySql(useMySql);
+    m_engine.chooseDatabase(useMySql);
     m_engine.openDatabase(connectString);
     if (!preparation.isEmpty()) {
         m_engine.database().execute(preparation);

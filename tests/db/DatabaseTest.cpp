@@ -45,9 +45,9 @@ TEST(ADatabaseThatIsNotOpen, hasTheDialectOfTheSetting)
 {
     Database database;
     EXPECT_EQ(database.dialect().SqlDateFormat(), QStringLiteral("mm/dd/yy"));
-    database.setUseMySql(true);
+    database.setKind(true, SqlDialect::Quotes::AsTheyStand);
     EXPECT_EQ(database.dialect().SqlDateFormat(), QStringLiteral("yyyy/mm/dd"));
-    database.setUseMySql(false);
+    database.setKind(false, SqlDialect::Quotes::AsTheyStand);
     EXPECT_EQ(database.dialect().SqlDateDelimiter(), QStringLiteral("#"));
     EXPECT_EQ(Database(true).dialect().SqlDateDelimiter(), QStringLiteral("'"));
 }

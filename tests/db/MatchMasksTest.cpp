@@ -51,10 +51,20 @@ TEST(MatchMasks, findNothingWithoutTexts)
     EXPECT_EQ(MatchMasks(QStringLiteral("Salle"), {}).anyOf(), QStringLiteral("1=0"));
 }
 
-TEST(PlainLiterals, holdNeitherQuotesNorBackslashes)
+TEST_P(Masks, findNamesWithQuotesAndBackslashesWhereQuotesAreDoubled)
 {
-    EXPECT_EQ(plainLiterals({"A", "O'Brien", "B\\2", "A", "", "é \"x\" %1"}),
-              QStringList({"A", "", "é \"x\" %1"}));
+    database().execute("create table t (n integer, r varchar(20))");
+    const QStringList names{"l'oral", "a\\b", "x' or '1'='1", "C"};
+    for (int name = 0; name < names.size(); ++name) {
+        connection().insert(QStringLiteral("t"), {{QStringLiteral("n"), Value(std::int64_t{name})},
+                                                  {QStringLiteral("r"), Value(names[name])}});
+    }
+    const SqlDialect dialect =
+        Connection(database().connectString(),
+                   SqlDialect(database().usesMySql(), SqlDialect::Quotes::Doubled))
+            .dialect();
+    EXPECT_EQ(matches(MatchMasks(QStringLiteral("r"), names, dialect)),
+              std::vector<std::vector<int>>({{0}, {1}, {2}, {3}}));
 }
 
 TEST_P(Masks, tellTheTextsOnBothSidesOfAColumnsEnd)

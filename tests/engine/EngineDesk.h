@@ -20,7 +20,7 @@ public:
                         const QString& through = {})
         : engine(surroundings(plain))
     {
-        engine.setUseMySql(database.usesMySql());
+        engine.chooseDatabase(database.usesMySql());
         form.Combo10.design({"1ère Sem. d'Examen", "2ème Sem. d'Examen", "Sem. de Contrôle"}, 0);
         engine.state().colors.fillRandomly();
         for (form::CheckBox* box : {&form.XOpCl, &form.XOpEns, &form.XpMat}) {

@@ -27,7 +27,7 @@ protected:
     [[nodiscard]] QStringList classes(const QStringList& rooms)
     {
         const QStringList keys{"Lundi1", "Lundi2"};
-        const CellMasks masks(RoomQuestion::Table::emplois, rooms, keys);
+        const CellMasks masks(RoomQuestion::Table::emplois, rooms, keys, db::SqlDialect(false));
         db::Connection connection(database().connectString());
         const PageCells cells = masks.sorted(
             connection.open("select " + masks.selectList() + ", emplois.* from emplois where " +
@@ -75,7 +75,7 @@ TEMPORA_ON_BOTH_DATABASES(TheMasksOfCells);
 
 TEST(TheMasksOfExams, askForTheFirstColumnAlone)
 {
-    const CellMasks masks(RoomQuestion::Table::examen, {"A"}, {"Lundi1"});
+    const CellMasks masks(RoomQuestion::Table::examen, {"A"}, {"Lundi1"}, db::SqlDialect(false));
     EXPECT_EQ(masks.condition(), QStringLiteral("(Salle in ('A')) and Seance in ('Lundi1')"));
     EXPECT_EQ(masks.selectList(),
               QStringLiteral("case when Seance is null then 0 else (Seance='Lundi1')*1 end as "
