@@ -1,5 +1,7 @@
 #include "app/ErrorReport.h"
 
+#include "app/PlainTexts.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <cstdio>
@@ -35,7 +37,7 @@ void reportRunTimeError(QWidget* parent, const runtime::RunTimeError& error)
         QGuiApplication::platformName() != u"offscreen") {
         QMessageBox box(QMessageBox::Critical, QStringLiteral("Tempora"), error.message(),
                         QMessageBox::Ok, parent);
-        box.setTextFormat(Qt::PlainText); // the text may quote data
+        showPlainly(box); // the text may quote data
         box.setObjectName(QStringLiteral("RunTimeError"));
         box.exec();
     }

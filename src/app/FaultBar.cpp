@@ -1,21 +1,21 @@
 #include "app/FaultBar.h"
 
+#include "app/PlainTexts.h"
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QTextDocument>
 #include <QToolButton>
 #include <utility>
 
 namespace app
 {
 
-FaultBar::FaultBar(std::function<void()> retry) : m_text(new QLabel)
+FaultBar::FaultBar(std::function<void()> retry) : m_text(plainLabel())
 {
     setObjectName(QStringLiteral("FaultBar"));
     setAttribute(Qt::WA_StyledBackground);
     m_text->setObjectName(QStringLiteral("FaultText"));
-    m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     auto* again = new QToolButton;
     again->setObjectName(QStringLiteral("Retry"));
@@ -34,7 +34,7 @@ void FaultBar::tell(const QString& sentence, const QString& details)
 {
     const bool isNew = sentence != m_text->text();
     m_text->setText(sentence);
-    m_text->setToolTip(Qt::convertFromPlainText(details));
+    setPlainToolTip(m_text, details);
     setVisible(!sentence.isEmpty());
     if (isNew && !sentence.isEmpty()) {
         QAccessibleEvent alert(m_text, QAccessible::Alert);

@@ -1,6 +1,7 @@
 #include "app/HeaderBand.h"
 
 #include "app/FormMirror.h"
+#include "app/PlainTexts.h"
 #include "engine/Engine.h"
 
 #include <QHBoxLayout>
@@ -15,10 +16,9 @@ namespace
 
 QLabel* label(const QString& name, const QString& role)
 {
-    auto* label = new QLabel;
+    auto* label = plainLabel();
     label->setObjectName(name);
     label->setProperty("role", role);
-    label->setTextFormat(Qt::PlainText);
     return label;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/DateField.h"
 #include "app/FormMirror.h"
+#include "app/PlainTexts.h"
 #include "engine/Engine.h"
 
 #include <QAbstractItemView>
@@ -39,7 +40,7 @@ public:
     {
         auto* widget = new Widget;
         widget->setObjectName(QString::fromLatin1(name));
-        widget->setToolTip(toolTip);
+        setPlainToolTip(widget, toolTip);
         m_mirror.bind(widget, control);
         return widget;
     }
@@ -64,11 +65,8 @@ public:
         widget->setMinimumContentsLength(minimumCharacters);
         m_mirror.follow([widget, accessibleName, &control] {
             const QString text = control.text();
-            const QString toolTip =
-                text.isEmpty() ? accessibleName : accessibleName + QStringLiteral(" : ") + text;
-            if (widget->toolTip() != toolTip) {
-                widget->setToolTip(toolTip);
-            }
+            setPlainToolTip(widget, text.isEmpty() ? accessibleName
+                                                   : accessibleName + QStringLiteral(" : ") + text);
         });
         return widget;
     }
@@ -189,7 +187,7 @@ void addBoxPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 void addRoomPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Salles"), 1);
-    auto* caption = new QLabel(QStringLiteral("Zone"));
+    auto* caption = plainLabel(QStringLiteral("Zone"));
     auto* zone = make.list("cb_Locaux", form.cb_Locaux,
                            QStringLiteral("Zone des salles ; 0 pour toutes"), 3);
     caption->setBuddy(zone);
@@ -208,7 +206,7 @@ void addRoomPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 void addPagePanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Page"));
-    auto* caption = new QLabel(QStringLiteral("Lignes/Page : "));
+    auto* caption = plainLabel(QStringLiteral("Lignes/Page : "));
     auto* lines = make.add<QSpinBox>("Total_L_P", form.Total_L_P,
                                      QStringLiteral("Nombre de salles par page, 29 au plus"));
     const QSignalBlocker quiet(lines);
@@ -258,8 +256,8 @@ void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror,
     auto* row = new QGridLayout(frame);
     row->setContentsMargins(0, 0, 0, 0);
     row->setVerticalSpacing(1);
-    row->addWidget(new QLabel(form.Frame1.caption), 0, 0);
-    auto* name = new QLabel;
+    row->addWidget(plainLabel(form.Frame1.caption), 0, 0);
+    auto* name = plainLabel();
     name->setObjectName(QStringLiteral("Label5"));
     name->setProperty("role", QStringLiteral("strong"));
     mirror.bind(name, form.Label5);

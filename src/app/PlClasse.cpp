@@ -6,6 +6,7 @@
 #include "app/HeaderBand.h"
 #include "app/HelpWindow.h"
 #include "app/OptionPanels.h"
+#include "app/PlainTexts.h"
 #include "app/PlanView.h"
 #include "app/WindowStyle.h"
 #include "plan/FaultWords.h"
@@ -60,7 +61,7 @@ engine::Surroundings PlClasse::tieToWindow(engine::Surroundings surroundings)
     surroundings.processEvents = [this] { processEvents(); };
     surroundings.showMessage = [this](const QString& title, const QString& text) {
         QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, this);
-        box.setTextFormat(Qt::PlainText);
+        showPlainly(box);
         box.exec();
     };
     surroundings.openFile = [this](const QString& startFolder, const QString& filter) {
@@ -100,16 +101,15 @@ void PlClasse::buildContent()
 void PlClasse::buildStatusBar()
 {
     const auto add = [this](const QString& name, const QString& text) {
-        auto* label = new QLabel(text);
+        auto* label = plainLabel(text);
         label->setObjectName(name);
         statusBar()->addPermanentWidget(label);
         return label;
     };
     form::PlanForm& form = m_shell.form();
     const auto follow = [this](const QString& name, QString (PlClasse::*text)() const) {
-        auto* label = new QLabel;
+        auto* label = plainLabel();
         label->setObjectName(name);
-        label->setTextFormat(Qt::PlainText);
         statusBar()->addWidget(label);
         m_mirror.follow([this, label, text] { label->setText((this->*text)()); });
         return label;

@@ -1,6 +1,7 @@
 #include "app/PlanView.h"
 
 #include "absences/MarkerToolTips.h"
+#include "app/PlainTexts.h"
 #include "app/PlanAccess.h"
 #include "app/PlanHit.h"
 #include "app/PlanToolTips.h"
@@ -14,7 +15,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -292,7 +292,7 @@ bool PlanView::viewportEvent(QEvent* event)
         if (text.isEmpty()) {
             QToolTip::hideText();
         } else {
-            QToolTip::showText(help.globalPos(), Qt::convertFromPlainText(text), viewport());
+            QToolTip::showText(help.globalPos(), plainToolTip(text), viewport());
         }
         return true;
     }

@@ -1,5 +1,6 @@
 #include "app/Printing.h"
 
+#include "app/PlainTexts.h"
 #include "engine/Engine.h"
 #include "files/WholeFile.h"
 #include "plan/FaultWords.h"
@@ -88,7 +89,7 @@ bool printIncomplete(QWidget* window, const QString& whatIsMissing)
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Tempora"), whatIsMissing,
                     QMessageBox::Cancel, window);
     box.setObjectName(QStringLiteral("PrintIncomplete"));
-    box.setTextFormat(Qt::PlainText);
+    showPlainly(box);
     const QAbstractButton* print =
         box.addButton(QStringLiteral("Imprimer tout de même"), QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
