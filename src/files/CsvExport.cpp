@@ -3,17 +3,54 @@
 #include "plan/BoxLines.h"
 #include "plan/ClassList.h"
 
+#include <QRegularExpression>
+
 namespace files
 {
 namespace
 {
 
-QString cellOf(QString text)
+/// Whether the character makes a formula of a cell that begins with it. Spreadsheets take wide
+/// forms for the signs themselves, and skip a tab or line end to find one.
+bool beginsFormulas(QChar character)
 {
-    static const QString formulaStarts = QStringLiteral("=+-@\t\r");
-    if (!text.isEmpty() && formulaStarts.contains(text.front())) {
-        text.prepend(u'\'');
+    static const QString signs = QStringLiteral("=+-@\t\r＝＋－＠");
+    return signs.contains(character);
+}
+
+/// Whether the sign there would begin a cell, if a spreadsheet cut the text at what stands before.
+/// Whoever opens the file may have told it any separator; letters, digits and apostrophes are none.
+bool mayBeginCell(const QString& text, qsizetype sign)
+{
+    if (sign == 0) {
+        return true;
     }
+    const QChar before = text.at(sign - 1);
+    if (before.isLetterOrNumber() || before.isMark() || before == u'\'' ||
+        before == text.at(sign)) {
+        return false;
+    }
+    // Everyday names stay as they are. "G1 - G2" leaves a sign alone, "J.-P. Martin" a sign and one
+    // letter at most: neither is a formula that does anything.
+    static const QRegularExpression harmless(QStringLiteral("^(?: [=+@-] |\\.-\\p{Lu}\\.)"));
+    return !harmless.match(text.mid(sign - 1, 4)).hasMatch();
+}
+
+QString withoutFormulas(const QString& text)
+{
+    QString safe;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (beginsFormulas(text.at(i)) && mayBeginCell(text, i)) {
+            safe += u'\'';
+        }
+        safe += text.at(i);
+    }
+    return safe;
+}
+
+QString cellOf(const QString& cell)
+{
+    QString text = withoutFormulas(cell);
     const bool quoted =
         text.contains(u';') || text.contains(u'"') || text.contains(u'\n') || text.contains(u'\r');
     return quoted ? u'"' + text.replace(u'"', QStringLiteral("\"\"")) + u'"' : text;

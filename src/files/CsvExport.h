@@ -13,7 +13,8 @@ namespace files
 [[nodiscard]] QByteArray planAsCsv(const PlanDocument& document);
 
 /// One line of such a file, its end included. What a spreadsheet would take for a formula is led
-/// by an apostrophe: nobody's name may become a program on somebody's machine.
+/// by an apostrophe, also inside a cell where another separator than ";" would begin one: nobody's
+/// name may become a program on somebody's machine.
 [[nodiscard]] QString csvLine(const QStringList& cells);
 
 } // namespace files

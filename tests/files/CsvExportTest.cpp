@@ -31,6 +31,37 @@ protected:
 
 TEMPORA_ON_BOTH_DATABASES(CsvExport);
 
+/// The cells that a spreadsheet makes of a line. Where quotes count, one at the beginning of a cell
+/// encloses it up to the next that is not doubled; what follows belongs to the cell as it stands.
+QStringList piecesOf(const QString& line, QChar separator, bool quotesCount)
+{
+    QStringList pieces{QString()};
+    bool atStart = true;
+    bool enclosed = false;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        const QChar c = line.at(i);
+        if (enclosed && c == u'"' && i + 1 < line.size() && line.at(i + 1) == u'"') {
+            pieces.last() += line.at(++i);
+        } else if (quotesCount && c == u'"' && (atStart || enclosed)) {
+            enclosed = !enclosed;
+        } else if (c == separator && !enclosed) {
+            pieces << QString();
+            atStart = true;
+            continue;
+        } else {
+            pieces.last() += c;
+        }
+        atStart = false;
+    }
+    return pieces;
+}
+
+/// A sign alone is none, and neither is the hyphen of initials.
+bool isFormula(const QString& cell)
+{
+    return cell.size() > 1 && QStringLiteral("=+-@\t\r").contains(cell.front()) && cell != "-P";
+}
+
 } // namespace
 
 TEST_P(CsvExport, namesItsColumns)
@@ -89,6 +120,56 @@ TEST(CsvLine, quotesWhatNeedsIt)
 TEST(CsvLine, makesFormulasHarmless)
 {
     EXPECT_EQ(csvLine({"=1+1", "+33", "-5", "@SUM(A1)"}), "'=1+1;'+33;'-5;'@SUM(A1)\r\n");
-    EXPECT_EQ(csvLine({"\t=1", "=A1;\"x\""}), "'\t=1;\"'=A1;\"\"x\"\"\"\r\n");
-    EXPECT_EQ(csvLine({"a=1", " -", "1-2"}), "a=1; -;1-2\r\n");
+    EXPECT_EQ(csvLine({"\tx", "\rx", "＝1", "=A1;\"x\""}),
+              "'\tx;\"'\rx\";'＝1;\"'=A1;\"\"x\"\"\"\r\n");
+    EXPECT_EQ(csvLine({"\t=1", "'=1"}), "'\t'=1;'=1\r\n");
+}
+
+TEST(CsvLine, makesWhatWouldBeAFormulaBehindAnotherSeparatorHarmlessToo)
+{
+    EXPECT_EQ(csvLine({"a,=1", "b\t+1", "c|-1", "d @1", "e/=1", "f:=1", "g(=1"}),
+              "a,'=1;b\t'+1;c|'-1;d '@1;e/'=1;f:'=1;g('=1\r\n");
+    EXPECT_EQ(csvLine({"a;=1", "b\n=1", "c\"=1", " -"}),
+              "\"a;'=1\";\"b\n'=1\";\"c\"\"'=1\"; '-\r\n");
+    EXPECT_EQ(csvLine({"A.=1", "A.-1", "A.-B1", "=-1"}), "A.'=1;A.'-1;A.'-B1;'='-1\r\n");
+}
+
+TEST(CsvLine, leavesNamesAsTheyAre)
+{
+    const QString names = "G1, Dupont/Durand, [Algèbre];J.-P. Martin;Jean-Pierre;G1 - G2;"
+                          "[Chimie] = G3;Amphi 1+2;a@b;A--B;17/03/2025;8h30;l’été";
+    EXPECT_EQ(csvLine(names.split(u';')), names + "\r\n");
+}
+
+TEST(CsvLine, hasNoFormulaWhateverTheSeparator)
+{
+    QString separators = QString(QChar(u'\t')) + QChar(QChar::Nbsp) + "«»“”’–—·§€°";
+    for (char16_t c = u' '; c < 0x7f; ++c) {
+        // No letter or digit ends a cell; and no apostrophe where it is what makes a text of one.
+        if (!QChar(c).isLetterOrNumber() && c != u'\'') {
+            separators += QChar(c);
+        }
+    }
+    QStringList cells;
+    for (const QChar before : separators) {
+        for (const QChar sign : QStringLiteral("=+-@\t\r")) {
+            for (const char* behind : {"1", "A1+1", " A1", "P.", "\"", ""}) {
+                cells << QString("x") + before + sign + behind;
+                cells << QString(before) + sign + behind;
+                cells << QString("x,\"") + before + sign + behind + "\"";
+            }
+        }
+    }
+    for (const QString& cell : cells) {
+        const QString line = csvLine({"17/03/2025", cell, cell}).chopped(2);
+        for (const QChar separator : separators) {
+            for (const bool quotesCount : {false, true}) {
+                for (const QString& piece : piecesOf(line, separator, quotesCount)) {
+                    EXPECT_FALSE(isFormula(piece))
+                        << line.toStdString() << " at " << QString(separator).toStdString() << ": "
+                        << piece.toStdString();
+                }
+            }
+        }
+    }
 }
