@@ -2,10 +2,12 @@
 
 #include "runtime/RunTimeError.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringList>
+#include <QTemporaryFile>
 
 namespace shell
 {
@@ -32,6 +34,19 @@ std::unique_ptr<QSettings> openPerUser()
 QString path(const QString& key)
 {
     return QStringLiteral("Settings/") + key;
+}
+
+/// Makes the file where there is none, for its owner alone: the store would make one that all may
+/// read, and a connection string, with its password, may come to stand in it. The store keeps the
+/// rights of a file that it finds. What fails here fails again when the store saves, and is told.
+void makeForOwnerAlone(const QString& path)
+{
+    const QFileInfo there(path);
+    if (there.exists() || there.isSymLink() || !QDir().mkpath(there.path())) {
+        return;
+    }
+    QTemporaryFile file(path + QStringLiteral(".XXXXXX")); // always its owner's alone
+    file.setAutoRemove(!(file.open() && file.rename(path)));
 }
 
 /// The files that the store is made of, for a message.
@@ -79,6 +94,9 @@ QString Settings::get(const QString& key, const QString& fallback) const
 
 void Settings::save(const QString& key, const QString& value)
 {
+    if (m_store->format() == QSettings::IniFormat) {
+        makeForOwnerAlone(m_store->fileName());
+    }
     m_store->setValue(path(key), value);
     m_store->sync();
     check(QStringLiteral("Enregistrement des paramètres"));

@@ -24,6 +24,7 @@ public:
     Settings& operator=(Settings&&) noexcept;
 
     [[nodiscard]] QString get(const QString& key, const QString& fallback) const;
+    /// A file that is not there yet is made for its owner alone; another one keeps its rights.
     /// Error: PathFileAccess when the store cannot be written.
     void save(const QString& key, const QString& value);
 

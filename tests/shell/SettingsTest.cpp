@@ -5,7 +5,12 @@
 #include "support/TestFolder.h"
 #include "support/WithoutPrivileges.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <filesystem>
+#include <sys/stat.h>
 
 using namespace test;
 using runtime::ErrorNumber;
@@ -20,6 +25,12 @@ QString settingsFile(const QString& text)
     const QString path = processFolder() + "/settings-test.ini";
     writeFile(path, text);
     return path;
+}
+
+/// Who may do what with a file, as its nine bits.
+unsigned rightsOf(const QString& path)
+{
+    return static_cast<unsigned>(std::filesystem::status(path.toStdString()).permissions());
 }
 
 } // namespace
@@ -118,4 +129,54 @@ TEST(Settings, leaveTheFileAloneUntilSomethingIsSaved)
         EXPECT_EQ(settings.get("Total_L_P", ""), "12");
     }
     EXPECT_EQ(fileText(path), text);
+}
+
+TEST(Settings, areTheirOwnersAloneInANewFile)
+{
+    const mode_t mask = ::umask(0);
+    const QString path = processFolder() + "/new/folder/Tempora.ini";
+    Settings settings = Settings::fromFile(path);
+    EXPECT_FALSE(QFile::exists(path));
+    settings.save("Palette", "Pastel");
+    EXPECT_EQ(rightsOf(path), 0600U);
+    settings.save("Total_L_P", "20");
+    static_cast<void>(::umask(mask));
+    EXPECT_EQ(rightsOf(path), 0600U);
+    EXPECT_EQ(QDir(processFolder() + "/new/folder").entryList(QDir::Files | QDir::Hidden),
+              QStringList("Tempora.ini"));
+    EXPECT_EQ(Settings::fromFile(path).get("Palette", ""), "Pastel");
+}
+
+TEST(Settings, areTheirOwnersAloneInANewFileOfTheUser)
+{
+    const mode_t mask = ::umask(0);
+    const QString home = processFolder() + "/home";
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home);
+    Settings::perUser().save("Palette", "Pastel");
+    static_cast<void>(::umask(mask));
+    EXPECT_EQ(rightsOf(home + "/Tempora.ini"), 0600U);
+}
+
+TEST(Settings, keepTheRightsOfTheirFile)
+{
+    const QString path = settingsFile("[Settings]\nBase=\"MonKalo;PWD=secret\"\n");
+    const mode_t mask = ::umask(0);
+    for (const unsigned rights : {0600U, 0640U, 0644U}) {
+        std::filesystem::permissions(path.toStdString(),
+                                     static_cast<std::filesystem::perms>(rights));
+        Settings::fromFile(path).save("Palette", QString::number(rights));
+        EXPECT_EQ(rightsOf(path), rights);
+    }
+    static_cast<void>(::umask(mask));
+    EXPECT_TRUE(fileText(path).contains("PWD=secret"));
+}
+
+TEST(Settings, areSavedWhereALinkLeadsTo)
+{
+    const QString path = settingsFile("[Settings]\nTotal_L_P=12\n");
+    const QString link = processFolder() + "/link.ini";
+    ASSERT_TRUE(QFile::link(path, link));
+    Settings::fromFile(link).save("Total_L_P", "13");
+    EXPECT_EQ(QFileInfo(link).symLinkTarget(), path);
+    EXPECT_TRUE(fileText(path).contains("Total_L_P=13"));
 }
