@@ -60,12 +60,13 @@ QString RoomSet::filterInWords() const
                : zone;
 }
 
-void RoomSet::FillRoomPage()
+void RoomSet::FillRoomPage(std::optional<db::Recordset> all)
 {
-    const db::Recordset rooms =
-        runtime::during(QStringLiteral("Lecture des salles (%1)").arg(filterInWords()),
-                        [&] { return m_database.read(roomQuery()); });
-    fillRows(rooms);
+    if (!all || m_form.cb_Locaux.text() != u"0" || m_form.ElemDep.isChecked()) {
+        all = runtime::during(QStringLiteral("Lecture des salles (%1)").arg(filterInWords()),
+                              [&] { return m_database.read(roomQuery()); });
+    }
+    fillRows(*all);
     showRows();
 }
 

@@ -6,6 +6,7 @@
 #include "form/PlanForm.h"
 
 #include <QString>
+#include <optional>
 
 namespace context
 {
@@ -23,8 +24,9 @@ public:
 
     /// Writes the rooms of the current page into `Salle` and `Cap` and sets `RowsShown` and the
     /// rows' visibility. Reaching the end of the rooms ends the page early.
+    /// `all`: all rooms by name, where they have just been read; a choice of some asks for these.
     /// Error: any database error of the query itself.
-    void FillRoomPage();
+    void FillRoomPage(std::optional<db::Recordset> all = std::nullopt);
 
     void cb_Locaux_Click();
     void ElemDep_Click();

@@ -3,6 +3,8 @@
 #include "db/MatchMasks.h"
 #include "runtime/RunTimeError.h"
 
+#include <utility>
+
 namespace context
 {
 
@@ -27,6 +29,11 @@ db::Recordset StartReads::roomsByName(const QString& zone)
     return m_database.Db().open(
         zone != u"0" ? QStringLiteral("select * from salle where Zone=%1  order by Nom ").arg(zone)
                      : QStringLiteral("select * from salle order by Nom "));
+}
+
+std::optional<db::Recordset> StartReads::takeAllRooms()
+{
+    return m_zone == u"0" ? std::exchange(m_rooms, std::nullopt) : std::nullopt;
 }
 
 db::Recordset StartReads::slotWithKey(const QString& key)

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] int roomCount(const QString& zone);
     /// The rooms of a zone, by name.
     [[nodiscard]] db::Recordset roomsByName(const QString& zone);
+    /// All rooms by name, when start-up has read just these; they are given once.
+    [[nodiscard]] std::optional<db::Recordset> takeAllRooms();
     /// The slots with these keys: a record set for each, empty where the table has none.
     [[nodiscard]] std::vector<db::Recordset> slotsWithKeys(const QStringList& keys);
 

@@ -105,11 +105,13 @@ void Connection::insert(const QString& table, const std::vector<std::pair<QStrin
     const QString sql = QStringLiteral("INSERT INTO ") + session().quoted(table) +
                         QStringLiteral(" (") + names.join(QStringLiteral(", ")) +
                         QStringLiteral(") VALUES (") + marks.join(QStringLiteral(", ")) + u')';
+    session().prepareToWrite();
     againWhile({Failure::Locked}, [&] { session().sendAsItIs(statement, sql); });
 }
 
 bool Connection::deleteFirst(const QString& sql)
 {
+    session().prepareToWrite();
     return againWhile({Failure::Locked},
                       [&] { return session().product().deleteFirst(sql, session()); });
 }

@@ -1,8 +1,11 @@
 #include "db/MariaDbProduct.h"
 
+#include "db/ConnectOptions.h"
 #include "db/DeletionSql.h"
 #include "db/ResultReader.h"
 #include "db/Session.h"
+
+#include <QRegularExpression>
 
 namespace db
 {
@@ -53,7 +56,41 @@ SQLSMALLINT cTypeWithoutConversion(SQLSMALLINT type)
     }
 }
 
+/// Character sets of its answers and of our statements, version and modes; empty when it is silent.
+QString whatItSays(const ConnectionHandle& connection)
+{
+    StatementHandle statement(connection);
+    statement.execute(QStringLiteral("select concat_ws(' ', @@character_set_results, "
+                                     "@@character_set_client, @@version, @@sql_mode)"));
+    return statement.fetch() ? ResultReader(statement).readText(1).toJoinedText() : QString();
+}
+
+bool hearsUtf8(const QString& answer)
+{
+    return answer.section(u' ', 1, 1).startsWith(u"utf8");
+}
+
+/// Whether the driver puts statements into UTF-8, whatever it is told.
+bool speaksUtf8(const ConnectionHandle& connection)
+{
+    static const QRegularExpression unicodeDrivers(QStringLiteral("maodbc|myodbc\\d+w"),
+                                                   QRegularExpression::CaseInsensitiveOption);
+    return connection.info(SQL_DRIVER_NAME).contains(unicodeDrivers);
+}
+
 } // namespace
+
+void MariaDbProduct::beforeWriting(Session& session) const
+{
+    constexpr int seconds = 8;
+    static_assert(std::chrono::seconds(seconds) < kAnswerLimit);
+    runtime::skipOnError([&] {
+        StatementHandle statement = session.newStatement();
+        session.sendAsItIs(statement, QStringLiteral("SET SESSION innodb_lock_wait_timeout=%1, "
+                                                     "SESSION lock_wait_timeout=%1")
+                                          .arg(seconds));
+    });
+}
 
 /// The driver chooses the character set of results when it connects, by its version and options;
 /// what it says of the server is its own product's name.
@@ -61,11 +98,12 @@ MariaDbProduct::Server MariaDbProduct::serverBehind(const ConnectionHandle& conn
 {
     Server server;
     runtime::skipOnError([&] {
-        StatementHandle statement(connection);
-        statement.execute(QStringLiteral(
-            "select concat_ws(' ', @@character_set_results, @@version, @@sql_mode)"));
-        if (statement.fetch()) {
-            const QString answer = ResultReader(statement).readText(1).toJoinedText();
+        QString answer = whatItSays(connection);
+        if (!hearsUtf8(answer) && speaksUtf8(connection)) {
+            StatementHandle(connection).execute(QStringLiteral("SET NAMES utf8mb4"));
+            answer = whatItSays(connection);
+        }
+        if (!answer.isEmpty()) {
             server.sendsUtf8 = answer.startsWith(u"utf8"); // utf8, utf8mb3, utf8mb4
             server.backslashEscapes = !answer.contains(u"NO_BACKSLASH_ESCAPES");
             server.isMariaDb = answer.contains(u"mariadb", Qt::CaseInsensitive);

@@ -22,9 +22,12 @@ public:
 
     explicit MariaDbProduct(const Server& server) : m_server(server) {}
 
-    /// Asks the server behind an open connection.
+    /// Asks the server behind an open connection, and tells it in which character set the driver
+    /// speaks where somebody else has told it another one (its `init_connect`).
     [[nodiscard]] static Server serverBehind(const ConnectionHandle& connection);
 
+    /// Makes the server give up waiting for a lock before the program gives up waiting for it.
+    void beforeWriting(Session& session) const override;
     [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
     [[nodiscard]] Failure failureOf(const Diagnostics& diagnostics) const override;
 

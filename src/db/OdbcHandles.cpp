@@ -98,7 +98,7 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
     }
     m_rereadsBoundFields = readsBoundFieldsInAnyOrder();
     m_quote = info(SQL_IDENTIFIER_QUOTE_CHAR);
-    SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
+    commitEachStatement();
 }
 
 /// Whatever fails here, there is no connection.
@@ -117,6 +117,17 @@ void ConnectionHandle::connect(const QString& connectString)
         const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), TextForm::Utf16);
         throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
                             withoutPasswords(diagnostics.text, m_passwords));
+    }
+}
+
+/// As ODBC has it at first; told once more a driver may ask its server for it, which costs a
+/// journey.
+void ConnectionHandle::commitEachStatement()
+{
+    SQLUINTEGER mode = SQL_AUTOCOMMIT_OFF;
+    const SQLRETURN told = SQLGetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, &mode, 0, nullptr);
+    if (!SQL_SUCCEEDED(told) || mode != SQL_AUTOCOMMIT_ON) {
+        SQLSetConnectAttr(get(), SQL_ATTR_AUTOCOMMIT, numberArgument(SQL_AUTOCOMMIT_ON), 0);
     }
 }
 

@@ -90,6 +90,7 @@ public:
 
 private:
     void connect(const QString& connectString);
+    void commitEachStatement();
     [[nodiscard]] bool readsBoundFieldsInAnyOrder() const;
 
     QStringList m_passwords;

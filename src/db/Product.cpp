@@ -13,6 +13,8 @@ runtime::ErrorNumber Product::errorNumberOf(const Diagnostics& diagnostics) cons
     return errorNumberByState(diagnostics);
 }
 
+void Product::beforeWriting(Session& /*session*/) const {}
+
 Failure Product::failureOf(const Diagnostics& diagnostics) const
 {
     return failureByState(diagnostics);

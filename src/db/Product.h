@@ -49,6 +49,8 @@ public:
 
     // Statements
 
+    /// What a connection needs once, before its first write.
+    virtual void beforeWriting(Session& session) const;
     /// How dates are written into statements; `bySetting` is the dialect that the settings choose.
     [[nodiscard]] virtual SqlDialect dialect(const SqlDialect& bySetting) const;
     /// The statement in the product's own words, where it does not know those of Access.

@@ -3,6 +3,8 @@
 #include "db/Repeated.h"
 #include "db/ResultReader.h"
 
+#include <utility>
+
 namespace db
 {
 
@@ -22,6 +24,13 @@ void Session::sendAsItIs(StatementHandle& statement, const QString& sql)
         ++m_statementCount;
         statement.execute(sql);
     });
+}
+
+void Session::prepareToWrite()
+{
+    if (!std::exchange(m_isReadyToWrite, true)) {
+        product().beforeWriting(*this);
+    }
 }
 
 StatementHandle Session::executed(const QString& sql)

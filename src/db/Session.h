@@ -36,6 +36,8 @@ public:
     void send(StatementHandle& statement, const QString& sql);
     /// The same for a statement that is in the product's words already.
     void sendAsItIs(StatementHandle& statement, const QString& sql);
+    /// To be called before each write: readies the connection for the first one.
+    void prepareToWrite();
     /// Sends it through a handle of its own.
     [[nodiscard]] StatementHandle executed(const QString& sql);
     /// Sends a query and reads all its rows.
@@ -54,6 +56,7 @@ private:
     SqlDialect m_dialect;
     QueryPlans m_queryPlans{*this};
     long long m_statementCount = 0;
+    bool m_isReadyToWrite = false;
 };
 
 } // namespace db

@@ -76,7 +76,7 @@ public:
     void loadEstablishment(const context::HeaderSource& source);
     void loadSlots();
     void placeRoomRows();
-    void fillRoomPage() { m_rooms.FillRoomPage(); }
+    void fillRoomPage() { m_rooms.FillRoomPage(m_reads.takeAllRooms()); }
     /// This week's Monday.
     void showCurrentWeek() { m_periods.showCurrentWeek(); }
     void readSeanceTypes();

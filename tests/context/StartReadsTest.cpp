@@ -116,3 +116,19 @@ TEST_P(ReadsAtStart, tellWhatIsMissing)
 }
 
 TEMPORA_ON_BOTH_DATABASES(ReadsAtStart);
+
+TEST_P(ReadsAtStart, giveAllRoomsOnceWhereTheyWereCounted)
+{
+    timetable->row("salle", {{"Zone", 1}, {"Nom", "B"}, {"places", 30}});
+    timetable->row("salle", {{"Zone", 2}, {"Nom", "A"}, {"places", 30}});
+    load();
+    context::StartReads& reads = atOnce();
+    EXPECT_FALSE(reads.takeAllRooms());
+    EXPECT_EQ(reads.roomCount("0"), 2);
+    const std::optional<db::Recordset> rooms = reads.takeAllRooms();
+    ASSERT_TRUE(rooms);
+    EXPECT_EQ(names(*rooms), QStringList({"A", "B"}));
+    EXPECT_FALSE(reads.takeAllRooms());
+    EXPECT_EQ(reads.roomCount("1"), 1);
+    EXPECT_FALSE(reads.takeAllRooms()); // not all
+}

@@ -141,3 +141,26 @@ TEST(ADeadlock, isNoticedByNobody)
     EXPECT_NO_THROW(both.get());
     EXPECT_EQ(database.read("select n from t order by id"), QList<QStringList>({{"12"}, {"11"}}));
 }
+
+TEST(AServerWithAnotherCharacterSet, isToldOurs)
+{
+    const test::MariaDbServer latin;
+    latin.runScript(
+        "create database d; create table d.t (a varchar(20) character set utf8mb4); "
+        "insert into d.t values ('Été'); set global init_connect = 'SET NAMES latin1';");
+    latin.createAccount("anne", "juste", "ALL ON d.*");
+    Connection connection(latin.connectString("d", "anne", "juste"));
+    EXPECT_EQ(connection.open("select a from t where a = 'Été'").first().field(0).toText(), "Été");
+}
+
+TEST(ALockedRow, isGivenUpByTheServerBeforeTheProgramDoes)
+{
+    test::TestDatabase database(test::DatabaseKind::MariaDb);
+    database.execute("create table t (a integer) engine=InnoDB");
+    Connection connection(database.connectString());
+    connection.insert("t", {{"a", Value(std::int64_t{1})}});
+    const db::Row limits =
+        connection.open("select @@innodb_lock_wait_timeout, @@lock_wait_timeout").first();
+    EXPECT_EQ(limits.field(0).toInt32(), 8); // an answer is waited for ten seconds
+    EXPECT_EQ(limits.field(1).toInt32(), 8);
+}

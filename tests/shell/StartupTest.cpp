@@ -107,12 +107,12 @@ TEST_P(Startup, drawsOnceTheWindowIsShown)
     EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
 }
 
-TEST_P(Startup, asksTheDatabaseNineTimes)
+TEST_P(Startup, asksTheDatabaseEightTimes)
 {
-    // The establishment, the rooms (counted and listed), all periods, the one of the settings, its
-    // dates, the slots, the first page, the types of séances, the departments.
+    // The establishment, the rooms (counted, listed and shown), all periods, the one of the
+    // settings, its dates, the slots, the types of séances, the departments.
     desk.load();
-    EXPECT_EQ(desk.shell().engine().statementCount(), 9);
+    EXPECT_EQ(desk.shell().engine().statementCount(), 8);
 }
 
 TEST_P(Startup, asksTheDatabaseOneQuestionATimeInThePlainWay)
