@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <chrono>
 
-/// What is added to a connection string on its way to the driver, and what of it must not show.
+/// What is added to a connection string on its way to the driver.
 namespace db
 {
 
@@ -27,11 +26,5 @@ constexpr std::chrono::milliseconds kAnswerLimit{10'000};
 /// program's lock, 100 s, would look like a hang: with this it gives up after two. And it makes no
 /// empty file in the place of one that is missing.
 [[nodiscard]] QString withFileLimits(const QString& connectString);
-
-/// The passwords that a connection string holds, longest first.
-[[nodiscard]] QStringList passwordsIn(const QString& connectString);
-
-/// The text with every one of `passwords` replaced by "***".
-[[nodiscard]] QString withoutPasswords(QString text, const QStringList& passwords);
 
 } // namespace db

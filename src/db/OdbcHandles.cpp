@@ -2,6 +2,7 @@
 
 #include "db/AccessProduct.h"
 #include "db/ConnectOptions.h"
+#include "db/Passwords.h"
 #include "db/ProductChoice.h"
 
 #include <array>
@@ -116,7 +117,7 @@ void ConnectionHandle::connect(const QString& connectString)
     if (!SQL_SUCCEEDED(result)) {
         const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), TextForm::Utf16);
         throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
-                            withoutPasswords(diagnostics.text, m_passwords));
+                            withoutPasswords(diagnostics, m_passwords));
     }
 }
 
@@ -175,7 +176,7 @@ void ConnectionHandle::raise(SQLSMALLINT handleType, SQLHANDLE handle,
         failure = Failure::NoAnswer;
     }
     throw DatabaseError(failure, m_product->errorNumberOf(diagnostics),
-                        withoutPasswords(diagnostics.text, m_passwords));
+                        withoutPasswords(diagnostics, m_passwords));
 }
 
 StatementHandle::StatementHandle(const ConnectionHandle& connection)

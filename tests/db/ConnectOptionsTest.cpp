@@ -4,16 +4,6 @@
 
 using namespace db;
 
-namespace
-{
-
-QStringList passwords(const char* connectString)
-{
-    return passwordsIn(QString::fromUtf8(connectString));
-}
-
-} // namespace
-
 TEST(AConnectionString, namesADriverOrADataSource)
 {
     EXPECT_EQ(driverIn(QStringLiteral("DRIVER={MySQL ODBC 3.51 Driver};SERVER=a")),
@@ -52,34 +42,4 @@ TEST(Limits, areNotAddedForAnyOtherDriver)
         EXPECT_EQ(withLimits(QStringLiteral("DSN=MonKalo"), QString::fromUtf8(driver)),
                   QStringLiteral("DSN=MonKalo"));
     }
-}
-
-TEST(Passwords, areFoundUnderBothNamesInAnyCase)
-{
-    EXPECT_EQ(passwords("DSN=x;PASSWORD=secret;port=3"), QStringList({QStringLiteral("secret")}));
-    EXPECT_EQ(passwords("Pwd=secret"), QStringList({QStringLiteral("secret")}));
-    EXPECT_EQ(passwords("DSN=x; password = secret;"), QStringList({QStringLiteral("secret")}));
-}
-
-TEST(Passwords, areFoundWholeAndAsTheDriverReadsThem)
-{
-    EXPECT_EQ(passwords("USER=u;PASSWORD=a;bcd;port=3306OPTION=35"),
-              QStringList({QStringLiteral("a;bcd"), QStringLiteral("a")}));
-    EXPECT_EQ(passwords("PWD={a;b};port=1"),
-              QStringList({QStringLiteral("{a;b}"), QStringLiteral("a;b")}));
-}
-
-TEST(Passwords, areNotFoundWhereThereIsNone)
-{
-    EXPECT_EQ(passwords("DSN=MonKalo"), QStringList());
-    EXPECT_EQ(passwords("SERVER=;DATABASE=;USER=;PASSWORD=;port=3306OPTION=35"), QStringList());
-}
-
-TEST(Passwords, areTakenOutOfATextWhereverTheyStand)
-{
-    EXPECT_EQ(
-        withoutPasswords(QStringLiteral("secret: no secret for 'u'"), {QStringLiteral("secret")}),
-        QStringLiteral("***: no *** for 'u'"));
-    EXPECT_EQ(withoutPasswords(QStringLiteral("a;b"), {QStringLiteral("a;b"), QStringLiteral("a")}),
-              QStringLiteral("***"));
 }

@@ -1,0 +1,129 @@
+#include "db/Passwords.h"
+
+#include <QRegularExpression>
+#include <QUrl>
+#include <algorithm>
+
+namespace db
+{
+namespace
+{
+
+constexpr auto kAnyCase =
+    QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption;
+
+/// The values that stand behind the words for a password, as far as they may go.
+QStringList writtenIn(const QString& connectString)
+{
+    // The one form in which the PHP file's values are put together: what is a value is known.
+    static const QRegularExpression ofPhpFile(
+        QStringLiteral("^DRIVER=\\{MySQL ODBC 3\\.51 Driver\\};SERVER=.*?;PASSWORD=(.*)"
+                       ";port=.*OPTION=\\d+$"),
+        kAnyCase);
+    static const QRegularExpression anyForm(
+        QStringLiteral(
+            "(?:^|;)\\s*\\w*(?:PASSWORD|PASSPHRASE|PWD)\\w*\\s*="
+            "(\\s*\\{(?:[^}]|\\}\\})*\\}|.*?)"
+            "(?=;\\s*(?:DRIVER|DSN|FILEDSN|SERVER|HOST|DATABASE|DB|USER|UID|PORT|SOCKET|"
+            "OPTIONS?|CHARSET|\\w*TIMEOUT|(?:SSL|TLS)\\w*|\\w*PASSWORD\\w*|PWD)\\s*=|;?$)"),
+        kAnyCase);
+    QStringList values;
+    for (const QRegularExpression& form : {ofPhpFile, anyForm}) {
+        auto matches = form.globalMatch(connectString);
+        while (matches.hasNext()) {
+            values << matches.next().captured(1);
+        }
+    }
+    return values;
+}
+
+/// The text without blanks and quotes around it.
+QString bare(QString text)
+{
+    static const QRegularExpression around(QStringLiteral("^[\\s\"']+|[\\s\"']+$"));
+    return text.remove(around);
+}
+
+/// What a driver may take for a text of its own: it ends values at semicolons and braces, and what
+/// comes behind them may be a word with a value.
+QStringList partsOf(const QString& value)
+{
+    static const QRegularExpression ends(QStringLiteral("[;{}]"));
+    QStringList parts;
+    for (const QString& part : value.split(ends)) {
+        parts << part;
+        if (value.contains(u';')) {
+            parts << part.split(u'=');
+        }
+    }
+    return parts;
+}
+
+/// How a password may look in a text.
+QStringList looksOf(const QString& password)
+{
+    QString ascii = password;
+    std::replace_if(
+        ascii.begin(), ascii.end(), [](QChar c) { return c.unicode() > 0x7f; }, QChar(u'?'));
+    return {password, QString::fromLatin1(QUrl::toPercentEncoding(password)),
+            QString::fromLatin1(password.toUtf8()), ascii};
+}
+
+/// The text without what a driver puts into quoted texts.
+QString unescaped(QString text)
+{
+    static const QRegularExpression marks(QStringLiteral("[\"'`\\\\]"));
+    return text.remove(marks);
+}
+
+bool shows(const QString& text, const QStringList& passwords)
+{
+    const auto holds = [](const QString& where, const QString& what) {
+        return !what.isEmpty() && where.contains(what, Qt::CaseInsensitive);
+    };
+    return std::any_of(passwords.begin(), passwords.end(), [&](const QString& password) {
+        const QStringList looks = looksOf(password);
+        return holds(unescaped(text), unescaped(password)) ||
+               std::any_of(looks.begin(), looks.end(),
+                           [&](const QString& look) { return holds(text, look); });
+    });
+}
+
+} // namespace
+
+QStringList passwordsIn(const QString& connectString)
+{
+    QStringList passwords;
+    for (const QString& value : writtenIn(connectString)) {
+        QString inner = value.trimmed();
+        if (inner.startsWith(u'{') && inner.endsWith(u'}')) {
+            inner =
+                inner.mid(1, inner.size() - 2).replace(QStringLiteral("}}"), QStringLiteral("}"));
+        }
+        for (const QString& password : QStringList{value, inner} + partsOf(value)) {
+            passwords << password.trimmed() << bare(password);
+        }
+    }
+    passwords.removeAll(QString());
+    passwords.removeDuplicates();
+    std::stable_sort(
+        passwords.begin(), passwords.end(),
+        [](const QString& left, const QString& right) { return left.size() > right.size(); });
+    return passwords;
+}
+
+QString withoutPasswords(const Diagnostics& diagnostics, const QStringList& passwords)
+{
+    if (!shows(diagnostics.text, passwords)) {
+        return diagnostics.text;
+    }
+    const QString sentence = QStringLiteral("Le texte du pilote n’est pas montré : il pourrait "
+                                            "livrer le mot de passe de la base.");
+    const QString state = diagnostics.state;
+    const QString code = QString::number(diagnostics.nativeCode);
+    return shows(state + u' ' + code, passwords)
+               ? sentence
+               : sentence + QStringLiteral("\nSQLSTATE %1, code %2").arg(state, code);
+}
+
+} // namespace db
