@@ -115,3 +115,21 @@ TEST_F(OnSqlite, aDateIsWrittenAsTheLiteralReadsIt)
     EXPECT_EQ(byMySqlsDialect.recordCount(QStringLiteral("select * from t where a='1999/12/31'")),
               1);
 }
+
+TEST_F(OnSqlite, loadsNoLibraryWhateverAStatementSays)
+{
+    // A name with an apostrophe may bring words of its own into a statement.
+    database().execute(QStringLiteral("create table t (a text)"));
+    Connection connection = connect();
+    for (const char* sql :
+         {"select * from t where a='x' or load_extension('/absent.so') or a=''",
+          "select LOAD_extension ('/absent.so')", "select \"load_extension\"('/absent.so')",
+          "delete from t where load_extension('/absent.so')"}) {
+        const runtime::RunTimeError error =
+            test::errorOf([&] { connection.execute(QString::fromUtf8(sql)); });
+        EXPECT_EQ(error.number(), ErrorNumber::StatementRefused);
+        EXPECT_EQ(error.text(), QStringLiteral("load_extension is not allowed."));
+    }
+    EXPECT_EQ(connection.open(QStringLiteral("select * from t where a='extension'")).recordCount(),
+              0);
+}
