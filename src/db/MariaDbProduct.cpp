@@ -100,7 +100,11 @@ MariaDbProduct::Server MariaDbProduct::serverBehind(const ConnectionHandle& conn
     runtime::skipOnError([&] {
         QString answer = whatItSays(connection);
         if (!hearsUtf8(answer) && speaksUtf8(connection)) {
-            StatementHandle(connection).execute(QStringLiteral("SET NAMES utf8mb4"));
+            // The driver refuses the short form, SET NAMES.
+            StatementHandle(connection)
+                .execute(QStringLiteral("SET character_set_client=utf8mb4, "
+                                        "character_set_connection=utf8mb4, "
+                                        "character_set_results=utf8mb4"));
             answer = whatItSays(connection);
         }
         if (!answer.isEmpty()) {

@@ -49,9 +49,15 @@ TEST_P(AConnection, tellsWhereTheRowsOfAPartStand)
 TEST_P(AConnection, countsOneStatementForAnInsert)
 {
     database().execute(QStringLiteral("create table t (a varchar(9), d date)"));
-    connection().insert(QStringLiteral("t"), {{QStringLiteral("a"), Value(QStringLiteral("x"))},
-                                              {QStringLiteral("d"), Value(QDate(2026, 10, 5))}});
-    EXPECT_EQ(connection().statementCount(), 1);
+    const auto insert = [this] {
+        const long long before = connection().statementCount();
+        connection().insert(QStringLiteral("t"),
+                            {{QStringLiteral("a"), Value(QStringLiteral("x"))},
+                             {QStringLiteral("d"), Value(QDate(2026, 10, 5))}});
+        return connection().statementCount() - before;
+    };
+    EXPECT_EQ(insert(), database().usesMySql() ? 2 : 1); // a server is first told how to wait
+    EXPECT_EQ(insert(), 1);
 }
 
 TEST_P(AConnection, bringsRowsAsOneTextEach)
