@@ -207,7 +207,7 @@ QString PlanTable::note() const
     if (rowZero.visible) {
         sentences << QStringLiteral("Première ligne, grisée, hors du tableau : %1. Ses séances ne "
                                     "sont pas dessinées ici.")
-                         .arg(rowZero.caption);
+                         .arg(m_state.page.room(0).name);
     }
     QStringList totals;
     for (int slot = 1; slot <= form::PlanForm::kSlotLabels; ++slot) {

@@ -21,9 +21,9 @@ QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const p
     return lines.join(u'\n');
 }
 
-QString roomToolTip(const form::PlanForm& form, double top)
+QString roomToolTip(const plan::PlanState& state, double top)
 {
-    const std::vector<form::Label>& rooms = form.Salle;
+    const std::vector<form::Label>& rooms = state.form.Salle;
     const auto room = std::find_if(rooms.begin(), rooms.end(), [top](const form::Label& label) {
         return label.visible && top >= label.place.top &&
                top < label.place.top + label.place.height;
@@ -31,17 +31,22 @@ QString roomToolTip(const form::PlanForm& form, double top)
     if (room == rooms.end()) {
         return {};
     }
+    const QString& name = state.page.room(static_cast<int>(room - rooms.begin())).name;
     return room != rooms.begin()
-               ? room->caption // the label may be too narrow for it
-               : room->caption + QStringLiteral("\nSalle placée juste avant la première ligne du "
-                                                "plan : ses séances ne sont pas dessinées ici");
+               ? name // the label may be too narrow for it
+               : name + QStringLiteral("\nSalle placée juste avant la première ligne du "
+                                       "plan : ses séances ne sont pas dessinées ici");
 }
 
 QString totalsToolTip(const plan::PlanState& state)
 {
-    return state.totals.isOld ? QStringLiteral("Places occupées, comptées avant le dernier choix.\n"
-                                               "Choisir le jour les compte à nouveau.")
-                              : QString();
+    const auto& totals = state.form.Tot;
+    const bool isShown = std::any_of(totals.begin(), totals.end(),
+                                     [](const form::Label& total) { return total.visible; });
+    return isShown && state.totals.isOld
+               ? QStringLiteral("Places occupées, comptées avant le dernier choix.\n"
+                                "Choisir le jour les compte à nouveau.")
+               : QString();
 }
 
 } // namespace app

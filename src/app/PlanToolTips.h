@@ -15,10 +15,10 @@ namespace app
 [[nodiscard]] QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row,
                                  const plan::PlanBox& box);
 
-/// Of the room label at this height, in twips; empty where there is none.
-[[nodiscard]] QString roomToolTip(const form::PlanForm& form, double top);
+/// Of the room at this height, in twips; empty where no row is shown.
+[[nodiscard]] QString roomToolTip(const plan::PlanState& state, double top);
 
-/// Of the line of totals; empty while it belongs to the last choice.
+/// Of the line of totals; empty while it shows none or belongs to the last choice.
 [[nodiscard]] QString totalsToolTip(const plan::PlanState& state);
 
 } // namespace app

@@ -227,7 +227,7 @@ QString PlanView::toolTipAt(QPoint point) const
     const Bands view = bands();
     const form::PlanForm& form = m_engine.form();
     if (view.names.contains(point) || view.places.contains(point)) {
-        return roomToolTip(form, m_target.TargetTwipsPerPixelY * toPlan(point).y());
+        return roomToolTip(m_engine.state(), m_target.TargetTwipsPerPixelY * toPlan(point).y());
     }
     if (view.totals.contains(point)) {
         return totalsToolTip(m_engine.state());

@@ -40,7 +40,7 @@ void Periods::chooseByIdent(std::int32_t ident)
     m_viewed.labelledIdent = ident;
     m_form.Label11.caption = QString::number(ident);
     const db::Recordset found = m_database.read(
-        QStringLiteral("select * from tranche where ident=") + m_form.Label11.caption);
+        QStringLiteral("select * from tranche where ident=") + QString::number(ident));
     if (!found.isEmpty()) {
         m_form.CbTranche.showText(found.first().field(kName).toJoinedText());
     }

@@ -130,7 +130,7 @@ QJsonObject pageObject(const plan::PlanState& state)
             {Key("room_total"), page.RoomTotal},
             {Key("previous_enabled"), state.form.Command2.enabled},
             {Key("next_enabled"), state.form.Command3.enabled},
-            {Key("row0_room"), state.form.Salle.front().caption}};
+            {Key("row0_room"), page.room(0).name}};
 }
 
 } // namespace

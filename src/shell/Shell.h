@@ -75,7 +75,7 @@ private:
     engine::Engine m_engine;
 
     DatabaseChoice m_choice;
-    bool m_SkinOn = false; ///< kept for that shape of the state; nothing reads it
+    bool m_SkinOn = false; ///< installations have the setting; nothing reads it
 
     QString m_PaletteAtStart;
     bool m_ShowTeacherAtStart = true;

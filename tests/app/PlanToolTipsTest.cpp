@@ -24,18 +24,17 @@ plan::PlanRow rowOfB1()
 const form::PlanForm usual;
 
 /// Row 0 at 345 twips and the two below it, each 368 lower.
-form::PlanForm threeRows()
+plan::PlanState threeRows()
 {
-    form::PlanForm rows;
-    rows.Salle[0].place = {0, 345, 1500, 300};
-    plan::PlaceRoomRows(rows);
-    for (std::size_t row = 0; row < 3; ++row) {
-        rows.Salle[row].visible = true;
-        rows.Salle[row].caption = QStringLiteral("S%1").arg(row);
+    plan::PlanState state;
+    form::PlanForm& form = state.form;
+    form.Salle[0].place = {0, 345, 1500, 300};
+    plan::PlaceRoomRows(form);
+    for (int row = 0; row < 4; ++row) {
+        form.Salle[static_cast<std::size_t>(row)].visible = row < 3;
+        state.page.setName(form, row, QStringLiteral("S%1").arg(row));
     }
-    rows.Salle[3].visible = false;
-    rows.Salle[3].caption = "S3";
-    return rows;
+    return state;
 }
 
 } // namespace
@@ -57,12 +56,12 @@ TEST(BoxToolTip, saysInWordsWhatTheBoxShowsInPictures)
 
 TEST(RoomToolTip, isTheRoomAtThisHeight)
 {
-    const form::PlanForm rows = threeRows();
-    const int top = rows.Salle[2].place.top;
+    const plan::PlanState rows = threeRows();
+    const int top = rows.form.Salle[2].place.top;
     EXPECT_EQ(roomToolTip(rows, top), "S2");
     EXPECT_EQ(roomToolTip(rows, top + 299), "S2");
     EXPECT_EQ(roomToolTip(rows, top + 300), ""); // between two rows
-    EXPECT_EQ(roomToolTip(rows, rows.Salle[1].place.top), "S1");
+    EXPECT_EQ(roomToolTip(rows, rows.form.Salle[1].place.top), "S1");
 }
 
 TEST(RoomToolTip, saysThatTheGreyedRowIsNotDrawn)
@@ -74,16 +73,21 @@ TEST(RoomToolTip, saysThatTheGreyedRowIsNotDrawn)
 
 TEST(RoomToolTip, isEmptyWhereNoRowIsShown)
 {
-    const form::PlanForm rows = threeRows();
+    const plan::PlanState rows = threeRows();
     EXPECT_EQ(roomToolTip(rows, 344), "");
-    EXPECT_EQ(roomToolTip(rows, rows.Salle[3].place.top + 1), "");
+    EXPECT_EQ(roomToolTip(rows, rows.form.Salle[3].place.top + 1), "");
 }
 
 TEST(TotalsToolTip, tellsHowOldTotalsAreCountedAnew)
 {
     plan::PlanState state;
+    for (form::Label& total : state.form.Tot) {
+        total.visible = false;
+    }
     EXPECT_EQ(totalsToolTip(state), "");
     state.totals.isOld = true;
+    EXPECT_EQ(totalsToolTip(state), ""); // nothing was ever counted
+    state.form.Tot[0].visible = true;
     EXPECT_EQ(totalsToolTip(state), "Places occupées, comptées avant le dernier choix.\n"
                                     "Choisir le jour les compte à nouveau.");
 }
