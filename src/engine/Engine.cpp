@@ -23,7 +23,8 @@ Surroundings withoutEvents(Surroundings surroundings)
 Engine::Engine(Surroundings surroundings) : Engine(std::move(surroundings), StandIns()) {}
 
 Engine::Engine(Surroundings surroundings, StandIns standIns)
-    : Engine(std::move(surroundings), plan::PlanState(), std::make_shared<db::Database>(), standIns)
+    : Engine(std::move(surroundings), plan::PlanState(),
+             standIns.database ? standIns.database : std::make_shared<db::Database>(), standIns)
 {
     m_state.colors = plan::RowColors(runtime::RandomSource(m_surroundings.seed));
     tieEvents();
@@ -38,7 +39,7 @@ Engine::Engine(const Engine& other, OnCopy /*copy*/)
 Engine::Engine(Surroundings surroundings, plan::PlanState state,
                std::shared_ptr<db::Database> database, StandIns standIns)
     : m_surroundings(std::move(surroundings)), m_state(std::move(state)),
-      m_database(std::move(database)), m_standIns(standIns), m_sources(*m_database),
+      m_database(std::move(database)), m_standIns(std::move(standIns)), m_sources(*m_database),
       m_pageReads(upkeep()), m_rowsAsked(whoKnowsRows(), m_pageReads),
       m_absencesAsked(whoKnowsAbsences(), m_pageReads), m_reads(*m_database, m_surroundings.plain),
       m_periods(m_state.form, m_state.period, *m_database, m_state.totals, *this,

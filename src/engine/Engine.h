@@ -37,11 +37,11 @@ namespace engine
 class Engine : private context::PlanActions
 {
 public:
-    /// Who answers a plan's questions in the place of the database; null: the database. They
-    /// outlive the engine.
+    /// What a test brings of its own; null: the engine makes it. They outlive the engine.
     struct StandIns {
-        lookup::RowSource* rows = nullptr;
-        plan::AbsenceSource* absences = nullptr;
+        lookup::RowSource* rows = nullptr;       ///< answers in the place of the database
+        plan::AbsenceSource* absences = nullptr; ///< so does this
+        std::shared_ptr<db::Database> database;  ///< to be opened by the engine as its own
     };
 
     explicit Engine(Surroundings surroundings);
@@ -68,7 +68,6 @@ public:
 
     /// `useMySql` is the setting "Mysql", `doublesQuotes` is "Apostrophes".
     void chooseDatabase(bool useMySql, bool doublesQuotes = false);
-    void openDatabase(const QString& connectString) { m_database->open(connectString); }
     void loadPalette(const QString& path) { m_palette.Charger_Palette(path); }
     /// Fits the boxes to what they show and to the rooms per page.
     void adaptCells();
@@ -96,8 +95,6 @@ public:
     /// A click on a group counter: shows the classes behind it.
     void Label2_Click(const plan::GroupCounter& group);
     void closeDatabase() { m_database->close(); }
-    /// The open connection. Error: DatabaseFailure when there is none.
-    [[nodiscard]] db::Connection& database() { return m_database->Db(); }
 
     // Pages as values, made on a copy: the window stays as it is.
 

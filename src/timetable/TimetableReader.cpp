@@ -235,8 +235,9 @@ void Reader::readMeetings(MeetingKind kind)
     const std::size_t before = m_builder.meetingCount();
     Forwarding taker(m_builder, kind);
     MeetingRows rows(m_connection, m_period, kind);
-    // Make-ups have the columns of the courses: what did not work there is not tried again.
-    const bool tryPacked = kind != MeetingKind::MakeUp || m_coursesCamePacked;
+    // What did not work for the courses is not tried again: make-ups have their columns, and the
+    // number of statements has a limit.
+    const bool tryPacked = kind == MeetingKind::Course || m_coursesCamePacked;
     const bool cameWhole = tryPacked && rows.readPacked(taker);
     if (!cameWhole) {
         m_builder.keepMeetings(before);

@@ -61,12 +61,12 @@ MarkedPlan::MarkedPlan(const TestDatabase& database, std::vector<QStringList> ro
 
 MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms,
                        const QString& preparation)
-    : m_engine(surroundings(), {&m_rooms, nullptr})
+    : m_engine(surroundings(), {&m_rooms, nullptr, m_database})
 {
     m_engine.chooseDatabase(useMySql);
-    m_engine.openDatabase(connectString);
+    m_database->open(connectString);
     if (!preparation.isEmpty()) {
-        m_engine.database().execute(preparation);
+        m_database->Db().execute(preparation);
     }
     m_rooms.classes = std::move(rooms);
     plan::PlanState& state = m_engine.state();

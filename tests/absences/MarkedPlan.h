@@ -37,6 +37,7 @@ public:
         return m_engine.markers().at(index);
     }
     [[nodiscard]] engine::Engine& engine() { return m_engine; }
+    [[nodiscard]] db::Connection& connection() { return m_database->Db(); }
     [[nodiscard]] form::PlanForm& form() { return m_engine.form(); }
     /// The classes of the rooms; changes show at the next refresh.
     [[nodiscard]] std::vector<QStringList>& rooms() { return m_rooms.classes; }
@@ -73,6 +74,7 @@ private:
 
     Rooms m_rooms;
     Keys m_keys;
+    std::shared_ptr<db::Database> m_database = std::make_shared<db::Database>();
     engine::Engine m_engine;
 };
 

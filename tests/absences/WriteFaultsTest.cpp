@@ -176,7 +176,7 @@ TEST_F(AnEmbeddedFile, lockedAgainstWritingKeepsTheWholeRow)
 TEST_F(AnEmbeddedFile, thatMayNotBeWrittenTakesNothingOfTheRow)
 {
     MarkedPlan plan(database(), {{classA}});
-    plan.engine().database().execute(QStringLiteral("PRAGMA query_only = 1"));
+    plan.connection().execute(QStringLiteral("PRAGMA query_only = 1"));
     expectFailure([&] { plan.shiftClick(1); }, "readonly");
     expectFailure([&] { plan.ctrlClick(1); }, "readonly");
     expectRows({}, {});
@@ -186,7 +186,7 @@ TEST_F(AnEmbeddedFile, thatMayNotGrowTakesNothingOfTheRow)
 {
     MarkedPlan plan(database(), {{classA}});
     // A row with a text longer than a page cannot do with the pages that are there.
-    plan.engine().database().execute(QStringLiteral("PRAGMA max_page_count = 1"));
+    plan.connection().execute(QStringLiteral("PRAGMA max_page_count = 1"));
     plan.teach(QString(5000, u'x'));
     expectFailure([&] { plan.shiftClick(1); }, "full");
     expectFailure([&] { plan.ctrlClick(1); }, "full");

@@ -18,7 +18,7 @@ public:
     /// `through`: the connection string, when it is not the database's own.
     explicit EngineDesk(const TestDatabase& database, bool plain = false,
                         const QString& through = {})
-        : engine(surroundings(plain))
+        : engine(surroundings(plain), {nullptr, nullptr, connection})
     {
         engine.chooseDatabase(database.usesMySql());
         form.Combo10.design({"1ère Sem. d'Examen", "2ème Sem. d'Examen", "Sem. de Contrôle"}, 0);
@@ -69,6 +69,8 @@ public:
     int filesAsked = 0;
     /// The message boxes shown, "title: text".
     QStringList messages;
+    /// What the engine sends its statements over.
+    std::shared_ptr<db::Database> connection = std::make_shared<db::Database>();
     engine::Engine engine;
     form::PlanForm& form = engine.form();
 

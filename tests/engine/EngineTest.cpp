@@ -100,7 +100,7 @@ TEST_P(TheEngine, hasNoConnectionOnceItIsClosed)
 {
     EngineDesk desk(database());
     desk.engine.closeDatabase();
-    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk.engine.database()); }),
+    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk.connection->Db()); }),
               runtime::ErrorNumber::DatabaseFailure);
 }
 

@@ -48,7 +48,7 @@ protected:
     static void kill(EngineDesk& desk)
     {
         const QString id =
-            desk.engine.database().open("select connection_id()").first().field(0).toText();
+            desk.connection->Db().open("select connection_id()").first().field(0).toText();
         MariaDbServer::shared().runScript(QStringLiteral("kill %1;").arg(id));
     }
 

@@ -114,7 +114,7 @@ TEST_P(Shutdown, closesTheDatabaseAndHappensOnce)
 {
     desk.form().Total_L_P.setText("20");
     desk.shell().Form_Unload();
-    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk.shell().engine().database()); }),
+    EXPECT_EQ(errorNumberOf([&] { desk.shell().engine().readSeanceTypes(); }),
               runtime::ErrorNumber::DatabaseFailure);
     desk.setup.set("Total_L_P", "7");
     desk.shell().Form_Unload();
@@ -130,7 +130,7 @@ TEST_P(Shutdown, closesTheDatabaseAlsoWhenTheSettingsCannotBeSaved)
     EXPECT_EQ(error.number(), runtime::ErrorNumber::PathFileAccess);
     EXPECT_TRUE(error.activity().contains(desk.setup.settingsFile()))
         << error.activity().toStdString();
-    EXPECT_EQ(errorNumberOf([&] { static_cast<void>(desk.shell().engine().database()); }),
+    EXPECT_EQ(errorNumberOf([&] { desk.shell().engine().readSeanceTypes(); }),
               runtime::ErrorNumber::DatabaseFailure);
 }
 
