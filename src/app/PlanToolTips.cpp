@@ -14,9 +14,7 @@ QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const p
     const lookup::RoomCell& cell = box.cell;
     QStringList lines;
     lines << QStringLiteral("%1 – %2, %3 min").arg(row.room, cell.CellStart, cell.CellDuration);
-    for (const QString& line : cell.CellText.split(QStringLiteral("\r\n"), Qt::SkipEmptyParts)) {
-        lines << line.simplified();
-    }
+    lines += plan::writtenLines(cell.CellText);
     lines += plan::remarkWords(form, box);
     return lines.join(u'\n');
 }
