@@ -34,11 +34,7 @@ void paintPage(benchmark::State& state)
         image.fill(Qt::white);
         QPainter painter(&image);
         paint::PlanPainter plan(painter, scene);
-        plan.paintTicks();
-        plan.paintGrid();
-        plan.paintBoxes();
-        plan.paintRoomLabels();
-        plan.paintPlaces();
+        plan.paintPlan();
         plan.paintTotals();
     }
     std::size_t boxes = 0;

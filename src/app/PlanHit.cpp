@@ -2,6 +2,7 @@
 
 #include "form/PlanForm.h"
 #include "paint/Overlays.h"
+#include "plan/RoomRows.h"
 
 namespace app
 {
@@ -33,7 +34,7 @@ PlanHit hitPlan(const form::PlanForm& form, const plan::PlanContent& content,
     PlanHit found;
     const paint::OverlayFonts fonts;
     for (const plan::PlanRow& row : content.rows) {
-        if (!form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
+        if (!plan::isShown(form, row)) {
             continue;
         }
         for (const plan::PlanBox& box : row.boxes) {

@@ -37,12 +37,7 @@ void PlanPicture::draw(const paint::PlanScene& scene, QSize size, double ratio)
     QRectF area = boxStrip(scene, first.top, first.height);
     area.setBottom(size.height());
     painter.fillRect(area, kPlanFill);
-    paint::PlanPainter plan(painter, scene);
-    plan.paintTicks();
-    plan.paintGrid();
-    plan.paintBoxes();
-    plan.paintRoomLabels();
-    plan.paintPlaces();
+    paint::PlanPainter(painter, scene).paintPlan();
     drawTotals(scene);
 }
 

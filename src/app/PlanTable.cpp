@@ -5,6 +5,7 @@
 #include "plan/BoxLines.h"
 #include "plan/BoxWords.h"
 #include "plan/FaultWords.h"
+#include "plan/RoomRows.h"
 #include "plan/SlotColumns.h"
 #include "print/Heading.h"
 #include "runtime/FrenchDate.h"
@@ -40,7 +41,7 @@ PlanTable::PlanTable(const plan::PlanState& state, const plan::PlanContent& cont
       m_slots(plan::slotColumns(state.slots, {content}))
 {
     for (const plan::PlanRow& row : content.rows) {
-        if (state.form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
+        if (plan::isShown(state.form, row)) {
             m_rows.push_back(&row);
         }
     }

@@ -1,9 +1,9 @@
 #include "files/PictureExport.h"
 
+#include "paint/Inks.h"
 #include "paint/PlanPainter.h"
 #include "plan/FaultWords.h"
 #include "print/Targets.h"
-#include "runtime/FrenchDate.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -20,28 +20,20 @@ constexpr int kMargin = 12;
 constexpr int kTotalsPixels = 30;
 constexpr int kFooterPixels = 40;
 
-QFont headerFont(int pixels, bool bold)
-{
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(pixels);
-    font.setBold(bold);
-    return font;
-}
-
 void paintHeader(QPainter& painter, const plan::PlanState& state, const QRectF& area)
 {
     const form::PlanForm& form = state.form;
-    painter.setPen(QColor(40, 50, 70));
-    painter.setFont(headerFont(20, true));
+    painter.setPen(paint::kHeaderInk);
+    painter.setFont(paint::planFont(20, true));
     painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, form.title());
-    painter.setFont(headerFont(14, false));
+    painter.setFont(paint::planFont(14));
     painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom,
                      form.CbTranche.text() + QStringLiteral("   ") + form.Label4[0].caption + u' ' +
                          form.Label4[1].caption + u' ' + form.Label4[2].caption + u' ' +
                          form.Label4[3].caption);
-    painter.setFont(headerFont(16, true));
+    painter.setFont(paint::planFont(16, true));
     painter.drawText(area, Qt::AlignRight | Qt::AlignTop, state.establishment.EstablishmentName);
-    painter.setFont(headerFont(14, false));
+    painter.setFont(paint::planFont(14));
     painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, state.establishment.UniversityName);
 }
 
@@ -49,7 +41,7 @@ void paintHeader(QPainter& painter, const plan::PlanState& state, const QRectF& 
 void paintFooter(QPainter& painter, const QString& faults, const QRectF& area)
 {
     painter.setPen(QColor(150, 0, 0));
-    painter.setFont(headerFont(13, true));
+    painter.setFont(paint::planFont(13, true));
     painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, faults);
 }
 
@@ -73,11 +65,7 @@ QByteArray planAsPng(const PlanDocument& document)
                 QRectF(kMargin, kMargin, size.width() - 2 * kMargin, kHeaderPixels - kMargin));
     painter.translate(kMargin, kHeaderPixels + kMargin);
     paint::PlanPainter plan(painter, scene);
-    plan.paintTicks();
-    plan.paintGrid();
-    plan.paintBoxes();
-    plan.paintRoomLabels();
-    plan.paintPlaces();
+    plan.paintPlan();
     painter.translate(0, bottom + 6);
     plan.paintTotals();
     paintFooter(painter, faults, QRectF(0, kTotalsPixels, size.width() - 2 * kMargin, footer));

@@ -1,6 +1,7 @@
 #include "paint/CellBox.h"
 
 #include "paint/BoxText.h"
+#include "paint/Inks.h"
 #include "paint/PrinterCellText.h"
 #include "plan/BoxLines.h"
 #include "runtime/Numbers.h"
@@ -16,9 +17,7 @@ namespace
 
 using runtime::nearestInteger;
 
-constexpr QColor kFrame(60, 60, 60);
-// Sizes on paper, in points: the frame's line, the gap between frame and text, the hatching.
-constexpr double kFrameLine = 0.5;
+// Sizes on paper, in points: the gap between frame and text, the hatching.
 constexpr double kTextGap = 1.5;
 constexpr double kHatchStep = 6.5;
 constexpr double kHatchLine = 0.5;
@@ -26,11 +25,6 @@ constexpr double kHatchLine = 0.5;
 constexpr double kAmpleContrast = 14;
 // What a screen in a lit room adds to every luminance, as the contrast counts it.
 constexpr double kFlare = 0.05;
-
-QColor toColor(form::Colour color)
-{
-    return {color.red(), color.green(), color.blue()};
-}
 
 /// Relative luminance, 0 for black to 1 for white.
 double luminance(form::Colour color)
@@ -83,15 +77,15 @@ void drawFrame(QPainter& surface, const DrawingTarget& target, const QRect& box)
 {
     if (target.TargetIsPrinter) {
         surface.setBrush(Qt::NoBrush);
-        surface.setPen(QPen(kFrame, kFrameLine * target.PixelsPerPoint));
+        surface.setPen(QPen(kFrameInk, kFrameLine * target.PixelsPerPoint));
         surface.drawRect(box.adjusted(0, 0, -1, -1));
         return;
     }
     // Filling the pixels of the four sides is quicker than drawing them.
-    surface.fillRect(QRect(box.topLeft(), box.topRight()), kFrame);
-    surface.fillRect(QRect(box.bottomLeft(), box.bottomRight()), kFrame);
-    surface.fillRect(QRect(box.topLeft(), box.bottomLeft()), kFrame);
-    surface.fillRect(QRect(box.topRight(), box.bottomRight()), kFrame);
+    surface.fillRect(QRect(box.topLeft(), box.topRight()), kFrameInk);
+    surface.fillRect(QRect(box.bottomLeft(), box.bottomRight()), kFrameInk);
+    surface.fillRect(QRect(box.topLeft(), box.bottomLeft()), kFrameInk);
+    surface.fillRect(QRect(box.topRight(), box.bottomRight()), kFrameInk);
 }
 
 /// Where a box's text goes: off the frame and off the labels over the box.

@@ -1,5 +1,6 @@
 #include "paint/PlanGrid.h"
 
+#include "paint/Inks.h"
 #include "plan/RoomRows.h"
 #include "runtime/Numbers.h"
 
@@ -64,7 +65,7 @@ void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,
     surface.save();
     surface.setRenderHint(QPainter::Antialiasing, false);
     for (const GridLine& line : lines) {
-        const QColor color(line.color.red(), line.color.green(), line.color.blue());
+        const QColor color = toColor(line.color);
         const QPointF begin(target.toPixelsX(line.x1) + target.TargetXOffset,
                             target.toPixelsY(line.y1));
         const QPointF end(target.toPixelsX(line.x2) + target.TargetXOffset,

@@ -4,9 +4,11 @@
 #include "paint/AbsencePictures.h"
 #include "paint/BoxText.h"
 #include "paint/CellBox.h"
+#include "paint/Inks.h"
 #include "paint/Overlays.h"
 #include "paint/PlanGrid.h"
 #include "paint/UnknownMark.h"
+#include "plan/RoomRows.h"
 
 #include <QColor>
 #include <algorithm>
@@ -18,16 +20,9 @@ namespace
 
 constexpr int kTextPixels = 13;
 constexpr int kTotalPixels = 20;
-constexpr QColor kHeaderInk(40, 50, 70);
-constexpr QColor kGreyedInk(130, 130, 130);
 constexpr QColor kGreyedFill(236, 236, 236);
 constexpr QColor kOverfullFill(178, 24, 32);
 constexpr QColor kCounterFill(30, 45, 75);
-
-QColor toColor(form::Colour color)
-{
-    return {color.red(), color.green(), color.blue()};
-}
 
 } // namespace
 
@@ -41,22 +36,14 @@ PlanScene sceneOf(const plan::PlanState& state, const plan::PlanContent& content
 }
 
 PlanPainter::PlanPainter(QPainter& surface, const PlanScene& scene)
-    : m_surface(surface), m_scene(scene), m_ruler(textFont(kTextPixels)),
-      m_labelRuler(textFont(kTextPixels, true)), m_rowZeroRuler(rowZeroFont())
+    : m_surface(surface), m_scene(scene), m_ruler(planFont(kTextPixels)),
+      m_labelRuler(planFont(kTextPixels, true)), m_rowZeroRuler(rowZeroFont())
 {
-}
-
-QFont PlanPainter::textFont(int pixels, bool bold)
-{
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(pixels);
-    font.setBold(bold);
-    return font;
 }
 
 QFont PlanPainter::rowZeroFont()
 {
-    QFont font = textFont(kTextPixels);
+    QFont font = planFont(kTextPixels);
     font.setItalic(true);
     return font;
 }
@@ -68,11 +55,20 @@ double PlanPainter::rowsBottom(const PlanScene& scene)
     return scene.target.toPixelsY(place.top + place.height);
 }
 
+void PlanPainter::paintPlan()
+{
+    paintTicks();
+    paintGrid();
+    paintBoxes();
+    paintRoomLabels();
+    paintPlaces();
+}
+
 void PlanPainter::paintTicks()
 {
     m_surface.save();
     m_surface.setPen(kHeaderInk);
-    m_surface.setFont(textFont(kTextPixels, true));
+    m_surface.setFont(planFont(kTextPixels, true));
     for (const form::Label& tick : m_scene.form.Label1) {
         const double x = m_scene.target.toPixelsX(tick.place.left);
         const double top = m_scene.target.toPixelsY(tick.place.top);
@@ -100,11 +96,11 @@ void PlanPainter::paintBoxes()
 void PlanPainter::paintBoxesOf(const plan::PlanRow& row)
 {
     // A row that the page has no room for stays out of sight with its label.
-    if (!m_scene.form.Salle.at(static_cast<std::size_t>(row.index)).visible) {
+    if (!plan::isShown(m_scene.form, row)) {
         return;
     }
     m_surface.save();
-    m_surface.setFont(textFont(kTextPixels));
+    m_surface.setFont(planFont(kTextPixels));
     paintUnknownCells(row);
     for (const plan::PlanBox& box : row.boxes) {
         paintBox(row, box);
@@ -202,10 +198,10 @@ void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::Al
 
 void PlanPainter::paintLabelsOf(const plan::PlanRow& row)
 {
-    const auto index = static_cast<std::size_t>(row.index);
-    if (!m_scene.form.Salle.at(index).visible) {
+    if (!plan::isShown(m_scene.form, row)) {
         return;
     }
+    const auto index = static_cast<std::size_t>(row.index);
     m_surface.save();
     paintRowLabel(m_scene.form.Salle[index], row.index == 0, Qt::AlignLeft);
     paintRowLabel(m_scene.form.Cap[index], row.index == 0, Qt::AlignRight);
@@ -237,7 +233,7 @@ void PlanPainter::paintPlaces()
 void PlanPainter::paintTotals()
 {
     m_surface.save();
-    m_surface.setFont(textFont(kTextPixels, true));
+    m_surface.setFont(planFont(kTextPixels, true));
     for (const form::Label& total : m_scene.form.Tot) {
         if (total.visible) {
             const QRectF place(m_scene.target.toPixelsX(total.place.left), 0,

@@ -36,6 +36,10 @@ class PlanPainter
 public:
     PlanPainter(QPainter& surface, const PlanScene& scene);
 
+    /// The whole plan but its totals line, which stands where the surface has room for it: hours,
+    /// grid, boxes, rooms and places, later ones over earlier ones.
+    void paintPlan();
+
     void paintTicks();
     void paintGrid();
     void paintBoxes();
@@ -57,7 +61,6 @@ private:
     void paintOverlayLabel(const QRectF& place, const QColor& fill, bool isEdged,
                            const QString& text);
     void paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side);
-    [[nodiscard]] static QFont textFont(int pixels, bool bold = false);
     [[nodiscard]] static QFont rowZeroFont();
 
     QPainter& m_surface;

@@ -25,6 +25,11 @@ void PlaceRoomRows(form::PlanForm& form)
     }
 }
 
+bool isShown(const form::PlanForm& form, const PlanRow& row)
+{
+    return form.Salle.at(static_cast<std::size_t>(row.index)).visible;
+}
+
 int widthWithPlaces(const form::PlanForm& form, int axisEnd)
 {
     return axisEnd + kAfterAxis + form.Cap.front().place.width + kPlacesMargin;

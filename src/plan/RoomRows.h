@@ -1,6 +1,7 @@
 #pragma once
 
 #include "form/PlanForm.h"
+#include "plan/PlanContent.h"
 
 namespace plan
 {
@@ -13,6 +14,10 @@ constexpr int kAfterAxis = 60;
 /// Puts the labels `Salle` and `Cap` of every row into their places: one row below the other from
 /// `Salle`(0) down, the places at the window's right edge.
 void PlaceRoomRows(form::PlanForm& form);
+
+/// Whether the page has room for a row of its content: a row that it has none for stays out of
+/// sight with its label, wherever the plan is shown.
+[[nodiscard]] bool isShown(const form::PlanForm& form, const PlanRow& row);
 
 /// Twips that a window is wide which shows a time axis that ends there, and the places behind it.
 [[nodiscard]] int widthWithPlaces(const form::PlanForm& form, int axisEnd);

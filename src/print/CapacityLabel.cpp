@@ -1,5 +1,6 @@
 #include "print/CapacityLabel.h"
 
+#include "paint/Inks.h"
 #include "print/FittedText.h"
 
 #include <QColor>
@@ -64,7 +65,7 @@ void drawCapacity(QPainter& surface, const paint::DrawingTarget& target, const Q
     const auto within = [&place](double gap) { return place.adjusted(gap, gap, -gap, -gap); };
     surface.save();
     // The colour frames the label: black on the blue itself could not be read.
-    surface.fillRect(place, QColor(label.color.red(), label.color.green(), label.color.blue()));
+    surface.fillRect(place, paint::toColor(label.color));
     surface.fillRect(within(kFrame * point), Qt::white);
     surface.setPen(Qt::black);
     drawFitted(surface, target, labelFont(), within((kFrame + kPadding / 2) * point),

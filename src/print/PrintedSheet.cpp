@@ -1,9 +1,11 @@
 #include "print/PrintedSheet.h"
 
 #include "paint/CellBox.h"
+#include "paint/Inks.h"
 #include "paint/PlanGrid.h"
 #include "paint/UnknownMark.h"
 #include "plan/FaultWords.h"
+#include "plan/RoomRows.h"
 #include "print/CapacityLabel.h"
 #include "print/FittedText.h"
 
@@ -17,20 +19,15 @@ namespace
 {
 
 using paint::DrawingTarget;
+using paint::kFrameInk;
+using paint::kFrameLine;
+using paint::toColor;
 
 constexpr QColor kInk(0, 0, 0);
-constexpr QColor kFrameInk(60, 60, 60);
-constexpr QColor kOldInk(130, 130, 130); // totals that were counted before the last choice
 // Row colour while the rows are not coloured: paler than on the screen, paper takes ink.
 constexpr form::Colour kPlainRow = form::Colour::fromRgb(240, 240, 240);
-// Points: width of a frame's line, gap between a frame and its text.
-constexpr double kFrameLine = 0.5;
+// Points between a frame and its text.
 constexpr double kTextGap = 2;
-
-QColor toColor(form::Colour color)
-{
-    return {color.red(), color.green(), color.blue()};
-}
 
 QRectF pixels(const DrawingTarget& target, const form::Place& place)
 {
@@ -58,7 +55,7 @@ void printTicks(QPainter& surface, const DrawingTarget& target, const Sheet& she
 
 void printTotals(QPainter& surface, const DrawingTarget& target, const Sheet& sheet)
 {
-    const QColor ink = sheet.page.state.totals.isOld ? kOldInk : kInk;
+    const QColor ink = sheet.page.state.totals.isOld ? paint::kGreyedInk : kInk;
     for (const form::Label& total : sheet.page.state.form.Tot) {
         if (total.visible) {
             surface.setPen(QPen(kFrameInk, kFrameLine * target.PixelsPerPoint));
@@ -184,10 +181,10 @@ void PrintPlanBody(QPainter& surface, const DrawingTarget& target, const Sheet& 
     // The boxes were looked up for this sheet, by the refresh itself: paper and screen have one
     // rule.
     for (const plan::PlanRow& row : sheet.page.content.rows) {
-        const form::Label& room = form.Salle.at(static_cast<std::size_t>(row.index));
-        if (!room.visible) {
+        if (!plan::isShown(form, row)) {
             continue;
         }
+        const form::Label& room = form.Salle.at(static_cast<std::size_t>(row.index));
         const form::Colour color = form.Colorer.isChecked() ? room.backColor : kPlainRow;
         surface.save();
         printRowLabel(surface, target, room, color, Qt::AlignLeft);

@@ -14,6 +14,18 @@ TEST(RoomRows, standOneBelowTheOtherWithAFixedGap)
     EXPECT_EQ(form.Salle[29].place.height, 400);
 }
 
+TEST(RoomRows, areShownAsLongAsTheLabelOfTheirRoomIs)
+{
+    form::PlanForm form;
+    form.Salle[2].visible = true;
+    form.Salle[3].visible = false;
+    plan::PlanRow row;
+    row.index = 2;
+    EXPECT_TRUE(plan::isShown(form, row));
+    row.index = 3;
+    EXPECT_FALSE(plan::isShown(form, row));
+}
+
 TEST(RoomRows, endWithTheirPlacesAtTheWindowsEdge)
 {
     form::PlanForm form;
