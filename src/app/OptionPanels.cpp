@@ -207,8 +207,9 @@ void addPagePanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Page"));
     auto* caption = plainLabel(QStringLiteral("Lignes/Page : "));
-    auto* lines = make.add<QSpinBox>("Total_L_P", form.Total_L_P,
-                                     QStringLiteral("Nombre de salles par page, 29 au plus"));
+    auto* lines = make.add<QSpinBox>(
+        "Total_L_P", form.Total_L_P,
+        QStringLiteral("Nombre de salles par page, %1 au plus").arg(form::PlanForm::kMostRooms));
     const QSignalBlocker quiet(lines);
     lines->setRange(1, 99);
     lines->setAccessibleName(QStringLiteral("Lignes par page"));

@@ -29,8 +29,6 @@ namespace app
 namespace
 {
 
-// Key code by which the form knows F2.
-constexpr int kFormKeyF2 = 113;
 // Size of the window when the user takes it out of full size.
 constexpr QSize kFirstSize(1280, 720);
 
@@ -280,7 +278,7 @@ void PlClasse::showHelp()
 void PlClasse::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F2) {
-        forward([this] { m_shell.Form_KeyDown(kFormKeyF2); });
+        forward([this] { m_shell.Form_KeyDown(shell::Shell::kKeyF2); });
         return;
     }
     if (event->key() == Qt::Key_F5) {

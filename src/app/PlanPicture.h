@@ -16,7 +16,7 @@ class PlanPicture
 public:
     /// Height of the totals band, in device-independent pixels.
     static constexpr int kTotalsHeight = 26;
-    /// What lies behind the bands around the boxes.
+    /// What lies behind the bands around the boxes, and the rest of the window with them.
     static constexpr QColor kBandFill{246, 247, 250};
 
     /// Draws everything anew. `size` covers rows and time axis, `ratio` is the screen's device

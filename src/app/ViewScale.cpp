@@ -1,5 +1,6 @@
 #include "app/ViewScale.h"
 
+#include "plan/CellLayout.h"
 #include "plan/RoomRows.h"
 #include "print/Targets.h"
 
@@ -19,13 +20,13 @@ constexpr int kFewestTwipsDown = 9;
 /// needs 38 pixels, one of two 33 (an exam adds a line), one of a single line 13.
 int mostTwipsDown(int rowHeight)
 {
-    if (rowHeight >= 700) {
+    if (rowHeight >= plan::CellLayout::kThreeLinesHeight) {
         return rowHeight / 38;
     }
-    if (rowHeight >= 400) {
+    if (rowHeight >= plan::CellLayout::kTwoLinesHeight) {
         return rowHeight / 33;
     }
-    return rowHeight >= 300 ? rowHeight / 17 : rowHeight / 13;
+    return rowHeight >= plan::CellLayout::kOneLineHeight ? rowHeight / 17 : rowHeight / 13;
 }
 
 } // namespace

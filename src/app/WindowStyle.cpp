@@ -1,5 +1,7 @@
 #include "app/WindowStyle.h"
 
+#include "app/PlanPicture.h"
+
 namespace app
 {
 
@@ -7,7 +9,7 @@ QString windowStyleSheet()
 {
     return QStringLiteral(R"(
 * { font-family: "Segoe UI", "Liberation Sans", Arial, sans-serif; font-size: 12px; }
-QMainWindow { background: #f6f7fa; }
+QMainWindow { background: %1; }
 #HeaderBand { background: #1f3a5f; }
 #HeaderBand QLabel { color: #ffffff; }
 #HeaderBand QLabel[role="title"] { font-size: 20px; font-weight: bold; }
@@ -31,7 +33,8 @@ QStatusBar { background: #eef1f6; color: #48597a; }
 QStatusBar QLabel { color: #48597a; padding: 0 6px; }
 QStatusBar::item { border: none; }
 QToolTip { font-size: 12px; }
-)");
+)")
+        .arg(PlanPicture::kBandFill.name());
 }
 
 } // namespace app

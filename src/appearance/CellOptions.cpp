@@ -7,27 +7,21 @@ namespace appearance
 namespace
 {
 
-// Pages of fewer rooms than this have rows high enough for several lines.
-constexpr double kManyRooms = 20;
-constexpr double kMostRooms = 29;
+using form::PlanForm;
+using plan::CellLayout;
+
 // From this many rooms on a box text is centred, whatever it shows.
 constexpr double kCentredFrom = 19;
-
-// Row heights in twips: for one, two and three parts in a box, and on pages of many rooms.
-constexpr int kOneLineHeight = 300;
-constexpr int kTwoLinesHeight = 400;
-constexpr int kThreeLinesHeight = 700;
-constexpr int kManyRoomsHeight = 200;
 
 int heightFor(int lines)
 {
     switch (lines) {
     case 3:
-        return kThreeLinesHeight;
+        return CellLayout::kThreeLinesHeight;
     case 2:
-        return kTwoLinesHeight;
+        return CellLayout::kTwoLinesHeight;
     default:
-        return kOneLineHeight;
+        return CellLayout::kOneLineHeight;
     }
 }
 
@@ -47,19 +41,19 @@ void Adapter_Cellules(form::PlanForm& form, plan::CellLayout& layout)
 {
     layout.displayStyle = (form.XpMat.isChecked() ? 1 : 0) + (form.XOpEns.isChecked() ? 1 : 0) +
                           (form.XOpCl.isChecked() ? 1 : 0);
-    if (context::linesPerPage(form) < kManyRooms) {
+    if (context::linesPerPage(form) < CellLayout::kManyRooms) {
         form.Salle.front().place.height = heightFor(layout.displayStyle);
         layout.CellSeparator = QStringLiteral("\r\n");
     } else {
-        if (context::linesPerPage(form) > kMostRooms) {
-            form.Total_L_P.setText(QStringLiteral("29"));
+        if (context::linesPerPage(form) > PlanForm::kMostRooms) {
+            form.Total_L_P.setText(QString::number(PlanForm::kMostRooms));
         }
-        form.Salle.front().place.height = kManyRoomsHeight;
+        form.Salle.front().place.height = CellLayout::kManyRoomsHeight;
         layout.CellSeparator.clear();
     }
     layout.CellTextFormat = layout.displayStyle >= 2 && context::linesPerPage(form) < kCentredFrom
-                                ? plan::CellLayout::kWordBreak
-                                : plan::CellLayout::kCentredLines;
+                                ? CellLayout::kWordBreak
+                                : CellLayout::kCentredLines;
     hideRowsBeyond(form, context::linesPerPage(form));
 }
 

@@ -15,8 +15,9 @@ namespace form
 class PlanForm
 {
 public:
-    /// Rows a page can hold at most, row 0 included: the rooms-per-page box is capped at 29.
-    static constexpr int kRows = 30;
+    static constexpr int kRows = 30; ///< rows of the window's design, row 0 included
+    /// Rooms a page can hold at most: row 0 shows the room before the first one.
+    static constexpr int kMostRooms = kRows - 1;
     static constexpr int kTicks = 12;      ///< hour ticks of the time axis, 8h00 to 19h00
     static constexpr int kSlotLabels = 11; ///< totals under the plan, one per slot of the day
 

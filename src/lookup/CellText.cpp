@@ -109,8 +109,8 @@ void Composer::composeInvigilators()
 void Composer::composeRoomA()
 {
     const QString nature = textOf(column::kNewNature);
-    const bool meets =
-        m_options.everyWeek || nature == u"00" || (m_options.showsWeekA && nature == u"10/20");
+    const bool meets = m_options.everyWeek || nature == timetable::nature::kEveryWeek ||
+                       (m_options.showsWeekA && nature == timetable::nature::kAlternating);
     if (!meets || !isRoom(column::kSalle)) {
         return;
     }

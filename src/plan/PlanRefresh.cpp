@@ -23,9 +23,6 @@ constexpr int kSlots = 10;
 // entries 0 and 1 of a palette are not meant for rows.
 constexpr int kColorStep = 2;
 constexpr form::Colour kPlainRow = form::Colour::fromRgb(215, 215, 215);
-// The counter of a box that shows several parts stands in its right corner, on pages of fewer rooms
-// than this.
-constexpr double kManyRooms = 20;
 
 } // namespace
 
@@ -251,8 +248,10 @@ void PlanRefresh::drawSlot(PlanRow& planRow, int slot, lookup::RoomCell cell, bo
     box.marker =
         m_markers.fill(box.cell, m_state.period.TrancheIdent, m_state.form.DTPicker1.value());
     testAbsences(box);
-    const bool atRight =
-        m_state.layout.displayStyle >= 2 && context::linesPerPage(m_state.form) < kManyRooms;
+    // Where rows are high, the counter of a box that shows several parts stands in its right
+    // corner.
+    const bool atRight = m_state.layout.displayStyle >= 2 &&
+                         context::linesPerPage(m_state.form) < CellLayout::kManyRooms;
     box.group = groupCounterOf(box.cell, planRow.places, atRight);
     planRow.boxes.push_back(std::move(box));
 }

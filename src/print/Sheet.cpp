@@ -3,6 +3,7 @@
 #include "context/TimeAxis.h"
 #include "plan/RoomRows.h"
 #include "runtime/Numbers.h"
+#include "runtime/TimeOfDay.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,7 +24,6 @@ constexpr double kPaperHeight = 11180;
 constexpr int kAroundRows = 1580;
 constexpr int kBesideSheet = 600;
 constexpr double kMostRows = form::PlanForm::kRows;
-constexpr int kMinutesPerDay = 24 * 60;
 
 /// Calls `visit` with the start and the length of every slot of the day and of every box.
 template <typename Visit>
@@ -63,7 +63,7 @@ int axisEnd(const plan::PlanPage& page, const context::DaySlots& slots, const Ti
     });
     // A box of an absurd length must not shrink the rest: the day ends at midnight.
     const int midnight = axis.TimeToX(QStringLiteral("0h00")) +
-                         runtime::nearestInteger(axis.widthOf(kMinutesPerDay));
+                         runtime::nearestInteger(axis.widthOf(runtime::kMinutesOfDay));
     return std::min(end, midnight);
 }
 

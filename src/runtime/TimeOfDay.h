@@ -6,6 +6,8 @@
 namespace runtime
 {
 
+inline constexpr int kMinutesOfDay = 24 * 60;
+
 /// The text in upper case with every "H" turned into ":", as times are read from it.
 [[nodiscard]] QString normaliseTimeText(const QString& text);
 

@@ -1,6 +1,7 @@
 #include "shell/CommandLine.h"
 
 #include "files/FileFormat.h"
+#include "form/PlanForm.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -57,7 +58,8 @@ const std::vector<OptionText>& optionTexts()
         {"zone", QStringLiteral("0..9"), QStringLiteral("zone des salles ; 0 pour toutes")},
         {"department", QStringLiteral("ID"), QStringLiteral("ajoute les salles de ce département")},
         {"neutral", {}, QStringLiteral("ajoute les salles sans département (avec --department)")},
-        {"rooms-per-page", QStringLiteral("1..29"), QStringLiteral("salles par page")},
+        {"rooms-per-page", QStringLiteral("1..%1").arg(form::PlanForm::kMostRooms),
+         QStringLiteral("salles par page")},
         {"show", QStringLiteral("class,teacher,subject,type,invigilator"),
          QStringLiteral("ce que montrent les cases, exactement")},
         {"subject", QStringLiteral("NOM"), QStringLiteral("ne montre que cette matière")},
@@ -294,7 +296,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     if (line.neutral && !line.department) {
         fail(QStringLiteral("neutral"), QStringLiteral("demande --department"));
     }
-    line.roomsPerPage = reader.number("rooms-per-page", 1, 29);
+    line.roomsPerPage = reader.number("rooms-per-page", 1, form::PlanForm::kMostRooms);
     line.show = readShown(reader);
     line.subject = reader.optionalText("subject");
     line.makeup = reader.has("makeup");

@@ -2,7 +2,6 @@
 
 #include "context/AxisLabels.h"
 #include "plan/RoomRows.h"
-#include "runtime/Numbers.h"
 
 #include <utility>
 
@@ -11,8 +10,6 @@ namespace shell
 namespace
 {
 
-// Key code of F2.
-constexpr int kKeyF2 = 113;
 // Twips between the totals line and the window's inner bottom once the window is active.
 constexpr int kTotalsMargin = 470;
 

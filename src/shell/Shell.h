@@ -17,6 +17,9 @@ namespace shell
 class Shell
 {
 public:
+    /// Key code by which the form knows F2, as the platforms of its design number their keys.
+    static constexpr int kKeyF2 = 113;
+
     Shell(Settings settings, engine::Surroundings surroundings);
 
     /// Start-up, in a fixed order: settings, database, header, slots, rooms, date. Errors: a
@@ -30,7 +33,7 @@ public:
     void Form_Resize();
     /// Sizes the plan for a picture that holds all of it.
     void fitPicture();
-    /// F2 (key code 113) switches pale colours; other keys do nothing.
+    /// `kKeyF2` switches pale colours; other keys do nothing.
     void Form_KeyDown(int keyCode);
     /// Closes the database and writes back the settings that changed. Closing twice does nothing.
     /// Error: PathFileAccess when the settings cannot be saved; all else is done by then.

@@ -25,7 +25,7 @@ inline constexpr SqlName kSemaine{u"Semaine"}; ///< exam week number, `examen` o
 inline constexpr SqlName kDateX{u"DateX"};     ///< day of the make-up, `ratrap` only
 
 inline constexpr SqlName kClasse{u"Classe"};
-inline constexpr SqlName kNewNature{u"newnature"}; ///< week rule: "00", "10/20"
+inline constexpr SqlName kNewNature{u"newnature"}; ///< week rule: see `nature`
 inline constexpr SqlName kDebut{u"Debut"};         ///< start, for example 8h30
 inline constexpr SqlName kDuree{u"Durée"};         ///< minutes
 inline constexpr SqlName kTypeS1{u"TypeS1"};       ///< type of the A course
@@ -73,5 +73,12 @@ inline constexpr std::array kRooms{kSalle, kXSalle, kYSalle, kSalleB, kXSalleB, 
 inline constexpr std::array kExamRooms{kSalle};
 
 } // namespace column
+
+/// What `newnature` holds. Its values are compared letter by letter, here and not by the database.
+namespace nature
+{
+inline constexpr QStringView kEveryWeek = u"00";
+inline constexpr QStringView kAlternating = u"10/20"; ///< week A and week B take turns
+} // namespace nature
 
 } // namespace timetable

@@ -1,11 +1,12 @@
 #include "timetable/Period.h"
 
+#include "timetable/DaySlot.h"
+
 namespace timetable
 {
 namespace
 {
 
-constexpr qint64 kDaysOfWeek = 7;
 constexpr int kDaysOfExamWeek = 6;
 constexpr qint64 kWeeksBeforeControls = 4;
 

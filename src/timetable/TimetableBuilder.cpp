@@ -1,5 +1,6 @@
 #include "timetable/TimetableBuilder.h"
 
+#include "timetable/MeetingColumns.h"
 #include "timetable/ReadTimes.h"
 
 #include <algorithm>
@@ -8,10 +9,6 @@ namespace timetable
 {
 namespace
 {
-
-/// What `newnature` holds where week A and week B take turns. The plan compares it letter by
-/// letter, so this is no question to the database.
-constexpr QStringView kAlternating = u"10/20";
 
 bool isBlank(QStringView text)
 {
@@ -101,7 +98,7 @@ void TimetableBuilder::addMeeting(MeetingKind kind, const MeetingTexts& texts)
     meeting.lengthText = text(texts[field::kLength]);
     meeting.length = reading(meeting.lengthText).length;
     meeting.nature = text(texts[field::kNature]);
-    meeting.alternates = texts[field::kNature] == kAlternating;
+    meeting.alternates = texts[field::kNature] == nature::kAlternating;
     meeting.examWeek = reading(text(texts[field::kExamWeek])).number.value_or(0);
     meeting.date = reading(text(texts[field::kDate])).date.value_or(QDate());
 }
