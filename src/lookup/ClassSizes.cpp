@@ -2,19 +2,15 @@
 
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/SchoolColumns.h"
+#include "timetable/SlotKeys.h"
 
 namespace lookup
 {
 
 std::int16_t SlotIndex(const QString& seanceKey)
 {
-    QString digits;
-    for (const QChar character : seanceKey) {
-        if (character >= u'0' && character <= u'9') {
-            digits.append(character);
-        }
-    }
-    return runtime::nearestInt16(runtime::leadingNumber(digits) - 1);
+    return runtime::nearestInt16(timetable::slotNumber(seanceKey) - 1);
 }
 
 std::int16_t StudentCount(RowSource& source, const QString& className)
@@ -29,7 +25,7 @@ std::int16_t ClassCapacity(RowSource& source, const QString& className)
         runtime::skipOnError([&] {
             const db::Recordset found = source.classRows(className);
             if (!found.isEmpty()) {
-                capacity = found.first().field(QStringLiteral("Capacite")).toInt16();
+                capacity = found.first().field(timetable::column::kCapacite).toInt16();
             }
         });
     }

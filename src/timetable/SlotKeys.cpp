@@ -27,14 +27,19 @@ QString digitsOf(const QString& key)
     return digits;
 }
 
-int slotNumber(const QString& digits)
+int numberIfAny(const QString& key)
 {
     int number = 0; // a number that is too large names no slot
-    runtime::skipOnError([&] { number = runtime::nearestInt16(runtime::leadingNumber(digits)); });
+    runtime::skipOnError([&] { number = runtime::nearestInt16(slotNumber(key)); });
     return number;
 }
 
 } // namespace
+
+double slotNumber(const QString& key)
+{
+    return runtime::leadingNumber(digitsOf(key));
+}
 
 SlotKeys::SlotKeys(const TextPool& texts)
 {
@@ -45,7 +50,7 @@ SlotKeys::SlotKeys(const TextPool& texts)
     for (const QString& number : numbers.texts()) {
         for (int day = kMonday; day < kDaysOfWeek; ++day) {
             m_texts.push_back(dayName(day) + number);
-            m_meanings.push_back({day, slotNumber(number)});
+            m_meanings.push_back({day, numberIfAny(number)});
         }
     }
 }

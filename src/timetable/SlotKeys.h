@@ -9,6 +9,10 @@
 namespace timetable
 {
 
+/// The number that a slot's key names: all its digits read as one number, wherever they stand. 3
+/// for Lundi3; 0 for a key without digits. As large as the digits say: no slot need have it.
+[[nodiscard]] double slotNumber(const QString& key);
+
 /// The keys that a timetable's rows might name, spelt as the plan asks for them: a French day, then
 /// a slot number. Whether a row's key is one of them is the database's to say.
 class SlotKeys

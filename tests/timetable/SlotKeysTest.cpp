@@ -30,6 +30,15 @@ SlotKey meaningOf(const SlotKeys& keys, const QString& key)
 
 } // namespace
 
+TEST(SlotNumber, isAllDigitsOfTheKeyReadAsOneNumber)
+{
+    EXPECT_EQ(slotNumber("Lundi3"), 3);
+    EXPECT_EQ(slotNumber("S1A2"), 12);
+    EXPECT_EQ(slotNumber("-2,5"), 25);
+    EXPECT_EQ(slotNumber("Lundi99999"), 99999);
+    EXPECT_EQ(slotNumber("Lundi"), 0);
+}
+
 TEST(SlotKeys, areEveryDayWithEachNumberThatComesUp)
 {
     const SlotKeys keys = keysFor({u"mardi3", u"Lundi11", u"JEUDI3"});
