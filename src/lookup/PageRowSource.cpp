@@ -1,14 +1,20 @@
 #include "lookup/PageRowSource.h"
 
 #include "db/MatchMasks.h"
+#include "lookup/ClassStatements.h"
 #include "runtime/RunTimeError.h"
 #include "timetable/MeetingColumns.h"
+#include "timetable/SchoolColumns.h"
 
 #include <QSet>
 #include <optional>
 
 namespace lookup
 {
+
+namespace column = timetable::column;
+namespace table = timetable::table;
+
 namespace
 {
 
@@ -53,9 +59,8 @@ bool haveOneCapacity(const db::Recordset& rows)
 {
     bool same = true;
     runtime::skipOnError([&] { // without the column there is none at all
-        const QString column = QStringLiteral("Capacite");
         for (const db::Row& row : rows.rows()) {
-            same = same && row.field(column) == rows.first().field(column);
+            same = same && row.field(column::kCapacite) == rows.first().field(column::kCapacite);
         }
     });
     return same;
@@ -117,9 +122,11 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
     // The database groups the spellings that it takes for equal. A name that comes back as it is
     // spelt here equals that group and no other.
     const db::Recordset groups = m_database.Db().open(
-        QStringLiteral("Select classe as v, count(*) as n from etudiant WHERE ") +
-        db::MatchMasks(QStringLiteral("classe"), classNames, m_database.dialect()).anyOf() +
-        QStringLiteral(" group by classe"));
+        QStringLiteral("Select ") + column::kClasseOfStudent +
+        QStringLiteral(" as v, count(*) as n from ") + table::kEtudiant +
+        QStringLiteral(" WHERE ") +
+        db::MatchMasks(column::kClasseOfStudent, classNames, m_database.dialect()).anyOf() +
+        QStringLiteral(" group by ") + column::kClasseOfStudent);
     QHash<QString, int> rows;
     rows.reserve(classNames.size());
     for (const db::Row& group : groups.rows()) {
@@ -131,8 +138,7 @@ void PageRowSource::fetchStudents(const QStringList& classNames)
     const QStringList others = unanswered(classNames, rows);
     QStringList statements;
     for (const QString& name : others) {
-        statements << QStringLiteral("count(*) as n from etudiant WHERE classe=") +
-                          m_database.dialect().literal(name);
+        statements << QStringLiteral("count(*) as n") + fromStudentsOf(name, m_database.dialect());
     }
     const std::vector<db::Recordset> counts = m_database.Db().openJoined(statements);
     for (std::size_t index = 0; index < counts.size(); ++index) {
@@ -146,10 +152,11 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
 {
     // A group of one row has that row's capacity for its least one.
     const db::Recordset groups = m_database.Db().open(
-        QStringLiteral("select Nom as v, count(*) as n, min(Capacite) as Capacite from classe "
-                       "Where ") +
-        db::MatchMasks(QStringLiteral("Nom"), classNames, m_database.dialect()).anyOf() +
-        QStringLiteral(" group by Nom"));
+        QStringLiteral("select ") + column::kNom + QStringLiteral(" as v, count(*) as n, min(") +
+        column::kCapacite + QStringLiteral(") as ") + column::kCapacite + QStringLiteral(" from ") +
+        table::kClasseTable + QStringLiteral(" Where ") +
+        db::MatchMasks(column::kNom, classNames, m_database.dialect()).anyOf() +
+        QStringLiteral(" group by ") + column::kNom);
     m_classRows.reserve(classNames.size());
     for (const db::Row& group : groups.rows()) {
         if (group.field(1).toInt32() == 1) {
@@ -162,8 +169,8 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
     const QStringList others = unanswered(classNames, m_classRows);
     QStringList statements;
     for (const QString& name : others) {
-        statements << QStringLiteral("classe.* from classe Where Nom=") +
-                          m_database.dialect().literal(name);
+        statements << table::kClasseTable + QStringLiteral(".*") +
+                          fromClass(name, m_database.dialect());
     }
     const std::vector<db::Recordset> found = m_database.Db().openJoined(statements);
     for (std::size_t index = 0; index < found.size(); ++index) {
@@ -179,7 +186,7 @@ QStringList PageRowSource::allClasses() const
     for (const auto& [table, cells] : m_cells) {
         cells.forTaken([&names](const db::Recordset& rows) {
             for (const db::Row& row : rows.rows()) {
-                names.collect(row, timetable::column::kClasse);
+                names.collect(row, column::kClasse);
             }
         });
     }
@@ -195,8 +202,8 @@ PageFacts PageRowSource::facts() const
     for (const auto& [table, cells] : m_cells) {
         cells.forTaken([&](const db::Recordset& rows) {
             names.collect(m_questions.listsOccupants ? rows.first() : rows.rows().back(),
-                          timetable::column::kClasse);
-            starts.collect(rows.first(), timetable::column::kDebut);
+                          column::kClasse);
+            starts.collect(rows.first(), column::kDebut);
         });
     }
     return {names.texts(), starts.texts()};

@@ -1,5 +1,7 @@
 #include "lookup/PlainRowSource.h"
 
+#include "lookup/ClassStatements.h"
+
 namespace lookup
 {
 
@@ -10,14 +12,14 @@ db::Recordset PlainRowSource::timetableRows(const RoomQuestion& question)
 
 int PlainRowSource::studentRows(const QString& className)
 {
-    return m_database.Db().recordCount(QStringLiteral("Select * from etudiant WHERE classe=") +
-                                       m_database.dialect().literal(className));
+    return m_database.Db().recordCount(QStringLiteral("Select *") +
+                                       fromStudentsOf(className, m_database.dialect()));
 }
 
 db::Recordset PlainRowSource::classRows(const QString& className)
 {
-    return m_database.Db().open(QStringLiteral("select * from classe Where Nom=") +
-                                m_database.dialect().literal(className));
+    return m_database.Db().open(QStringLiteral("select *") +
+                                fromClass(className, m_database.dialect()));
 }
 
 } // namespace lookup
