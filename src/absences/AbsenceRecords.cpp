@@ -1,5 +1,6 @@
 #include "absences/AbsenceRecords.h"
 
+#include "absences/AbsenceColumns.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/TimeOfDay.h"
 
@@ -61,7 +62,7 @@ QString adding(const QString& record)
 
 QString endTime(const QString& start, int minutes)
 {
-    constexpr int kMinutesOfDay = 24 * 60;
+    using runtime::kMinutesOfDay;
     // Added twice: the remainder of a negative number is negative.
     const int end =
         (runtime::endMinute(start, minutes) % kMinutesOfDay + kMinutesOfDay) % kMinutesOfDay;
@@ -73,19 +74,21 @@ QString endTime(const QString& start, int minutes)
 QString AbsenceRecords::classSearch(const Marqueur& marker, const QString& className) const
 {
     const db::SqlDialect dialect = m_database.dialect();
-    return QStringLiteral(" Select * from abscence Where Classe=") + dialect.literal(className) +
-           QStringLiteral(" and Datex=") + dialect.dateLiteral(marker.Jour) +
-           QStringLiteral(" and Debut=") + dialect.literal(marker.Debut);
+    return QStringLiteral(" Select * from ") + table::kAbscence + QStringLiteral(" Where ") +
+           column::kClasse + u'=' + dialect.literal(className) + QStringLiteral(" and ") +
+           column::kDatex + u'=' + dialect.dateLiteral(marker.Jour) + QStringLiteral(" and ") +
+           column::kDebut + u'=' + dialect.literal(marker.Debut);
 }
 
 QString AbsenceRecords::studentSearch(const Marqueur& marker, const QString& className,
-                                      const QString& andName, const QString& name) const
+                                      const QString& blanks, const QString& name) const
 {
     const db::SqlDialect dialect = m_database.dialect();
-    return QStringLiteral(" Select * from etud_abs Where Classe=") + dialect.literal(className) +
-           andName + dialect.literal(name) + QStringLiteral(" and Jour=") +
-           dialect.dateLiteral(marker.Jour) + QStringLiteral(" and HeureD=") +
-           dialect.literal(marker.Debut);
+    return QStringLiteral(" Select * from ") + table::kEtudAbs + QStringLiteral(" Where ") +
+           column::kClasse + u'=' + dialect.literal(className) + blanks + QStringLiteral("and ") +
+           column::kNom + u'=' + dialect.literal(name) + QStringLiteral(" and ") + column::kJour +
+           u'=' + dialect.dateLiteral(marker.Jour) + QStringLiteral(" and ") + column::kHeureD +
+           u'=' + dialect.literal(marker.Debut);
 }
 
 bool AbsenceRecords::holds(const QStringList& names) const
@@ -108,7 +111,7 @@ bool AbsenceRecords::Existe_AbsClasse(const Marqueur& marker, const QString& cla
 bool AbsenceRecords::Existe_AbsEtud(const Marqueur& marker, const QString& className,
                                     const QString& name)
 {
-    return exists(studentSearch(marker, className, QStringLiteral(" and Nom="), name));
+    return exists(studentSearch(marker, className, QStringLiteral(" "), name));
 }
 
 bool AbsenceRecords::removeFirst(const Removal& removal)
@@ -121,8 +124,7 @@ bool AbsenceRecords::removeFirst(const Removal& removal)
     }
     return runtime::during(removing(removal.record), [&] {
         // A name whose quotes are not its own may make the search find anybody's record.
-        if (!removal.isHeld &&
-            found.first().field(QStringLiteral("Classe")).toText() != removal.className) {
+        if (!removal.isHeld && found.first().field(column::kClasse).toText() != removal.className) {
             throw runtime::RunTimeError(
                 runtime::ErrorNumber::StatementRefused,
                 QStringLiteral("The record found belongs to another class."));
@@ -146,25 +148,24 @@ void AbsenceRecords::Basculer_AbsClasse(Marqueur& marker, const QString& classNa
 void AbsenceRecords::addClass(const Marqueur& marker, const QString& className)
 {
     // The séance types that the lookup does not keep are 0.
-    m_database.Db().insert(QStringLiteral("abscence"),
-                           {{QStringLiteral("Classe"), Value(className)},
-                            {QStringLiteral("Seance"), Value(marker.Seance)},
-                            {QStringLiteral("Tranche"), number(marker.Tranche)},
-                            {QStringLiteral("matière"), Value(marker.Matiere)},
-                            {QStringLiteral("Salle"), Value(marker.Salle)},
-                            {QStringLiteral("Enseignant1"), Value(marker.Enseignant1)},
-                            {QStringLiteral("newnature"), Value(marker.newnature)},
-                            {QStringLiteral("TypeS1"), number(marker.TypeS1)},
-                            {QStringLiteral("TypeS2"), number(0)},
-                            {QStringLiteral("TypeS3"), number(0)},
-                            {QStringLiteral("TypeS1B"), number(0)},
-                            {QStringLiteral("TypeS2B"), number(0)},
-                            {QStringLiteral("TypeS3B"), number(marker.TypeS3B)},
-                            {QStringLiteral("Durée"), number(marker.Duree)},
-                            {QStringLiteral("Commune"), Value(marker.Commune)},
-                            {QStringLiteral("Debut"), Value(marker.Debut)},
-                            {QStringLiteral("Datex"), Value(marker.Jour)},
-                            {QStringLiteral("Choix"), number(marker.Choix)}});
+    m_database.Db().insert(table::kAbscence, {{column::kClasse, Value(className)},
+                                              {column::kSeance, Value(marker.Seance)},
+                                              {column::kTranche, number(marker.Tranche)},
+                                              {column::kMatiere, Value(marker.Matiere)},
+                                              {column::kSalle, Value(marker.Salle)},
+                                              {column::kEnseignant1, Value(marker.Enseignant1)},
+                                              {column::kNewNature, Value(marker.newnature)},
+                                              {column::kTypeS1, number(marker.TypeS1)},
+                                              {column::kTypeS2, number(0)},
+                                              {column::kTypeS3, number(0)},
+                                              {column::kTypeS1B, number(0)},
+                                              {column::kTypeS2B, number(0)},
+                                              {column::kTypeS3B, number(marker.TypeS3B)},
+                                              {column::kDuree, number(marker.Duree)},
+                                              {column::kCommune, Value(marker.Commune)},
+                                              {column::kDebut, Value(marker.Debut)},
+                                              {column::kDatex, Value(marker.Jour)},
+                                              {column::kChoix, number(marker.Choix)}});
 }
 
 void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className,
@@ -173,9 +174,8 @@ void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className
     ++m_toggles;
     const QString record = studentRecordName(marker, className);
     // Two blanks before "and", where the test has one: both find the same rows.
-    const bool removed =
-        removeFirst({studentSearch(marker, className, QStringLiteral("  and Nom="), name), record,
-                     className, holds({className, name, marker.Debut})});
+    const bool removed = removeFirst({studentSearch(marker, className, QStringLiteral("  "), name),
+                                      record, className, holds({className, name, marker.Debut})});
     if (!removed) {
         runtime::during(adding(record), [&] { addStudent(marker, className, name); });
     }
@@ -185,16 +185,16 @@ void AbsenceRecords::Basculer_AbsEtud(Marqueur& marker, const QString& className
 void AbsenceRecords::addStudent(const Marqueur& marker, const QString& className,
                                 const QString& name)
 {
-    m_database.Db().insert(QStringLiteral("etud_abs"),
-                           {{QStringLiteral("Classe"), Value(className)},
-                            {QStringLiteral("Nom"), Value(name)},
-                            {QStringLiteral("Seance"), Value(marker.Seance)},
-                            {QStringLiteral("Tranche"), number(marker.Tranche)},
-                            {QStringLiteral("matière"), Value(marker.Matiere)},
-                            {QStringLiteral("HeureD"), Value(marker.Debut)},
-                            {QStringLiteral("HeureF"), Value(endTime(marker.Debut, marker.Duree))},
-                            {QStringLiteral("Jour"), Value(marker.Jour)},
-                            {QStringLiteral("Ident"), Value(name.left(kIdentLength))}});
+    m_database.Db().insert(table::kEtudAbs,
+                           {{column::kClasse, Value(className)},
+                            {column::kNom, Value(name)},
+                            {column::kSeance, Value(marker.Seance)},
+                            {column::kTranche, number(marker.Tranche)},
+                            {column::kMatiere, Value(marker.Matiere)},
+                            {column::kHeureD, Value(marker.Debut)},
+                            {column::kHeureF, Value(endTime(marker.Debut, marker.Duree))},
+                            {column::kJour, Value(marker.Jour)},
+                            {column::kIdent, Value(name.left(kIdentLength))}});
 }
 
 } // namespace absences

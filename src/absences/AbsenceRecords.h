@@ -56,9 +56,9 @@ private:
     /// is not the gesture's.
     [[nodiscard]] bool removeFirst(const Removal& removal);
     [[nodiscard]] QString classSearch(const plan::Marqueur& marker, const QString& className) const;
-    /// `andName`: " and Nom=" with the blanks that belong to it.
+    /// `blanks`: those before the condition on the name.
     [[nodiscard]] QString studentSearch(const plan::Marqueur& marker, const QString& className,
-                                        const QString& andName, const QString& name) const;
+                                        const QString& blanks, const QString& name) const;
     void addClass(const plan::Marqueur& marker, const QString& className);
     void addStudent(const plan::Marqueur& marker, const QString& className, const QString& name);
 

@@ -1,5 +1,7 @@
 #include "absences/PageAbsences.h"
 
+#include "absences/AbsenceColumns.h"
+
 #include <algorithm>
 
 namespace absences
@@ -37,20 +39,20 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 QString PageAbsences::query(int kind) const
 {
     const db::SqlDialect dialect = m_database.dialect();
-    const db::MatchMasks classes(QStringLiteral("Classe"), m_classNames, dialect);
-    const db::MatchMasks names(QStringLiteral("Nom"), m_classNames, dialect);
+    const db::MatchMasks classes(column::kClasse, m_classNames, dialect);
+    const db::MatchMasks names(column::kNom, m_classNames, dialect);
     const bool ofClasses = kind == kClasses;
-    const db::MatchMasks starts(ofClasses ? QStringLiteral("Debut") : QStringLiteral("HeureD"),
-                                m_starts, dialect);
+    const db::MatchMasks starts(ofClasses ? column::kDebut : column::kHeureD, m_starts, dialect);
     QString nameMasks = names.selectList(QStringLiteral("tempora_n"));
     if (ofClasses) {
         nameMasks = QStringLiteral("0") + QStringLiteral(", 0").repeated(names.columnCount() - 1);
     }
-    const QString table = ofClasses ? QStringLiteral(" from abscence Where Datex=")
-                                    : QStringLiteral(" from etud_abs Where Jour=");
+    const QString recorded = ofClasses ? table::kAbscence : table::kEtudAbs;
+    const QString day = ofClasses ? column::kDatex : column::kJour;
     return QStringLiteral("Select ") + QString::number(kind) + QStringLiteral(" as tempora_t, ") +
            classes.selectList(QStringLiteral("tempora_c")) + QStringLiteral(", ") + nameMasks +
-           QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) + table +
+           QStringLiteral(", ") + starts.selectList(QStringLiteral("tempora_s")) +
+           QStringLiteral(" from ") + recorded + QStringLiteral(" Where ") + day + u'=' +
            dialect.dateLiteral(m_date) + QStringLiteral(" and ") + classes.anyOf();
 }
 
