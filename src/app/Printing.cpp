@@ -4,6 +4,7 @@
 #include "engine/Engine.h"
 #include "files/WholeFile.h"
 #include "plan/FaultWords.h"
+#include "plan/PlanPage.h"
 #include "print/PdfDocument.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "plan/PlanPage.h"
 #include "print/Sheet.h"
 
 #include <QString>

@@ -68,7 +68,6 @@ public:
 private:
     void note(const QStringList& names, const runtime::RunTimeError& error);
     void add(ReadFault fault);
-    [[nodiscard]] bool databaseFailed() const;
 
     Upkeep m_upkeep;
     std::vector<ReadFault> m_faults;

@@ -77,7 +77,6 @@ public:
     {
         return m_roomNames.at(position(id));
     }
-    [[nodiscard]] int roomNameCount() const { return static_cast<int>(m_roomNames.size()); }
     /// A text of a meeting as it is stored; empty for nothing.
     [[nodiscard]] QString text(TextId id) const
     {
