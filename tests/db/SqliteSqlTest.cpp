@@ -37,6 +37,17 @@ TEST(SqliteSql, touchesNothingWithinTextsAndNames)
     }
 }
 
+TEST(SqliteSql, takesATextThatIsNeverClosedToReachToTheEnd)
+{
+    EXPECT_EQ(adapted("x=#03/15/07# and y='a #03/15/07# isnull(x)"),
+              QStringLiteral("x='2007-03-15' and y='a #03/15/07# isnull(x)"));
+    EXPECT_EQ(adapted("x=#03/15/07# and [y #03/15/07#"),
+              QStringLiteral("x='2007-03-15' and [y #03/15/07#"));
+    // The parenthesis stands within the text, so nothing closes the one before it.
+    EXPECT_EQ(adapted("isnull(x='a)"), QStringLiteral("isnull(x='a)"));
+    EXPECT_EQ(adapted("#03/15/07#'"), QStringLiteral("'2007-03-15''"));
+}
+
 TEST(SqliteSql, goesOnBehindATextWithAQuote)
 {
     EXPECT_EQ(adapted("a='l''été' and d=#03/15/07#"),

@@ -149,7 +149,7 @@ TEST_F(Occupancy, takesTheTicksTimeWithoutAStartAndNinetyMinutesWithoutADuration
 TEST_F(Occupancy, hasNoTickForASlotBeyondThem)
 {
     rows.emplois("A1", "Lundi13").null("Debut");
-    EXPECT_NE(lookUp(13), "");
+    EXPECT_EQ(lookUp(13), "GC1 Dupont [Algèbre]");
     EXPECT_EQ(cell().CellStart, "");
 }
 
@@ -185,7 +185,7 @@ TEST_F(Occupancy, isUnknownWhenTheQueryFails)
 TEST_F(Occupancy, isNotUnknownWhenAFieldFails)
 {
     rows.emplois("A1", "Lundi1").without("Enseignant1").without("Debut");
-    EXPECT_NE(lookUp(), "");
+    EXPECT_EQ(lookUp(), "GC1 [Algèbre]");
     EXPECT_FALSE(cell().isUnknown);
 }
 

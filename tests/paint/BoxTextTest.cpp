@@ -119,6 +119,31 @@ TEST(BoxText, movesLinesTogetherThatAreTooManyForTheirArea)
     EXPECT_NEAR(feet[0], 50 + (9.5 - nine.height()) / 2 + nine.ascent(), 1);
 }
 
+TEST(BoxText, isCutOnlyWhereItsLinesCannotMoveCloser)
+{
+    // The lines move together until a line is as high as its ascent, about eight pixels.
+    const QFontMetricsF nine(arial(9));
+    const QString fourLines = "H\r\nH\r\nH\r\nH";
+    const auto feetIn = [&](double height) {
+        return feetOf(written(fourLines, CellLayout::kCentredLines, {100, 50, 160, height}));
+    };
+    // In 33 each line has 8.25, and what its blank rows lack is taken from above and below alike.
+    const QList<int> whole = feetIn(33);
+    ASSERT_EQ(whole.size(), 4);
+    for (int line = 0; line < 4; ++line) {
+        const double top = 50 + 8.25 * line + (8.25 - nine.height()) / 2;
+        EXPECT_NEAR(whole[line], top + nine.ascent(), 0.6) << line;
+    }
+    // In 20 two lines have room, and a pixel below the area shows the next one's head.
+    const QList<int> cut = feetIn(20);
+    ASSERT_GE(cut.size(), 2);
+    for (int line = 0; line < 2; ++line) {
+        const double top = 50 + nine.ascent() * line + (nine.ascent() - nine.height()) / 2;
+        EXPECT_NEAR(cut[line], top + nine.ascent(), 0.6) << line;
+    }
+    EXPECT_LE(cut.last(), 50 + 20 + 1);
+}
+
 TEST(BoxText, isAsLargeAsItsAreaAllows)
 {
     // One line of 13 pixels takes 15 of height, one of 11 takes 12.6; one pixel may be missing.
@@ -209,6 +234,25 @@ TEST(LabelText, shrinksForANameThatIsALittleTooLongInALowRow)
     EXPECT_GT(shrunk.width(), whole * 11 / 13); // one size smaller, or two, and not cut
     EXPECT_LT(shrunk.width(), whole - 3);
     EXPECT_TRUE(QRectF(98, 49, whole, 18).contains(shrunk));
+}
+
+TEST(LabelText, shrinksInOneLineWhereTwoHaveNoRoom)
+{
+    // Two lines of the smallest size are more than 20 high.
+    const QString name = "HHHHH HHHH";
+    const double whole = label(name, {100, 50, 200, 16}).touched().width();
+    const Canvas shrunk = label(name, {100, 50, whole - 4, 16});
+    EXPECT_EQ(feetOf(shrunk).size(), 1);
+    EXPECT_GT(shrunk.touched().width(), whole * 11 / 13); // both words
+    // Where two lines have room they are broken at once, in the size of all other names.
+    const Canvas broken = label(name, {100, 50, whole - 4, 32});
+    EXPECT_EQ(feetOf(broken).size(), 2);
+    EXPECT_EQ(broken.touched().width(), label("HHHHH", area).touched().width());
+}
+
+TEST(LabelText, isCutInOneLineWhereNeitherLinesNorSizesHelp)
+{
+    EXPECT_EQ(feetOf(label("HHHHHHHHHHHH HHHH", {100, 50, 40, 26})).size(), 1);
 }
 
 // A name that is cut looks the same whatever it goes on with.
