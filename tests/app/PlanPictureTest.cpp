@@ -116,6 +116,17 @@ TEST_F(ThePicture, takesTheLastRowAloneAnew)
     EXPECT_EQ(picture.totals().toImage().pixelColor(270, 4), white);
 }
 
+TEST_F(ThePicture, leavesOtherRowsUnderTheirBoxesWhenTheLastOneIsDrawn)
+{
+    desk.form.ChkGrille.setChecked(true);
+    draw();
+    ASSERT_EQ(at(215, 50), yellow); // 9h00 within the box of row 1, which lies over the grid
+    picture.drawLastRow(scene());
+    EXPECT_EQ(at(215, 50), yellow);
+    const int row3 = (345 + 3 * 368 + 40) / 15;
+    EXPECT_EQ(at(428, row3), QColor(0, 0, 180)); // 11h00 on the grid of the row itself
+}
+
 TEST_F(ThePicture, losesWhatTheLastRowHeldBefore)
 {
     draw();

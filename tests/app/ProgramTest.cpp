@@ -23,6 +23,11 @@ QByteArray bytesOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+QString colorOfRow1(const QString& path)
+{
+    return QJsonDocument::fromJson(bytesOf(path)).object()["rows"][0]["color"].toString();
+}
+
 class Program : public OnBothDatabases
 {
 protected:
@@ -59,7 +64,9 @@ TEST_P(Program, writesTheSameBytesForTheSameInputAndSeed)
     ASSERT_EQ(program.run({"--export", setup.path("c.json"), "--date", "2025-03-17", "--counting",
                            "--seed", "8"}),
               0);
-    EXPECT_NE(bytesOf(setup.path("c.json")), bytesOf(setup.path("a.json"))); // the colours
+    // Row 1 bears the colour that row 3 drew at first: the numbers 7 to 9 of the seed, of 255 each.
+    EXPECT_EQ(colorOfRow1(setup.path("a.json")), "#b874f9");
+    EXPECT_EQ(colorOfRow1(setup.path("c.json")), "#87d03b");
 }
 
 TEST_P(Program, writesTheSameWhetherItAsksInFewStatementsOrInMany)

@@ -214,7 +214,8 @@ TEST_F(Pages, takeNewRandomColoursForOtherLines)
     EXPECT_TRUE(desk.colors.RedrawMode);
     desk.colors.set(5, {});
     form.Total_L_P.setText("5");
-    EXPECT_NE(desk.colors.at(5), form::Colour{}); // drawn anew for row 5
+    // Row 5 takes the 13th to the 15th number of seed 7: 0.5013, 0.0875 and 0.0690 of 255.
+    EXPECT_EQ(desk.colors.at(5), form::Colour::fromRgb(128, 22, 18));
 }
 
 TEST_F(Pages, startTheRandomNumbersAnewForOtherLines)
