@@ -1,0 +1,110 @@
+#include "app/HeaderBand.h"
+
+#include "app/FormMirror.h"
+#include "shell/ShellDesk.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QToolButton>
+
+using namespace test;
+
+namespace
+{
+
+/// The band over a plan of Monday, 17 March 2025, kept up to date as the window does.
+class TheHeaderBand : public testing::Test
+{
+protected:
+    TheHeaderBand()
+    {
+        createTinyFaculty(m_database);
+        desk.play({"--date", "2025-03-17"});
+        m_band.emplace(desk.shell().engine(), mirror, &help);
+        mirror.sync();
+    }
+
+    [[nodiscard]] QString text(const char* name) const
+    {
+        const auto* label = m_band->findChild<QLabel*>(name);
+        return label == nullptr ? QString("no label") : label->text();
+    }
+    [[nodiscard]] const QWidget& band() const { return *m_band; }
+
+private:
+    TestDatabase m_database{DatabaseKind::Sqlite};
+
+protected:
+    ShellDesk desk{m_database};
+    app::FormMirror mirror{[this](const std::function<void()>& action) {
+        action();
+        mirror.sync();
+    }};
+    QAction help{"Aide"};
+
+private:
+    std::optional<app::HeaderBand> m_band;
+};
+
+} // namespace
+
+TEST_F(TheHeaderBand, tellsWhosePlanThisIs)
+{
+    EXPECT_EQ(text("Label4_4"), "Faculté Témoin");
+    EXPECT_EQ(text("University"), "Université d'Essai · 2025");
+    desk.shell().engine().state().establishment.AcademicYear = 0;
+    mirror.sync();
+    EXPECT_EQ(text("University"), "Université d'Essai");
+}
+
+TEST_F(TheHeaderBand, tellsThePeriodWithItsDates)
+{
+    EXPECT_EQ(text("PeriodName"), "Printemps");
+    EXPECT_EQ(text("Label4_0") + ' ' + text("Label4_1") + ' ' + text("Label4_2") + ' ' +
+                  text("Label4_3"),
+              "Du 03/FÉVRIER/2025 au 06/JUIN/2025");
+    desk.form().CbTranche.selectText("Automne");
+    mirror.sync();
+    EXPECT_EQ(text("PeriodName"), "Automne");
+    EXPECT_EQ(text("Label4_1"), "16/SEPTEMBRE/2024");
+}
+
+TEST_F(TheHeaderBand, tellsTheExamWeekWithThePeriod)
+{
+    desk.form().OpExam().select();
+    mirror.sync();
+    EXPECT_EQ(text("PeriodName"), "Printemps – " + desk.form().Combo10.items().at(0));
+}
+
+TEST_F(TheHeaderBand, isTitledByTheDayOrThePickedDate)
+{
+    EXPECT_EQ(text("XSalle"), "Occupation des Salles du Lundi");
+    desk.form().CbJour.setListIndex(1);
+    mirror.sync();
+    EXPECT_EQ(text("XSalle"), "Occupation des Salles du Mardi");
+    desk.form().CbJour.setListIndex(0);
+    desk.form().Check2.setChecked(true);
+    mirror.sync();
+    EXPECT_EQ(text("XSalle"), "Occupation des Salles du 17/03/25");
+}
+
+TEST_F(TheHeaderBand, hasItsTitleInTheFontOfItsLabel)
+{
+    const auto* title = band().findChild<QLabel*>("XSalle");
+    ASSERT_NE(title, nullptr);
+    EXPECT_EQ(title->styleSheet(), "font-family: \"Arial Black\", \"Arial\";");
+    desk.form().setFontName("Liberation Serif");
+    mirror.sync();
+    EXPECT_EQ(title->styleSheet(), "font-family: \"Liberation Serif\", \"Arial\";");
+}
+
+TEST_F(TheHeaderBand, opensTheHelp)
+{
+    int opened = 0;
+    QObject::connect(&help, &QAction::triggered, &help, [&opened] { ++opened; });
+    auto* button = band().findChild<QToolButton*>("Aide");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->text(), "Aide");
+    button->click();
+    EXPECT_EQ(opened, 1);
+}
