@@ -1,8 +1,8 @@
 #include "paint/Overlays.h"
 
 #include "paint/CellBox.h"
+#include "paint/Inks.h"
 
-#include <QFont>
 #include <algorithm>
 
 namespace paint
@@ -34,14 +34,10 @@ bool hides(const QRectF& label, const QRectF& picture)
 
 OverlayFonts::OverlayFonts()
 {
-    QFont font(QStringLiteral("Arial"));
-    font.setBold(true);
     for (int pixels = kOverlayFontPixels; pixels >= kSmallestOverlayFont; --pixels) {
-        font.setPixelSize(pixels);
-        m_fonts.emplace_back(font);
+        m_fonts.emplace_back(planFont(pixels, true));
     }
-    font.setBold(false);
-    m_fonts.emplace_back(font);
+    m_fonts.emplace_back(planFont(kSmallestOverlayFont));
 }
 
 const GlyphFont& OverlayFonts::fitting(const QString& text, double width) const

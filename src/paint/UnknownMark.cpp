@@ -1,6 +1,7 @@
 #include "paint/UnknownMark.h"
 
 #include "paint/CellBox.h"
+#include "paint/Inks.h"
 #include "runtime/Numbers.h"
 
 #include <QColor>
@@ -22,7 +23,7 @@ constexpr double kLargestMark = 14;
 
 void drawLines(QPainter& surface, const DrawingTarget& target, const QRect& box)
 {
-    surface.setPen(QPen(kLines, std::max(1.0, 0.5 * target.PixelsPerPoint)));
+    surface.setPen(QPen(kLines, std::max(1.0, kFrameLine * target.PixelsPerPoint)));
     const double step = kStep * target.PixelsPerPoint;
     for (double x = box.left() - box.height(); x < box.right(); x += step) {
         surface.drawLine(QPointF(x, box.top() + box.height()),
@@ -32,11 +33,9 @@ void drawLines(QPainter& surface, const DrawingTarget& target, const QRect& box)
 
 QFont markFont(const DrawingTarget& target, int height)
 {
-    QFont font(QStringLiteral("Arial"));
-    font.setBold(true);
     const double largest = kLargestMark * target.PixelsPerPoint;
-    font.setPixelSize(std::max(1, runtime::nearestInteger(std::min(kMarkShare * height, largest))));
-    return font;
+    return planFont(std::max(1, runtime::nearestInteger(std::min(kMarkShare * height, largest))),
+                    true);
 }
 
 } // namespace
@@ -60,7 +59,7 @@ void drawUnknownMark(QPainter& surface, const DrawingTarget& target, double x, d
     surface.setPen(kInk);
     surface.drawText(around, Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("?"));
     surface.setBrush(Qt::NoBrush);
-    surface.setPen(QPen(kLines, std::max(1.0, 0.5 * target.PixelsPerPoint)));
+    surface.setPen(QPen(kLines, std::max(1.0, kFrameLine * target.PixelsPerPoint)));
     surface.drawRect(box.adjusted(0, 0, -1, -1));
     surface.restore();
 }
