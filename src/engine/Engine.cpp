@@ -34,6 +34,7 @@ Engine::Engine(const Engine& other, OnCopy /*copy*/)
     : Engine(withoutEvents(other.m_surroundings), other.m_state, other.m_database, other.m_standIns)
 {
     m_state.form.visible = true;
+    m_pageReads.goOnFrom(other.m_pageReads); // a sheet tells the time that the window tells
 }
 
 Engine::Engine(Surroundings surroundings, plan::PlanState state,

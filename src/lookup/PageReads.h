@@ -56,6 +56,8 @@ public:
     /// Whether the page is to be read once more from its beginning: the connection went away, and
     /// there is another one. True once a page.
     [[nodiscard]] bool startAgain();
+    /// Takes over since when another one's pages have lacked answers.
+    void goOnFrom(const PageReads& other) { m_failingSince = other.m_failingSince; }
     /// The page is read as far as it can be.
     void end();
 

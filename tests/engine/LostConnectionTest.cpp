@@ -108,6 +108,7 @@ TEST_F(ALostConnection, leavesThePlanUnknownAsLongAsNobodyAnswers)
     EXPECT_TRUE(lookup::isIncomplete(desk.engine.content().faults));
     const auto since = desk.engine.content().failingSince;
     ASSERT_TRUE(since);
+    EXPECT_EQ(desk.engine.shownPage().content.failingSince, since);
     desk.form.OptB().select();
     EXPECT_EQ(shown(desk), unknown);
     EXPECT_EQ(desk.engine.content().failingSince, since);
