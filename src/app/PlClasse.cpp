@@ -23,6 +23,8 @@
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <cstdlib>
+#include <utility>
 
 namespace app
 {
@@ -31,13 +33,44 @@ namespace
 
 // Size of the window when the user takes it out of full size.
 constexpr QSize kFirstSize(1280, 720);
+// After this time a start and an action show that they wait.
+constexpr std::chrono::milliseconds kStartPatience{500};
+constexpr std::chrono::milliseconds kActionPatience{300};
+
+/// The dialogs, with no sign of waiting over them.
+PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
+{
+    PrintDialogs paused;
+    paused.printIncomplete = [dialogs, &waiting](const QString& whatIsMissing) {
+        const Waiting::Pause pause(waiting);
+        return dialogs.printIncomplete(whatIsMissing);
+    };
+    paused.choosePrinter = [dialogs, &waiting](QPrinter& printer, int sheets) {
+        const Waiting::Pause pause(waiting);
+        return dialogs.choosePrinter(printer, sheets);
+    };
+    paused.preview = [dialogs, &waiting](QPrinter& printer,
+                                         const std::function<void(QPrinter&)>& paint) {
+        const Waiting::Pause pause(waiting);
+        dialogs.preview(printer, paint);
+    };
+    return paused;
+}
+
+/// Ends the program where it stands. While a driver is connecting nothing can call it back, and
+/// nothing may be taken from it; nor is there anything to be saved.
+[[noreturn]] void leaveAtOnce()
+{
+    std::quick_exit(kDone);
+}
 
 } // namespace
 
 PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
     : m_guide(surroundings.applicationFolder + QStringLiteral("/docs/guide.md")),
+      m_startWindow(leaveAtOnce),
       m_shell(std::move(settings), tieToWindow(std::move(surroundings))), m_keys(makeKeyState()),
-      m_printing(m_shell.engine(), platformPrintDialogs(this)),
+      m_printing(m_shell.engine(), pausing(platformPrintDialogs(this), m_waiting)),
       m_mirror([this](const std::function<void()>& action) { forward(action); })
 {
     setObjectName(QStringLiteral("PlClasse"));
@@ -57,12 +90,15 @@ PlClasse::~PlClasse()
 engine::Surroundings PlClasse::tieToWindow(engine::Surroundings surroundings)
 {
     surroundings.processEvents = [this] { processEvents(); };
+    surroundings.await = [this](const std::function<void()>& call) { m_waiting.run(call); };
     surroundings.showMessage = [this](const QString& title, const QString& text) {
+        const Waiting::Pause pause(m_waiting);
         QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok, this);
         showPlainly(box);
         box.exec();
     };
     surroundings.openFile = [this](const QString& startFolder, const QString& filter) {
+        const Waiting::Pause pause(m_waiting);
         return QFileDialog::getOpenFileName(
             this, QStringLiteral("Choisir une palette"), startFolder,
             QStringLiteral("Palettes (%1)").arg(filter.section(u'|', 1)));
@@ -201,8 +237,12 @@ void PlClasse::forward(const std::function<void()>& action)
     if (hasEnded()) {
         return;
     }
+    if (m_waiting.isServing()) {
+        m_putOff.push_back(action);
+        return;
+    }
     try {
-        action();
+        run(action);
     } catch (const shell::UsageError&) {
         throw; // for whoever played the command line
     } catch (...) {
@@ -212,6 +252,44 @@ void PlClasse::forward(const std::function<void()>& action)
         syncWidgets();
         m_view->showAll();
     }
+    runPutOff();
+}
+
+void PlClasse::run(const std::function<void()>& action)
+{
+    const Waiting::Action waiting(m_waiting, isVisible() ? m_windowSign : m_startSign);
+    action();
+}
+
+void PlClasse::runPutOff()
+{
+    const std::vector<std::function<void()>> actions = std::exchange(m_putOff, {});
+    for (const std::function<void()>& action : actions) {
+        forward(action);
+    }
+}
+
+Waiting::Sign PlClasse::startSign()
+{
+    return {kStartPatience, [this] { m_startWindow.showConnecting(m_shell.databaseName()); },
+            [this] { m_startWindow.hide(); }, QEventLoop::AllEvents};
+}
+
+Waiting::Sign PlClasse::windowSign()
+{
+    Waiting::Sign sign;
+    sign.after = kActionPatience;
+    sign.show = [this] {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        statusBar()->showMessage(QStringLiteral("Lecture…"));
+        m_view->setOutOfDate(true);
+    };
+    sign.hide = [this] {
+        QGuiApplication::restoreOverrideCursor();
+        statusBar()->clearMessage();
+        m_view->setOutOfDate(false);
+    };
+    return sign;
 }
 
 void PlClasse::fail(const runtime::RunTimeError& error)
@@ -249,6 +327,7 @@ void PlClasse::serveFocusRequest()
 void PlClasse::processEvents()
 {
     m_view->showProgress();
+    m_waiting.showWhenDue();
     QCoreApplication::processEvents();
 }
 
@@ -297,6 +376,11 @@ void PlClasse::resizeEvent(QResizeEvent* event)
 
 void PlClasse::closeEvent(QCloseEvent* event)
 {
+    if (m_waiting.isServing()) {
+        m_putOff.push_back([this] { close(); });
+        event->ignore();
+        return;
+    }
     if (!hasEnded()) {
         try {
             m_shell.Form_Unload();

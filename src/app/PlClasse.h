@@ -3,12 +3,15 @@
 #include "app/FormMirror.h"
 #include "app/KeyState.h"
 #include "app/Printing.h"
+#include "app/StartWindow.h"
+#include "app/Waiting.h"
 #include "shell/CommandLine.h"
 #include "shell/Shell.h"
 
 #include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace app
 {
@@ -38,7 +41,8 @@ public:
     void play(const shell::CommandLine& line);
     /// Runs an action of the user; an untrapped fault in it ends the program with exit code 1.
     /// Once the window is closed nothing runs any more, and what an action meets that was still
-    /// under way, such as the closed database, is no fault.
+    /// under way, such as the closed database, is no fault. What comes while another action waits
+    /// for the database runs after it.
     void forward(const std::function<void()>& action);
 
     /// Tells of a fault and ends the program with exit code 1, without saving anything. Once the
@@ -64,12 +68,21 @@ private:
     void syncWidgets();
     void serveFocusRequest();
     void processEvents();
+    [[nodiscard]] Waiting::Sign startSign();
+    [[nodiscard]] Waiting::Sign windowSign();
+    void run(const std::function<void()>& action);
+    void runPutOff();
     [[nodiscard]] bool hasEnded() const { return m_failed || m_closed; }
     void clickMarker(int marker);
     void readAgain();
     void showHelp();
 
     QString m_guide; ///< path of the guide
+    Waiting m_waiting;
+    StartWindow m_startWindow;
+    const Waiting::Sign m_startSign = startSign();
+    const Waiting::Sign m_windowSign = windowSign();
+    std::vector<std::function<void()>> m_putOff; ///< what came while an action waited
     shell::Shell m_shell;
     std::unique_ptr<absences::AsyncKeyState> m_keys;
     Printing m_printing;

@@ -25,6 +25,8 @@ namespace
 {
 
 constexpr QColor kBandEdge(190, 196, 208);
+// Laid over what is out of date: enough of it stays to be read.
+constexpr QColor kVeil(245, 246, 249, 150);
 
 } // namespace
 
@@ -84,7 +86,9 @@ void PlanView::fit()
     m_shell.layOut(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
                    viewport()->height() * m_target.TargetTwipsPerPixelY);
     updateScrollBars();
-    drawPicture();
+    if (!m_isOutOfDate) { // else the rows to come are drawn, and not one without its boxes
+        drawPicture();
+    }
 }
 
 void PlanView::updateScrollBars()
@@ -107,6 +111,7 @@ void PlanView::showProgress()
         return;
     }
     if (rows.size() == 1) {
+        m_isOutOfDate = false;
         drawAll(); // what the plan showed before goes as a whole: no row of another day stays
         return;
     }
@@ -117,6 +122,12 @@ void PlanView::showProgress()
     const int height = static_cast<int>(m_target.toPixelsY(place.height)) + 2;
     viewport()->update(0, top - 1, viewport()->width(), height + 2);
     viewport()->update(bands().totals);
+}
+
+void PlanView::setOutOfDate(bool outOfDate)
+{
+    m_isOutOfDate = outOfDate;
+    viewport()->update();
 }
 
 void PlanView::showAll()
@@ -186,6 +197,9 @@ void PlanView::paintEvent(QPaintEvent* event)
     if (m_totalsHeight > 0) {
         copy(view.totals, m_picture.totals(), QPoint(view.totals.x() + scrollX, 0));
         painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
+    }
+    if (m_isOutOfDate) {
+        painter.fillRect(viewport()->rect(), kVeil);
     }
 }
 

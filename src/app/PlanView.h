@@ -36,6 +36,10 @@ public:
     /// Repaints everything and tells screen readers what has changed.
     void showAll();
 
+    /// While what was drawn last is not what has been asked for, it stands there paled: an answer
+    /// is being waited for, and nothing of it is known. The first row that is drawn ends that, too.
+    void setOutOfDate(bool outOfDate);
+
     /// The target that the view draws with.
     [[nodiscard]] const paint::DrawingTarget& target() const { return m_target; }
     /// Where a point of the plan (device pixels, unscrolled) lies in the viewport.
@@ -96,6 +100,7 @@ private:
     int m_lastRowHeight = 0;
     int m_lastRows = 0;
     int m_totalsHeight = 0;
+    bool m_isOutOfDate = false;
 };
 
 } // namespace app

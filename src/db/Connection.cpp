@@ -10,8 +10,8 @@
 namespace db
 {
 
-Connection::Connection(const QString& connectString, const SqlDialect& bySetting)
-    : m_session(std::make_unique<Session>(connectString, bySetting))
+Connection::Connection(const QString& connectString, const SqlDialect& bySetting, Await await)
+    : m_session(std::make_unique<Session>(connectString, bySetting, std::move(await)))
 {
 }
 

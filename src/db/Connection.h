@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/Await.h"
 #include "db/DatabaseError.h"
 #include "db/PackedRow.h"
 #include "db/Recordset.h"
@@ -30,8 +31,9 @@ public:
     /// Opens with an empty user and password: the connection string holds what is needed. Its
     /// password never appears in an error's text.
     /// `bySetting`: the dialect that the settings choose, for a product that has none of its own.
+    /// `await` runs the calls to the driver that may take long.
     explicit Connection(const QString& connectString,
-                        const SqlDialect& bySetting = SqlDialect(false));
+                        const SqlDialect& bySetting = SqlDialect(false), Await await = awaitHere);
     ~Connection();
     Connection(Connection&&) noexcept;
     Connection& operator=(Connection&&) noexcept;

@@ -25,7 +25,7 @@ void Database::connect()
     m_connection.reset();
     const auto began = Clock::now();
     try {
-        m_connection.emplace(*m_connectString, m_bySetting);
+        m_connection.emplace(*m_connectString, m_bySetting, m_await);
         m_fault.reset();
     } catch (const DatabaseError& error) {
         m_fault = error;

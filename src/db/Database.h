@@ -6,6 +6,7 @@
 #include <QString>
 #include <chrono>
 #include <optional>
+#include <utility>
 
 namespace db
 {
@@ -40,6 +41,8 @@ public:
     {
         m_bySetting = SqlDialect(useMySql, quotes);
     }
+    /// Chooses who runs the calls that may take long, before the connection is opened.
+    void setAwait(Await await) { m_await = std::move(await); }
     /// Error: DatabaseFailure.
     void open(const QString& connectString);
     /// Closes for good: nothing brings the connection back.
@@ -76,6 +79,7 @@ private:
 
     SqlDialect m_bySetting;
     Patience m_patience;
+    Await m_await = awaitHere;
     std::optional<QString> m_connectString; ///< while the program wants to be connected
     std::optional<Connection> m_connection;
     std::optional<DatabaseError> m_fault;   ///< why there is no connection

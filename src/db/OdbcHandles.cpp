@@ -79,8 +79,8 @@ EnvironmentHandle::EnvironmentHandle() : m_handle(allocated(SQL_HANDLE_ENV, SQL_
 }
 
 ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
-                                   const QString& connectString)
-    : m_passwords(passwordsIn(connectString)),
+                                   const QString& connectString, Await await)
+    : m_await(std::move(await)), m_passwords(passwordsIn(connectString)),
       m_handle(allocated(SQL_HANDLE_DBC, environment.get())),
       m_product(std::make_unique<AccessProduct>())
 {
@@ -111,9 +111,11 @@ void ConnectionHandle::connect(const QString& connectString)
         throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
                             QStringLiteral("No data source is named."));
     }
-    const SQLRETURN result = SQLDriverConnectW(get(), nullptr, wide(connectString),
-                                               static_cast<SQLSMALLINT>(connectString.size()),
-                                               nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    const SQLRETURN result = awaited([&] {
+        return SQLDriverConnectW(get(), nullptr, wide(connectString),
+                                 static_cast<SQLSMALLINT>(connectString.size()), nullptr, 0,
+                                 nullptr, SQL_DRIVER_NOPROMPT);
+    });
     if (!SQL_SUCCEEDED(result)) {
         const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), TextForm::Utf16);
         throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
@@ -162,8 +164,16 @@ QString ConnectionHandle::quoted(const QString& identifier) const
 bool ConnectionHandle::isDead() const
 {
     SQLUINTEGER state = SQL_CD_FALSE;
-    return SQL_SUCCEEDED(SQLGetConnectAttr(get(), SQL_ATTR_CONNECTION_DEAD, &state, 0, nullptr)) &&
-           state == SQL_CD_TRUE;
+    const SQLRETURN told = awaited(
+        [&] { return SQLGetConnectAttr(get(), SQL_ATTR_CONNECTION_DEAD, &state, 0, nullptr); });
+    return SQL_SUCCEEDED(told) && state == SQL_CD_TRUE;
+}
+
+SQLRETURN ConnectionHandle::awaited(const std::function<SQLRETURN()>& call) const
+{
+    SQLRETURN result = SQL_ERROR;
+    m_await([&] { result = call(); });
+    return result;
 }
 
 void ConnectionHandle::raise(SQLSMALLINT handleType, SQLHANDLE handle,
@@ -200,9 +210,12 @@ void StatementHandle::execute(const QString& sql)
     m_asked = std::chrono::steady_clock::now();
     if (m_connection->textForm() == TextForm::Utf8) {
         const QByteArray text = sql.toUtf8();
-        result = SQLExecDirect(get(), narrow(text), static_cast<SQLINTEGER>(text.size()));
+        result = m_connection->awaited([&] {
+            return SQLExecDirect(get(), narrow(text), static_cast<SQLINTEGER>(text.size()));
+        });
     } else {
-        result = SQLExecDirectW(get(), wide(sql), static_cast<SQLINTEGER>(sql.size()));
+        result = m_connection->awaited(
+            [&] { return SQLExecDirectW(get(), wide(sql), static_cast<SQLINTEGER>(sql.size())); });
     }
     if (result != SQL_NO_DATA) { // the answer to a deletion that found no row
         check(result);

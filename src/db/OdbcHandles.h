@@ -1,11 +1,13 @@
 #pragma once
 
+#include "db/Await.h"
 #include "db/OdbcApi.h"
 #include "db/Product.h"
 
 #include <QString>
 #include <QStringList>
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -66,8 +68,10 @@ private:
 class ConnectionHandle
 {
 public:
+    /// `await` runs what may take long.
     /// Errors: DatabaseFailure with the driver's text, also for a data source without a name.
-    ConnectionHandle(const EnvironmentHandle& environment, const QString& connectString);
+    ConnectionHandle(const EnvironmentHandle& environment, const QString& connectString,
+                     Await await);
 
     [[nodiscard]] SQLHDBC get() const { return m_handle.get(); }
     [[nodiscard]] const Product& product() const { return *m_product; }
@@ -84,6 +88,10 @@ public:
     /// Whether the connection is known to be gone. Asks no more than the driver needs to tell.
     [[nodiscard]] bool isDead() const;
 
+    /// What a call that may take long comes to. Fetching is none: a server's whole result is there
+    /// once the statement has been sent.
+    [[nodiscard]] SQLRETURN awaited(const std::function<SQLRETURN()>& call) const;
+
     /// Throws what the failing call on `handle` amounts to. `waited`: how long the call took.
     [[noreturn]] void raise(SQLSMALLINT handleType, SQLHANDLE handle,
                             std::chrono::milliseconds waited = {}) const;
@@ -93,6 +101,7 @@ private:
     void commitEachStatement();
     [[nodiscard]] bool readsBoundFieldsInAnyOrder() const;
 
+    Await m_await;
     QStringList m_passwords;
     OdbcHandle<SQL_HANDLE_DBC> m_handle;
     std::unique_ptr<const Product> m_product; ///< one without ways of its own until it is known

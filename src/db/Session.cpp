@@ -8,8 +8,9 @@
 namespace db
 {
 
-Session::Session(const QString& connectString, const SqlDialect& bySetting)
-    : m_connection(m_environment, connectString), m_dialect(product().dialect(bySetting))
+Session::Session(const QString& connectString, const SqlDialect& bySetting, Await await)
+    : m_connection(m_environment, connectString, std::move(await)),
+      m_dialect(product().dialect(bySetting))
 {
 }
 

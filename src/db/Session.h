@@ -17,8 +17,8 @@ namespace db
 class Session
 {
 public:
-    /// `bySetting`: the dialect that the settings choose.
-    Session(const QString& connectString, const SqlDialect& bySetting);
+    /// `bySetting`: the dialect that the settings choose. `await` runs what may take long.
+    Session(const QString& connectString, const SqlDialect& bySetting, Await await);
     Session(const Session&) = delete; // its handles refer to one another
     Session& operator=(const Session&) = delete;
 

@@ -27,6 +27,7 @@ Engine::Engine(Surroundings surroundings, StandIns standIns)
              standIns.database ? standIns.database : std::make_shared<db::Database>(), standIns)
 {
     m_state.colors = plan::RowColors(runtime::RandomSource(m_surroundings.seed));
+    m_database->setAwait(m_surroundings.await);
     tieEvents();
 }
 

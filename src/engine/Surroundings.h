@@ -1,6 +1,7 @@
 #pragma once
 
 #include "appearance/Palette.h"
+#include "db/Await.h"
 
 #include <QDate>
 #include <QString>
@@ -22,6 +23,8 @@ struct Surroundings {
     bool plain = false;
     /// Lets waiting events run in the middle of a refresh.
     std::function<void()> processEvents = [] {};
+    /// Runs a call to the database that may take long.
+    db::Await await = db::awaitHere;
     /// Lets the user choose a file to open; empty when the user cancels.
     appearance::Palette::OpenFile openFile = [](const QString&, const QString&) {
         return QString();

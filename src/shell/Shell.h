@@ -49,6 +49,9 @@ public:
     [[nodiscard]] form::PlanForm& form() { return m_engine.form(); }
     [[nodiscard]] const form::PlanForm& form() const { return m_engine.form(); }
 
+    /// What messages call the database; empty before start-up has chosen it.
+    [[nodiscard]] QString databaseName() const { return m_choice.nameInMessages(); }
+
     /// Tells that the shown date was asked for, and is not just the week of the clock.
     void keepDate() { m_dateAskedFor = true; }
     /// The shown date for files that carry one: only where the plan shows it, where it was asked

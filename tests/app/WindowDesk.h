@@ -31,7 +31,10 @@ namespace test
 class TheWindow : public testing::Test
 {
 protected:
-    TheWindow() { createTinyFaculty(database); }
+    explicit TheWindow(DatabaseKind kind = DatabaseKind::Sqlite) : database(kind)
+    {
+        createTinyFaculty(database);
+    }
 
     /// Makes the window, not yet started up, with the settings as they are by then.
     void create();
@@ -69,7 +72,7 @@ protected:
     /// Where the middle of a box's group counter lies on the screen.
     [[nodiscard]] QPoint counterOnScreen(std::size_t row, std::size_t box);
 
-    TestDatabase database{DatabaseKind::Sqlite};
+    TestDatabase database;
     ProgramSetup setup{database};
     Hands hands;
 
