@@ -30,17 +30,27 @@ void writeError(const QString& text)
     write(stderr, text + u'\n');
 }
 
-void reportRunTimeError(QWidget* parent, const runtime::RunTimeError& error)
+void showFault(QWidget* parent, const QString& text, const QString& beneath)
 {
-    writeError(error.message());
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr &&
         QGuiApplication::platformName() != u"offscreen") {
-        QMessageBox box(QMessageBox::Critical, QStringLiteral("Tempora"), error.message(),
-                        QMessageBox::Ok, parent);
-        showPlainly(box); // the text may quote data
+        QMessageBox box(QMessageBox::Critical, QStringLiteral("Tempora"), text, QMessageBox::Ok,
+                        parent);
+        box.setInformativeText(beneath);
+        showPlainly(box); // the texts may quote data
         box.setObjectName(QStringLiteral("RunTimeError"));
         box.exec();
     }
+}
+
+void reportRunTimeError(QWidget* parent, const runtime::RunTimeError& error)
+{
+    writeError(error.message());
+    QString words = error.explanation();
+    if (!error.activity().isEmpty()) {
+        words += QStringLiteral("\n\n") + error.activity();
+    }
+    showFault(parent, words, error.numberAndText());
 }
 
 } // namespace app

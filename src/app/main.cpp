@@ -11,6 +11,7 @@
 #include <QScopeGuard>
 #include <QStyleFactory>
 #include <QTranslator>
+#include <optional>
 
 namespace
 {
@@ -88,17 +89,65 @@ int runWindow(app::Application& application, const shell::CommandLine& line)
     return window.run(line);
 }
 
-/// The command line, read without a display: a mistake or --help needs none.
-shell::CommandLine readCommandLine(int argc, char* argv[])
+/// The toolkit as the program needs it: in French.
+class Toolkit
 {
-    const QCoreApplication arguments(argc, argv);
-    return shell::CommandLine::parse(QCoreApplication::arguments());
+public:
+    Toolkit(int& argc, char** argv) : m_application(argc, argv)
+    {
+        if (app::loadFrenchTexts(m_french)) {
+            QCoreApplication::installTranslator(&m_french);
+        }
+    }
+
+    [[nodiscard]] app::Application& application() { return m_application; }
+
+private:
+    app::Application m_application;
+    QTranslator m_french;
+};
+
+/// One run of the program, from its arguments to its exit code.
+class Program
+{
+public:
+    Program(int& argc, char** argv) : m_argc(argc), m_argv(argv) {}
+
+    /// Whatever fails, at whatever stage, is told: on standard error, and where there is a screen
+    /// and no export is made, in a message box.
+    [[nodiscard]] int run();
+
+private:
+    [[nodiscard]] int serve();
+    [[nodiscard]] int tellFault();
+    [[nodiscard]] bool canShow();
+    void startToolkit();
+
+    int& m_argc;
+    char** m_argv;
+    std::optional<Toolkit> m_toolkit;
+    bool m_exports = false;
+};
+
+int Program::run()
+{
+    try {
+        return serve();
+    } catch (...) {
+        return tellFault();
+    }
 }
 
-int runProgram(int argc, char* argv[])
+int Program::serve()
 {
-    const bool display = hasDisplay();
-    const shell::CommandLine line = readCommandLine(argc, argv);
+    QStringList arguments;
+    {
+        const QCoreApplication toRead(m_argc, m_argv); // a mistake or --help needs no display
+        arguments = QCoreApplication::arguments();
+    }
+    m_exports = shell::CommandLine::asksForExport(arguments);
+    const shell::CommandLine line = shell::CommandLine::parse(arguments);
+    m_exports = !line.exportFile.isEmpty();
     if (line.help) {
         app::writeOutput(shell::CommandLine::helpText());
         return kDone;
@@ -107,26 +156,65 @@ int runProgram(int argc, char* argv[])
         app::writeOutput(QStringLiteral("Tempora " TEMPORA_VERSION "\n"));
         return kDone;
     }
-    const bool exporting = !line.exportFile.isEmpty();
-    if (!exporting && !display) {
+    if (!m_exports && !hasDisplay()) {
         app::writeError(QStringLiteral("Pas d’écran : la fenêtre ne peut pas s’ouvrir. Le plan "
                                        "s’écrit dans un fichier avec --export (voir --help)."));
         return kFailed;
     }
-    if (exporting) {
+    if (m_exports) {
         drawInMemory();
     }
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    app::Application application(argc, argv);
-    QTranslator french;
-    if (app::loadFrenchTexts(french)) {
-        QCoreApplication::installTranslator(&french);
-    }
-    if (exporting) {
+    startToolkit();
+    if (m_exports) {
         exportWithoutWindow(line);
         return kDone;
     }
-    return runWindow(application, line);
+    return runWindow(m_toolkit->application(), line);
+}
+
+/// Of the exception that is being handled.
+int Program::tellFault()
+{
+    try {
+        throw;
+    } catch (const files::ExportError& error) {
+        app::writeError(QString::fromUtf8(error.what()));
+        return kFailed;
+    } catch (const shell::UsageError& error) {
+        const QString text = QString::fromUtf8(error.what());
+        app::writeError(text);
+        if (canShow()) {
+            app::showFault(nullptr, text, {});
+        }
+        return kUsage;
+    } catch (...) {
+        const runtime::RunTimeError error = runtime::faultInFlight();
+        if (canShow()) {
+            app::reportRunTimeError(nullptr, error);
+        } else {
+            app::writeError(error.message());
+        }
+        return kFailed;
+    }
+}
+
+/// Whether a message box can be shown and may be. Starts the toolkit where it has not been needed
+/// so far.
+bool Program::canShow()
+{
+    if (m_exports || !hasDisplay()) {
+        return false;
+    }
+    if (!m_toolkit) {
+        startToolkit();
+    }
+    return true;
+}
+
+void Program::startToolkit()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    m_toolkit.emplace(m_argc, m_argv);
 }
 
 } // namespace
@@ -136,16 +224,5 @@ int main(int argc, char* argv[])
     hushToolkit();
     QCoreApplication::setApplicationName(QStringLiteral("Tempora"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));
-    try {
-        return runProgram(argc, argv);
-    } catch (const files::ExportError& error) {
-        app::writeError(QString::fromUtf8(error.what()));
-        return kFailed;
-    } catch (const shell::UsageError& error) {
-        app::writeError(QString::fromUtf8(error.what()));
-        return kUsage;
-    } catch (...) {
-        app::reportRunTimeError(nullptr, runtime::faultInFlight());
-        return kFailed;
-    }
+    return Program(argc, argv).run();
 }

@@ -35,4 +35,32 @@ Failure failureOf(const runtime::RunTimeError& error)
     }
 }
 
+QString failureWords(Failure failure)
+{
+    switch (failure) {
+    case Failure::Unreachable:
+        return QStringLiteral("la base de données ne s’ouvre pas");
+    case Failure::ConnectionLost:
+        return QStringLiteral("la connexion à la base de données est coupée");
+    case Failure::NoAnswer:
+        return QStringLiteral("la base de données ne répond pas");
+    case Failure::Locked:
+        return QStringLiteral("un autre programme tient la base de données verrouillée");
+    case Failure::TableMissing:
+        return QStringLiteral("une table manque dans la base de données");
+    case Failure::Refused:
+    case Failure::RolledBack:
+        return QStringLiteral("la base de données refuse une demande");
+    case Failure::Other:
+        break;
+    }
+    return QStringLiteral("la base de données ne se laisse pas lire");
+}
+
+DatabaseError::DatabaseError(Failure failure, runtime::ErrorNumber number, const QString& text)
+    : RunTimeError(number, text), m_failure(failure)
+{
+    explain(failureWords(failure));
+}
+
 } // namespace db

@@ -23,6 +23,10 @@ enum class Failure {
 /// Whether a read that failed so need not be tried with other words: nothing would be answered.
 [[nodiscard]] bool concernsAllReads(Failure failure);
 
+/// What failed, as the rest of a sentence in French: "la connexion à la base de données est
+/// coupée".
+[[nodiscard]] QString failureWords(Failure failure);
+
 /// What became of the call that raised an error: of one that says nothing more, by its number.
 [[nodiscard]] Failure failureOf(const runtime::RunTimeError& error);
 
@@ -30,10 +34,7 @@ enum class Failure {
 class DatabaseError : public runtime::RunTimeError
 {
 public:
-    DatabaseError(Failure failure, runtime::ErrorNumber number, QString text)
-        : RunTimeError(number, std::move(text)), m_failure(failure)
-    {
-    }
+    DatabaseError(Failure failure, runtime::ErrorNumber number, const QString& text);
 
     [[nodiscard]] Failure failure() const { return m_failure; }
 

@@ -1,6 +1,7 @@
 #include "db/OdbcHandles.h"
 
 #include "db/AccessProduct.h"
+#include "db/ConnectFault.h"
 #include "db/ConnectOptions.h"
 #include "db/Passwords.h"
 #include "db/ProductChoice.h"
@@ -118,8 +119,10 @@ void ConnectionHandle::connect(const QString& connectString)
     });
     if (!SQL_SUCCEEDED(result)) {
         const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), TextForm::Utf16);
-        throw DatabaseError(Failure::Unreachable, ErrorNumber::DatabaseFailure,
+        DatabaseError error(Failure::Unreachable, ErrorNumber::DatabaseFailure,
                             withoutPasswords(diagnostics, m_passwords));
+        error.explain(connectFaultWords(diagnostics));
+        throw error;
     }
 }
 

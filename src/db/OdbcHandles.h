@@ -71,7 +71,7 @@ public:
     /// `await` runs what may take long.
     /// Errors: DatabaseFailure with the driver's text, also for a data source without a name.
     ConnectionHandle(const EnvironmentHandle& environment, const QString& connectString,
-                     Await await);
+                     Await await = awaitHere);
 
     [[nodiscard]] SQLHDBC get() const { return m_handle.get(); }
     [[nodiscard]] const Product& product() const { return *m_product; }

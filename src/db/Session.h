@@ -18,7 +18,7 @@ class Session
 {
 public:
     /// `bySetting`: the dialect that the settings choose. `await` runs what may take long.
-    Session(const QString& connectString, const SqlDialect& bySetting, Await await);
+    Session(const QString& connectString, const SqlDialect& bySetting, Await await = awaitHere);
     Session(const Session&) = delete; // its handles refer to one another
     Session& operator=(const Session&) = delete;
 

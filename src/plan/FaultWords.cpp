@@ -7,7 +7,6 @@ namespace plan
 namespace
 {
 
-using db::Failure;
 using lookup::ReadFault;
 
 QString sinceWords(const QDateTime& since)
@@ -24,28 +23,6 @@ bool hasUnknownCells(const PlanContent& content)
 }
 
 } // namespace
-
-QString failureWords(Failure failure)
-{
-    switch (failure) {
-    case Failure::Unreachable:
-        return QStringLiteral("la base de données ne s’ouvre pas");
-    case Failure::ConnectionLost:
-        return QStringLiteral("la connexion à la base de données est coupée");
-    case Failure::NoAnswer:
-        return QStringLiteral("la base de données ne répond pas");
-    case Failure::Locked:
-        return QStringLiteral("un autre programme tient la base de données verrouillée");
-    case Failure::TableMissing:
-        return QStringLiteral("une table manque dans la base de données");
-    case Failure::Refused:
-    case Failure::RolledBack:
-        return QStringLiteral("la base de données refuse de répondre à une question");
-    case Failure::Other:
-        break;
-    }
-    return QStringLiteral("la base de données ne se laisse pas lire");
-}
 
 QString unheldNames(const std::vector<ReadFault>& faults)
 {
@@ -72,7 +49,7 @@ QString faultSentence(const PlanContent& content)
     if (failed != content.faults.end()) {
         const QString since = content.failingSince ? sinceWords(*content.failingSince) : QString();
         sentences << QStringLiteral("Plan incomplet") + since + QStringLiteral(" : ") +
-                         failureWords(failed->failure) + u'.';
+                         db::failureWords(failed->failure) + u'.';
     }
     const QString names = unheldNames(content.faults);
     if (!names.isEmpty()) {

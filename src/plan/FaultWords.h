@@ -9,9 +9,6 @@
 namespace plan
 {
 
-/// What failed, as the rest of a sentence: "la connexion à la base de données est coupée".
-[[nodiscard]] QString failureWords(db::Failure failure);
-
 /// Which names the plan lacks because a statement cannot hold them, and how to mend it; empty
 /// without any.
 [[nodiscard]] QString unheldNames(const std::vector<lookup::ReadFault>& faults);

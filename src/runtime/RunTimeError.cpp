@@ -41,29 +41,92 @@ QString platformErrorText(ErrorNumber number)
     return {};
 }
 
+QString explanationOf(ErrorNumber number)
+{
+    switch (number) {
+    case ErrorNumber::InvalidProcedureCall:
+        return QStringLiteral("Cette opération n’est pas possible ici.");
+    case ErrorNumber::Overflow:
+        return QStringLiteral("Un nombre est trop grand.");
+    case ErrorNumber::OutOfMemory:
+        return QStringLiteral("La mémoire de l’ordinateur est pleine.");
+    case ErrorNumber::SubscriptOutOfRange:
+        return QStringLiteral("Il y en a plus que le programme n’a de places.");
+    case ErrorNumber::TypeMismatch:
+        return QStringLiteral("Une valeur n’a pas la forme attendue.");
+    case ErrorNumber::FileNotFound:
+        return QStringLiteral("Un fichier manque.");
+    case ErrorNumber::PathFileAccess:
+        return QStringLiteral("Un fichier ne se laisse pas lire ou écrire.");
+    case ErrorNumber::InvalidUseOfNull:
+        return QStringLiteral("Une valeur manque dans la base de données.");
+    case ErrorNumber::InvalidFileFormat:
+        return QStringLiteral("Un fichier est abîmé, ou n’a pas la forme attendue.");
+    case ErrorNumber::PrinterError:
+        return QStringLiteral("L’impression a échoué.");
+    case ErrorNumber::ItemNotFound:
+        return QStringLiteral("Une colonne manque dans la base de données.");
+    case ErrorNumber::DatabaseFailure:
+        return QStringLiteral("La base de données ne se laisse pas lire.");
+    case ErrorNumber::StatementRefused:
+        return QStringLiteral("La base de données refuse une demande.");
+    case ErrorNumber::TableMissing:
+        return QStringLiteral("Une table manque dans la base de données.");
+    case ErrorNumber::InternalError:
+        break;
+    }
+    return QStringLiteral("Le programme a rencontré une faute imprévue.");
+}
+
+QString shortened(const QString& text)
+{
+    constexpr qsizetype longest = 600;
+    constexpr qsizetype ending = 100; // which may say where
+    constexpr qsizetype mostLines = 12;
+    QString part = text;
+    if (part.size() > longest) {
+        part = part.left(longest - ending - 3) + QStringLiteral(" … ") + part.right(ending);
+    }
+    const QStringList lines = part.split(u'\n');
+    return lines.size() <= mostLines
+               ? part
+               : lines.mid(0, mostLines - 1).join(u'\n') + QStringLiteral("\n…");
+}
+
 RunTimeError::RunTimeError(ErrorNumber number) : RunTimeError(number, platformErrorText(number)) {}
 
-RunTimeError::RunTimeError(ErrorNumber number, QString text)
-    : m_number(number), m_text(std::move(text)), m_what(m_text.toUtf8())
+RunTimeError::RunTimeError(ErrorNumber number, const QString& text)
+    : m_number(number), m_text(shortened(text)), m_explanation(explanationOf(number)),
+      m_what(m_text.toUtf8())
 {
+}
+
+void RunTimeError::explain(const QString& words)
+{
+    m_explanation = words.left(1).toUpper() + words.mid(1) + u'.';
 }
 
 void RunTimeError::addActivity(const QString& activity)
 {
     if (m_activity.isEmpty()) {
-        m_activity = activity;
+        m_activity = shortened(activity);
     }
 }
 
 void RunTimeError::addPlace(const QString& place)
 {
-    m_activity += m_activity.isEmpty() ? place : u'\n' + place;
+    m_activity += m_activity.isEmpty() ? shortened(place) : u'\n' + shortened(place);
+}
+
+QString RunTimeError::numberAndText() const
+{
+    return QStringLiteral("Run-time error '%1':\n\n%2")
+        .arg(QString::number(static_cast<int>(m_number)), m_text);
 }
 
 QString RunTimeError::message() const
 {
-    QString message = QStringLiteral("Run-time error '%1':\n\n%2")
-                          .arg(QString::number(static_cast<int>(m_number)), m_text);
+    QString message = numberAndText();
     if (!m_activity.isEmpty()) {
         message += QStringLiteral("\n\n") + m_activity;
     }

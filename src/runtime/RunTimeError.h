@@ -31,31 +31,45 @@ enum class ErrorNumber : int {
 /// The platform's own text of an error number; empty for the database errors.
 [[nodiscard]] QString platformErrorText(ErrorNumber number);
 
+/// What an error number means, as a sentence in French for the user.
+[[nodiscard]] QString explanationOf(ErrorNumber number);
+
+/// A text of a length that a message can show: of a longer one, its beginning, "…" and its end; of
+/// many lines, the first ones.
+[[nodiscard]] QString shortened(const QString& text);
+
 /// A fault that nothing traps: it travels to the one place that shows it and ends the program.
 /// Copies share nothing that can throw while the exception is in flight.
 class RunTimeError : public std::exception
 {
 public:
     explicit RunTimeError(ErrorNumber number);
-    RunTimeError(ErrorNumber number, QString text);
+    RunTimeError(ErrorNumber number, const QString& text);
 
     [[nodiscard]] ErrorNumber number() const { return m_number; }
-    /// The platform's or the driver's text. Never holds a password.
+    /// The platform's or the driver's text, shortened. Never holds a password.
     [[nodiscard]] const QString& text() const { return m_text; }
-    /// What was being done and with which value, in French, for the user; may be empty.
+    /// What the fault means, as a sentence in French: as the number has it, unless told by
+    /// `explain`, which takes the sentence without its capital letter and its full stop.
+    [[nodiscard]] const QString& explanation() const { return m_explanation; }
+    void explain(const QString& words);
+    /// What was being done and with which value, in French, for the user, shortened; may be empty.
     [[nodiscard]] const QString& activity() const { return m_activity; }
     /// The innermost activity stays: it names the value at fault.
     void addActivity(const QString& activity);
     /// Where in the plan that was, on a line of its own behind the activity.
     void addPlace(const QString& place);
 
-    /// "Run-time error '13':", an empty line, the text, and the activity when there is one.
+    /// "Run-time error '13':", an empty line and the text.
+    [[nodiscard]] QString numberAndText() const;
+    /// The same, an empty line and the activity when there is one.
     [[nodiscard]] QString message() const;
     [[nodiscard]] const char* what() const noexcept override { return m_what.constData(); }
 
 private:
     ErrorNumber m_number;
     QString m_text;
+    QString m_explanation;
     QString m_activity;
     QByteArray m_what; // UTF-8 of the text, kept so that what() cannot fail
 };

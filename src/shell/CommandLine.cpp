@@ -309,6 +309,14 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     return line;
 }
 
+bool CommandLine::asksForExport(const QStringList& arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+        const QRegularExpression option(QStringLiteral("^--?export(=|$)"));
+        return option.match(argument).hasMatch();
+    });
+}
+
 QString CommandLine::helpText()
 {
     QString text = QStringLiteral("Usage : tempora [options]\n"

@@ -61,6 +61,8 @@ struct CommandLine {
 
     /// `arguments` starts with the program's name. Error: UsageError.
     [[nodiscard]] static CommandLine parse(const QStringList& arguments);
+    /// Whether these arguments, right or wrong, ask for a file and not for the window.
+    [[nodiscard]] static bool asksForExport(const QStringList& arguments);
     /// The text of --help.
     [[nodiscard]] static QString helpText();
 };

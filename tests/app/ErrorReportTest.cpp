@@ -3,6 +3,7 @@
 #include "support/RuntimeMatchers.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -36,18 +37,23 @@ TEST(ErrorReport, endsALineOfStandardError)
 TEST(ErrorReport, isABoxThatShowsTheMessageAsItStandsAndALineOfStandardError)
 {
     QString shown;
+    QString beneath;
     Qt::TextFormat format = Qt::AutoText;
     QTimer::singleShot(0, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
         shown = box->text();
+        beneath = box->informativeText();
         format = box->textFormat();
+        for (const QLabel* label : box->findChildren<QLabel*>()) {
+            EXPECT_TRUE(label->textFormat() == Qt::PlainText) << label->text().toStdString();
+        }
         box->button(QMessageBox::Ok)->click();
     });
     testing::internal::CaptureStderr();
     app::reportRunTimeError(nullptr, kFault);
     EXPECT_EQ(captured(testing::internal::GetCapturedStderr()), kFault.message() + '\n');
-    EXPECT_EQ(shown, kFault.message());
-    EXPECT_TRUE(shown.contains("<b>Réserver</b>")) << shown.toStdString();
+    EXPECT_EQ(shown, "Un nombre est trop grand.");
+    EXPECT_EQ(beneath, "Run-time error '6':\n\n<b>Réserver</b>");
     EXPECT_EQ(format, Qt::PlainText);
 }

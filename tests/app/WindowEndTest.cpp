@@ -1,6 +1,5 @@
 // How the window begins with the options of the command line, and how it ends.
 
-#include "app/TemporaProcess.h"
 #include "app/WindowDesk.h"
 #include "support/WithoutPrivileges.h"
 
@@ -31,7 +30,8 @@ protected:
     void whenItServes(const std::function<void()>& action)
     {
         QObject::connect(&m_poll, &QTimer::timeout, &m_poll, [this, action] {
-            if (QThread::currentThread()->loopLevel() > 0) {
+            const bool waits = QGuiApplication::overrideCursor() != nullptr; // for the database
+            if (window().isVisible() && QThread::currentThread()->loopLevel() > 0 && !waits) {
                 m_poll.stop();
                 action();
             }
@@ -47,7 +47,9 @@ protected:
     QStringList messages; ///< of the boxes that were shown
     DialogAnswer answer{[this](QDialog& dialog) {
         const auto* box = qobject_cast<QMessageBox*>(&dialog);
-        messages.append(box != nullptr ? box->objectName() + ": " + box->text() : "no box");
+        messages.append(box != nullptr ? box->objectName() + ": " + box->text() + "\n\n" +
+                                             box->informativeText()
+                                       : "no box");
         dialog.reject();
     }};
 
@@ -70,16 +72,6 @@ TEST_F(WindowsLife, beginsWithTheOptionsOfTheCommandLine)
     EXPECT_EQ(boxTexts(shown, "A2").keys(), QList<int>({2}));
     EXPECT_EQ(shownRooms(shown), QStringList({"A2"}));
     EXPECT_EQ(messages, QStringList());
-}
-
-TEST_F(WindowsLife, doesNotBeginWithAChoiceThatTheDatabaseDoesNotHave)
-{
-    TemporaProcess program(setup);
-    program.environment.insert("DISPLAY", qEnvironmentVariable("DISPLAY"));
-    EXPECT_EQ(program.run({"--tranche", "Hiver"}), 2);
-    EXPECT_EQ(program.output(), "");
-    EXPECT_EQ(program.errors(),
-              "--tranche : « Hiver » n’existe pas ; valeurs acceptées : Printemps, Automne\n");
 }
 
 TEST_F(WindowsLife, endsWhenItIsClosedInItsFirstRedraw)
@@ -119,9 +111,9 @@ TEST_F(WindowsLife, endsWithABoxAndOneAfterAFault)
     });
     EXPECT_EQ(run(), 1);
     ASSERT_EQ(messages.size(), 1);
-    EXPECT_TRUE(messages[0].startsWith("RunTimeError: Run-time error '-2147217865':\n\n"))
-        << messages[0].toStdString();
-    EXPECT_TRUE(messages[0].endsWith("\n\nLecture de la période « Automne »"))
+    EXPECT_TRUE(messages[0].startsWith("RunTimeError: Une table manque dans la base de données.\n\n"
+                                       "Lecture de la période « Automne »\n\n"
+                                       "Run-time error '-2147217865':\n\n"))
         << messages[0].toStdString();
     EXPECT_EQ(setup.settingsText(), settings);
 }
@@ -137,9 +129,10 @@ TEST_F(WindowsLife, endsWithABoxAndOneWhenTheSettingsCannotBeSaved)
     });
     EXPECT_EQ(run(), 1);
     EXPECT_FALSE(window().isVisible());
-    EXPECT_EQ(messages, QStringList({"RunTimeError: Run-time error '75':\n\nPath/File access "
-                                     "error\n\nEnregistrement des paramètres (« " +
-                                     setup.settingsFile() + " »)"}));
+    EXPECT_EQ(messages, QStringList({"RunTimeError: Un fichier ne se laisse pas lire ou écrire."
+                                     "\n\nEnregistrement des paramètres (« " +
+                                     setup.settingsFile() + " »)\n\n" +
+                                     "Run-time error '75':\n\nPath/File access error"}));
 }
 
 TEST_F(WindowsLife, endsWithABoxAndOneAfterAFaultThatNobodyExpects)
@@ -150,6 +143,8 @@ TEST_F(WindowsLife, endsWithABoxAndOneAfterAFaultThatNobodyExpects)
         control<QCheckBox>("Check3")->click();
     });
     EXPECT_EQ(run(), 1);
-    EXPECT_EQ(messages, QStringList({"RunTimeError: Run-time error '51':\n\nInternal error\n\n"
-                                     "Faute inattendue du programme : boum"}));
+    EXPECT_EQ(messages,
+              QStringList({"RunTimeError: Le programme a rencontré une faute imprévue.\n\n"
+                           "Faute inattendue du programme : boum\n\n"
+                           "Run-time error '51':\n\nInternal error"}));
 }

@@ -128,3 +128,22 @@ TEST(AStepThatFailsOtherwise, isNotRunAgain)
                  DatabaseError);
     EXPECT_EQ(runs, 1);
 }
+
+TEST(FailureWords, tellTheFailuresApart)
+{
+    QStringList words;
+    for (const Failure failure :
+         {Failure::Refused, Failure::TableMissing, Failure::Locked, Failure::NoAnswer,
+          Failure::ConnectionLost, Failure::Unreachable, Failure::Other}) {
+        words << failureWords(failure);
+    }
+    EXPECT_EQ(words.removeDuplicates(), 0);
+    EXPECT_EQ(words[4], "la connexion à la base de données est coupée");
+}
+
+TEST(DatabaseError, isExplainedByItsFailure)
+{
+    EXPECT_EQ(DatabaseError(Failure::NoAnswer, runtime::ErrorNumber::DatabaseFailure, "timed out")
+                  .explanation(),
+              "La base de données ne répond pas.");
+}

@@ -75,7 +75,7 @@ TEST_F(AnIncompletePlan, saysSoInHtml)
     const QString html = QString::fromUtf8(files::planAsHtml(document()));
     EXPECT_EQ(html.count("? inconnu</td>"), 2);
     EXPECT_TRUE(html.contains("<p role=\"alert\"><strong>Plan incomplet depuis "));
-    EXPECT_TRUE(html.contains("la base de données refuse de répondre à une question. Les cases « ? "
+    EXPECT_TRUE(html.contains("la base de données refuse une demande. Les cases « ? "
                               "» sont inconnues, et non libres.</strong></p>"))
         << html.toStdString();
 }

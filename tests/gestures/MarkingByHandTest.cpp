@@ -183,7 +183,7 @@ TEST_P(MarkingByHand, endsTheProgramWhenTheDatabaseRefuses)
         const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box != nullptr && box->isActiveWindow()) {
             watch.stop();
-            message = box->text();
+            message = box->text() + u'\n' + box->informativeText();
             byHand("key Return");
         }
     });
@@ -193,7 +193,9 @@ TEST_P(MarkingByHand, endsTheProgramWhenTheDatabaseRefuses)
     QObject::connect(&limit, &QTimer::timeout, [] { QApplication::exit(99); });
     limit.start(30000);
     EXPECT_EQ(QApplication::exec(), 1);
-    EXPECT_TRUE(message.startsWith("Run-time error '-2147217900':\n\n")) << message.toStdString();
+    EXPECT_TRUE(message.startsWith("La base de données refuse une demande.\n\n"))
+        << message.toStdString();
+    EXPECT_TRUE(message.contains("\nRun-time error '-2147217900':\n\n")) << message.toStdString();
     EXPECT_TRUE(message.contains("« L'3 »")) << message.toStdString();
     EXPECT_TRUE(screen().window().failed());
     expectRecorded(none, none);

@@ -62,18 +62,6 @@ TEST(FaultSentence, saysWhichNamesCannotBeHeldAndHowToMendIt)
               "« A'1 », « B'2 ». Le réglage « Apostrophes=True » y remédie.");
 }
 
-TEST(FailureWords, tellTheFailuresApart)
-{
-    QStringList words;
-    for (const Failure failure :
-         {Failure::Refused, Failure::TableMissing, Failure::Locked, Failure::NoAnswer,
-          Failure::ConnectionLost, Failure::Unreachable, Failure::Other}) {
-        words << failureWords(failure);
-    }
-    EXPECT_EQ(words.removeDuplicates(), 0);
-    EXPECT_EQ(words[4], "la connexion à la base de données est coupée");
-}
-
 TEST(FaultDetails, areTheDatabasesOwnWordsEachOnce)
 {
     EXPECT_EQ(faultDetails(lacking({silent, unheld("A'1"), unheld("B'2")})),

@@ -118,3 +118,43 @@ TEST(FaultInFlight, saysWhenMemoryIsShort)
         EXPECT_EQ(told.text(), "Out of memory");
     }
 }
+
+TEST(ARunTimeError, isExplainedByItsNumberUnlessItIsTold)
+{
+    RunTimeError error(ErrorNumber::FileNotFound);
+    EXPECT_EQ(error.explanation(), "Un fichier manque.");
+    error.explain("la base « x » est fermée");
+    EXPECT_EQ(error.explanation(), "La base « x » est fermée.");
+}
+
+TEST(ARunTimeError, explainsEachNumberInASentence)
+{
+    QStringList sentences;
+    for (const ErrorNumber number :
+         {ErrorNumber::InvalidProcedureCall, ErrorNumber::Overflow, ErrorNumber::OutOfMemory,
+          ErrorNumber::SubscriptOutOfRange, ErrorNumber::TypeMismatch, ErrorNumber::InternalError,
+          ErrorNumber::FileNotFound, ErrorNumber::PathFileAccess, ErrorNumber::InvalidUseOfNull,
+          ErrorNumber::InvalidFileFormat, ErrorNumber::PrinterError, ErrorNumber::ItemNotFound,
+          ErrorNumber::DatabaseFailure, ErrorNumber::StatementRefused, ErrorNumber::TableMissing}) {
+        sentences << explanationOf(number);
+        EXPECT_TRUE(sentences.last().endsWith('.')) << sentences.last().toStdString();
+    }
+    EXPECT_EQ(sentences.removeDuplicates(), 0);
+}
+
+TEST(ARunTimeError, showsTheBeginningAndTheEndOfALongValue)
+{
+    RunTimeError error(ErrorNumber::TypeMismatch);
+    error.addActivity("Lecture de « " + QString(65536, 'x') + " », salle « A1 »");
+    EXPECT_EQ(error.activity().size(), 600);
+    EXPECT_TRUE(error.activity().startsWith("Lecture de « xxxx"));
+    EXPECT_TRUE(error.activity().contains("x … x"));
+    EXPECT_TRUE(error.activity().endsWith("x », salle « A1 »"));
+    EXPECT_EQ(shortened(QString(600, 'x')), QString(600, 'x'));
+}
+
+TEST(ARunTimeError, showsTheFirstLinesOfMany)
+{
+    EXPECT_EQ(shortened(QString("a\n").repeated(11) + "b"), QString("a\n").repeated(11) + "b");
+    EXPECT_EQ(shortened(QString("a\n").repeated(12) + "b"), QString("a\n").repeated(11) + "…");
+}

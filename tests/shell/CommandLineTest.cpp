@@ -31,6 +31,18 @@ QString refusal(const QStringList& arguments)
 
 } // namespace
 
+TEST(CommandLine, asksForAnExportAlsoWhereTheRestIsWrong)
+{
+    const auto asks = [](const QStringList& arguments) {
+        return CommandLine::asksForExport(QStringList{"tempora"} + arguments);
+    };
+    EXPECT_TRUE(asks({"--day", "9", "--export", "plan.pdf"}));
+    EXPECT_TRUE(asks({"--export=plan.pdf"}));
+    EXPECT_TRUE(asks({"-export", "plan.pdf"}));
+    EXPECT_FALSE(asks({}));
+    EXPECT_FALSE(asks({"--exports", "export", "--day", "1"}));
+}
+
 TEST(CommandLine, withoutOptionsAsksForNothing)
 {
     const CommandLine line = parse({});
