@@ -127,7 +127,7 @@ private:
     [[nodiscard]] lookup::RowSource& whoKnowsRows();
     [[nodiscard]] plan::AbsenceSource& whoKnowsAbsences();
     void tieEvents();
-    void tieContext();
+    void tiePages();
     void tieOptions();
     [[nodiscard]] plan::PlanPage lookedUpAgain();
     [[nodiscard]] bool showNextPage();

@@ -1,5 +1,6 @@
-// Which control's event leads where.
+// Which control's event leads where; those of day, period and rooms are tied in context/Events.
 
+#include "context/Events.h"
 #include "engine/Engine.h"
 
 namespace engine
@@ -7,26 +8,14 @@ namespace engine
 
 void Engine::tieEvents()
 {
-    tieContext();
+    context::tieEvents(m_state.form, m_periods, m_rooms);
+    tiePages();
     tieOptions();
 }
 
-void Engine::tieContext()
+void Engine::tiePages()
 {
     form::PlanForm& form = m_state.form;
-    form.CbTranche.click = [this] { m_periods.CbTranche_Click(); };
-    form.CbJour.click = [this] { m_periods.CbJour_Click(); };
-    form.DTPicker1.change = [this] { m_periods.DTPicker1_Change(); };
-    form.Check2.click = [this] { m_periods.Check2_Click(); };
-    form.Combo10.click = [this] { m_periods.Combo10_Click(); };
-    form.OpEns().click() = [this] { m_periods.OpEns_Click(); };
-    form.OpExam().click() = [this] { m_periods.OpExam_Click(); };
-
-    form.cb_Locaux.click = [this] { m_rooms.cb_Locaux_Click(); };
-    form.ElemDep.click = [this] { m_rooms.ElemDep_Click(); };
-    form.Combo1.click = [this] { m_rooms.Combo1_Click(); };
-    form.Chk_Neutre.click = [this] { m_rooms.Chk_Neutre_Click(); };
-
     form.Total_L_P.change = [this] { m_paging.Total_L_P_Change(); };
     form.Command2.click = [this] { m_paging.Command2_Click(); };
     form.Command3.click = [this] { m_paging.Command3_Click(); };

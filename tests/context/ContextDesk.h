@@ -1,5 +1,6 @@
 #pragma once
 
+#include "context/Events.h"
 #include "context/LoadSlots.h"
 #include "context/Periods.h"
 #include "context/PlanActions.h"
@@ -34,7 +35,8 @@ public:
     std::function<void()> onRefresh;
 };
 
-/// The viewing context around one form, its events wired as in the program, over a recording plan.
+/// The viewing context around one form, its events tied as the program ties them, over a recording
+/// plan: what the context asks of the plan is all that there is of one.
 /// The time axis starts 1000 twips from the left. Today is Wednesday, 14 October 2026.
 struct ContextDesk {
     explicit ContextDesk(bool useMySql = false) : database(useMySql)
@@ -43,17 +45,7 @@ struct ContextDesk {
         form.Label1.front().place.left = 1000;
         form.scaleWidth = 21000;
         form.scaleHeight = 10000;
-        form.CbTranche.click = [this] { periods.CbTranche_Click(); };
-        form.CbJour.click = [this] { periods.CbJour_Click(); };
-        form.DTPicker1.change = [this] { periods.DTPicker1_Change(); };
-        form.Check2.click = [this] { periods.Check2_Click(); };
-        form.Combo10.click = [this] { periods.Combo10_Click(); };
-        form.OpEns().click() = [this] { periods.OpEns_Click(); };
-        form.OpExam().click() = [this] { periods.OpExam_Click(); };
-        form.cb_Locaux.click = [this] { rooms.cb_Locaux_Click(); };
-        form.ElemDep.click = [this] { rooms.ElemDep_Click(); };
-        form.Combo1.click = [this] { rooms.Combo1_Click(); };
-        form.Chk_Neutre.click = [this] { rooms.Chk_Neutre_Click(); };
+        context::tieEvents(form, periods, rooms);
     }
     /// The same, with the database open.
     explicit ContextDesk(const TestDatabase& base) : ContextDesk(base.usesMySql())
