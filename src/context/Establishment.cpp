@@ -2,6 +2,7 @@
 
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/SchoolColumns.h"
 
 namespace context
 {
@@ -32,7 +33,7 @@ void listPeriods(form::PlanForm& form, db::Connection& connection)
 {
     const db::Recordset periods = connection.open(QStringLiteral("select * from tranche"));
     for (const db::Row& period : periods.rows()) {
-        form.CbTranche.addItem(period.field(1).toJoinedText());
+        form.CbTranche.addItem(period.field(timetable::position::kPeriodName).toJoinedText());
     }
 }
 

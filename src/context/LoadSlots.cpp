@@ -4,6 +4,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/TimeOfDay.h"
+#include "timetable/SchoolColumns.h"
 
 #include <optional>
 
@@ -29,8 +30,8 @@ std::optional<Slot> slotIn(const db::Recordset& found)
     if (found.isEmpty()) {
         return std::nullopt;
     }
-    const QString start = found.first().field(QStringLiteral("Horaire1")).toText();
-    const QString end = found.first().field(QStringLiteral("Horaire2")).toText();
+    const QString start = found.first().field(timetable::column::kHoraire1).toText();
+    const QString end = found.first().field(timetable::column::kHoraire2).toText();
     Slot slot{start, TimeTextToTime(start), 0};
     slot.minutes = runtime::minutesBetween(slot.startSeconds, TimeTextToTime(end));
     return slot;

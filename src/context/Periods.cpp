@@ -1,9 +1,10 @@
 #include "context/Periods.h"
 
-#include "context/DateRules.h"
 #include "runtime/FrenchDate.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/DateRules.h"
+#include "timetable/SchoolColumns.h"
 
 #include <utility>
 
@@ -12,14 +13,7 @@ namespace context
 namespace
 {
 
-// Columns of `tranche` and of `dat_exam` are read by position.
-constexpr int kIdent = 0;
-constexpr int kName = 1;
-constexpr int kFirstDay = 2;
-constexpr int kLastDay = 3;
-constexpr int kExamWeek1 = 1;
-constexpr int kExamWeek2 = 2;
-constexpr int kControlWeek = 3;
+namespace position = timetable::position;
 
 QString dateCaption(const db::Value& date)
 {
@@ -42,14 +36,14 @@ void Periods::chooseByIdent(std::int32_t ident)
     const db::Recordset found = m_database.read(
         QStringLiteral("select * from tranche where ident=") + QString::number(ident));
     if (!found.isEmpty()) {
-        m_form.CbTranche.showText(found.first().field(kName).toJoinedText());
+        m_form.CbTranche.showText(found.first().field(position::kPeriodName).toJoinedText());
     }
     readPeriodDates();
 }
 
 void Periods::showCurrentWeek()
 {
-    m_form.DTPicker1.setValue(MondayOnOrBefore(m_today()));
+    m_form.DTPicker1.setValue(timetable::MondayOnOrBefore(m_today()));
     m_viewed.CurrentDate = m_form.DTPicker1.value();
 }
 
@@ -78,32 +72,34 @@ void Periods::readPeriodDates()
     const db::Row& period = found.first();
     runtime::during(
         QStringLiteral("Lecture des dates de la période « %1 »").arg(m_form.CbTranche.text()), [&] {
-            m_form.Label4[1].caption = dateCaption(period.field(kFirstDay));
-            m_form.Label4[3].caption = dateCaption(period.field(kLastDay));
-            setTrancheIdent(period.field(kIdent));
+            m_form.Label4[1].caption = dateCaption(period.field(position::kFirstDay));
+            m_form.Label4[3].caption = dateCaption(period.field(position::kLastDay));
+            setTrancheIdent(period.field(position::kPeriodIdent));
         });
 }
 
 void Periods::readExamDates(const db::Row& weeks)
 {
-    m_viewed.ExamWeek1Start = weeks.field(kExamWeek1).toDate();
-    m_viewed.ExamWeek2Start = weeks.field(kExamWeek2).toDate();
-    m_viewed.ControlWeekStart = weeks.field(kControlWeek).toDate();
-    setTrancheIdent(weeks.field(kIdent));
+    int place = position::kFirstExamWeek;
+    for (QDate& firstDay : m_viewed.examWeeks.firstDays) {
+        firstDay = weeks.field(place++).toDate();
+    }
+    setTrancheIdent(weeks.field(position::kPeriodOfExams));
 }
 
-void Periods::reckonExamDates(const db::Row& period)
+void Periods::reckonExamDates(const db::Row& row)
 {
-    m_viewed.ExamWeek1Start = NextMondayAfter(period.field(kLastDay).toDate());
-    m_viewed.ExamWeek2Start = PlusOneWeek(m_viewed.ExamWeek1Start);
-    // Controls are held early in the period, so their week is counted from its first day, the exams
-    // from its last.
-    m_viewed.ControlWeekStart = NextMondayAfter(PlusFourWeeks(period.field(kFirstDay).toDate()));
-    setTrancheIdent(period.field(kIdent));
+    timetable::Period period;
+    period.lastDay = row.field(position::kLastDay).toDate();
+    period.firstDay = row.field(position::kFirstDay).toDate();
+    m_viewed.examWeeks = timetable::ExamWeeks::usualOf(period);
+    setTrancheIdent(row.field(position::kPeriodIdent));
 }
 
 void Periods::LoadExamWeeks()
 {
+    // What the label shows, which is not always a period: without one the settings' number is asked
+    // for, and a database may have exam weeks under it all the same.
     const QString ident = QString::number(m_viewed.labelledIdent);
     runtime::during(
         QStringLiteral("Lecture des semaines d’examen de la période « %1 »").arg(ident), [&] {
@@ -130,7 +126,7 @@ void Periods::Afficher_Dates()
         return; // no period, so no exam week: the labels and the week stay as they are
     }
     m_form.Label4[1].caption = runtime::frenchLongDate(weekStart);
-    m_form.Label4[3].caption = runtime::frenchLongDate(PlusFiveDays(weekStart));
+    m_form.Label4[3].caption = runtime::frenchLongDate(timetable::PlusFiveDays(weekStart));
     m_viewed.CurrentDate = weekStart;
     if (m_form.visible && !m_PickerChangeBusy) {
         // One day further than the day list's own rule: an exam week opens on its second day.
@@ -176,7 +172,7 @@ void Periods::DTPicker1_Change()
     }
     // The week comes first: the day list's click redraws the plan, and whoever looks at the shown
     // date or chooses another day in the middle of that means the picked week.
-    m_viewed.CurrentDate = MondayOnOrBefore(m_form.DTPicker1.value());
+    m_viewed.CurrentDate = timetable::MondayOnOrBefore(m_form.DTPicker1.value());
     m_PickerChangeBusy = true;
     if (m_form.DTPicker1.visible) {
         m_form.CbJour.setListIndex(dayListIndex(m_form.DTPicker1.value()));
@@ -209,7 +205,7 @@ void Periods::OpEns_Click()
     m_form.xOpExam.visible = false;
     m_form.XOpEns.caption = QStringLiteral("Enseignant");
     m_form.Chk_Type.visible = true;
-    m_form.DTPicker1.setValue(MondayOnOrBefore(m_today()));
+    m_form.DTPicker1.setValue(timetable::MondayOnOrBefore(m_today()));
     if (!m_form.OpEns().isSelected()) {
         return; // the picker's redraw served a press of "Examen", whose dates are to stay
     }

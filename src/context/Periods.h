@@ -29,7 +29,8 @@ public:
     /// At start-up: this week's Monday.
     void showCurrentWeek();
 
-    /// Computes the first days of the three exam weeks of the chosen period.
+    /// Finds the first days of the three exam weeks of the period whose number the label shows; of
+    /// the chosen one where the database names none. Without either they stay as they are.
     void LoadExamWeeks();
     /// Shows the chosen exam week; does nothing in teaching mode.
     void Afficher_Dates();
@@ -49,7 +50,7 @@ public:
 private:
     void readPeriodDates();
     void readExamDates(const db::Row& weeks);
-    void reckonExamDates(const db::Row& period);
+    void reckonExamDates(const db::Row& row);
     void setTrancheIdent(const db::Value& ident);
     [[nodiscard]] db::Recordset periodRow();
 

@@ -1,6 +1,7 @@
 #include "context/RoomPlaces.h"
 
 #include "runtime/RunTimeError.h"
+#include "timetable/SchoolColumns.h"
 
 #include <algorithm>
 
@@ -22,13 +23,13 @@ void refuseTooMany(qsizetype rooms)
 
 std::int16_t placesOf(const db::Row& room)
 {
-    const db::Value places = room.field(QStringLiteral("places"));
+    const db::Value places = room.field(timetable::column::kPlaces);
     if (places.isNull()) {
         return 0;
     }
     return runtime::during(
         QStringLiteral("Lecture des places de la salle « %1 » (valeur « %2 »)")
-            .arg(room.field(QStringLiteral("Nom")).toJoinedText(), places.toJoinedText()),
+            .arg(room.field(timetable::column::kNom).toJoinedText(), places.toJoinedText()),
         [&] { return places.toInt16(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/SchoolColumns.h"
 
 #include <algorithm>
 
@@ -83,8 +84,8 @@ void RoomSet::fillRows(const db::Recordset& rooms)
            skipped + filled < rooms.recordCount()) {
         const db::Row& room = rooms.rows()[static_cast<std::size_t>(skipped + filled)];
         const bool read = runtime::skipOnError([&] {
-            m_page.setName(m_form, filled, room.field(QStringLiteral("Nom")).toJoinedText());
-            m_page.setPlaces(m_form, filled, room.field(QStringLiteral("places")).toJoinedText());
+            m_page.setName(m_form, filled, room.field(timetable::column::kNom).toJoinedText());
+            m_page.setPlaces(m_form, filled, room.field(timetable::column::kPlaces).toJoinedText());
         });
         if (!read) {
             break;

@@ -2,6 +2,7 @@
 
 #include "db/MatchMasks.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/MeetingColumns.h"
 
 #include <utility>
 
@@ -46,7 +47,7 @@ std::vector<std::optional<db::Recordset>> StartReads::slotsAtOnce(const QStringL
 {
     std::vector<std::optional<db::Recordset>> found(static_cast<std::size_t>(keys.size()));
     runtime::skipOnError([&] {
-        const db::MatchMasks masks(QStringLiteral("Seance"), keys, m_database.dialect());
+        const db::MatchMasks masks(timetable::column::kSeance, keys, m_database.dialect());
         const db::Recordset all = m_database.Db().open(
             QStringLiteral("select ") + masks.selectList(QStringLiteral("tempora_k")) +
             QStringLiteral(", seances.* from seances where ") + masks.anyOf());

@@ -1,26 +1,25 @@
 #include "context/ViewedPeriod.h"
 
+#include "timetable/DaySlot.h"
+
 namespace context
 {
 
 QDate ViewedPeriod::examWeekStart() const
 {
-    switch (examWeek) {
-    case 1:
-        return ExamWeek1Start;
-    case 2:
-        return ExamWeek2Start;
-    case 3:
-        return ControlWeekStart;
-    default:
-        return {};
-    }
+    return examWeeks.date(examWeek, timetable::kMonday).value_or(QDate());
 }
 
 QDate ViewedPeriod::shownDate(const form::PlanForm& form) const
 {
     const int day = form.CbJour.listIndex();
     return day < 0 ? form.DTPicker1.value() : CurrentDate.addDays(day);
+}
+
+int dayListIndex(QDate date)
+{
+    const int day = timetable::dayOf(date);
+    return day == timetable::kSunday ? -1 : day;
 }
 
 } // namespace context

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "form/PlanForm.h"
+#include "timetable/Period.h"
 
 #include <QDate>
 #include <cstdint>
@@ -18,10 +19,7 @@ struct ViewedPeriod {
     /// The number that `Label11` shows: the chosen period's, or the one that the settings ask for
     /// where no period bears it.
     std::int32_t labelledIdent = 0;
-    // First days of the three exam weeks; invalid until they are asked for.
-    QDate ExamWeek1Start;
-    QDate ExamWeek2Start;
-    QDate ControlWeekStart;
+    timetable::ExamWeeks examWeeks; ///< not known until they are asked for
     /// The chosen exam week: 1, 2, or 3 for the control week. `Semn` shows it.
     int examWeek = 1;
 
@@ -31,5 +29,9 @@ struct ViewedPeriod {
     /// hold Sunday; then it is the picked date.
     [[nodiscard]] QDate shownDate(const form::PlanForm& form) const;
 };
+
+/// Index of the date in the day list: 0 for a Monday, 5 for a Saturday, -1 for a Sunday, which
+/// the list does not hold.
+[[nodiscard]] int dayListIndex(QDate date);
 
 } // namespace context

@@ -1,6 +1,6 @@
 #include "shell/Player.h"
 
-#include "context/DateRules.h"
+#include "context/ViewedPeriod.h"
 
 namespace shell
 {

@@ -100,7 +100,8 @@ void Shell::MatchControlBackgrounds()
 QDate Shell::fileDate() const
 {
     const context::ViewedPeriod& period = m_engine.state().period;
-    const bool examWeek = form().OpExam().isSelected() && period.ExamWeek1Start.isValid();
+    const bool examWeek =
+        form().OpExam().isSelected() && period.examWeeks.firstDays.front().isValid();
     const bool dated = form().DTPicker1.visible || m_dateAskedFor || examWeek;
     return dated ? period.shownDate(form()) : QDate();
 }

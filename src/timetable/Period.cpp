@@ -1,6 +1,6 @@
 #include "timetable/Period.h"
 
-#include "timetable/DaySlot.h"
+#include "timetable/DateRules.h"
 
 namespace timetable
 {
@@ -8,13 +8,6 @@ namespace
 {
 
 constexpr int kDaysOfExamWeek = 6;
-constexpr qint64 kWeeksBeforeControls = 4;
-
-/// The first Monday after the day, never the day itself.
-QDate nextMonday(QDate day)
-{
-    return day.isValid() ? day.addDays(kDaysOfWeek + Qt::Monday - day.dayOfWeek()) : QDate();
-}
 
 } // namespace
 
@@ -25,13 +18,9 @@ bool Period::holds(QDate day) const
 
 ExamWeeks ExamWeeks::usualOf(const Period& period)
 {
-    const QDate exams = nextMonday(period.lastDay);
+    const QDate exams = NextMondayAfter(period.lastDay);
     // Controls are held early in the period, so they are counted from its first day.
-    const QDate afterFourWeeks = period.firstDay.isValid()
-                                     ? period.firstDay.addDays(kWeeksBeforeControls * kDaysOfWeek)
-                                     : QDate();
-    return {{exams, exams.isValid() ? exams.addDays(kDaysOfWeek) : QDate(),
-             nextMonday(afterFourWeeks)}};
+    return {{exams, PlusOneWeek(exams), NextMondayAfter(PlusFourWeeks(period.firstDay))}};
 }
 
 std::optional<QDate> ExamWeeks::date(int week, int day) const

@@ -3,7 +3,6 @@
 #include "timetable/SqlName.h"
 
 /// The tables beside those of the meetings (MeetingColumns.h), as far as they are read by column.
-/// `tranche` and `dat_exam` are read by position.
 namespace timetable
 {
 
@@ -28,5 +27,18 @@ inline constexpr SqlName kHoraire2{u"Horaire2"}; ///< its end
 inline constexpr SqlName kCapacite{u"Capacite"};
 inline constexpr SqlName kClasseOfStudent{u"classe"};
 } // namespace column
+
+/// `tranche` and `dat_exam` are read by position: what their columns are called is not known.
+namespace position
+{
+// tranche
+inline constexpr int kPeriodIdent = 0;
+inline constexpr int kPeriodName = 1;
+inline constexpr int kFirstDay = 2;
+inline constexpr int kLastDay = 3;
+// dat_exam
+inline constexpr int kPeriodOfExams = 0;
+inline constexpr int kFirstExamWeek = 1; ///< the other exam week and the control week follow
+} // namespace position
 
 } // namespace timetable

@@ -16,13 +16,6 @@ namespace
 using runtime::ErrorNumber;
 using runtime::RunTimeError;
 
-// Columns of `tranche` and of `dat_exam` are read by position.
-constexpr int kIdent = 0;
-constexpr int kName = 1;
-constexpr int kFirstDay = 2;
-constexpr int kLastDay = 3;
-constexpr int kFirstExamWeek = 1;
-
 /// A field of a row; null where the row has no such column.
 db::Value fieldOf(const db::Row& row, const QString& column)
 {
@@ -31,10 +24,10 @@ db::Value fieldOf(const db::Row& row, const QString& column)
     return value;
 }
 
-db::Value fieldAt(const db::Row& row, int position)
+db::Value fieldAt(const db::Row& row, int place)
 {
     db::Value value;
-    runtime::skipOnError([&] { value = row.field(position); });
+    runtime::skipOnError([&] { value = row.field(place); });
     return value;
 }
 
@@ -193,9 +186,10 @@ std::optional<Period> Reader::readPeriod()
     const db::Recordset periods =
         m_connection.open(QStringLiteral("select * from ") + table::kTrancheTable);
     for (const db::Row& row : periods.rows()) {
-        if (numberOf(fieldAt(row, kIdent)) == m_period) {
-            return Period{m_period, fieldAt(row, kName).toJoinedText(),
-                          dateOf(fieldAt(row, kFirstDay)), dateOf(fieldAt(row, kLastDay))};
+        if (numberOf(fieldAt(row, position::kPeriodIdent)) == m_period) {
+            return Period{m_period, fieldAt(row, position::kPeriodName).toJoinedText(),
+                          dateOf(fieldAt(row, position::kFirstDay)),
+                          dateOf(fieldAt(row, position::kLastDay))};
         }
     }
     return std::nullopt;
@@ -209,9 +203,9 @@ std::optional<ExamWeeks> Reader::readExamWeeks()
         return std::nullopt;
     }
     ExamWeeks weeks;
-    int position = kFirstExamWeek;
+    int place = position::kFirstExamWeek;
     for (QDate& firstDay : weeks.firstDays) {
-        firstDay = dateOf(fieldAt(found.first(), position++));
+        firstDay = dateOf(fieldAt(found.first(), place++));
     }
     return weeks;
 }

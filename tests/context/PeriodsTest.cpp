@@ -100,9 +100,9 @@ TEST_P(ThePeriods, takeTheExamWeeksThatTheDatabaseGives)
 {
     desk->viewed.labelledIdent = 2;
     desk->periods.LoadExamWeeks();
-    EXPECT_EQ(desk->viewed.ExamWeek1Start, QDate(2027, 6, 7));
-    EXPECT_EQ(desk->viewed.ExamWeek2Start, QDate(2027, 6, 14));
-    EXPECT_EQ(desk->viewed.ControlWeekStart, QDate(2027, 3, 15));
+    EXPECT_EQ(desk->viewed.examWeeks.firstDays[0], QDate(2027, 6, 7));
+    EXPECT_EQ(desk->viewed.examWeeks.firstDays[1], QDate(2027, 6, 14));
+    EXPECT_EQ(desk->viewed.examWeeks.firstDays[2], QDate(2027, 3, 15));
     EXPECT_EQ(desk->viewed.TrancheIdent, 2);
 }
 
@@ -110,10 +110,11 @@ TEST_P(ThePeriods, workOutTheExamWeeksThatTheDatabaseDoesNotGive)
 {
     desk->form.CbTranche.setListIndex(0);
     desk->periods.LoadExamWeeks();
-    EXPECT_EQ(desk->viewed.ExamWeek1Start, QDate(2027, 2, 1)); // after the period's last Friday
-    EXPECT_EQ(desk->viewed.ExamWeek2Start, QDate(2027, 2, 8));
+    EXPECT_EQ(desk->viewed.examWeeks.firstDays[0],
+              QDate(2027, 2, 1)); // after the period's last Friday
+    EXPECT_EQ(desk->viewed.examWeeks.firstDays[1], QDate(2027, 2, 8));
     // Four weeks after 7 September is Monday, 5 October; the control week is the one behind it.
-    EXPECT_EQ(desk->viewed.ControlWeekStart, QDate(2026, 10, 12));
+    EXPECT_EQ(desk->viewed.examWeeks.firstDays[2], QDate(2026, 10, 12));
     EXPECT_EQ(desk->viewed.TrancheIdent, 1);
     EXPECT_EQ(desk->form.Label11.caption, "1");
 }
@@ -122,7 +123,7 @@ TEST_P(ThePeriods, haveNoExamWeeksWithoutAPeriod)
 {
     desk->periods.chooseByIdent(99);
     desk->form.OpExam().select();
-    EXPECT_FALSE(desk->viewed.ExamWeek1Start.isValid());
+    EXPECT_FALSE(desk->viewed.examWeeks.firstDays[0].isValid());
     EXPECT_EQ(desk->form.Label4[1].caption, "");
     EXPECT_EQ(desk->viewed.TrancheIdent, 0);
     EXPECT_EQ(desk->plan.redraws(), 1);

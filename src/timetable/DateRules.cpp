@@ -1,6 +1,6 @@
-#include "context/DateRules.h"
+#include "timetable/DateRules.h"
 
-namespace context
+namespace timetable
 {
 
 QDate MondayOnOrBefore(QDate date)
@@ -28,10 +28,4 @@ QDate PlusFiveDays(QDate date)
     return date.addDays(5);
 }
 
-int dayListIndex(QDate date)
-{
-    // The week is counted from Sunday = 1 and the list starts on Monday = 2.
-    return date.dayOfWeek() % 7 + 1 - 2;
-}
-
-} // namespace context
+} // namespace timetable

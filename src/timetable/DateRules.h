@@ -2,9 +2,11 @@
 
 #include <QDate>
 
-/// Steps between the days that the plan can show.
-namespace context
+/// Steps between the days of a calendar of weeks.
+namespace timetable
 {
+
+// No valid date leads to none.
 
 /// `date` itself when it is a Monday, else the latest Monday before it.
 [[nodiscard]] QDate MondayOnOrBefore(QDate date);
@@ -14,8 +16,4 @@ namespace context
 [[nodiscard]] QDate PlusFourWeeks(QDate date);
 [[nodiscard]] QDate PlusFiveDays(QDate date);
 
-/// Index of the date in the day list: 0 for a Monday, 5 for a Saturday, -1 for a Sunday, which
-/// the list does not hold.
-[[nodiscard]] int dayListIndex(QDate date);
-
-} // namespace context
+} // namespace timetable

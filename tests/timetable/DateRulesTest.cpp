@@ -1,8 +1,8 @@
-#include "context/DateRules.h"
+#include "timetable/DateRules.h"
 
 #include "support/RuntimeMatchers.h"
 
-using namespace context;
+using namespace timetable;
 
 namespace
 {
@@ -45,10 +45,9 @@ TEST(DateRules, stepByWeeksAndDaysAcrossTheYearsEnd)
     EXPECT_EQ(PlusFiveDays(date), QDate(2027, 1, 2));
 }
 
-TEST(DateRules, numberTheDaysOfTheDayListFromMonday)
+TEST(DateRules, leadNowhereFromNoDate)
 {
-    for (int day = 0; day <= 5; ++day) {
-        EXPECT_EQ(dayListIndex(monday.addDays(day)), day);
-    }
-    EXPECT_EQ(dayListIndex(sunday), -1);
+    EXPECT_FALSE(MondayOnOrBefore(QDate()).isValid());
+    EXPECT_FALSE(NextMondayAfter(QDate()).isValid());
+    EXPECT_FALSE(PlusFourWeeks(QDate()).isValid());
 }
