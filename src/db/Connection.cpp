@@ -3,6 +3,7 @@
 #include "db/EqualTexts.h"
 #include "db/JoinedQueries.h"
 #include "db/ParameterSet.h"
+#include "db/QueryPlans.h"
 #include "db/Repeated.h"
 #include "db/ResultReader.h"
 #include "db/Session.h"
@@ -49,14 +50,14 @@ std::vector<Recordset> Connection::openJoined(const QStringList& queries)
     return db::openJoined(queries, session());
 }
 
-bool Connection::joinedQueriesKeepOrder() const
+RowOrder Connection::joinedRowOrder() const
 {
-    return session().product().joinedQueriesKeepOrder();
+    return db::joinedRowOrder(session());
 }
 
 std::vector<RowOrder> Connection::rowOrders(const std::vector<WideQuery>& queries)
 {
-    return session().queryPlans().rowOrders(queries);
+    return db::rowOrders(queries, session());
 }
 
 std::vector<TextGroups> Connection::equalTexts(const std::vector<TextQuestion>& questions)

@@ -49,8 +49,8 @@ public:
     /// a number put before their first column; fewer record sets than queries when not so many can
     /// be joined.
     [[nodiscard]] std::vector<Recordset> openJoined(const QStringList& queries);
-    /// Whether these rows always come in the order in which each query alone would bring them.
-    [[nodiscard]] bool joinedQueriesKeepOrder() const;
+    /// Where these rows stand among those that each query alone would bring: `Same` or `Untold`.
+    [[nodiscard]] RowOrder joinedRowOrder() const;
     /// Whether the wide queries have brought the rows of their parts in each part's own order; by
     /// one statement at most. Raises no error while the connection is open.
     [[nodiscard]] std::vector<RowOrder> rowOrders(const std::vector<WideQuery>& queries);

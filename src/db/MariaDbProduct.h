@@ -49,7 +49,6 @@ public:
                                         TextColumns columns) const override;
 
     [[nodiscard]] AccessPaths accessPaths(const QString& sql, Session& session) const override;
-    [[nodiscard]] bool tellsOnlyPaths() const override { return true; }
 
 private:
     Server m_server;

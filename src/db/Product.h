@@ -89,8 +89,6 @@ public:
     /// The access path of each joined query, without running them; nothing where the product does
     /// not tell. Error: any database error.
     [[nodiscard]] virtual AccessPaths accessPaths(const QString& sql, Session& session) const;
-    /// Whether an access path says that no other index could serve its query (isOnlyOne).
-    [[nodiscard]] virtual bool tellsOnlyPaths() const { return false; }
 };
 
 } // namespace db

@@ -173,8 +173,9 @@ void PageRowSource::fetchClasses(const QStringList& classNames)
                           fromClass(name, m_database.dialect());
     }
     const std::vector<db::Recordset> found = m_database.Db().openJoined(statements);
+    const bool inOrder = m_database.Db().joinedRowOrder() == db::RowOrder::Same;
     for (std::size_t index = 0; index < found.size(); ++index) {
-        if (m_database.Db().joinedQueriesKeepOrder() || haveOneCapacity(found[index])) {
+        if (inOrder || haveOneCapacity(found[index])) {
             m_classRows.insert(others[static_cast<qsizetype>(index)], found[index]);
         }
     }

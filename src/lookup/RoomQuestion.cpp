@@ -64,14 +64,9 @@ QString RoomQuestion::slotCondition(const db::SqlDialect& dialect) const
            periodCondition(dialect);
 }
 
-db::NarrowQuery RoomQuestion::narrowQuery(const db::SqlDialect& dialect) const
-{
-    return {roomCondition(dialect), slotCondition(dialect)};
-}
-
 QString RoomQuestion::condition(const db::SqlDialect& dialect) const
 {
-    return narrowQuery(dialect).condition();
+    return roomCondition(dialect) + QStringLiteral(" and") + slotCondition(dialect);
 }
 
 QString RoomQuestion::sql(const db::SqlDialect& dialect) const

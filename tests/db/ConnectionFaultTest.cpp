@@ -185,7 +185,7 @@ TEST_P(Faults, answerEveryCallOnAClosedConnection)
              },
              [&] { connection().deleteFirst(sql); }, [&] { return connection().statementCount(); },
              [&] { return connection().dialect(); }, [&] { return connection().openJoined({sql}); },
-             [&] { return connection().joinedQueriesKeepOrder(); },
+             [&] { return connection().joinedRowOrder(); },
              [&] { return connection().rowOrders({}); }}) {
         const RunTimeError error = errorOf(action);
         EXPECT_EQ(error.number(), ErrorNumber::DatabaseFailure);

@@ -26,13 +26,14 @@ TEST_P(AConnection, keepsTheOrderOfJoinedQueriesThroughAViewOnSqliteAlone)
     database().execute({"create table t (a integer, b varchar(9))",
                         "insert into t values (1, 'x'), (1, 'y'), (1, 'z')",
                         "create view v as select * from t order by b desc"});
-    EXPECT_EQ(connection().joinedQueriesKeepOrder(), !database().usesMySql());
+    EXPECT_EQ(connection().joinedRowOrder(),
+              database().usesMySql() ? RowOrder::Untold : RowOrder::Same);
     const std::vector<Recordset> found =
         connection().openJoined({"v.* from v where a = 1", "v.* from v where a = 2"});
     ASSERT_EQ(found.size(), 2);
     EXPECT_EQ(found[0].recordCount(), 3);
     EXPECT_TRUE(found[1].isEmpty());
-    if (connection().joinedQueriesKeepOrder()) {
+    if (connection().joinedRowOrder() == RowOrder::Same) {
         EXPECT_EQ(found[0].first().field(QStringLiteral("b")), Value(QStringLiteral("z")));
     }
 }
@@ -40,8 +41,7 @@ TEST_P(AConnection, keepsTheOrderOfJoinedQueriesThroughAViewOnSqliteAlone)
 TEST_P(AConnection, tellsWhereTheRowsOfAPartStand)
 {
     database().execute(QStringLiteral("create table t (a integer, b integer)"));
-    const WideQuery query{
-        "t", "a", " a in (1,2) and b=3", {{" (a=1)", " b=3"}, {" (a=2)", " b=3"}}};
+    const WideQuery query{"t", "a", " a in (1,2) and b=3", {" (a=1) and b=3", " (a=2) and b=3"}};
     EXPECT_EQ(connection().rowOrders({query}), std::vector{RowOrder::Same});
     EXPECT_EQ(connection().statementCount(), 1);
 }

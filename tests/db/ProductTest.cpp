@@ -48,6 +48,5 @@ TEST(AProductWithoutWaysOfItsOwn, failsAsItsStateSays)
 TEST(AProductWithoutWaysOfItsOwn, promisesNoOrderOfRows)
 {
     EXPECT_FALSE(PlainProduct().joinedQueriesKeepOrder());
-    EXPECT_FALSE(PlainProduct().tellsOnlyPaths());
     EXPECT_EQ(PlainProduct().mostJoined(), 450);
 }
