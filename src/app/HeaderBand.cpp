@@ -3,6 +3,7 @@
 #include "app/FormMirror.h"
 #include "app/PlainTexts.h"
 #include "engine/Engine.h"
+#include "print/Heading.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,18 +37,14 @@ HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help
     mirror.bind(establishment, form.Label4[4]);
     auto* university = label(QStringLiteral("University"), QStringLiteral("note"));
     mirror.follow([university, &engine] {
-        const auto& header = engine.state().establishment;
-        university->setText(header.UniversityName +
-                            (header.AcademicYear != 0
-                                 ? QStringLiteral(" · ") + QString::number(header.AcademicYear)
-                                 : QString()));
+        university->setText(print::headingOf(engine.state()).universityAndYear());
     });
     names->addWidget(establishment);
     names->addWidget(university);
 
     auto* title = label(QStringLiteral("XSalle"), QStringLiteral("title"));
-    mirror.follow([title, &form] {
-        title->setText(form.title());
+    mirror.follow([title, &form, &engine] {
+        title->setText(print::headingOf(engine.state()).title);
         // The title's font is the control's own; all other texts have the window's.
         const QString style =
             QStringLiteral("font-family: \"%1\", \"Arial\";").arg(form.XSalle.font.name);
@@ -65,10 +62,9 @@ HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help
         dates->addWidget(date);
     }
     auto* period = label(QStringLiteral("PeriodName"), QStringLiteral("name"));
-    mirror.follow([period, &form] {
-        period->setText(form.OpExam().isSelected()
-                            ? form.CbTranche.text() + QStringLiteral(" – ") + form.Combo10.text()
-                            : form.CbTranche.text());
+    mirror.follow([period, &engine] {
+        const print::Heading heading = print::headingOf(engine.state());
+        period->setText(print::joined({heading.period, heading.examWeek}, QStringLiteral(" – ")));
     });
     auto* when = new QVBoxLayout;
     when->setSpacing(0);

@@ -188,11 +188,11 @@ QStringList PlanTable::words() const
 QString PlanTable::title() const
 {
     const form::PlanForm& form = m_state.form;
-    const print::Heading heading = print::headingOf(form, m_state.establishment);
+    const print::Heading heading = print::headingOf(m_state);
     const QString day = form.DTPicker1.visible ? runtime::frenchDayAndDate(form.DTPicker1.value())
                                                : form.CbJour.text();
-    QString title =
-        inOneLine({QStringLiteral("Plan des salles"), day, heading.period, heading.choice});
+    QString title = inOneLine(
+        {QStringLiteral("Plan des salles"), day, heading.periodAndWeek(), heading.choice});
     return title.replace(QStringLiteral(" · "), QStringLiteral(", ")); // for reading aloud
 }
 

@@ -7,16 +7,16 @@ namespace context
 
 TimeAxis screenAxis(const form::PlanForm& form)
 {
-    const form::Label& origin = form.Label1.front();
-    return {origin.caption, origin.place.left, TimeAxis::kScreenSlotWidth};
+    return {form::PlanForm::tickTime(0), form.Label1.front().place.left,
+            TimeAxis::kScreenSlotWidth};
 }
 
 void placeTicks(form::PlanForm& form)
 {
     const TimeAxis screen = screenAxis(form);
-    for (std::size_t tick = 1; tick < form.Label1.size(); ++tick) {
-        form::Label& label = form.Label1.at(tick);
-        label.place.left = screen.TimeToX(label.caption);
+    for (int tick = 1; tick < form::PlanForm::kTicks; ++tick) {
+        form.Label1.at(static_cast<std::size_t>(tick)).place.left =
+            screen.TimeToX(form::PlanForm::tickTime(tick));
     }
 }
 

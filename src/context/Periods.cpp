@@ -1,6 +1,5 @@
 #include "context/Periods.h"
 
-#include "runtime/FrenchDate.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 #include "timetable/DateRules.h"
@@ -15,9 +14,9 @@ namespace
 
 namespace position = timetable::position;
 
-QString dateCaption(const db::Value& date)
+QDate dateOrNone(const db::Value& date)
 {
-    return date.isNull() ? QString() : runtime::frenchLongDate(date.toDate());
+    return date.isNull() ? QDate() : date.toDate();
 }
 
 } // namespace
@@ -72,8 +71,8 @@ void Periods::readPeriodDates()
     const db::Row& period = found.first();
     runtime::during(
         QStringLiteral("Lecture des dates de la période « %1 »").arg(m_form.CbTranche.text()), [&] {
-            m_form.Label4[1].caption = dateCaption(period.field(position::kFirstDay));
-            m_form.Label4[3].caption = dateCaption(period.field(position::kLastDay));
+            m_viewed.tellDays(m_form, dateOrNone(period.field(position::kFirstDay)),
+                              dateOrNone(period.field(position::kLastDay)));
             setTrancheIdent(period.field(position::kPeriodIdent));
         });
 }
@@ -125,8 +124,7 @@ void Periods::Afficher_Dates()
     if (!weekStart.isValid()) {
         return; // no period, so no exam week: the labels and the week stay as they are
     }
-    m_form.Label4[1].caption = runtime::frenchLongDate(weekStart);
-    m_form.Label4[3].caption = runtime::frenchLongDate(timetable::PlusFiveDays(weekStart));
+    m_viewed.tellDays(m_form, weekStart, timetable::PlusFiveDays(weekStart));
     m_viewed.CurrentDate = weekStart;
     if (m_form.visible && !m_PickerChangeBusy) {
         // One day further than the day list's own rule: an exam week opens on its second day.

@@ -20,7 +20,7 @@ int secondsOf(const QString& text)
 int TimeAxis::TimeToX(const QString& text) const
 {
     const int seconds = secondsOf(text);
-    const int minutes = runtime::minutesBetween(secondsOf(originCaption), seconds);
+    const int minutes = runtime::minutesBetween(secondsOf(originTime), seconds);
     return runtime::nearestInteger(originLeft + widthOf(minutes));
 }
 

@@ -22,8 +22,8 @@ struct TimeAxis {
     static constexpr int kScreenSlotWidth = 2400;
     static constexpr int kPrinterSlotWidth = 1700;
 
-    QString originCaption; ///< time of day at the origin, for example 8h00
-    int originLeft = 0;    ///< twips from the window's left edge to the origin
+    QString originTime; ///< time of day at the origin, for example 8h00
+    int originLeft = 0; ///< twips from the window's left edge to the origin
     int SlotWidth = kScreenSlotWidth;
 
     /// Position in twips of a time of day such as 8h30, 8H30 or 8:30; left of the origin when it

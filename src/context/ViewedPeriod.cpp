@@ -1,9 +1,18 @@
 #include "context/ViewedPeriod.h"
 
+#include "runtime/FrenchDate.h"
 #include "timetable/DaySlot.h"
 
 namespace context
 {
+
+void ViewedPeriod::tellDays(form::PlanForm& form, QDate first, QDate last)
+{
+    firstToldDay = first;
+    lastToldDay = last;
+    form.Label4[1].caption = runtime::frenchLongDate(first);
+    form.Label4[3].caption = runtime::frenchLongDate(last);
+}
 
 QDate ViewedPeriod::examWeekStart() const
 {

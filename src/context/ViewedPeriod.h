@@ -20,9 +20,15 @@ struct ViewedPeriod {
     /// where no period bears it.
     std::int32_t labelledIdent = 0;
     timetable::ExamWeeks examWeeks; ///< not known until they are asked for
+    /// First and last day that the header tells: the period's, in exam mode the exam week's. No
+    /// valid date where none was read, or a null.
+    QDate firstToldDay;
+    QDate lastToldDay;
     /// The chosen exam week: 1, 2, or 3 for the control week. `Semn` shows it.
     int examWeek = 1;
 
+    /// Tells these days in the header, too.
+    void tellDays(form::PlanForm& form, QDate first, QDate last);
     /// First day of the chosen exam week; invalid where it is not known.
     [[nodiscard]] QDate examWeekStart() const;
     /// The shown date: as many days after `CurrentDate` as the day list says. The list does not

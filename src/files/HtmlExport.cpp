@@ -165,13 +165,12 @@ QString faultsHtml(const PlanDocument& document)
 
 QByteArray planAsHtml(const PlanDocument& document)
 {
-    const print::Heading heading =
-        print::headingOf(document.state().form, document.state().establishment);
+    const print::Heading heading = print::headingOf(document.state());
     const QString body =
         QStringLiteral("<header>\n<h1>") + escaped(heading.title) + QStringLiteral("</h1>\n") +
-        line(QStringLiteral("name"), {heading.establishment, heading.university}) +
+        line(QStringLiteral("name"), {heading.establishment, heading.universityAndYear()}) +
         line(QStringLiteral("context"),
-             {heading.day, heading.period, heading.dates, heading.choice}) +
+             {heading.day, heading.periodAndWeek(), heading.dates, heading.choice}) +
         QStringLiteral("</header>\n<main>\n") + tableHtml(document, heading.title) +
         faultsHtml(document) + QStringLiteral("</main>\n");
     return htmlDocument(heading.title, body).toUtf8();

@@ -18,7 +18,7 @@ using Key = QLatin1String;
 QJsonObject axisObject(const plan::PlanState& state)
 {
     const context::TimeAxis axis = context::screenAxis(state.form);
-    return {{Key("origin"), axis.originCaption},
+    return {{Key("origin"), axis.originTime},
             {Key("left_twips"), axis.originLeft},
             {Key("slot_width"), axis.SlotWidth}};
 }

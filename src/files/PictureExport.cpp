@@ -3,6 +3,7 @@
 #include "paint/Inks.h"
 #include "paint/PlanPainter.h"
 #include "plan/FaultWords.h"
+#include "print/Heading.h"
 #include "print/Targets.h"
 
 #include <QBuffer>
@@ -22,19 +23,17 @@ constexpr int kFooterPixels = 40;
 
 void paintHeader(QPainter& painter, const plan::PlanState& state, const QRectF& area)
 {
-    const form::PlanForm& form = state.form;
+    const print::Heading heading = print::headingOf(state);
     painter.setPen(paint::kHeaderInk);
     painter.setFont(paint::planFont(20, true));
-    painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, form.title());
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, heading.title);
     painter.setFont(paint::planFont(14));
     painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom,
-                     form.CbTranche.text() + QStringLiteral("   ") + form.Label4[0].caption + u' ' +
-                         form.Label4[1].caption + u' ' + form.Label4[2].caption + u' ' +
-                         form.Label4[3].caption);
+                     heading.period + QStringLiteral("   ") + heading.dates);
     painter.setFont(paint::planFont(16, true));
-    painter.drawText(area, Qt::AlignRight | Qt::AlignTop, state.establishment.EstablishmentName);
+    painter.drawText(area, Qt::AlignRight | Qt::AlignTop, heading.establishment);
     painter.setFont(paint::planFont(14));
-    painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, state.establishment.UniversityName);
+    painter.drawText(area, Qt::AlignRight | Qt::AlignBottom, heading.university);
 }
 
 /// What the plan lacks.

@@ -16,7 +16,6 @@ constexpr int kRoomWidth = 1920;
 constexpr int kPlacesWidth = 540;
 constexpr int kTotalHeight = 285;
 constexpr int kTickWidth = 600;
-constexpr int kFirstHour = 8;
 
 // The header: the title over the establishment on the left, the period's dates on the right.
 constexpr int kTitleTop = -1050;
@@ -59,7 +58,7 @@ void designPlan(PlanForm& form)
 {
     for (std::size_t tick = 0; tick < form.Label1.size(); ++tick) {
         Label& label = form.Label1.at(tick);
-        label.caption = QStringLiteral("%1h00").arg(kFirstHour + static_cast<int>(tick));
+        label.caption = PlanForm::tickTime(static_cast<int>(tick));
         label.place = {kAxisLeft, 0, kTickWidth, kHeaderHeight};
         label.font.bold = true;
     }
@@ -119,6 +118,11 @@ PlanForm::PlanForm()
     Command3.enabled = false;
     designHeader(*this);
     designPlan(*this);
+}
+
+QString PlanForm::tickTime(int tick)
+{
+    return QStringLiteral("%1h00").arg(kFirstHour + tick);
 }
 
 void PlanForm::setFontName(const QString& name)

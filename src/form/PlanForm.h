@@ -19,6 +19,7 @@ public:
     /// Rooms a page can hold at most: row 0 shows the room before the first one.
     static constexpr int kMostRooms = kRows - 1;
     static constexpr int kTicks = 12;      ///< hour ticks of the time axis, 8h00 to 19h00
+    static constexpr int kFirstHour = 8;   ///< what the first of them marks
     static constexpr int kSlotLabels = 11; ///< totals under the plan, one per slot of the day
 
     /// The controls as the window's design leaves them.
@@ -97,6 +98,9 @@ public:
 
     // The plan
     std::array<Label, kTicks> Label1;
+    /// The time of day that a tick marks, 0 to 11, as the database would write it: 8h00. `Label1`
+    /// shows it.
+    [[nodiscard]] static QString tickTime(int tick);
     std::vector<Label> Salle;
     std::vector<Label> Cap;
     std::array<Label, kSlotLabels> Tot;

@@ -91,7 +91,7 @@ RoomCell OccupancyLookup::cellOf(const db::Recordset& rows, const QString& room,
 {
     RoomCell cell;
     cell.CellDuration = QStringLiteral("90");
-    skipOnError([&] { cell.CellStart = m_view.tickCaptions.value(SlotIndex(seanceKey)); });
+    skipOnError([&] { cell.CellStart = m_view.tickTimes.value(SlotIndex(seanceKey)); });
     cell.CellText = composeCellText(rows.first(), room, m_view.options, m_view.typeNames);
     keepFacts(cell, rows, room);
     if (rows.recordCount() == 1) {

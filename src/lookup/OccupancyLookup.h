@@ -27,8 +27,9 @@ struct View {
     /// With the subject filter on: the subject; boxes that do not name it are blanked.
     std::optional<QString> subject;
     SeanceTypeShortNames typeNames;
-    /// Captions of the hour ticks: they stand in where a row has no start of its own.
-    QStringList tickCaptions;
+    /// Of the hour ticks, as the database would write them: they stand in where a row has no start
+    /// of its own.
+    QStringList tickTimes;
 };
 
 /// Answers what occupies a room in a slot. No error stops it and none is reported: a step that

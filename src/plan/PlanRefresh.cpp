@@ -162,7 +162,7 @@ void PlanRefresh::prepareQuestions()
     for (const QString& className : facts.classNames) {
         absences.classNames << firstClass(className);
     }
-    absences.starts += view.tickCaptions; // stand in where a row has no start of its own
+    absences.starts += view.tickTimes; // stand in where a row has no start of its own
     m_sources.absences.prepare(absences);
 }
 
@@ -279,7 +279,7 @@ std::optional<UnknownCell> PlanRefresh::unknownCell(int slot) const
         cell.start = facts->start;
         cell.minutes = facts->minutes;
     } else if (m_state.slots.SlotCount() == 0) {
-        cell.start = viewOf(m_state).tickCaptions.value(slot - 1);
+        cell.start = viewOf(m_state).tickTimes.value(slot - 1);
     }
     try {
         cell.x = axis.TimeToX(cell.start);

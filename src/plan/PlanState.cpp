@@ -36,8 +36,8 @@ lookup::View viewOf(const PlanState& state)
     if (state.form.Check1.isChecked()) {
         view.subject = state.form.Cb_Mat.text();
     }
-    for (const form::Label& tick : state.form.Label1) {
-        view.tickCaptions << tick.caption;
+    for (int tick = 0; tick < form::PlanForm::kTicks; ++tick) {
+        view.tickTimes << form::PlanForm::tickTime(tick);
     }
     return view;
 }

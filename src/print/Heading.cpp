@@ -1,30 +1,28 @@
 #include "print/Heading.h"
 
+#include "runtime/FrenchDate.h"
+
 namespace print
 {
 
-QString joined(const QStringList& parts)
+QString joined(const QStringList& parts, const QString& separator)
 {
     QStringList filled = parts;
     filled.removeAll(QString());
-    return filled.join(QStringLiteral(" · "));
+    return filled.join(separator);
 }
 
 namespace
 {
 
-QString periodOf(const form::PlanForm& form)
+QString datesOf(const plan::PlanState& state)
 {
-    const QString examWeek = form.OpExam().isSelected() ? form.Combo10.text() : QString();
-    return joined({form.CbTranche.text(), examWeek});
-}
-
-QString datesOf(const form::PlanForm& form)
-{
-    const auto& labels = form.Label4;
-    return labels[1].caption.isEmpty() ? QString()
-                                       : labels[0].caption + u' ' + labels[1].caption + u' ' +
-                                             labels[2].caption + u' ' + labels[3].caption;
+    const context::ViewedPeriod& period = state.period;
+    const auto& words = state.form.Label4; // "Du" and "au"
+    return period.firstToldDay.isValid()
+               ? words[0].caption + u' ' + runtime::frenchLongDate(period.firstToldDay) + u' ' +
+                     words[2].caption + u' ' + runtime::frenchLongDate(period.lastToldDay)
+               : QString();
 }
 
 /// Exams have no week A or B.
@@ -57,17 +55,27 @@ QString subjectOf(const form::PlanForm& form)
 
 } // namespace
 
-Heading headingOf(const form::PlanForm& form, const context::EstablishmentHeader& establishment)
+Heading headingOf(const plan::PlanState& state)
 {
-    const QString year =
-        establishment.AcademicYear != 0 ? QString::number(establishment.AcademicYear) : QString();
-    return {form.title(),
-            form.Label4[4].caption,
-            joined({establishment.UniversityName, year}),
-            form.DTPicker1.visible ? form.CbJour.text() : QString(),
-            periodOf(form),
-            datesOf(form),
-            joined({weekOf(form), roomsOf(form), subjectOf(form)})};
+    const form::PlanForm& form = state.form;
+    const context::EstablishmentHeader& establishment = state.establishment;
+    Heading heading;
+    heading.title = form.title();
+    heading.establishment = establishment.EstablishmentName;
+    heading.university = establishment.UniversityName;
+    if (establishment.AcademicYear != 0) {
+        heading.year = QString::number(establishment.AcademicYear);
+    }
+    if (form.DTPicker1.visible) {
+        heading.day = form.CbJour.text();
+    }
+    heading.period = form.CbTranche.text();
+    if (form.OpExam().isSelected()) {
+        heading.examWeek = form.Combo10.text();
+    }
+    heading.dates = datesOf(state);
+    heading.choice = joined({weekOf(form), roomsOf(form), subjectOf(form)});
+    return heading;
 }
 
 } // namespace print

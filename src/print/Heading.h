@@ -1,7 +1,6 @@
 #pragma once
 
-#include "context/Establishment.h"
-#include "form/PlanForm.h"
+#include "plan/PlanState.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,22 +8,28 @@
 namespace print
 {
 
-/// What a plan that leaves the window says about itself: on a wall nobody sees which options were
-/// chosen.
+/// The parts that are not empty, with the separator between them.
+[[nodiscard]] QString joined(const QStringList& parts,
+                             const QString& separator = QStringLiteral(" · "));
+
+/// What a plan says about itself, part by part: on a wall nobody sees which options were chosen.
+/// The window's header, sheets and files compose what they show from these parts.
 struct Heading {
     QString title;         ///< "Occupation des Salles du" and the date or the day
-    QString establishment; ///< its name, as in `Label4`(4)
-    QString university;    ///< university and academic year
+    QString establishment; ///< its name
+    QString university;    ///< its name
+    QString year;          ///< academic year; empty when it is not known
     QString day;           ///< weekday of the date; empty when the title names the day
-    QString period;        ///< period and, in exam mode, the exam week
-    QString dates;         ///< first and last day of the period: "Du ... au ..."
-    QString choice;        ///< week kind, zone, department, subject; empty when all is shown
+    QString period;        ///< its name
+    QString examWeek;      ///< as the list of exam weeks has it; empty in teaching mode
+    QString dates;  ///< first and last day of period or exam week: "Du ... au ..."; empty when the
+                    ///< first is not known
+    QString choice; ///< week kind, zone, department, subject; empty when all is shown
+
+    [[nodiscard]] QString universityAndYear() const { return joined({university, year}); }
+    [[nodiscard]] QString periodAndWeek() const { return joined({period, examWeek}); }
 };
 
-/// The parts that are not empty, with dots between them.
-[[nodiscard]] QString joined(const QStringList& parts);
-
-[[nodiscard]] Heading headingOf(const form::PlanForm& form,
-                                const context::EstablishmentHeader& establishment);
+[[nodiscard]] Heading headingOf(const plan::PlanState& state);
 
 } // namespace print

@@ -74,7 +74,8 @@ void printPeriod(QPainter& surface, const DrawingTarget& target, const Sheet& sh
 {
     const form::PlanForm& form = sheet.page.state.form;
     const form::Font font{form.Label20.font.name, 12, true};
-    const QString text = joined({sheet.heading.day, sheet.heading.period, sheet.heading.choice});
+    const QString text =
+        joined({sheet.heading.day, sheet.heading.periodAndWeek(), sheet.heading.choice});
     QRectF place = pixels(target, form.XSalle.place);
     const double titleEnd = place.left() + titleWidth + 12 * target.PixelsPerPoint;
     const double dates = pixels(target, form.Label4[0].place).left();
@@ -96,7 +97,7 @@ void printNotes(QPainter& surface, const DrawingTarget& target, const Sheet& she
     university.setLeft(university.left() + establishmentWidth + gap);
     university.setRight(dates - gap);
     drawFitted(surface, target, {form.Label20.font.name, 11, false}, university,
-               Qt::AlignLeft | Qt::AlignVCenter, sheet.heading.university);
+               Qt::AlignLeft | Qt::AlignVCenter, sheet.heading.universityAndYear());
     printPeriod(surface, target, sheet, titleWidth);
 }
 

@@ -45,8 +45,8 @@ void forEachStretch(const plan::PlanContent& content, const context::DaySlots& s
 /// the room names would lie under it.
 TimeAxis paperAxis(const plan::PlanPage& page, const context::DaySlots& slots)
 {
-    const form::Label& origin = page.state.form.Label1.front();
-    TimeAxis axis{origin.caption, origin.place.left, TimeAxis::kPrinterSlotWidth};
+    TimeAxis axis{form::PlanForm::tickTime(0), page.state.form.Label1.front().place.left,
+                  TimeAxis::kPrinterSlotWidth};
     int first = axis.originLeft;
     forEachStretch(page.content, slots, [&](const QString& start, int) {
         first = std::min(first, axis.TimeToX(start));
@@ -57,7 +57,7 @@ TimeAxis paperAxis(const plan::PlanPage& page, const context::DaySlots& slots)
 
 int axisEnd(const plan::PlanPage& page, const context::DaySlots& slots, const TimeAxis& axis)
 {
-    int end = axis.TimeToX(page.state.form.Label1.back().caption);
+    int end = axis.TimeToX(form::PlanForm::tickTime(form::PlanForm::kTicks - 1));
     forEachStretch(page.content, slots, [&](const QString& start, int minutes) {
         end = std::max(end, axis.TimeToX(start) + runtime::nearestInteger(axis.widthOf(minutes)));
     });
@@ -69,8 +69,9 @@ int axisEnd(const plan::PlanPage& page, const context::DaySlots& slots, const Ti
 
 void placeTicks(form::PlanForm& form, const TimeAxis& axis)
 {
-    for (form::Label& tick : form.Label1) {
-        tick.place.left = axis.TimeToX(tick.caption);
+    for (int tick = 0; tick < form::PlanForm::kTicks; ++tick) {
+        form.Label1.at(static_cast<std::size_t>(tick)).place.left =
+            axis.TimeToX(form::PlanForm::tickTime(tick));
     }
 }
 
@@ -165,7 +166,7 @@ Sheet makeSheet(plan::PlanPage page)
     sheet.page = std::move(page);
     const context::DaySlots& slots = sheet.page.state.slots;
     form::PlanForm& form = sheet.page.state.form;
-    sheet.heading = headingOf(form, sheet.page.state.establishment);
+    sheet.heading = headingOf(sheet.page.state);
     const TimeAxis axis = paperAxis(sheet.page, slots);
     sheet.axisEnd = axisEnd(sheet.page, slots, axis);
     placeTicks(form, axis);

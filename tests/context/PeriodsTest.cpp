@@ -46,6 +46,8 @@ TEST_P(ThePeriods, showTheDatesOfTheChosenOne)
     desk->form.CbTranche.setListIndex(0);
     EXPECT_EQ(desk->form.Label4[1].caption, "07/SEPTEMBRE/2026");
     EXPECT_EQ(desk->form.Label4[3].caption, "29/JANVIER/2027");
+    EXPECT_EQ(desk->viewed.firstToldDay, QDate(2026, 9, 7));
+    EXPECT_EQ(desk->viewed.lastToldDay, QDate(2027, 1, 29));
     EXPECT_EQ(desk->form.Label11.caption, "1");
     EXPECT_EQ(desk->viewed.TrancheIdent, 1);
 }

@@ -29,6 +29,20 @@ TEST(ViewedPeriod, showsTheDayOfTheListInItsWeek)
     EXPECT_EQ(period.shownDate(form), QDate(2026, 10, 18));
 }
 
+TEST(ViewedPeriod, tellsItsDaysInTheHeader)
+{
+    form::PlanForm form;
+    ViewedPeriod period;
+    period.tellDays(form, QDate(2026, 9, 7), QDate(2027, 1, 29));
+    EXPECT_EQ(period.firstToldDay, QDate(2026, 9, 7));
+    EXPECT_EQ(period.lastToldDay, QDate(2027, 1, 29));
+    EXPECT_EQ(form.Label4[1].caption, "07/SEPTEMBRE/2026");
+    EXPECT_EQ(form.Label4[3].caption, "29/JANVIER/2027");
+    period.tellDays(form, QDate(2026, 9, 7), QDate());
+    EXPECT_FALSE(period.lastToldDay.isValid());
+    EXPECT_EQ(form.Label4[3].caption, "");
+}
+
 TEST(DayList, numbersItsDaysFromMonday)
 {
     const QDate monday(2026, 10, 12);

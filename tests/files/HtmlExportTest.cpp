@@ -157,7 +157,7 @@ TEST_P(HtmlExport, escapesEveryText)
     row.boxes.front().group = plan::GroupCounter{evil, evil, evil, true, false};
     form::PlanForm& form = document.pages.front().state.form;
     form.XSalle.caption = evil;
-    form.Label4[4].caption = evil;
+    document.pages.front().state.establishment.EstablishmentName = evil;
     form.CbTranche.design({evil}, 0);
     const QString html = QString::fromUtf8(files::planAsHtml(document));
     expectWellFormed(html);

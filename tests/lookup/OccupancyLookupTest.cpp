@@ -19,7 +19,7 @@ protected:
         view.options.everyWeek = true;
         view.day.date = QDate(2026, 10, 14);
         for (int hour = 8; hour < 20; ++hour) {
-            view.tickCaptions << QString("%1h00").arg(hour);
+            view.tickTimes << QString("%1h00").arg(hour);
         }
     }
 

@@ -50,7 +50,7 @@ TEST(PlanState, asksForASubjectOnlyWhileTheFilterIsOn)
 
 TEST(PlanState, givesTheHourTicksToTheLookup)
 {
-    const QStringList captions = viewOf(PlanState()).tickCaptions;
+    const QStringList captions = viewOf(PlanState()).tickTimes;
     ASSERT_EQ(captions.size(), 12);
     EXPECT_EQ(captions.first(), "8h00");
     EXPECT_EQ(captions.last(), "19h00");

@@ -10,7 +10,9 @@ namespace
 
 print::Heading heading(const PlanDesk& desk)
 {
-    return print::headingOf(desk.form, establishment());
+    plan::PlanState state = desk.state;
+    state.establishment = establishment();
+    return print::headingOf(state);
 }
 
 } // namespace
@@ -34,20 +36,22 @@ TEST(Heading, titlesTheSheetWithTheDateWhileThePickerIsInUse)
 TEST(Heading, namesTheEstablishmentTheUniversityAndTheYear)
 {
     PlanDesk desk(3);
-    desk.form.Label4[4].caption = "Faculté des Sciences";
-    EXPECT_EQ(heading(desk).establishment, "Faculté des Sciences");
-    EXPECT_EQ(heading(desk).university, "Université du Nord · 2026");
+    EXPECT_EQ(heading(desk).establishment, establishment().EstablishmentName);
+    EXPECT_EQ(heading(desk).university, "Université du Nord");
+    EXPECT_EQ(heading(desk).universityAndYear(), "Université du Nord · 2026");
 }
 
 TEST(Heading, namesThePeriodWithItsDates)
 {
     PlanDesk desk(3);
     desk.form.CbTranche.design({"Semestre 1"}, 0);
-    desk.form.Label4[1].caption = "07/SEPTEMBRE/2026";
-    desk.form.Label4[3].caption = "29/JANVIER/2027";
+    desk.state.period.tellDays(desk.form, {2026, 9, 7}, {2027, 1, 29});
     EXPECT_EQ(heading(desk).period, "Semestre 1");
+    EXPECT_EQ(heading(desk).periodAndWeek(), "Semestre 1");
     EXPECT_EQ(heading(desk).dates, "Du 07/SEPTEMBRE/2026 au 29/JANVIER/2027");
-    desk.form.Label4[1].caption.clear(); // no such period
+    desk.state.period.tellDays(desk.form, {2026, 9, 7}, {});
+    EXPECT_EQ(heading(desk).dates, "Du 07/SEPTEMBRE/2026 au ");
+    desk.state.period.tellDays(desk.form, {}, {}); // no such period
     EXPECT_EQ(heading(desk).dates, "");
 }
 
@@ -82,6 +86,7 @@ TEST(Heading, namesTheExamWeekInsteadOfWeekAOrB)
     desk.form.OptA().select();
     desk.form.OpExam().click() = nullptr; // the desk has no exams
     desk.form.OpExam().select();
-    EXPECT_EQ(heading(desk).period, "Semestre 1 · 1ère Sem. d'Examen");
+    EXPECT_EQ(heading(desk).examWeek, "1ère Sem. d'Examen");
+    EXPECT_EQ(heading(desk).periodAndWeek(), "Semestre 1 · 1ère Sem. d'Examen");
     EXPECT_EQ(heading(desk).choice, "");
 }
