@@ -1,7 +1,6 @@
 #include "app/HeaderBand.h"
 
-#include "app/FormMirror.h"
-#include "shell/ShellDesk.h"
+#include "app/MirroredPlan.h"
 
 #include <QAction>
 #include <QLabel>
@@ -12,38 +11,23 @@ using namespace test;
 namespace
 {
 
-/// The band over a plan of Monday, 17 March 2025, kept up to date as the window does.
-class TheHeaderBand : public testing::Test
+/// The band over the plan.
+class TheHeaderBand : public MirroredPlan
 {
 protected:
-    TheHeaderBand()
-    {
-        createTinyFaculty(m_database);
-        desk.play({"--date", "2025-03-17"});
-        m_band.emplace(desk.shell().engine(), mirror, &help);
-        mirror.sync();
-    }
+    TheHeaderBand() { mirror.sync(); }
 
     [[nodiscard]] QString text(const char* name) const
     {
-        const auto* label = m_band->findChild<QLabel*>(name);
+        const auto* label = m_band.findChild<QLabel*>(name);
         return label == nullptr ? QString("no label") : label->text();
     }
-    [[nodiscard]] const QWidget& band() const { return *m_band; }
+    [[nodiscard]] const QWidget& band() const { return m_band; }
 
-private:
-    TestDatabase m_database{DatabaseKind::Sqlite};
-
-protected:
-    ShellDesk desk{m_database};
-    app::FormMirror mirror{[this](const std::function<void()>& action) {
-        action();
-        mirror.sync();
-    }};
     QAction help{"Aide"};
 
 private:
-    std::optional<app::HeaderBand> m_band;
+    app::HeaderBand m_band{engine(), mirror, &help};
 };
 
 } // namespace
@@ -52,7 +36,7 @@ TEST_F(TheHeaderBand, tellsWhosePlanThisIs)
 {
     EXPECT_EQ(text("Label4_4"), "Faculté Témoin");
     EXPECT_EQ(text("University"), "Université d'Essai · 2025");
-    desk.shell().engine().state().establishment.AcademicYear = 0;
+    engine().state().establishment.AcademicYear = 0;
     mirror.sync();
     EXPECT_EQ(text("University"), "Université d'Essai");
 }

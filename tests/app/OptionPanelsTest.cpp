@@ -1,8 +1,7 @@
 #include "app/OptionPanels.h"
 
 #include "app/DateField.h"
-#include "app/FormMirror.h"
-#include "shell/ShellDesk.h"
+#include "app/MirroredPlan.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -15,23 +14,17 @@ using namespace test;
 namespace
 {
 
-/// The panels over a plan of Monday, 17 March 2025, kept up to date as the window does.
-class TheOptionPanels : public testing::Test
+/// The panels over the plan.
+class TheOptionPanels : public MirroredPlan
 {
 protected:
-    TheOptionPanels()
-    {
-        createTinyFaculty(m_database);
-        desk.play({"--date", "2025-03-17"});
-        m_panels.emplace(desk.shell().engine(), mirror);
-        mirror.sync();
-    }
+    TheOptionPanels() { mirror.sync(); }
 
-    [[nodiscard]] app::OptionPanels& panels() { return *m_panels; }
+    [[nodiscard]] app::OptionPanels& panels() { return m_panels; }
     template <typename Widget>
     [[nodiscard]] Widget& find(const char* name)
     {
-        auto* widget = m_panels->findChild<Widget*>(name);
+        auto* widget = m_panels.findChild<Widget*>(name);
         if (widget == nullptr) {
             throw std::runtime_error(std::string("no widget ") + name);
         }
@@ -41,17 +34,7 @@ protected:
     [[nodiscard]] QComboBox& list(const char* name) { return find<QComboBox>(name); }
 
 private:
-    TestDatabase m_database{DatabaseKind::Sqlite};
-
-protected:
-    ShellDesk desk{m_database};
-    app::FormMirror mirror{[this](const std::function<void()>& action) {
-        action();
-        mirror.sync();
-    }};
-
-private:
-    std::optional<app::OptionPanels> m_panels;
+    app::OptionPanels m_panels{engine(), mirror};
 };
 
 } // namespace
@@ -85,10 +68,10 @@ TEST_F(TheOptionPanels, showTheChoicesAsTheyStand)
 
 TEST_F(TheOptionPanels, passAUsersChoiceOnToThePlan)
 {
-    const std::uint64_t before = desk.shell().engine().refreshCount();
+    const std::uint64_t before = engine().refreshCount();
     button("XOpCl").click();
     EXPECT_FALSE(desk.form().XOpCl.isChecked());
-    EXPECT_EQ(desk.shell().engine().refreshCount(), before + 1);
+    EXPECT_EQ(engine().refreshCount(), before + 1);
     button("OptB").click();
     EXPECT_TRUE(desk.form().OptB().isSelected());
     EXPECT_FALSE(button("OptFixe").isChecked());

@@ -3,6 +3,7 @@
 #include "app/PlanAccess.h"
 #include "app/PlanView.h"
 #include "shell/ShellDesk.h"
+#include "support/PressedKey.h"
 
 #include <QAccessible>
 #include <QScrollBar>
@@ -65,16 +66,6 @@ protected:
     TestDatabase database{DatabaseKind::Sqlite};
     ShellDesk desk{database};
     std::unique_ptr<app::PlanView> view;
-};
-
-/// A keyboard on which Ctrl was just pressed.
-class CtrlPressed : public absences::AsyncKeyState
-{
-public:
-    std::int16_t state(absences::VirtualKey key) override
-    {
-        return key == absences::VirtualKey::Ctrl ? kDownAndPressed : std::int16_t{0};
-    }
 };
 
 } // namespace
@@ -275,7 +266,7 @@ TEST_F(ThePlanAsATable, tellsOfAnAbsenceThatIsMarkedWithoutARefresh)
 {
     open();
     static_cast<void>(toldEvents());
-    CtrlPressed keys;
+    PressedKey keys(absences::VirtualKey::Ctrl);
     desk.shell().engine().clickMarker(1, keys);
     EXPECT_EQ(toldEvents(), Events{QAccessible::TableModelChanged});
     EXPECT_EQ(name(0, 1),

@@ -2,6 +2,7 @@
 
 #include "EngineDesk.h"
 #include "plan/PlanDesk.h"
+#include "support/PressedKey.h"
 
 using namespace test;
 
@@ -13,20 +14,6 @@ class TheEngine : public OnTheTinyFaculty
 };
 
 TEMPORA_ON_BOTH_DATABASES(TheEngine);
-
-/// Nobody's hand is on the keyboard but for these keys.
-class Pressed : public absences::AsyncKeyState
-{
-public:
-    explicit Pressed(absences::VirtualKey key) : m_key(key) {}
-    std::int16_t state(absences::VirtualKey key) override
-    {
-        return key == m_key ? kDownAndPressed : std::int16_t{0};
-    }
-
-private:
-    absences::VirtualKey m_key;
-};
 
 } // namespace
 
@@ -65,7 +52,7 @@ TEST_P(TheEngine, showsWhichKindOfDatabaseItHas)
 TEST_P(TheEngine, togglesAnAbsenceFromTheMarkerThatIsClicked)
 {
     EngineDesk desk(database());
-    Pressed shift(absences::VirtualKey::Shift);
+    PressedKey shift(absences::VirtualKey::Shift);
     const auto absences = [&] { return database().read("SELECT Classe FROM abscence").size(); };
     EXPECT_EQ(absences(), 1);
     desk.engine.clickMarker(1, shift); // A2's box: G1 is absent

@@ -2,10 +2,10 @@
 
 #include "EngineDesk.h"
 
-#include "absences/AsyncKeyState.h"
 #include "support/CuttingProxy.h"
 #include "support/FileHolder.h"
 #include "support/MariaDbServer.h"
+#include "support/PressedKey.h"
 
 #include <atomic>
 
@@ -13,20 +13,6 @@ using namespace test;
 
 namespace
 {
-
-/// Keys that are held down.
-class Held : public absences::AsyncKeyState
-{
-public:
-    explicit Held(absences::VirtualKey held) : m_held(held) {}
-    std::int16_t state(absences::VirtualKey key) override
-    {
-        return key == m_held ? kDownAndPressed : std::int16_t{0};
-    }
-
-private:
-    absences::VirtualKey m_held;
-};
 
 class ALostConnection : public testing::Test
 {
@@ -87,7 +73,7 @@ TEST_F(ALostConnection, loosesNoGestureAndDoublesNone)
 {
     EngineDesk desk(database);
     kill(desk);
-    Held shift(absences::VirtualKey::Shift);
+    PressedKey shift(absences::VirtualKey::Shift);
     const int marker = desk.engine.content().rows[1].boxes[0].marker; // B1: G2 and G3
     desk.engine.clickMarker(marker, shift);
     EXPECT_EQ(database.read("select Classe from abscence where Salle = 'B1' order by Classe"),
@@ -146,7 +132,7 @@ TEST_F(ALostConnection, isNoReasonToSendAWriteTwice)
                                                                      : CuttingProxy::Verdict::Pass;
         });
         EngineDesk desk(database, false, proxy.through(database.connectString()));
-        Held ctrl(absences::VirtualKey::Ctrl);
+        PressedKey ctrl(absences::VirtualKey::Ctrl);
         const int marker = desk.engine.content().rows[0].boxes[0].marker; // A2: G1
         EXPECT_EQ(errorNumberOf([&] { desk.engine.clickMarker(marker, ctrl); }),
                   runtime::ErrorNumber::DatabaseFailure);

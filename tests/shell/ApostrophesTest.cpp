@@ -2,26 +2,12 @@
 // "Apostrophes".
 
 #include "shell/ShellDesk.h"
-
-#include "absences/AsyncKeyState.h"
+#include "support/PressedKey.h"
 
 using namespace test;
 
 namespace
 {
-
-class Held : public absences::AsyncKeyState
-{
-public:
-    explicit Held(absences::VirtualKey held) : m_held(held) {}
-    std::int16_t state(absences::VirtualKey key) override
-    {
-        return key == m_held ? kDownAndPressed : std::int16_t{0};
-    }
-
-private:
-    absences::VirtualKey m_held;
-};
 
 /// The tiny faculty whose rooms, classes, periods and departments have such names.
 class Apostrophes : public OnBothDatabases
@@ -53,7 +39,7 @@ protected:
     }
     void click(ShellDesk& desk, absences::VirtualKey key)
     {
-        Held keys(key);
+        PressedKey keys(key);
         for (const plan::PlanRow& row : desk.shell().engine().content().rows) {
             if (row.room == "Salle d'info") {
                 desk.shell().engine().clickMarker(row.boxes.at(0).marker, keys);
@@ -132,7 +118,7 @@ TEST_P(Apostrophes, deleteNobodyElsesAbsence)
         ShellDesk desk(database());
         desk.setup.set("Apostrophes", turnedOn ? "True" : "False");
         desk.play({"--date", "2025-03-17"});
-        Held keys(absences::VirtualKey::Shift);
+        PressedKey keys(absences::VirtualKey::Shift);
         const auto& rows = desk.shell().engine().content().rows;
         const int marker = rows.at(0).boxes.at(0).marker;
         EXPECT_EQ(desk.shell().engine().markers().at(marker).Classes, name);

@@ -2,6 +2,7 @@
 
 #include "absences/Marking.h"
 #include "shell/ShellDesk.h"
+#include "support/PressedKey.h"
 
 using namespace test;
 using runtime::ErrorNumber;
@@ -10,7 +11,7 @@ namespace
 {
 
 /// A program without its window, with hands for the gestures.
-class MarkingDesk : private absences::AsyncKeyState
+class MarkingDesk
 {
 public:
     explicit MarkingDesk(const TestDatabase& database, Rights rights = Rights::Marking)
@@ -34,16 +35,11 @@ public:
 private:
     void click(int marker, absences::VirtualKey key)
     {
-        m_pressed = key;
-        m_desk.shell().engine().clickMarker(marker, *this);
-    }
-    std::int16_t state(absences::VirtualKey key) override
-    {
-        return key == m_pressed ? kDownAndPressed : std::int16_t{0};
+        PressedKey keys(key);
+        m_desk.shell().engine().clickMarker(marker, keys);
     }
 
     ShellDesk m_desk;
-    absences::VirtualKey m_pressed = absences::VirtualKey::Shift;
 };
 
 // The boxes in the order in which a refresh fills them.
