@@ -136,7 +136,7 @@ private:
     db::Connection& m_connection;
     std::int32_t m_period;
     TimetableBuilder m_builder;
-    bool m_coursesCamePacked = false;
+    bool m_triesPacked = true;
 };
 
 Timetable Reader::read()
@@ -229,16 +229,12 @@ void Reader::readMeetings(MeetingKind kind)
     const std::size_t before = m_builder.meetingCount();
     Forwarding taker(m_builder, kind);
     MeetingRows rows(m_connection, m_period, kind);
-    // What did not work for the courses is not tried again: make-ups have their columns, and the
-    // number of statements has a limit.
-    const bool tryPacked = kind == MeetingKind::Course || m_coursesCamePacked;
-    const bool cameWhole = tryPacked && rows.readPacked(taker);
-    if (!cameWhole) {
+    // What did not work for one table is not tried with the next: the number of statements has a
+    // limit.
+    m_triesPacked = m_triesPacked && rows.readPacked(taker);
+    if (!m_triesPacked) {
         m_builder.keepMeetings(before);
         rows.readAll(taker);
-    }
-    if (kind == MeetingKind::Course) {
-        m_coursesCamePacked = cameWhole;
     }
 }
 
