@@ -17,7 +17,7 @@ using runtime::ErrorNumber;
 using runtime::RunTimeError;
 
 /// The option bits of the MySQL driver: column width, found rows, dynamic cursor.
-constexpr int mySqlOption = 35;
+constexpr int kMySqlOption = 35;
 
 /// A variable of the PHP file: what its line starts with and how many characters stand before its
 /// value when the line has the one form that the web application writes: $host="name";
@@ -28,7 +28,7 @@ struct Variable {
 };
 
 /// The closing quote and the semicolon.
-constexpr qsizetype charactersAfter = 2;
+constexpr qsizetype kCharactersAfter = 2;
 
 QString decoded(const QByteArray& bytes)
 {
@@ -53,7 +53,7 @@ QStringList linesOf(const QString& path)
 /// legacy platform refuses.
 QString valueIn(const QString& line, qsizetype charactersBefore)
 {
-    const qsizetype length = line.size() - charactersBefore - charactersAfter;
+    const qsizetype length = line.size() - charactersBefore - kCharactersAfter;
     if (length < 0) {
         throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     }
@@ -67,7 +67,7 @@ QString mySqlConnectString(const PhpConfiguration& php)
     return QStringLiteral("DRIVER={MySQL ODBC 3.51 Driver};SERVER=") + php.host +
            QStringLiteral(";DATABASE=") + php.base + QStringLiteral(";USER=") + php.login +
            QStringLiteral(";PASSWORD=") + php.password + QStringLiteral(";port=") + php.port +
-           QStringLiteral("OPTION=") + QString::number(mySqlOption);
+           QStringLiteral("OPTION=") + QString::number(kMySqlOption);
 }
 
 } // namespace

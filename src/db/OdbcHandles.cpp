@@ -17,7 +17,7 @@ namespace
 using runtime::ErrorNumber;
 
 /// Nobody waits longer for a server that does not answer.
-constexpr SQLULEN loginTimeoutSeconds = 15;
+constexpr SQLULEN kLoginTimeoutSeconds = 15;
 /// How much earlier than told a driver's timer may go off.
 constexpr std::chrono::milliseconds kTimerSlack{500};
 
@@ -86,7 +86,7 @@ ConnectionHandle::ConnectionHandle(const EnvironmentHandle& environment,
       m_product(std::make_unique<AccessProduct>())
 {
     // Drivers without a server have no login timeout and may say so.
-    SQLSetConnectAttr(get(), SQL_ATTR_LOGIN_TIMEOUT, numberArgument(loginTimeoutSeconds), 0);
+    SQLSetConnectAttr(get(), SQL_ATTR_LOGIN_TIMEOUT, numberArgument(kLoginTimeoutSeconds), 0);
     const QString driver = driverIn(connectString);
     const QString limited =
         withLimits(connectString,

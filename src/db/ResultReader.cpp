@@ -10,7 +10,7 @@ namespace
 {
 
 /// Binding takes a call for every column: it pays from some rows on.
-constexpr std::size_t rowsBeforeBinding = 4;
+constexpr std::size_t kRowsBeforeBinding = 4;
 
 } // namespace
 
@@ -25,7 +25,7 @@ Recordset ResultReader::readAll()
     do {
         readRow(bound ? &*bound : nullptr, *fields);
         rows.emplace_back(fields, rows.size());
-        if (rows.size() == rowsBeforeBinding && m_statement.connection().rereadsBoundFields()) {
+        if (rows.size() == kRowsBeforeBinding && m_statement.connection().rereadsBoundFields()) {
             bound.emplace(m_statement, fields->forms()); // for the next row
         }
     } while (m_statement.fetch());
@@ -65,13 +65,13 @@ ResultReader::Column ResultReader::describe(SQLUSMALLINT index)
     if (m_statement.connection().textForm() == TextForm::Utf8) {
         m_statement.check(SQLDescribeCol(m_statement.get(), index,
                                          reinterpret_cast<SQLCHAR*>(m_buffer.data()),
-                                         static_cast<SQLSMALLINT>(bufferBytes), nullptr,
+                                         static_cast<SQLSMALLINT>(kBufferBytes), nullptr,
                                          &column.type, &size, &digits, &nullable));
         column.name = QString::fromUtf8(m_buffer.data());
     } else {
         auto* name = reinterpret_cast<SQLWCHAR*>(m_buffer.data());
         m_statement.check(SQLDescribeColW(m_statement.get(), index, name,
-                                          static_cast<SQLSMALLINT>(bufferBytes / sizeof(SQLWCHAR)),
+                                          static_cast<SQLSMALLINT>(kBufferBytes / sizeof(SQLWCHAR)),
                                           nullptr, &column.type, &size, &digits, &nullable));
         column.name = QString::fromUtf16(reinterpret_cast<const char16_t*>(name));
     }
@@ -102,11 +102,11 @@ void ResultReader::readRow(const BoundColumns* bound, FetchedFields& fields)
 /// Reads one field piece by piece, whatever its length.
 void ResultReader::read(SQLUSMALLINT index, const FieldForm& form, FetchedFields& fields)
 {
-    const auto capacity = static_cast<SQLLEN>(bufferBytes - form.terminator());
+    const auto capacity = static_cast<SQLLEN>(kBufferBytes - form.terminator());
     for (bool more = true; more;) {
         SQLLEN length = 0;
         const SQLRETURN result = SQLGetData(m_statement.get(), index, form.cType, m_buffer.data(),
-                                            static_cast<SQLLEN>(bufferBytes), &length);
+                                            static_cast<SQLLEN>(kBufferBytes), &length);
         if (result == SQL_NO_DATA) {
             break;
         }

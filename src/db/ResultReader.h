@@ -39,10 +39,10 @@ private:
     void read(SQLUSMALLINT index, const FieldForm& form, FetchedFields& fields);
     [[nodiscard]] FieldForm formOf(SQLSMALLINT type) const;
 
-    static constexpr std::size_t bufferBytes = 2048;
+    static constexpr std::size_t kBufferBytes = 2048;
 
     StatementHandle& m_statement;
-    alignas(char16_t) std::array<char, bufferBytes> m_buffer{};
+    alignas(char16_t) std::array<char, kBufferBytes> m_buffer{};
 };
 
 } // namespace db

@@ -27,7 +27,7 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
 }
 
 /// As many digits as the legacy platform writes, so that 0.1 stays "0.1".
-constexpr int significantDigits = 15;
+constexpr int kSignificantDigits = 15;
 
 QDate leadingDate(const QString& text)
 {
@@ -51,7 +51,7 @@ QString Value::toText() const
             [](std::monostate) -> QString { raise(ErrorNumber::InvalidUseOfNull); },
             [](bool value) { return value ? QStringLiteral("True") : QStringLiteral("False"); },
             [](std::int64_t value) { return QString::number(value); },
-            [](double value) { return QString::number(value, 'g', significantDigits); },
+            [](double value) { return QString::number(value, 'g', kSignificantDigits); },
             [](const QString& value) { return value; },
             [](QDate value) { return value.toString(Qt::ISODate); }},
         m_value);

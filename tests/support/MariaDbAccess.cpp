@@ -8,14 +8,14 @@
 namespace test
 {
 
-const QString MariaDbAccess::administrator = QStringLiteral("administrator");
+const QString MariaDbAccess::kAdministrator = QStringLiteral("administrator");
 
 QByteArray MariaDbAccess::runScript(const QString& statements, const QString& database) const
 {
     QStringList arguments = {QStringLiteral("--no-defaults"),
                              QStringLiteral("--host=127.0.0.1"),
                              QStringLiteral("--port=%1").arg(m_port),
-                             QStringLiteral("--user=") + administrator,
+                             QStringLiteral("--user=") + kAdministrator,
                              QStringLiteral("--default-character-set=utf8mb4"),
                              QStringLiteral("--batch"),
                              QStringLiteral("--skip-column-names")};

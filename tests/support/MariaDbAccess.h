@@ -12,7 +12,7 @@ class MariaDbAccess
 {
 public:
     /// The account that may do everything. It has no password.
-    static const QString administrator;
+    static const QString kAdministrator;
 
     explicit MariaDbAccess(quint16 port) : m_port(port) {}
 

@@ -70,7 +70,7 @@ MariaDbServer::MariaDbServer() : MariaDbAccess(0)
     writeFile(m_folder + QStringLiteral("/accounts.sql"),
               QStringLiteral("CREATE OR REPLACE USER %1@'%';\n"
                              "GRANT ALL ON *.* TO %1@'%' WITH GRANT OPTION;\n")
-                  .arg(administrator));
+                  .arg(kAdministrator));
     startSomewhere();
 }
 
