@@ -86,14 +86,55 @@ Verdict passOn(QByteArray& stream, const Descriptor& server, const CuttingProxy:
         // A command starts a new sequence; what else a program sends belongs to the greeting.
         const bool isCommand = packet.at(sequencePosition) == 0 && packet.size() > contentPosition;
         const Verdict verdict = isCommand ? judge(packet.mid(contentPosition)) : Verdict::Pass;
+        if (verdict == Verdict::Stall) {
+            return verdict;
+        }
         if (verdict == Verdict::Cut || !sendAll(server, packet)) {
             return Verdict::Cut;
         }
-        if (verdict == Verdict::CutAnswer) {
+        if (verdict != Verdict::Pass) {
             return verdict;
         }
     }
 }
+
+/// An answer on its way, which goes no further than to the middle of its second row.
+class HalfAnswer
+{
+public:
+    /// What of these bytes may be sent on.
+    [[nodiscard]] QByteArray taken(const QByteArray& bytes)
+    {
+        m_waiting += bytes;
+        QByteArray sent;
+        for (QByteArray packet = takePacket(m_waiting); !packet.isEmpty();
+             packet = takePacket(m_waiting)) {
+            if (isRow(packet) && m_hasRow) {
+                m_isCut = true;
+                return sent + packet.left(packet.size() / 2);
+            }
+            m_hasRow |= isRow(packet);
+            sent += packet;
+        }
+        return sent;
+    }
+    [[nodiscard]] bool isCut() const { return m_isCut; }
+
+private:
+    /// The row of a prepared statement begins with a zero; so does the first packet of an answer
+    /// that tells of success, and none of those that describe a column or end them.
+    static bool isRow(const QByteArray& packet)
+    {
+        constexpr qsizetype sequencePosition = 3;
+        constexpr qsizetype contentPosition = 4;
+        return packet.size() > contentPosition && packet.at(sequencePosition) != 1 &&
+               packet.at(contentPosition) == 0;
+    }
+
+    QByteArray m_waiting;
+    bool m_hasRow = false;
+    bool m_isCut = false;
+};
 
 /// Lets the server finish what it was sent: it closes when it has come to the end.
 void drain(const Descriptor& server)
@@ -157,29 +198,52 @@ void CuttingProxy::serve(const Descriptor& program)
     }
     sendAtOnce(program);
     sendAtOnce(server);
+    converse(program, server);
+}
+
+/// Passes on both ways until one side closes, or something is cut.
+void CuttingProxy::converse(const Descriptor& program, const Descriptor& server)
+{
     QByteArray fromProgram;
+    Verdict verdict = Verdict::Pass;
+    HalfAnswer half;
     for (;;) {
-        std::array<pollfd, 3> waiting = {{{program.number(), POLLIN, 0},
-                                          {server.number(), POLLIN, 0},
-                                          {m_end.number(), POLLIN, 0}}};
+        // In silence nothing is heard of the server.
+        const int heard = verdict == Verdict::Stall ? -1 : server.number();
+        std::array<pollfd, 3> waiting = {
+            {{program.number(), POLLIN, 0}, {heard, POLLIN, 0}, {m_end.number(), POLLIN, 0}}};
         poll(waiting.data(), waiting.size(), -1);
         if (waiting[2].revents != 0) {
             return;
         }
         if (waiting[1].revents != 0) {
+            const bool halves = verdict != Verdict::Pass;
             const QByteArray answer = receive(server);
-            if (answer.isEmpty() || !sendAll(program, answer)) {
+            if (answer.isEmpty() || !sendAll(program, halves ? half.taken(answer) : answer)) {
                 return;
+            }
+            if (half.isCut() && verdict == Verdict::CutRows) {
+                return;
+            }
+            if (half.isCut()) {
+                verdict = Verdict::Stall;
             }
         }
         if (waiting[0].revents != 0) {
             const QByteArray commands = receive(program);
+            if (commands.isEmpty()) {
+                return;
+            }
             fromProgram += commands;
-            const Verdict verdict = passOn(fromProgram, server, m_judge);
+            if (verdict == Verdict::Stall) {
+                continue;
+            }
+            verdict = passOn(fromProgram, server, m_judge);
+            half = {};
             if (verdict == Verdict::CutAnswer) {
                 drain(server);
             }
-            if (commands.isEmpty() || verdict != Verdict::Pass) {
+            if (verdict == Verdict::Cut || verdict == Verdict::CutAnswer) {
                 return;
             }
         }

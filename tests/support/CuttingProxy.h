@@ -11,7 +11,7 @@ namespace test
 {
 
 /// Stands between one program and a MariaDB server, sees every command that passes, and can cut
-/// the connection at any of them.
+/// the connection at any of them, or fall silent as a network does that drops what it is given.
 class CuttingProxy
 {
 public:
@@ -19,6 +19,10 @@ public:
         Pass,
         Cut,       ///< the server never sees the command
         CutAnswer, ///< the server carries the command out, but nobody hears its answer
+        // For a command that carries rows back: one that runs a prepared statement.
+        CutRows,   ///< the answer breaks off in the middle of its second row, if it has one
+        Stall,     ///< the server never sees the command, and the connection stays open
+        StallRows, ///< the answer comes to a halt in the middle of its second row
     };
     /// Sees a command as sent: its code in the first byte, then the rest; an SQL text is readable
     /// in it. Runs on the proxy's own thread.
@@ -42,6 +46,7 @@ public:
 private:
     void run();
     void serve(const Descriptor& program);
+    void converse(const Descriptor& program, const Descriptor& server);
 
     quint16 m_serverPort;
     quint16 m_port = 0;

@@ -1,0 +1,106 @@
+// A server that goes away, or falls silent, before, during and after every statement of a plan.
+
+#include "engine/EngineDesk.h"
+#include "faults/ShownCells.h"
+#include "plan/FaultWords.h"
+#include "support/CuttingProxy.h"
+#include "support/MariaDbServer.h"
+
+#include <atomic>
+#include <future>
+
+using namespace test;
+using Verdict = CuttingProxy::Verdict;
+
+namespace
+{
+
+/// How the plan asks, and what happens to a command.
+struct Loss {
+    const char* name;
+    bool plain;
+    Verdict verdict;
+};
+
+constexpr int kAll = 100'000;
+
+/// A plan over a server that can be lost at any command.
+class ALostAnswer : public testing::TestWithParam<Loss>
+{
+protected:
+    ALostAnswer() { createTinyFaculty(database); }
+
+    /// Loses what comes after so many commands: `more` of them, then none.
+    void loseAfter(int passes, int more)
+    {
+        losses = more;
+        passing = passes;
+    }
+    /// Refreshes and tells how many commands it took.
+    int commandsOf(EngineDesk& desk)
+    {
+        loseAfter(kAll, 0);
+        desk.engine.refreshPlan();
+        return kAll - passing;
+    }
+
+    TestDatabase database{DatabaseKind::MariaDb};
+    std::atomic<int> passing = kAll;
+    std::atomic<int> losses = 0;
+    CuttingProxy proxy{MariaDbServer::shared().port(), [this](const QByteArray& command) {
+                           const Verdict lost = GetParam().verdict;
+                           if (passing > 0 ||
+                               (lost == Verdict::CutRows && command[0] != CuttingProxy::kExecute)) {
+                               --passing;
+                               return Verdict::Pass;
+                           }
+                           return losses-- > 0 ? lost : Verdict::Pass;
+                       }};
+};
+
+std::string lossName(const testing::TestParamInfo<Loss>& info)
+{
+    return info.param.name;
+}
+
+} // namespace
+
+TEST_P(ALostAnswer, atAnyCommandOfThePlanShowsNoRoomAsFree)
+{
+    EngineDesk desk(database, GetParam().plain, proxy.through(database.connectString()));
+    desk.form.Check2.setChecked(true); // make-ups, too
+    const int commands = commandsOf(desk);
+    const ShownCells whole = shownCells(desk.engine.content());
+    ASSERT_GT(commands, 8);
+    ASSERT_EQ(unknownCells(whole), 0);
+    for (int cut = 0; cut < commands; ++cut) {
+        const QString which = QString("command %1 of %2").arg(cut).arg(commands);
+        loseAfter(cut, kAll);
+        desk.engine.refreshPlan();
+        expectNothingFreed(whole, desk.engine.content(), which);
+        loseAfter(kAll, 0);
+        desk.engine.refreshPlan();
+        EXPECT_EQ(shownCells(desk.engine.content()), whole) << which.toStdString();
+    }
+}
+
+TEST_P(ALostAnswer, onceIsNoticedByNobody)
+{
+    EngineDesk desk(database, GetParam().plain, proxy.through(database.connectString()));
+    const ShownCells whole = shownCells(desk.engine.content());
+    const int commands = commandsOf(desk);
+    for (int cut = 0; cut < commands; ++cut) {
+        loseAfter(cut, 1);
+        desk.engine.refreshPlan();
+        EXPECT_EQ(shownCells(desk.engine.content()), whole) << cut;
+        EXPECT_TRUE(desk.engine.content().faults.empty()) << cut;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Over, ALostAnswer,
+                         testing::Values(Loss{"theConnectionBefore", false, Verdict::Cut},
+                                         Loss{"theConnectionAfter", false, Verdict::CutAnswer},
+                                         Loss{"theConnectionWithin", false, Verdict::CutRows},
+                                         Loss{"theConnectionBeforePlain", true, Verdict::Cut},
+                                         Loss{"theConnectionAfterPlain", true, Verdict::CutAnswer}),
+                         lossName);
