@@ -17,8 +17,9 @@ using runtime::skipOnError;
 class Composer
 {
 public:
-    Composer(const db::Row& row, const QString& room, const DisplayOptions& options)
-        : m_row(row), m_room(room), m_options(options)
+    Composer(const db::Row& row, const QString& room, const DisplayOptions& options,
+             std::optional<MissingStep>& missing)
+        : m_row(row), m_room(room), m_options(options), m_missing(missing)
     {
     }
 
@@ -29,8 +30,9 @@ public:
     [[nodiscard]] QString finish(const SeanceTypeShortNames& typeNames);
 
 private:
-    [[nodiscard]] bool isRoom(const QString& column) const;
-    [[nodiscard]] QString textOf(const QString& column) const;
+    [[nodiscard]] std::optional<db::Value> field(const QString& column);
+    [[nodiscard]] bool isRoom(const QString& column);
+    [[nodiscard]] QString textOf(const QString& column);
     void append(const QString& before, const QString& column, const QString& after = {});
     void appendIfFilled(const QString& tested, const QString& column);
     void appendSubject(const QString& column);
@@ -41,29 +43,41 @@ private:
     const db::Row& m_row;
     const QString& m_room;
     const DisplayOptions& m_options;
+    std::optional<MissingStep>& m_missing;
+    bool m_addsSubject = false;
     QString m_text;
 };
 
-bool Composer::isRoom(const QString& column) const
+/// Nothing where the row does not tell it: the step that needs it is left out.
+std::optional<db::Value> Composer::field(const QString& column)
 {
-    bool same = false;
-    skipOnError([&] {
-        const db::Value value = m_row.field(column);
-        same = !value.isNull() && value.toText() == m_room;
-    });
-    return same;
+    try {
+        return m_row.field(column);
+    } catch (const runtime::RunTimeError& error) {
+        if (!m_missing || (m_addsSubject && !m_missing->isSubject)) {
+            m_missing.emplace(MissingStep{column, error, m_addsSubject});
+        }
+        return std::nullopt;
+    }
 }
 
-QString Composer::textOf(const QString& column) const
+bool Composer::isRoom(const QString& column)
 {
-    QString text;
-    skipOnError([&] { text = m_row.field(column).toJoinedText(); });
-    return text;
+    const std::optional<db::Value> value = field(column);
+    return value && !value->isNull() && value->toText() == m_room;
+}
+
+QString Composer::textOf(const QString& column)
+{
+    const std::optional<db::Value> value = field(column);
+    return value ? value->toJoinedText() : QString();
 }
 
 void Composer::append(const QString& before, const QString& column, const QString& after)
 {
-    skipOnError([&] { m_text += before + m_row.field(column).toJoinedText() + after; });
+    if (const std::optional<db::Value> value = field(column)) {
+        m_text += before + value->toJoinedText() + after;
+    }
 }
 
 /// A further person of a list, when the tested column holds one.
@@ -77,7 +91,9 @@ void Composer::appendIfFilled(const QString& tested, const QString& column)
 void Composer::appendSubject(const QString& column)
 {
     if (m_options.showSubject) {
+        m_addsSubject = true;
         append(QStringLiteral(" ["), column, QStringLiteral("]"));
+        m_addsSubject = false;
     }
 }
 
@@ -206,9 +222,9 @@ QString Composer::finish(const SeanceTypeShortNames& typeNames)
 } // namespace
 
 QString composeCellText(const db::Row& row, const QString& room, const DisplayOptions& options,
-                        const SeanceTypeShortNames& typeNames)
+                        const SeanceTypeShortNames& typeNames, std::optional<MissingStep>& missing)
 {
-    Composer composer(row, room, options);
+    Composer composer(row, room, options, missing);
     composer.composeRoomA();
     if (!options.exam) {
         composer.composeSecondRoomA();

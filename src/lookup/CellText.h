@@ -1,9 +1,11 @@
 #pragma once
 
 #include "db/Recordset.h"
+#include "runtime/RunTimeError.h"
 
 #include <QString>
 #include <array>
+#include <optional>
 
 namespace lookup
 {
@@ -25,10 +27,19 @@ struct DisplayOptions {
     QString separator;             ///< between the parts of an A text: a line end or nothing
 };
 
+/// A step of a box text that was left out because its field could not be read.
+struct MissingStep {
+    QString column;
+    runtime::RunTimeError error;
+    bool isSubject = false; ///< it would have added a subject
+};
+
 /// The text of a room's box, composed from the first timetable row found for it. A field that the
-/// table lacks leaves its step out; a null adds nothing.
+/// table lacks leaves its step out, and is told in `missing`, the first of them unless a subject is
+/// among them; a null adds nothing.
 [[nodiscard]] QString composeCellText(const db::Row& row, const QString& room,
                                       const DisplayOptions& options,
-                                      const SeanceTypeShortNames& typeNames);
+                                      const SeanceTypeShortNames& typeNames,
+                                      std::optional<MissingStep>& missing);
 
 } // namespace lookup

@@ -92,7 +92,9 @@ RoomCell OccupancyLookup::cellOf(const db::Recordset& rows, const QString& room,
     RoomCell cell;
     cell.CellDuration = QStringLiteral("90");
     skipOnError([&] { cell.CellStart = m_view.tickTimes.value(SlotIndex(seanceKey)); });
-    cell.CellText = composeCellText(rows.first(), room, m_view.options, m_view.typeNames);
+    std::optional<MissingStep> missing;
+    cell.CellText = composeCellText(rows.first(), room, m_view.options, m_view.typeNames, missing);
+    const bool hadText = !cell.CellText.isEmpty();
     keepFacts(cell, rows, room);
     if (rows.recordCount() == 1) {
         keepOneClass(cell, rows.first());
@@ -100,6 +102,13 @@ RoomCell OccupancyLookup::cellOf(const db::Recordset& rows, const QString& room,
         keepClasses(cell, rows);
     }
     filterBySubject(cell);
+    // The room looks free: because of what is there, or because of what could not be read?
+    if (cell.CellText.isEmpty() && missing && (!hadText || missing->isSubject)) {
+        cell.isUnknown = true;
+        m_source.noteUnreadable(
+            {missing->error.number(),
+             missing->error.text() + QStringLiteral(" (") + missing->column + u')'});
+    }
     return cell;
 }
 

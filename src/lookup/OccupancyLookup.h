@@ -34,7 +34,7 @@ struct View {
 
 /// Answers what occupies a room in a slot. No error stops it and none is reported: a step that
 /// fails is left out, so the plan stays up whatever one odd row holds. Where the very question got
-/// no answer the cell is unknown.
+/// no answer, or nothing is left of its answer's text, the cell is unknown.
 class OccupancyLookup
 {
 public:

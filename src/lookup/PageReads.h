@@ -50,6 +50,8 @@ public:
             throw;
         }
     }
+    /// Notes what failed about these names.
+    void note(const QStringList& names, const runtime::RunTimeError& error);
     /// Notes that a read about these names found nothing because it asked about others. Error:
     /// StatementRefused, when one of the names cannot be asked about.
     void expectHeld(const QStringList& names);
@@ -68,7 +70,6 @@ public:
     [[nodiscard]] const std::optional<QDateTime>& failingSince() const { return m_failingSince; }
 
 private:
-    void note(const QStringList& names, const runtime::RunTimeError& error);
     void add(ReadFault fault);
 
     Upkeep m_upkeep;

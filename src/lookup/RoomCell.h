@@ -25,7 +25,8 @@ struct RoomCell {
     std::int16_t CellStudents = 0; ///< students registered in the classes
     std::int16_t CellCapacity = 0; ///< declared size of the classes
 
-    /// The question got no answer: the room is neither free nor taken.
+    /// The question got no answer, or one that does not say what the box shows: the room is not
+    /// free.
     bool isUnknown = false;
 
     friend bool operator==(const RoomCell&, const RoomCell&) = default;

@@ -3,6 +3,7 @@
 #include "db/Recordset.h"
 #include "lookup/PageQuestions.h"
 #include "lookup/RoomQuestion.h"
+#include "runtime/RunTimeError.h"
 
 #include <QString>
 
@@ -28,6 +29,9 @@ public:
     [[nodiscard]] virtual int studentRows(const QString& className) = 0;
     /// The rows that describe the class. Error: any database error.
     [[nodiscard]] virtual db::Recordset classRows(const QString& className) = 0;
+
+    /// Told of a row that it has brought and that does not say what its box shows.
+    virtual void noteUnreadable(const runtime::RunTimeError& /*error*/) {}
 };
 
 } // namespace lookup

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] db::Recordset timetableRows(const RoomQuestion& question) override;
     [[nodiscard]] int studentRows(const QString& className) override;
     [[nodiscard]] db::Recordset classRows(const QString& className) override;
+    void noteUnreadable(const runtime::RunTimeError& error) override { m_reads.note({}, error); }
 
 private:
     RowSource& m_source;

@@ -23,9 +23,9 @@ protected:
         types[1] = "CM";
     }
 
-    [[nodiscard]] QString text() const
+    [[nodiscard]] QString text()
     {
-        return lookup::composeCellText(meeting.row(), "A1", options, types);
+        return lookup::composeCellText(meeting.row(), "A1", options, types, missing);
     }
     void weekA()
     {
@@ -53,6 +53,7 @@ protected:
     Meeting meeting{"A1", "Lundi1"};
     DisplayOptions options;
     lookup::SeanceTypeShortNames types;
+    std::optional<lookup::MissingStep> missing;
 };
 
 } // namespace
@@ -99,6 +100,21 @@ TEST_F(CellText, leavesOutTheStepOfAMissingColumn)
     EXPECT_EQ(text(), "");
 }
 
+TEST_F(CellText, tellsWhichColumnIsMissing)
+{
+    EXPECT_EQ(text(), "GC1| Dupont| [Algèbre]|");
+    EXPECT_FALSE(missing);
+    meeting.without("Classe").without("Enseignant2");
+    static_cast<void>(text());
+    EXPECT_EQ(missing.value().column, "Classe");
+    EXPECT_EQ(missing->error.number(), runtime::ErrorNumber::ItemNotFound);
+    EXPECT_FALSE(missing->isSubject);
+    meeting.without("matière"); // what the subject filter looks for
+    static_cast<void>(text());
+    EXPECT_EQ(missing->column, "matière");
+    EXPECT_TRUE(missing->isSubject);
+}
+
 TEST_F(CellText, leavesOutARoomWhoseColumnIsMissing)
 {
     withB().without("Salle");
@@ -113,13 +129,13 @@ TEST_F(CellText, hasNoSeparatorBehindTheTeachersWhileInvigilatorsAreShown)
 
 TEST_F(CellText, isEmptyForAnotherRoom)
 {
-    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A2", options, types), "");
+    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A2", options, types, missing), "");
 }
 
 TEST_F(CellText, comparesRoomsExactly)
 {
-    EXPECT_EQ(lookup::composeCellText(meeting.row(), "a1", options, types), "");
-    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A1 ", options, types), "");
+    EXPECT_EQ(lookup::composeCellText(meeting.row(), "a1", options, types, missing), "");
+    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A1 ", options, types, missing), "");
 }
 
 TEST_F(CellText, showsAnEveryWeekRowInEveryWeek)

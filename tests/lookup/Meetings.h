@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace test
@@ -63,6 +64,7 @@ public:
     db::Recordset timetableRows(const lookup::RoomQuestion& question) override;
     int studentRows(const QString& className) override;
     db::Recordset classRows(const QString& className) override;
+    void noteUnreadable(const runtime::RunTimeError& error) override { unreadable = error; }
 
     std::map<QString, int> students;
     std::map<QString, db::Value> capacities;
@@ -73,6 +75,8 @@ public:
     /// Runs before a question about timetable rows is answered; what it throws is the answer.
     std::function<void(const lookup::RoomQuestion&)> beforeAnswer;
     bool classesFail = false;
+    /// What the lookup has told last of a row that does not say what its box shows.
+    std::optional<runtime::RunTimeError> unreadable;
 
 private:
     std::deque<Meeting> m_emplois; // references stay valid while it grows

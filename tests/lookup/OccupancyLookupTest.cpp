@@ -189,6 +189,41 @@ TEST_F(Occupancy, isNotUnknownWhenAFieldFails)
     EXPECT_FALSE(cell().isUnknown);
 }
 
+TEST_F(Occupancy, isUnknownWhenNothingIsLeftOfItsText)
+{
+    test::Meeting& meeting = rows.emplois("A1", "Lundi1");
+    meeting.without("newnature");
+    EXPECT_EQ(lookUp(), "GC1 Dupont [Algèbre]"); // every week is shown
+    EXPECT_FALSE(cell().isUnknown);
+    view.options.everyWeek = false;
+    view.options.showsWeekA = true;
+    EXPECT_EQ(lookUp(), "");
+    EXPECT_TRUE(cell().isUnknown);
+    EXPECT_EQ(rows.unreadable.value().number(), runtime::ErrorNumber::ItemNotFound);
+    EXPECT_TRUE(rows.unreadable->text().endsWith(" (newnature)"));
+}
+
+TEST_F(Occupancy, isFreeWhereARowSaysSoWhateverElseIsMissing)
+{
+    rows.emplois("A1", "Lundi1").set("newnature", "20").without("Classe").without("matière");
+    view.options.everyWeek = false;
+    view.options.showsWeekA = true;
+    EXPECT_EQ(lookUp(), "");
+    EXPECT_FALSE(cell().isUnknown);
+    EXPECT_FALSE(rows.unreadable);
+}
+
+TEST_F(Occupancy, isUnknownToTheSubjectFilterWithoutTheSubject)
+{
+    test::Meeting& meeting = rows.emplois("A1", "Lundi1").without("Enseignant1");
+    view.subject = "Optique";
+    EXPECT_EQ(lookUp(), ""); // it is algebra
+    EXPECT_FALSE(cell().isUnknown);
+    meeting.without("matière");
+    EXPECT_EQ(lookUp(), "");
+    EXPECT_TRUE(cell().isUnknown);
+}
+
 TEST_F(Occupancy, countsTheStudentsOfASingleClass)
 {
     rows.emplois("A1", "Lundi1");
