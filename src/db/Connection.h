@@ -75,8 +75,9 @@ public:
     /// Another program's lock is waited for longer than in a read.
     bool deleteFirst(const QString& sql);
 
-    /// Whether the connection is known to be gone. Raises no error; asks no more than the driver
-    /// needs to tell, which is a short question to the server or nothing at all.
+    /// Whether the connection is known to be gone, or to tell what is so no longer. Raises no
+    /// error; asks no more than the driver needs to tell, which is a short question to the server
+    /// or nothing at all.
     [[nodiscard]] bool isDead() const;
 
     /// How many statements were sent so far: what a refresh costs over a far server.

@@ -169,7 +169,7 @@ bool ConnectionHandle::isDead() const
     SQLUINTEGER state = SQL_CD_FALSE;
     const SQLRETURN told = awaited(
         [&] { return SQLGetConnectAttr(get(), SQL_ATTR_CONNECTION_DEAD, &state, 0, nullptr); });
-    return SQL_SUCCEEDED(told) && state == SQL_CD_TRUE;
+    return (SQL_SUCCEEDED(told) && state == SQL_CD_TRUE) || m_product->isOutdated();
 }
 
 SQLRETURN ConnectionHandle::awaited(const std::function<SQLRETURN()>& call) const

@@ -85,7 +85,8 @@ public:
     /// does not.
     [[nodiscard]] QString info(SQLUSMALLINT what) const;
 
-    /// Whether the connection is known to be gone. Asks no more than the driver needs to tell.
+    /// Whether the connection is known to be gone, or to tell what is so no longer. Asks no more
+    /// than the driver needs to tell.
     [[nodiscard]] bool isDead() const;
 
     /// What a call that may take long comes to. Fetching is none: a server's whole result is there

@@ -44,6 +44,8 @@ public:
     [[nodiscard]] virtual TextForm textForm() const { return TextForm::Utf16; }
     /// The run-time error that a failing call on the open connection amounts to.
     [[nodiscard]] virtual runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const;
+    /// Whether the connection may tell what is so no longer, whatever the driver says of it.
+    [[nodiscard]] virtual bool isOutdated() const { return false; }
     /// What became of that call.
     [[nodiscard]] virtual Failure failureOf(const Diagnostics& diagnostics) const;
 

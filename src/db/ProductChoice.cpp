@@ -15,7 +15,7 @@ std::unique_ptr<const Product> productBehind(const ConnectionHandle& connection)
         return name.contains(QLatin1String(word), Qt::CaseInsensitive);
     };
     if (isNamed("sqlite")) {
-        return std::make_unique<SqliteProduct>();
+        return std::make_unique<SqliteProduct>(SqliteProduct::fileBehind(connection));
     }
     if (isNamed("mysql") || isNamed("mariadb")) {
         return std::make_unique<MariaDbProduct>(MariaDbProduct::serverBehind(connection));

@@ -38,6 +38,20 @@ ErrorNumber errorNumberByCode(const Diagnostics& diagnostics)
 
 } // namespace
 
+OpenedFile SqliteProduct::fileBehind(const ConnectionHandle& connection)
+{
+    constexpr SQLUSMALLINT fileColumn = 3;
+    QString path;
+    runtime::skipOnError([&] {
+        StatementHandle statement(connection);
+        statement.execute(QStringLiteral("pragma database_list"));
+        if (statement.fetch()) {
+            path = ResultReader(statement).readText(fileColumn).toJoinedText();
+        }
+    });
+    return OpenedFile(path);
+}
+
 std::optional<QString> SqliteProduct::reconnectString(const QString& connectString) const
 {
     return withFileLimits(connectString);

@@ -1,20 +1,31 @@
 #pragma once
 
+#include "db/OpenedFile.h"
 #include "db/Product.h"
 
 namespace db
 {
 
+class ConnectionHandle;
+
 /// SQLite, the embedded database: a file behind a driver, without a server.
 class SqliteProduct : public Product
 {
 public:
+    /// `file` is the one that the driver has opened.
+    explicit SqliteProduct(OpenedFile file = {}) : m_file(std::move(file)) {}
+    /// The file that is open behind the connection; none where it does not say.
+    [[nodiscard]] static OpenedFile fileBehind(const ConnectionHandle& connection);
+
     /// With limits (see withFileLimits), where the driver's name has not told that it is SQLite's.
     [[nodiscard]] std::optional<QString>
     reconnectString(const QString& connectString) const override;
     [[nodiscard]] TextForm textForm() const override;
     [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
     [[nodiscard]] Failure failureOf(const Diagnostics& diagnostics) const override;
+    /// Once the file is deleted, replaced or written: the driver notices other programs that write
+    /// with SQLite, and none that copies a file into its place.
+    [[nodiscard]] bool isOutdated() const override { return m_file.hasChanged(); }
 
     /// That of the setting, whose literals are adapted; a backslash is one.
     [[nodiscard]] SqlDialect dialect(const SqlDialect& bySetting) const override
@@ -41,6 +52,9 @@ public:
 
     [[nodiscard]] bool joinedQueriesKeepOrder() const override { return true; }
     [[nodiscard]] AccessPaths accessPaths(const QString& sql, Session& session) const override;
+
+private:
+    OpenedFile m_file;
 };
 
 } // namespace db
