@@ -4,6 +4,7 @@
 #include "print/Pdf.h"
 #include "print/Targets.h"
 #include "shell/ShellDesk.h"
+#include "support/FullDisk.h"
 #include "support/RuntimeMatchers.h"
 
 #include <QApplication>
@@ -16,8 +17,6 @@
 #include <QPrinter>
 #include <QScreen>
 #include <QTimer>
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace test;
 
@@ -72,30 +71,6 @@ QByteArray bytesOf(const QString& path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
-/// While it exists, no file of this process grows beyond some bytes, as on a disk that is full.
-class FullDisk
-{
-public:
-    FullDisk()
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{2000, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        m_handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handlerBefore);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_handlerBefore)(int) = nullptr;
-};
 
 class Printing : public testing::Test
 {

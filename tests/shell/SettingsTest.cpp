@@ -1,5 +1,6 @@
 #include "shell/Settings.h"
 
+#include "support/FullDisk.h"
 #include "support/ProgramSetup.h"
 #include "support/RuntimeMatchers.h"
 #include "support/TestFolder.h"
@@ -118,6 +119,23 @@ TEST(Settings, nameTheFileThatCannotBeWritten)
     EXPECT_EQ(error.number(), ErrorNumber::PathFileAccess);
     EXPECT_EQ(error.activity(), "Enregistrement des paramètres (« " + path + " »)");
     EXPECT_EQ(fileText(path), "[Settings]\nTotal_L_P=12\n");
+}
+
+TEST(Settings, keepTheFileWhereTheDiskIsFull)
+{
+    const QString text = "[Settings]\nTotal_L_P=12\nPalette=\n";
+    const QString path = settingsFile(text);
+    Settings settings = Settings::fromFile(path);
+    runtime::RunTimeError error(ErrorNumber::InternalError);
+    {
+        const test::FullDisk fullDisk(10);
+        error = errorOf([&] { settings.save("Total_L_P", "13"); });
+    }
+    EXPECT_EQ(error.number(), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(error.activity(), "Enregistrement des paramètres (« " + path + " »)");
+    EXPECT_EQ(fileText(path), text);
+    Settings::fromFile(path).save("Total_L_P", "14"); // there is room again
+    EXPECT_EQ(Settings::fromFile(path).get("Total_L_P", ""), "14");
 }
 
 TEST(Settings, leaveTheFileAloneUntilSomethingIsSaved)

@@ -1,0 +1,22 @@
+#include "support/FullDisk.h"
+
+#include <csignal>
+
+namespace test
+{
+
+FullDisk::FullDisk(rlim_t bytes)
+{
+    getrlimit(RLIMIT_FSIZE, &m_before);
+    const rlimit limit{bytes, m_before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    m_handlerBefore = std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
+}
+
+FullDisk::~FullDisk()
+{
+    setrlimit(RLIMIT_FSIZE, &m_before);
+    std::signal(SIGXFSZ, m_handlerBefore);
+}
+
+} // namespace test
