@@ -98,10 +98,15 @@ Verdict passOn(QByteArray& stream, const Descriptor& server, const CuttingProxy:
     }
 }
 
-/// An answer on its way, which goes no further than to the middle of its second row.
+/// An answer on its way, which goes no further than to the middle of its second row or column.
 class HalfAnswer
 {
 public:
+    explicit HalfAnswer(Verdict verdict = Verdict::CutRows)
+        : m_isPart(verdict == Verdict::CutColumns ? describesColumn : isRow)
+    {
+    }
+
     /// What of these bytes may be sent on.
     [[nodiscard]] QByteArray taken(const QByteArray& bytes)
     {
@@ -109,11 +114,11 @@ public:
         QByteArray sent;
         for (QByteArray packet = takePacket(m_waiting); !packet.isEmpty();
              packet = takePacket(m_waiting)) {
-            if (isRow(packet) && m_hasRow) {
+            if (m_isPart(packet) && m_hasFirst) {
                 m_isCut = true;
                 return sent + packet.left(packet.size() / 2);
             }
-            m_hasRow |= isRow(packet);
+            m_hasFirst |= m_isPart(packet);
             sent += packet;
         }
         return sent;
@@ -131,8 +136,16 @@ private:
                packet.at(contentPosition) == 0;
     }
 
+    static bool describesColumn(const QByteArray& packet)
+    {
+        constexpr qsizetype contentPosition = 4;
+        return packet.mid(contentPosition, 4) == "\x03"
+                                                 "def";
+    }
+
+    bool (*m_isPart)(const QByteArray& packet);
     QByteArray m_waiting;
-    bool m_hasRow = false;
+    bool m_hasFirst = false;
     bool m_isCut = false;
 };
 
@@ -222,7 +235,7 @@ void CuttingProxy::converse(const Descriptor& program, const Descriptor& server)
             if (answer.isEmpty() || !sendAll(program, halves ? half.taken(answer) : answer)) {
                 return;
             }
-            if (half.isCut() && verdict == Verdict::CutRows) {
+            if (half.isCut() && verdict != Verdict::StallRows) {
                 return;
             }
             if (half.isCut()) {
@@ -239,7 +252,7 @@ void CuttingProxy::converse(const Descriptor& program, const Descriptor& server)
                 continue;
             }
             verdict = passOn(fromProgram, server, m_judge);
-            half = {};
+            half = HalfAnswer(verdict);
             if (verdict == Verdict::CutAnswer) {
                 drain(server);
             }

@@ -20,9 +20,10 @@ public:
         Cut,       ///< the server never sees the command
         CutAnswer, ///< the server carries the command out, but nobody hears its answer
         // For a command that carries rows back: one that runs a prepared statement.
-        CutRows,   ///< the answer breaks off in the middle of its second row, if it has one
-        Stall,     ///< the server never sees the command, and the connection stays open
-        StallRows, ///< the answer comes to a halt in the middle of its second row
+        CutRows,    ///< the answer breaks off in the middle of its second row, if it has one
+        CutColumns, ///< the answer breaks off within the description of its second column
+        Stall,      ///< the server never sees the command, and the connection stays open
+        StallRows,  ///< the answer comes to a halt in the middle of its second row
     };
     /// Sees a command as sent: its code in the first byte, then the rest; an SQL text is readable
     /// in it. Runs on the proxy's own thread.

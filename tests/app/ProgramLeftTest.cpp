@@ -1,0 +1,66 @@
+// The window whose user logs out, or that somebody ends: no file and no table is left half.
+
+#include "app/TemporaProcess.h"
+#include "support/TinyFaculty.h"
+#include "support/XSession.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <optional>
+
+using namespace test;
+
+namespace
+{
+
+class AWindowThatIsLeft : public testing::TestWithParam<DatabaseKind>
+{
+protected:
+    AWindowThatIsLeft() { createTinyFaculty(database); }
+
+    /// Starts the program on that display and waits for its window.
+    void open(const QByteArray& display)
+    {
+        program.environment.insert("DISPLAY", QString::fromLatin1(display));
+        program.environment.insert("QT_QPA_PLATFORM", "xcb");
+        program.startWithSettings({});
+        const QByteArray before = qgetenv("DISPLAY");
+        qputenv("DISPLAY", display);
+        byHand("search --sync --onlyvisible --name Planning");
+        qputenv("DISPLAY", before);
+        ASSERT_TRUE(program.isRunning());
+    }
+    void expectNothingLost()
+    {
+        ASSERT_TRUE(program.waitForEnd());
+        EXPECT_EQ(setup.settingsText(), settings);
+        EXPECT_EQ(database.read("select Classe, Debut from abscence"),
+                  QList<QStringList>({{"G1", "8h30"}}));
+        database.execute("update salle set places = 31 where Nom = 'A1'"); // nobody holds it
+    }
+
+    TestDatabase database{GetParam()};
+    ProgramSetup setup{database};
+    TemporaProcess program{setup};
+    QString settings = setup.settingsText();
+};
+
+TEMPORA_ON_BOTH_DATABASES(AWindowThatIsLeft);
+
+} // namespace
+
+TEST_P(AWindowThatIsLeft, byASignalLeavesFilesAndTablesWhole)
+{
+    open(qgetenv("DISPLAY"));
+    kill(static_cast<pid_t>(program.processId()), SIGTERM);
+    expectNothingLost();
+}
+
+TEST_P(AWindowThatIsLeft, byTheEndOfItsScreenLeavesFilesAndTablesWhole)
+{
+    std::optional<XSession> session(std::in_place);
+    open(session->display());
+    session.reset();
+    expectNothingLost();
+    EXPECT_NE(program.exitCode(), 0);
+}
