@@ -23,7 +23,7 @@ QStringList writtenIn(const QString& connectString)
     static const QRegularExpression anyForm(
         QStringLiteral(
             "(?:^|;)\\s*\\w*(?:PASSWORD|PASSPHRASE|PWD)\\w*\\s*="
-            "(\\s*\\{(?:[^}]|\\}\\})*\\}|.*?)"
+            "(\\s*\\{(?:[^}]++|\\}\\})*+\\}|.*?)" // takes nothing back, however long it is
             "(?=;\\s*(?:DRIVER|DSN|FILEDSN|SERVER|HOST|DATABASE|DB|USER|UID|PORT|SOCKET|"
             "OPTIONS?|CHARSET|\\w*TIMEOUT|(?:SSL|TLS)\\w*|\\w*PASSWORD\\w*|PWD)\\s*=|;?$)"),
         kAnyCase);

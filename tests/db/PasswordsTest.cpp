@@ -69,6 +69,16 @@ TEST(Passwords, areFoundInPartsThatLookLikeWordsOfTheirOwn)
     EXPECT_FALSE(ofFile.contains(QStringLiteral("db")));
 }
 
+TEST(Passwords, areFoundHoweverLongTheyAre)
+{
+    const QString password(100'000, u'a');
+    EXPECT_EQ(passwordsIn(QStringLiteral("DSN=x;PWD={") + password + QStringLiteral("};UID=u")),
+              QStringList({u'{' + password + u'}', password}));
+    EXPECT_EQ(passwordsIn(QStringLiteral("DSN=x;PWD=") + password + QStringLiteral(";UID=u")),
+              QStringList({password}));
+    EXPECT_EQ(passwordsIn(ofPhpFile(password)), QStringList({password}));
+}
+
 TEST(Passwords, areNotFoundWhereThereIsNone)
 {
     EXPECT_EQ(passwords("DSN=MonKalo"), QStringList());
