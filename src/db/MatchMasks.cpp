@@ -1,5 +1,7 @@
 #include "db/MatchMasks.h"
 
+#include "runtime/RunTimeError.h"
+
 #include <algorithm>
 
 namespace db
@@ -82,7 +84,11 @@ std::vector<int> MatchMasks::matches(const Row& row, int firstColumn) const
     std::vector<int> found;
     for (int column = 0; column < columnCount(); ++column) {
         const int mask = row.field(firstColumn + column).toInt32();
-        for (int bit = 0; bit < kBits && mask != 0; ++bit) {
+        const int bits = std::min(kBits, static_cast<int>(m_texts.size()) - column * kBits);
+        if (mask < 0 || mask >> bits != 0) {
+            throw runtime::RunTimeError(runtime::ErrorNumber::Overflow);
+        }
+        for (int bit = 0; bit < bits && mask != 0; ++bit) {
             if ((mask >> bit & 1) != 0) {
                 found.push_back(column * kBits + bit);
             }

@@ -30,7 +30,7 @@ public:
     /// The condition that the column equals one of the texts; false without texts.
     [[nodiscard]] QString anyOf() const;
     /// Positions of the texts that the row's column equals; its masks start at `firstColumn`.
-    /// Error: any that reading a number raises.
+    /// Errors: any that reading a number raises; Overflow for one that is no mask of these texts.
     [[nodiscard]] std::vector<int> matches(const Row& row, int firstColumn) const;
 
 private:

@@ -51,6 +51,24 @@ TEST(MatchMasks, findNothingWithoutTexts)
     EXPECT_EQ(MatchMasks(QStringLiteral("Salle"), {}).anyOf(), QStringLiteral("1=0"));
 }
 
+TEST(MatchMasks, refuseANumberThatTellsOfOtherTexts)
+{
+    const auto column = std::make_shared<const Columns>(QStringList{QStringLiteral("m0")});
+    const auto matches = [&column](int textCount, std::int64_t mask) {
+        return MatchMasks(QStringLiteral("Salle"), rooms(textCount))
+            .matches(Row(column, {Value(mask)}), 0);
+    };
+    constexpr std::int64_t thirtyBits = (1 << 30) - 1;
+    EXPECT_EQ(matches(2, 3), std::vector<int>({0, 1}));
+    EXPECT_EQ(matches(30, thirtyBits).size(), 30U);
+    EXPECT_EQ(test::errorNumberOf([&] { std::ignore = matches(2, 4); }),
+              runtime::ErrorNumber::Overflow);
+    EXPECT_EQ(test::errorNumberOf([&] { std::ignore = matches(2, -1); }),
+              runtime::ErrorNumber::Overflow);
+    EXPECT_EQ(test::errorNumberOf([&] { std::ignore = matches(30, thirtyBits + 1); }),
+              runtime::ErrorNumber::Overflow);
+}
+
 TEST_P(Masks, findNamesWithQuotesAndBackslashesWhereQuotesAreDoubled)
 {
     database().execute("create table t (n integer, r varchar(20))");
