@@ -68,7 +68,8 @@ bool PackedRow::unpackSeparated(QStringView row)
         if (end < 0) {
             end = row.size();
         }
-        const QStringView text = row.sliced(start, end - start);
+        // An empty row need not have a place in memory, but is an empty text all the same.
+        const QStringView text = row.isNull() ? QStringView(u"") : row.sliced(start, end - start);
         m_fields[field] = text.size() == 1 && text.front() == kNull ? QStringView() : text;
         start = end + 1;
     }

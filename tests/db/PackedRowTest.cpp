@@ -80,6 +80,7 @@ TEST(PackedRow, takesSeparatedFieldsApart)
               (QStringList{"A101", "<null>", "", "90"}));
     EXPECT_EQ(fieldsOf(Packing::Separated, 2, separated({"", ""})), (QStringList{"", ""}));
     EXPECT_EQ(fieldsOf(Packing::Separated, 1, ""), QStringList{""});
+    EXPECT_EQ(fieldsOf(Packing::Separated, 1, QString()), QStringList{""});
 }
 
 TEST(PackedRow, refusesAnotherNumberOfSeparatedFields)
