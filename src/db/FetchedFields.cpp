@@ -71,11 +71,20 @@ Value valueOfType(const QString& text, SQLSMALLINT type)
     }
 }
 
+/// With a byte order mark at its beginning, where it has one: it is part of a name that came into
+/// the table from a file, and without it the name would not be found again.
+QString utf8Text(QByteArrayView bytes)
+{
+    constexpr QByteArrayView mark("\xef\xbb\xbf");
+    QString text = QString::fromUtf8(bytes); // leaves the mark out
+    return bytes.startsWith(mark) ? text.prepend(QChar(QChar::ByteOrderMark)) : text;
+}
+
 /// Half a character at the end of a UTF-16 text is left out.
 QString textOf(QByteArrayView bytes, SQLSMALLINT cType)
 {
     if (cType != SQL_C_WCHAR) {
-        return QString::fromUtf8(bytes);
+        return utf8Text(bytes);
     }
     // Copied: they begin where the field before them ends, which may be no place for a char16_t.
     const qsizetype length = bytes.size() / static_cast<qsizetype>(sizeof(char16_t));

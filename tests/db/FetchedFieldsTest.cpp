@@ -105,6 +105,15 @@ TEST(FetchedFields, leaveHalfACharacterOut)
     EXPECT_EQ(fields.value(1, 0), text(""));
 }
 
+TEST(FetchedFields, keepAByteOrderMark)
+{
+    const QString name = QChar(QChar::ByteOrderMark) + QStringLiteral("A101");
+    EXPECT_EQ(read(SQL_VARCHAR, "\xef\xbb\xbf"
+                                "A101"),
+              Value(name));
+    EXPECT_EQ(read(SQL_VARCHAR, "\xef\xbb\xbf"), Value(name.first(1)));
+}
+
 TEST(FetchedFields, areNumbersAndDatesWhereTheyReadAsSuch)
 {
     EXPECT_EQ(read(SQL_BIGINT, "9000000000"), Value(std::int64_t{9000000000}));
