@@ -258,7 +258,7 @@ void readDay(const Reader& reader, CommandLine& line)
     if (reader.has("date")) {
         line.date = QDate::fromString(reader.text("date"), Qt::ISODate);
         // Reading is lenient: it takes other separators, and more text behind the date.
-        if (line.date->toString(Qt::ISODate) != reader.text("date")) {
+        if (!line.date->isValid() || line.date->toString(Qt::ISODate) != reader.text("date")) {
             reader.failWithValue("date");
         }
         if (line.day) {

@@ -255,6 +255,9 @@ INSTANTIATE_TEST_SUITE_P(
                 "--show : valeur « class,room » refusée ; valeurs acceptées : "
                 "class,teacher,subject,type,invigilator"},
         Mistake{"day", {"--day", "6"}, "--day : valeur « 6 » refusée ; valeurs acceptées : 0..5"},
+        Mistake{"emptyDate",
+                {"--date", ""},
+                "--date : valeur « » refusée ; valeurs acceptées : AAAA-MM-JJ"},
         Mistake{"dateThatIsNone",
                 {"--date", "2025-02-30"},
                 "--date : valeur « 2025-02-30 » refusée ; valeurs acceptées : AAAA-MM-JJ"},
