@@ -36,7 +36,7 @@ cd "$project"
 # Every source file of ours with one of the given endings, each name ended by a null character.
 sources() {
     local folder ending
-    for folder in src demo tests bench; do
+    for folder in src demo tests bench fuzz; do
         for ending in "$@"; do
             [[ ! -d $folder ]] || find "$folder" -name "*.$ending" -print0
         done

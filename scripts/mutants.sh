@@ -26,7 +26,7 @@ git ls-files -z --cached --others --exclude-standard | while IFS= read -r -d '' 
         cp "$file" "$copy/$file"
     fi
 done
-(cd "$copy" && find src tests demo -type f -print) | while IFS= read -r file; do
+(cd "$copy" && find src tests demo fuzz -type f -print) | while IFS= read -r file; do
     [[ -f $file ]] || rm "$copy/$file"
 done
 
