@@ -18,16 +18,17 @@ if(TEMPORA_SANITIZE)
   target_link_libraries(tempora_options INTERFACE
     -Wl,--push-state,--no-as-needed -lodbcinst -Wl,--pop-state)
 endif()
-# Lets a fuzzer see which ways an input takes through the libraries of src/.
-add_library(tempora_watched INTERFACE)
+target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII UNICODE
+  _UNICODE)
+
+# What lets a fuzzer see which ways an input takes through the libraries of src/.
+set(TEMPORA_WATCHED "")
 if(TEMPORA_FUZZ)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang" OR NOT TEMPORA_SANITIZE)
     message(FATAL_ERROR "Fuzzers need clang and the sanitizers: set TEMPORA_SANITIZE=ON")
   endif()
-  target_compile_options(tempora_watched INTERFACE -fsanitize=fuzzer-no-link)
+  set(TEMPORA_WATCHED -fsanitize=fuzzer-no-link)
 endif()
-target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII UNICODE
-  _UNICODE)
 
 # Precompiled headers halve the time of a build from nothing. They also hide a missing #include, so
 # that they are off unless asked for, and one of the builds that a change must pass goes without.
@@ -67,8 +68,8 @@ function(tempora_layer name)
   foreach(layer IN LISTS LAYER_USES)
     list(APPEND layers tempora_${layer})
   endforeach()
-  target_link_libraries(tempora_${name} PUBLIC ${layers} ${LAYER_EXTERNAL}
-    PRIVATE tempora_options tempora_watched)
+  target_link_libraries(tempora_${name} PUBLIC ${layers} ${LAYER_EXTERNAL} PRIVATE tempora_options)
+  target_compile_options(tempora_${name} PRIVATE ${TEMPORA_WATCHED})
   tempora_precompiled(tempora_${name} tempora_usual_headers)
 endfunction()
 
