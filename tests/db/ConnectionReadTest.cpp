@@ -199,6 +199,16 @@ TEST_P(Reading, sendsEveryCharacterAsItIs)
     EXPECT_EQ(single(QStringLiteral("select 'Ω 😀 日本'")), text("Ω 😀 日本"));
 }
 
+TEST_P(Reading, keepsTheByteOrderMarkThatANameBeginsWith)
+{
+    database().execute("create table t (r varchar(20))");
+    const QString name = QChar(QChar::ByteOrderMark) + QStringLiteral("A101");
+    connection().insert(QStringLiteral("t"), {{QStringLiteral("r"), Value(name)}});
+    EXPECT_EQ(connection().open(QStringLiteral("select r from t")).first().field(0), Value(name));
+    const QString sql = QStringLiteral("select r from t where r='") + name + u'\'';
+    EXPECT_EQ(connection().open(sql).recordCount(), 1);
+}
+
 TEST_P(Reading, findsADateByTheDialectsLiteral)
 {
     database().execute({QStringLiteral("create table ratrap (n integer, DateX date)"),
