@@ -30,7 +30,7 @@ void paintPage(benchmark::State& state)
     const paint::PlanScene scene =
         paint::sceneOf(engine.state(), engine.content(), paint::DrawingTarget());
     QImage image(1366, 620, QImage::Format_RGB32);
-    for (auto iteration : state) {
+    for ([[maybe_unused]] auto iteration : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
         paint::PlanPainter plan(painter, scene);
@@ -49,7 +49,7 @@ BENCHMARK(paintPage)->Unit(benchmark::kMillisecond);
 void refreshPage(benchmark::State& state)
 {
     shell::Shell& program = fullPage();
-    for (auto iteration : state) {
+    for ([[maybe_unused]] auto iteration : state) {
         program.form().CbJour.setListIndex(1);
     }
 }

@@ -92,12 +92,13 @@ std::vector<int> Curriculum::modules(int department, int level, int semester) co
 {
     constexpr std::size_t ownModules = 5;
     const std::vector<int>& own = m_all.at(static_cast<std::size_t>(department));
-    const auto first = static_cast<std::size_t>(level * 4 + (semester - 1) * 6);
+    const int first = level * 4 + (semester - 1) * 6;
     std::vector<int> chosen;
     for (std::size_t step = 0; step < ownModules; ++step) {
-        addOnce(chosen, own.at((first + step) % own.size()));
+        addOnce(chosen, own.at((static_cast<std::size_t>(first) + step) % own.size()));
     }
-    const auto cohort = static_cast<std::size_t>(department + level);
+    const std::size_t cohort =
+        static_cast<std::size_t>(department) + static_cast<std::size_t>(level);
     const std::vector<int>& service =
         m_all.at(static_cast<std::size_t>(serviceDepartment(department, semester)));
     addOnce(chosen, service.at(cohort % service.size()));

@@ -146,8 +146,10 @@ bool DateField::focusNextPrevChild(bool next)
 {
     const bool typed = m_typing;
     finishTyping();
-    // Tab goes from part to part, but leaves a date that was typed as a whole.
-    return typed ? QAbstractSpinBox::focusNextPrevChild(next) : QDateEdit::focusNextPrevChild(next);
+    if (typed) { // the date edit would go on to its next part, but such a date is left as a whole
+        return QAbstractSpinBox::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
+    }
+    return QDateEdit::focusNextPrevChild(next);
 }
 
 } // namespace app

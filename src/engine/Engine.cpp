@@ -22,7 +22,7 @@ Surroundings withoutEvents(Surroundings surroundings)
 
 Engine::Engine(Surroundings surroundings) : Engine(std::move(surroundings), StandIns()) {}
 
-Engine::Engine(Surroundings surroundings, StandIns standIns)
+Engine::Engine(Surroundings surroundings, const StandIns& standIns)
     : Engine(std::move(surroundings), plan::PlanState(),
              standIns.database ? standIns.database : std::make_shared<db::Database>(), standIns)
 {

@@ -45,7 +45,7 @@ public:
     };
 
     explicit Engine(Surroundings surroundings);
-    Engine(Surroundings surroundings, StandIns standIns);
+    Engine(Surroundings surroundings, const StandIns& standIns);
     ~Engine() override;
     Engine(const Engine&) = delete; // the parts refer to one another
     Engine& operator=(const Engine&) = delete;

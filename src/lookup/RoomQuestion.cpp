@@ -46,7 +46,7 @@ QString RoomQuestion::periodCondition(const db::SqlDialect& dialect) const
     const auto is = [](const QString& name, const QString& value) {
         return QStringLiteral(" and ") + name + QStringLiteral(" =") + value;
     };
-    const QString period = is(column::kTranche, tranche);
+    QString period = is(column::kTranche, tranche);
     switch (table) {
     case Table::examen:
         return period + is(column::kSemaine, examWeek);

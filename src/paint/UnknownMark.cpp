@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <algorithm>
+#include <cmath>
 
 namespace paint
 {
@@ -25,7 +26,10 @@ void drawLines(QPainter& surface, const DrawingTarget& target, const QRect& box)
 {
     surface.setPen(QPen(kLines, std::max(1.0, kFrameLine * target.PixelsPerPoint)));
     const double step = kStep * target.PixelsPerPoint;
-    for (double x = box.left() - box.height(); x < box.right(); x += step) {
+    const int first = box.left() - box.height();
+    const int lines = static_cast<int>(std::ceil((box.right() - first) / step));
+    for (int line = 0; line < lines; ++line) {
+        const double x = first + line * step;
         surface.drawLine(QPointF(x, box.top() + box.height()),
                          QPointF(x + box.height(), box.top()));
     }
