@@ -2,6 +2,7 @@
 
 #include "support/TestFolder.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <gtest/gtest.h>
 

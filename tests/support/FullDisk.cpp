@@ -6,11 +6,11 @@ namespace test
 {
 
 FullDisk::FullDisk(rlim_t bytes)
+    : m_handlerBefore(std::signal(SIGXFSZ, SIG_IGN)) // a write fails instead
 {
     getrlimit(RLIMIT_FSIZE, &m_before);
     const rlimit limit{bytes, m_before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &limit);
-    m_handlerBefore = std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
 }
 
 FullDisk::~FullDisk()

@@ -16,7 +16,7 @@ public:
 
 private:
     rlimit m_before{};
-    void (*m_handlerBefore)(int) = nullptr;
+    void (*m_handlerBefore)(int);
 };
 
 } // namespace test
