@@ -21,13 +21,13 @@ endif()
 target_compile_definitions(tempora_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII UNICODE
   _UNICODE)
 
-# What lets a fuzzer see which ways an input takes through the libraries of src/.
-set(TEMPORA_WATCHED "")
+# A fuzzer sees which ways an input takes through targets with the property TEMPORA_WATCHED.
 if(TEMPORA_FUZZ)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang" OR NOT TEMPORA_SANITIZE)
     message(FATAL_ERROR "Fuzzers need clang and the sanitizers: set TEMPORA_SANITIZE=ON")
   endif()
-  set(TEMPORA_WATCHED -fsanitize=fuzzer-no-link)
+  target_compile_options(tempora_options INTERFACE
+    $<$<BOOL:$<TARGET_PROPERTY:TEMPORA_WATCHED>>:-fsanitize=fuzzer-no-link>)
 endif()
 
 # Precompiled headers halve the time of a build from nothing. They also hide a missing #include, so
@@ -62,14 +62,13 @@ function(tempora_layer name)
   cmake_parse_arguments(LAYER "" "" "SOURCES;USES;EXTERNAL" ${ARGN})
   add_library(tempora_${name} ${LAYER_SOURCES})
   # Shared libraries (BUILD_SHARED_LIBS) are compiled like static ones, so that ccache knows them.
-  set_target_properties(tempora_${name} PROPERTIES DEFINE_SYMBOL "")
+  set_target_properties(tempora_${name} PROPERTIES DEFINE_SYMBOL "" TEMPORA_WATCHED ON)
   target_include_directories(tempora_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   set(layers "")
   foreach(layer IN LISTS LAYER_USES)
     list(APPEND layers tempora_${layer})
   endforeach()
   target_link_libraries(tempora_${name} PUBLIC ${layers} ${LAYER_EXTERNAL} PRIVATE tempora_options)
-  target_compile_options(tempora_${name} PRIVATE ${TEMPORA_WATCHED})
   tempora_precompiled(tempora_${name} tempora_usual_headers)
 endfunction()
 

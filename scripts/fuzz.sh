@@ -19,7 +19,7 @@ source "$project/scripts/common.sh"
 
 # One fuzzer; prints its line of the table. The script calls itself for it.
 run_one() {
-    local name=$1 runs=$2 seconds=$3 keep=$4
+    local name=$1 runs=$2 seconds=$3 keep=$4 commit=$5
     local found=$folder/found/$name faults=$folder/faults kept=$project/fuzz/corpus/$name
     local log=$folder/log/$name.txt words=$project/fuzz/dictionaries/$name.dict started=$SECONDS
     local options=(-runs="$runs" -max_total_time="$seconds" -timeout=25 -rss_limit_mb=4096
@@ -33,7 +33,7 @@ run_one() {
         "$(last_number 'stat::number_of_executed_units: *\([0-9]*\)' "$log")" \
         "$((SECONDS - started))" "$(last_number '.* cov: \([0-9]*\) .*' "$log")" \
         "$(last_number '.* corp: \([0-9]*\)/.*' "$log")" "${verdict:-see $log}" \
-        "$(git -C "$project" rev-parse --short HEAD)"
+        "$commit"
     [[ $keep != true || $verdict != none ]] || keep_found "$name" "$found" "$kept"
 }
 
@@ -92,12 +92,13 @@ cd "$project"
 ensure_packages "${build_packages[@]}" ccache clang libclang-rt-dev lld
 configure "$folder" fuzz
 build "$folder" "${names[@]/#/fuzz_}"
+commit=$(git describe --always --dirty --exclude '*') # "-dirty" where something is not committed
 use_private_folders "$folder/home"
 mkdir -p "$folder/faults"
 before=$(find "$folder/faults" -type f | sort)
 printf '| fuzzer | runs | seconds | edges | inputs | fault | commit |\n'
 printf -- '|---|---:|---:|---:|---:|---|---|\n'
 printf '%s\n' "${names[@]}" |
-    xargs -P "$jobs" -I '{}' "${BASH_SOURCE[0]}" --one '{}' "$runs" "$seconds" "$keep"
+    xargs -P "$jobs" -I '{}' "${BASH_SOURCE[0]}" --one '{}' "$runs" "$seconds" "$keep" "$commit"
 new=$(comm -13 <(printf '%s\n' "$before") <(find "$folder/faults" -type f | sort))
 [[ -z $new ]] || fail "Inputs that a fault came from:" "$new"

@@ -81,9 +81,10 @@ bool shows(const QString& text, const QStringList& passwords)
     const auto holds = [](const QString& where, const QString& what) {
         return !what.isEmpty() && where.contains(what, Qt::CaseInsensitive);
     };
+    const QString plain = unescaped(text);
     return std::any_of(passwords.begin(), passwords.end(), [&](const QString& password) {
         const QStringList looks = looksOf(password);
-        return holds(unescaped(text), unescaped(password)) ||
+        return holds(plain, unescaped(password)) ||
                std::any_of(looks.begin(), looks.end(),
                            [&](const QString& look) { return holds(text, look); });
     });
