@@ -72,7 +72,7 @@ public:
         for (int entry = 0; entry < 256; ++entry) {
             lines += QString("%1\tcouleur\t%1\t10\t20\r\n").arg(entry);
         }
-        const QString path = setup.path(name);
+        QString path = setup.path(name);
         writeFile(path, lines);
         return path;
     }
