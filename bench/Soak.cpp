@@ -28,8 +28,8 @@ struct Kept {
     long statements = 0;  ///< prepared on the server, whoever did it
 };
 
-/// The process may take that many kB more after its first tenth: what its libraries set aside.
-constexpr long kMemorySlack = 2048;
+/// The process may take that many kB more in the second half: its heap is not always cut alike.
+constexpr long kMemorySlack = 1024;
 
 long residentMemory()
 {
@@ -128,14 +128,14 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Repeats the step and tells what is kept after the first tenth and at the end. False when
-/// something grew.
+/// Repeats the step and tells what is kept after the first half, in which libraries fill what they
+/// keep for good, and at the end. False when something grew.
 bool repeat(Soak& soak, const char* what, int times, const std::function<void(int)>& step)
 {
     Kept before;
     for (int number = 0; number < times; ++number) {
         step(number);
-        if (number == times / 10) {
+        if (number == times / 2) {
             before = soak.kept();
         }
     }

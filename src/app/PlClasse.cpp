@@ -374,6 +374,15 @@ void PlClasse::resizeEvent(QResizeEvent* event)
     serveFocusRequest(); // now: later it would take the focus from what the user has turned to
 }
 
+void PlClasse::leave()
+{
+    if (!isVisible()) {
+        leaveAtOnce();
+    }
+    close();
+    QCoreApplication::quit();
+}
+
 void PlClasse::closeEvent(QCloseEvent* event)
 {
     if (m_waiting.isServing()) {

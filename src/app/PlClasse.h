@@ -45,6 +45,10 @@ public:
     /// for the database runs after it.
     void forward(const std::function<void()>& action);
 
+    /// The system wants the program to end: does what closing the window does, and ends whatever
+    /// dialog is open. Before the window is shown there is nothing to be saved.
+    void leave();
+
     /// Tells of a fault and ends the program with exit code 1, without saving anything. Once the
     /// window is closed nothing is told.
     void fail(const runtime::RunTimeError& error);

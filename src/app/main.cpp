@@ -1,4 +1,5 @@
 #include "app/Application.h"
+#include "app/EndSignal.h"
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
 #include "app/PlClasse.h"
@@ -80,12 +81,16 @@ void exportWithoutWindow(const shell::CommandLine& line)
     }
 }
 
-int runWindow(app::Application& application, const shell::CommandLine& line)
+int runWindow(app::Application& application, app::EndSignal& signal, const shell::CommandLine& line)
 {
     app::PlClasse window(openSettings(line), surroundingsFor(line));
     application.onFault = [&window](const runtime::RunTimeError& fault) { window.fail(fault); };
     const auto untie =
         qScopeGuard([&application] { application.onFault = app::Application::tellAndExit; });
+    signal.serve([&window] { window.leave(); });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                     [&window] { window.leave(); });
+    const auto serveNoMore = qScopeGuard([&signal] { signal.stop(); });
     return window.run(line);
 }
 
@@ -164,12 +169,14 @@ int Program::serve()
     if (m_exports) {
         drawInMemory();
     }
-    startToolkit();
     if (m_exports) {
+        startToolkit();
         exportWithoutWindow(line);
         return kDone;
     }
-    return runWindow(m_toolkit->application(), line);
+    app::EndSignal signal; // before the toolkit starts threads of its own
+    startToolkit();
+    return runWindow(m_toolkit->application(), signal, line);
 }
 
 /// Of the exception that is being handled.

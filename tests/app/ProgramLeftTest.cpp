@@ -19,11 +19,11 @@ protected:
     AWindowThatIsLeft() { createTinyFaculty(database); }
 
     /// Starts the program on that display and waits for its window.
-    void open(const QByteArray& display)
+    void open(const QByteArray& display, const QStringList& arguments = {})
     {
         program.environment.insert("DISPLAY", QString::fromLatin1(display));
         program.environment.insert("QT_QPA_PLATFORM", "xcb");
-        program.startWithSettings({});
+        program.startWithSettings(arguments);
         const QByteArray before = qgetenv("DISPLAY");
         qputenv("DISPLAY", display);
         byHand("search --sync --onlyvisible --name Planning");
@@ -49,11 +49,16 @@ TEMPORA_ON_BOTH_DATABASES(AWindowThatIsLeft);
 
 } // namespace
 
-TEST_P(AWindowThatIsLeft, byASignalLeavesFilesAndTablesWhole)
+TEST_P(AWindowThatIsLeft, byASignalSavesTheOptions)
 {
-    open(qgetenv("DISPLAY"));
+    setup.set("ChkMatiere", "0");
+    open(qgetenv("DISPLAY"), {"--show", "class,subject"});
     kill(static_cast<pid_t>(program.processId()), SIGTERM);
-    expectNothingLost();
+    ASSERT_TRUE(program.waitForEnd());
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_EQ(program.errors(), "");
+    EXPECT_EQ(setup.saved("ChkMatiere"), "1");
+    EXPECT_EQ(setup.saved("ChkEnseignant"), "0");
 }
 
 TEST_P(AWindowThatIsLeft, byTheEndOfItsScreenLeavesFilesAndTablesWhole)

@@ -223,7 +223,7 @@ TEST_F(ASharedServer, thatTakesRightsAwayLeavesUnknownWhatMayNotBeRead)
         desk.engine.refreshPlan();
     };
     change("revoke", "emplois", "from");
-    expectUnknown(whole, desk, "la base de données refuse de répondre à une question");
+    expectUnknown(whole, desk, "la base de données refuse une demande");
     EXPECT_TRUE(plan::faultDetails(desk.engine.content()).contains("denied"));
     change("grant", "emplois", "to");
     expectWhole(whole, desk);

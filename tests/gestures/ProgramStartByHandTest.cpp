@@ -9,6 +9,7 @@
 #include "support/XSession.h"
 
 #include <arpa/inet.h>
+#include <csignal>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -146,6 +147,18 @@ TEST_F(TheProgramOnAScreen, isLeftWhileItConnectsToAServerThatIsSilent)
     EXPECT_EQ(program.exitCode(), 0);
     EXPECT_EQ(program.errors(), "");
     EXPECT_EQ(setup.settingsText(), settings);
+}
+
+TEST_F(TheProgramOnAScreen, isEndedByASignalWhileItConnects)
+{
+    const SilentServer server;
+    serve(server.port());
+    program.startWithSettings({});
+    byHand("search --sync --onlyvisible --name ^Tempora$");
+    kill(static_cast<pid_t>(program.processId()), SIGTERM);
+    EXPECT_TRUE(program.waitForEnd());
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_EQ(program.errors(), "");
 }
 
 TEST_F(TheProgramOnAScreen, saysThatAServerIsSilentWhenNobodyLeavesIt)
