@@ -24,7 +24,7 @@ bool hasUnknownCells(const PlanContent& content)
 
 } // namespace
 
-QString unheldNames(const std::vector<ReadFault>& faults)
+QString unheldNames(const std::vector<ReadFault>& faults, qsizetype most)
 {
     QStringList names;
     for (const ReadFault& fault : faults) {
@@ -35,13 +35,19 @@ QString unheldNames(const std::vector<ReadFault>& faults)
     if (names.isEmpty()) {
         return {};
     }
+    const qsizetype others = std::max<qsizetype>(names.size() - most, 0);
+    QString list = names.mid(0, most).join(QStringLiteral(", "));
+    if (others > 0) {
+        list += QStringLiteral(" et %1 %2")
+                    .arg(QString::number(others),
+                         others == 1 ? QStringLiteral("autre") : QStringLiteral("autres"));
+    }
     return (names.size() == 1 ? QStringLiteral("Nom impossible à chercher : ")
                               : QStringLiteral("Noms impossibles à chercher : ")) +
-           names.join(QStringLiteral(", ")) +
-           QStringLiteral(". Le réglage « Apostrophes=True » y remédie.");
+           list + QStringLiteral(". Le réglage « Apostrophes=True » y remédie.");
 }
 
-QString faultSentence(const PlanContent& content)
+QString faultSentence(const PlanContent& content, qsizetype mostNames)
 {
     const auto failed = std::find_if(content.faults.begin(), content.faults.end(),
                                      [](const ReadFault& fault) { return fault.name.isEmpty(); });
@@ -51,7 +57,7 @@ QString faultSentence(const PlanContent& content)
         sentences << QStringLiteral("Plan incomplet") + since + QStringLiteral(" : ") +
                          db::failureWords(failed->failure) + u'.';
     }
-    const QString names = unheldNames(content.faults);
+    const QString names = unheldNames(content.faults, mostNames);
     if (!names.isEmpty()) {
         sentences << names;
     }

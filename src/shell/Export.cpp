@@ -45,7 +45,7 @@ QString exportPlan(const Shell& shell, const QString& path, ExportChoice choice)
     const files::FileFormat& format = *files::formatOf(path);
     const files::PlanDocument document{pagesFor(shell, format, choice.allPages), shell.fileDate()};
     const plan::PlanContent gaps = gapsOf(document.pages);
-    QString told = plan::faultSentence(gaps);
+    QString told = plan::faultSentence(gaps, static_cast<qsizetype>(gaps.faults.size()));
     if (lookup::isIncomplete(gaps.faults)) {
         told += u'\n' + plan::faultDetails(gaps);
         if (!choice.allowIncomplete) {

@@ -62,6 +62,20 @@ TEST(FaultSentence, saysWhichNamesCannotBeHeldAndHowToMendIt)
               "« A'1 », « B'2 ». Le réglage « Apostrophes=True » y remédie.");
 }
 
+TEST(FaultSentence, hasRoomForFiveNames)
+{
+    std::vector<lookup::ReadFault> faults;
+    for (const char* name : {"A'1", "A'2", "A'3", "A'4", "A'5", "A'6"}) {
+        faults.push_back(unheld(name));
+    }
+    EXPECT_TRUE(faultSentence(lacking(faults))
+                    .startsWith("Noms impossibles à chercher : « A'1 », « A'2 », « A'3 », « A'4 », "
+                                "« A'5 » et 1 autre. Le réglage"));
+    faults.push_back(unheld("A'7"));
+    EXPECT_TRUE(faultSentence(lacking(faults)).contains("« A'5 » et 2 autres. "));
+    EXPECT_TRUE(unheldNames(faults, 100).contains("« A'6 », « A'7 ». "));
+}
+
 TEST(FaultDetails, areTheDatabasesOwnWordsEachOnce)
 {
     EXPECT_EQ(faultDetails(lacking({silent, unheld("A'1"), unheld("B'2")})),
