@@ -1,5 +1,6 @@
 #include "runtime/RunTimeError.h"
 
+#include <QStringList>
 #include <new>
 
 namespace runtime
