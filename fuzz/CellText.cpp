@@ -145,6 +145,12 @@ void checkMasks(fuzz::Input& input)
     }
     const auto shared = std::make_shared<const db::Columns>(names);
     const db::Row row(shared, values);
+    const db::MatchMasks slots(column::kSeance, keys); // their numbers come first
+    runtime::skipOnError([&] {
+        for (const int slot : slots.matches(row, 0)) {
+            require(slot >= 0 && slot < keys.size(), "a number tells of what was asked about");
+        }
+    });
     runtime::skipOnError([&] {
         const lookup::PageCells cells = masks.sorted({shared, {row}});
         int taken = 0;

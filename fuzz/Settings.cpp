@@ -9,6 +9,7 @@
 #include "shell/DatabaseChoice.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 using fuzz::require;
@@ -54,6 +55,20 @@ void checkAnyFile(fuzz::MemoryFile& file, const QByteArray& bytes)
     }
 }
 
+/// A value that somebody has written with commas and no quotes is read as it looks.
+void checkList(fuzz::MemoryFile& file, fuzz::Input& input)
+{
+    static const QRegularExpression odd(QStringLiteral("[^a-zA-Z0-9]"));
+    QStringList words{QStringLiteral("a")};
+    while (!input.isAtEnd()) {
+        words << input.text().remove(odd);
+    }
+    file.write("[Settings]\nBase=" + words.join(u',').toLatin1() + '\n');
+    const QString read =
+        Settings::fromFile(file.path()).get(QStringLiteral("Base"), QStringLiteral("?"));
+    require(read == words.join(QStringLiteral(", ")), "commas stay", words.join(u','), read);
+}
+
 /// Keys are the program's own; values are what a user has chosen or typed.
 void checkSaved(const QTemporaryDir& folder, fuzz::Input& input)
 {
@@ -89,6 +104,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray bytes = input.bytes();
     if (bytes == "save") {
         checkSaved(folder, input);
+    } else if (bytes == "list") {
+        checkList(file, input);
     } else {
         checkAnyFile(file, bytes);
     }

@@ -19,6 +19,9 @@ struct EndSignal::Source {
         // Blocked signals pass no thread by: those to come take the mask over.
         pthread_sigmask(SIG_BLOCK, &endings, &before);
         descriptor = signalfd(-1, &endings, SFD_CLOEXEC | SFD_NONBLOCK);
+        if (descriptor < 0) { // nobody would hear them
+            pthread_sigmask(SIG_SETMASK, &before, nullptr);
+        }
     }
     ~Source()
     {

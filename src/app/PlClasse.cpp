@@ -59,16 +59,16 @@ PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
 
 /// Ends the program where it stands. While a driver is connecting nothing can call it back, and
 /// nothing may be taken from it; nor is there anything to be saved.
-[[noreturn]] void leaveAtOnce()
+[[noreturn]] void leaveAtOnce(int code)
 {
-    std::quick_exit(kDone);
+    std::quick_exit(code);
 }
 
 } // namespace
 
 PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
     : m_guide(surroundings.applicationFolder + QStringLiteral("/docs/guide.md")),
-      m_startWindow(leaveAtOnce),
+      m_startWindow([] { leaveAtOnce(kDone); }),
       m_shell(std::move(settings), tieToWindow(std::move(surroundings))), m_keys(makeKeyState()),
       m_printing(m_shell.engine(), pausing(platformPrintDialogs(this), m_waiting)),
       m_mirror([this](const std::function<void()>& action) { forward(action); })
@@ -298,6 +298,7 @@ void PlClasse::fail(const runtime::RunTimeError& error)
         return; // an action that was still under way
     }
     m_failed = true;
+    const Waiting::Pause pause(m_waiting); // an action around this one may be waiting
     m_shell.engine().abandonRefresh();
     reportRunTimeError(this, error);
     QCoreApplication::exit(kFailed);
@@ -377,7 +378,7 @@ void PlClasse::resizeEvent(QResizeEvent* event)
 void PlClasse::leave()
 {
     if (!isVisible()) {
-        leaveAtOnce();
+        leaveAtOnce(m_failed ? kFailed : kDone);
     }
     close();
     QCoreApplication::quit();

@@ -212,9 +212,9 @@ QString PlanTable::note() const
     }
     QStringList totals;
     for (int slot = 1; slot <= form::PlanForm::kSlotLabels; ++slot) {
-        const form::Label& total = form.Tot.at(static_cast<std::size_t>(slot - 1));
-        if (total.visible) {
-            totals << slotTitle(slot) + QStringLiteral(" : ") + total.caption;
+        const auto& total = m_state.totals.line.at(static_cast<std::size_t>(slot - 1));
+        if (total) {
+            totals << slotTitle(slot) + QStringLiteral(" : ") + *total;
         }
     }
     if (!totals.isEmpty()) {

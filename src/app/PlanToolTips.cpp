@@ -38,10 +38,7 @@ QString roomToolTip(const plan::PlanState& state, double top)
 
 QString totalsToolTip(const plan::PlanState& state)
 {
-    const auto& totals = state.form.Tot;
-    const bool isShown = std::any_of(totals.begin(), totals.end(),
-                                     [](const form::Label& total) { return total.visible; });
-    return isShown && state.totals.isOld
+    return state.totals.isShown() && state.totals.isOld
                ? QStringLiteral("Places occupées, comptées avant le dernier choix.\n"
                                 "Choisir le jour les compte à nouveau.")
                : QString();

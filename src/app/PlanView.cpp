@@ -15,6 +15,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTimer>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -68,10 +69,7 @@ PlanView::Bands PlanView::bands() const
 
 int PlanView::totalsHeight() const
 {
-    const form::PlanForm& form = m_engine.form();
-    const bool needed = form.Chk_Compt.isChecked() ||
-                        std::any_of(form.Tot.begin(), form.Tot.end(),
-                                    [](const form::Label& total) { return total.visible; });
+    const bool needed = m_engine.form().Chk_Compt.isChecked() || m_engine.state().totals.isShown();
     return needed ? PlanPicture::kTotalsHeight : 0;
 }
 
@@ -110,6 +108,7 @@ void PlanView::showProgress()
     if (rows.empty()) {
         return;
     }
+    m_rowsAreNew = true;
     if (rows.size() == 1) {
         m_isOutOfDate = false;
         drawAll(); // what the plan showed before goes as a whole: no row of another day stays
@@ -126,12 +125,18 @@ void PlanView::showProgress()
 
 void PlanView::setOutOfDate(bool outOfDate)
 {
-    m_isOutOfDate = outOfDate;
+    m_isOutOfDate = outOfDate && !m_rowsAreNew;
+    if (outOfDate) {
+        m_clicksAreOld = true;
+    } else { // the clicks that have waited come first
+        QTimer::singleShot(0, this, [this] { m_clicksAreOld = m_isOutOfDate; });
+    }
     viewport()->update();
 }
 
 void PlanView::showAll()
 {
+    m_rowsAreNew = false;
     drawAll();
     tellScreenReaders(*this);
 }
@@ -226,7 +231,7 @@ void PlanView::mousePressEvent(QMouseEvent* event)
     if (hit.part == PlanHit::Part::Counter) {
         const plan::GroupCounter group = *hit.box->group;
         m_forward([this, group] { m_engine.Label2_Click(group); });
-    } else if (hit.box != nullptr && hit.part != PlanHit::Part::Size) {
+    } else if (hit.box != nullptr && hit.part != PlanHit::Part::Size && !m_clicksAreOld) {
         m_markerClick(hit.box->marker);
     }
 }

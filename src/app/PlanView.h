@@ -38,6 +38,7 @@ public:
 
     /// While what was drawn last is not what has been asked for, it stands there paled: an answer
     /// is being waited for, and nothing of it is known. The first row that is drawn ends that, too.
+    /// What is clicked in it meanwhile marks nothing: by then another plan stands there.
     void setOutOfDate(bool outOfDate);
 
     /// The target that the view draws with.
@@ -101,6 +102,8 @@ private:
     int m_lastRows = 0;
     int m_totalsHeight = 0;
     bool m_isOutOfDate = false;
+    bool m_rowsAreNew = false;   ///< of the refresh in progress some are drawn
+    bool m_clicksAreOld = false; ///< those to come were meant for another plan
 };
 
 } // namespace app

@@ -1,5 +1,6 @@
 #include "app/Waiting.h"
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 namespace app
@@ -33,6 +34,7 @@ void Waiting::run(const std::function<void()>& call)
         return;
     }
     m_background.start(call);
+    const auto ended = qScopeGuard([this] { m_background.wait(); });
     if (!m_background.waitUntil(due())) {
         showWhenDue();
         serveEvents();

@@ -139,7 +139,12 @@ int Program::run()
     try {
         return serve();
     } catch (...) {
-        return tellFault();
+        try {
+            return tellFault();
+        } catch (...) { // of the telling itself
+            app::writeError(runtime::faultInFlight().message());
+            return kFailed;
+        }
     }
 }
 

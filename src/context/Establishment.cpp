@@ -9,9 +9,9 @@ namespace context
 namespace
 {
 
-EstablishmentHeader readHeader(db::Connection& connection)
+EstablishmentHeader readHeader(db::Database& database)
 {
-    const db::Recordset found = connection.open(QStringLiteral("select * from etablissement "));
+    const db::Recordset found = database.read(QStringLiteral("select * from etablissement "));
     EstablishmentHeader header;
     if (!found.isEmpty()) {
         const db::Row& row = found.first();
@@ -29,9 +29,9 @@ void countRooms(form::PlanForm& form, StartReads& reads, RoomPage& page)
     form.Command3.enabled = page.RoomTotal > linesPerPage(form);
 }
 
-void listPeriods(form::PlanForm& form, db::Connection& connection)
+void listPeriods(form::PlanForm& form, db::Database& database)
 {
-    const db::Recordset periods = connection.open(QStringLiteral("select * from tranche"));
+    const db::Recordset periods = database.read(QStringLiteral("select * from tranche"));
     for (const db::Row& period : periods.rows()) {
         form.CbTranche.addItem(period.field(timetable::position::kPeriodName).toJoinedText());
     }
@@ -46,15 +46,14 @@ EstablishmentHeader LoadEstablishment(form::PlanForm& form, db::Database& databa
     runtime::during(
         QStringLiteral("Ouverture de la base de données « %1 »").arg(source.databaseName),
         [&] { database.open(source.ConnectString); });
-    db::Connection& connection = database.Db();
     EstablishmentHeader header =
         runtime::during(QStringLiteral("Lecture de la table « etablissement »"),
-                        [&] { return readHeader(connection); });
+                        [&] { return readHeader(database); });
     form.Label4[4].caption = header.EstablishmentName;
     runtime::during(QStringLiteral("Comptage des salles (table « salle »)"),
                     [&] { countRooms(form, reads, page); });
     runtime::during(QStringLiteral("Lecture des périodes (table « tranche »)"),
-                    [&] { listPeriods(form, connection); });
+                    [&] { listPeriods(form, database); });
     runtime::during(QStringLiteral("Choix de la période du paramètre « Tranche » (valeur « %1 »)")
                         .arg(source.trancheSetting),
                     [&] { periods.chooseByIdent(runtime::toInt32(source.trancheSetting)); });

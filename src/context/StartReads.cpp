@@ -1,7 +1,7 @@
 #include "context/StartReads.h"
 
+#include "db/DatabaseError.h"
 #include "db/MatchMasks.h"
-#include "runtime/RunTimeError.h"
 #include "timetable/MeetingColumns.h"
 
 #include <utility>
@@ -17,9 +17,9 @@ int StartReads::roomCount(const QString& zone)
         m_zone = zone;
         return m_rooms->recordCount();
     }
-    return m_database.Db().recordCount(
-        zone != u"0" ? QStringLiteral("select * from salle where Zone=%1").arg(zone)
-                     : QStringLiteral("select * from salle  "));
+    return m_database.count(zone != u"0"
+                                ? QStringLiteral("select * from salle where Zone=%1").arg(zone)
+                                : QStringLiteral("select * from salle  "));
 }
 
 db::Recordset StartReads::roomsByName(const QString& zone)
@@ -27,7 +27,7 @@ db::Recordset StartReads::roomsByName(const QString& zone)
     if (m_rooms && m_zone == zone) {
         return *m_rooms;
     }
-    return m_database.Db().open(
+    return m_database.read(
         zone != u"0" ? QStringLiteral("select * from salle where Zone=%1  order by Nom ").arg(zone)
                      : QStringLiteral("select * from salle order by Nom "));
 }
@@ -39,16 +39,16 @@ std::optional<db::Recordset> StartReads::takeAllRooms()
 
 db::Recordset StartReads::slotWithKey(const QString& key)
 {
-    return m_database.Db().open(QStringLiteral("select * from seances  where Seance=") +
-                                m_database.dialect().literal(key));
+    return m_database.read(QStringLiteral("select * from seances  where Seance=") +
+                           m_database.dialect().literal(key));
 }
 
 std::vector<std::optional<db::Recordset>> StartReads::slotsAtOnce(const QStringList& keys)
 {
     std::vector<std::optional<db::Recordset>> found(static_cast<std::size_t>(keys.size()));
-    runtime::skipOnError([&] {
+    db::skipWhenRefused([&] {
         const db::MatchMasks masks(timetable::column::kSeance, keys, m_database.dialect());
-        const db::Recordset all = m_database.Db().open(
+        const db::Recordset all = m_database.read(
             QStringLiteral("select ") + masks.selectList(QStringLiteral("tempora_k")) +
             QStringLiteral(", seances.* from seances where ") + masks.anyOf());
         std::vector<std::vector<db::Row>> rowsOf(found.size());

@@ -1,5 +1,7 @@
 #include "context/Totals.h"
 
+#include <algorithm>
+
 namespace context
 {
 
@@ -10,26 +12,41 @@ void Totals::clear(form::PlanForm& form)
     sums.fill(0);
     lacks.fill(false);
     isOld = false;
-    for (form::Label& total : form.Tot) {
-        total.caption = QStringLiteral("0000");
-        total.visible = false;
-    }
+    line.fill(std::nullopt);
+    show(form);
 }
 
 void Totals::addRoom(form::PlanForm& form, bool teachers)
 {
     for (std::size_t slot = 0; slot < kSlots; ++slot) {
         sums.at(slot) += SlotSeats.at(slot);
-        form::Label& total = form.Tot.at(slot);
-        total.caption = QString::number(sums.at(slot));
-        if (teachers) {
-            total.caption += u'/' + QString::number(SlotTeacherCount.at(slot));
+        line.at(slot).reset();
+        if (sums.at(slot) != 0 || lacks.at(slot)) {
+            QString& text = line.at(slot).emplace(QString::number(sums.at(slot)));
+            if (teachers) {
+                text += u'/' + QString::number(SlotTeacherCount.at(slot));
+            }
+            if (lacks.at(slot)) {
+                text += QStringLiteral(" ?");
+            }
         }
-        if (lacks.at(slot)) {
-            total.caption += QStringLiteral(" ?");
-        }
-        total.visible = sums.at(slot) != 0 || lacks.at(slot);
     }
+    show(form);
+}
+
+void Totals::show(form::PlanForm& form) const
+{
+    for (std::size_t slot = 0; slot < kSlots; ++slot) {
+        form::Label& total = form.Tot.at(slot);
+        total.visible = line.at(slot).has_value();
+        total.caption = line.at(slot).value_or(QStringLiteral("0000"));
+    }
+}
+
+bool Totals::isShown() const
+{
+    return std::any_of(line.begin(), line.end(),
+                       [](const std::optional<QString>& text) { return text.has_value(); });
 }
 
 void ResetTotals(form::PlanForm& form, Totals& totals)

@@ -4,12 +4,12 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 namespace context
 {
 
-/// The counts behind the totals line, one entry per slot of the day. The captions of `Tot` are
-/// written from them, never read back.
+/// The totals line and the counts behind it, one entry per slot of the day.
 struct Totals {
     static constexpr std::size_t kSlots = form::PlanForm::kSlotLabels;
 
@@ -18,6 +18,8 @@ struct Totals {
     std::array<std::int32_t, kSlots> sums{};             ///< seats taken in all rooms counted
     /// Whether a room counted is of unknown use in the slot.
     std::array<bool, kSlots> lacks{};
+    /// What the line says of each slot: nothing where no seat is taken. `Tot` is written from it.
+    std::array<std::optional<QString>, kSlots> line;
     /// Whether the next refresh counts at all.
     bool CountingOn = false;
     /// The line was counted before the last choice: a refresh that does not count left it standing.
@@ -28,6 +30,9 @@ struct Totals {
     /// Adds the room counted last to the line; with `teachers` their counts stand behind the seats.
     /// A total that lacks a room is shown with a question mark.
     void addRoom(form::PlanForm& form, bool teachers);
+    /// Writes the line into its labels.
+    void show(form::PlanForm& form) const;
+    [[nodiscard]] bool isShown() const;
 };
 
 /// Clears the totals line; counting starts again when "Comptage" is ticked.

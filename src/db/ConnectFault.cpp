@@ -23,11 +23,11 @@ bool isOneOf(const std::array<int, Count>& codes, int code)
 
 } // namespace
 
-QString connectFaultWords(const Diagnostics& diagnostics)
+QString connectFaultWords(const Diagnostics& diagnostics, const QString& driver)
 {
     const QString& state = diagnostics.state;
     const int code = diagnostics.nativeCode;
-    if (state == u"IM002") {
+    if (state == u"IM002" && driver.isEmpty()) {
         return QStringLiteral("la source de données ODBC n’existe pas sur cet ordinateur");
     }
     // The driver manager of other systems has no state of its own for a library that is missing.

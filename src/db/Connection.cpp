@@ -107,14 +107,25 @@ void Connection::insert(const QString& table, const std::vector<std::pair<QStrin
                         QStringLiteral(" (") + names.join(QStringLiteral(", ")) +
                         QStringLiteral(") VALUES (") + marks.join(QStringLiteral(", ")) + u')';
     session().prepareToWrite();
-    againWhile({Failure::Locked}, [&] { session().sendAsItIs(statement, sql); });
+    write([&] { session().sendAsItIs(statement, sql); });
 }
 
 bool Connection::deleteFirst(const QString& sql)
 {
     session().prepareToWrite();
-    return againWhile({Failure::Locked},
-                      [&] { return session().product().deleteFirst(sql, session()); });
+    bool found = false;
+    write([&] { found = session().product().deleteFirst(sql, session()); });
+    return found;
+}
+
+/// Waits for another program's lock longer than a read does.
+void Connection::write(const std::function<void()>& step)
+{
+    if (session().product().waitsForLocks()) {
+        step();
+    } else {
+        againWhile({Failure::Locked}, step);
+    }
 }
 
 bool Connection::isDead() const

@@ -10,6 +10,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -88,6 +89,7 @@ public:
 
 private:
     [[nodiscard]] Session& session() const;
+    void write(const std::function<void()>& step);
     [[nodiscard]] Value valueToWrite(const QString& table, const QString& column,
                                      const Value& value);
 

@@ -69,18 +69,30 @@ void Database::renew()
     }
 }
 
-Recordset Database::read(const QString& sql)
+/// Asks over a connection that is there as far as can be told, and once more over a new one.
+template <typename Question>
+auto Database::again(Question ask)
 {
     revive();
     try {
-        return Db().open(sql);
+        return ask(Db());
     } catch (const DatabaseError& error) {
         if (error.failure() != Failure::ConnectionLost) {
             throw;
         }
     }
     renew();
-    return Db().open(sql);
+    return ask(Db());
+}
+
+Recordset Database::read(const QString& sql)
+{
+    return again([&sql](Connection& connection) { return connection.open(sql); });
+}
+
+int Database::count(const QString& sql)
+{
+    return again([&sql](Connection& connection) { return connection.recordCount(sql); });
 }
 
 Connection& Database::Db()

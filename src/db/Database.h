@@ -59,6 +59,8 @@ public:
     /// Runs a query by itself, over a connection that is there as far as can be told, and once more
     /// over a new one when it went away under the query. Error: any database error.
     [[nodiscard]] Recordset read(const QString& sql);
+    /// The same, counting rows without reading their fields.
+    [[nodiscard]] int count(const QString& sql);
 
     /// The open connection's dialect; before, that of the setting.
     [[nodiscard]] SqlDialect dialect() const
@@ -74,6 +76,8 @@ public:
 
 private:
     void connect();
+    template <typename Question>
+    [[nodiscard]] auto again(Question ask);
     [[nodiscard]] std::chrono::milliseconds notBefore() const;
     [[nodiscard]] bool hasPassed(std::chrono::milliseconds time) const;
 

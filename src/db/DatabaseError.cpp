@@ -54,7 +54,7 @@ QString failureWords(Failure failure)
     case Failure::Other:
         break;
     }
-    return QStringLiteral("la base de données ne se laisse pas lire");
+    return QStringLiteral("la base de données ne se laisse pas lire ou modifier");
 }
 
 DatabaseError::DatabaseError(Failure failure, runtime::ErrorNumber number, const QString& text)

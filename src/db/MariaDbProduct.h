@@ -28,6 +28,7 @@ public:
 
     /// Makes the server give up waiting for a lock before the program gives up waiting for it.
     void beforeWriting(Session& session) const override;
+    [[nodiscard]] bool waitsForLocks() const override { return true; }
     [[nodiscard]] runtime::ErrorNumber errorNumberOf(const Diagnostics& diagnostics) const override;
     [[nodiscard]] Failure failureOf(const Diagnostics& diagnostics) const override;
 

@@ -121,7 +121,7 @@ void ConnectionHandle::connect(const QString& connectString)
         const Diagnostics diagnostics = diagnosticsOf(SQL_HANDLE_DBC, get(), TextForm::Utf16);
         DatabaseError error(Failure::Unreachable, ErrorNumber::DatabaseFailure,
                             withoutPasswords(diagnostics, m_passwords));
-        error.explain(connectFaultWords(diagnostics));
+        error.explain(connectFaultWords(diagnostics, driverIn(connectString)));
         throw error;
     }
 }
@@ -193,7 +193,7 @@ void ConnectionHandle::raise(SQLSMALLINT handleType, SQLHANDLE handle,
 }
 
 StatementHandle::StatementHandle(const ConnectionHandle& connection)
-    : m_connection(&connection), m_handle(nullptr)
+    : m_connection(&connection), m_handle(nullptr), m_asked(std::chrono::steady_clock::now())
 {
     SQLHANDLE handle = nullptr;
     if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_STMT, connection.get(), &handle))) {
@@ -233,6 +233,7 @@ bool StatementHandle::fetch()
 
 bool StatementHandle::fetchRowset()
 {
+    m_asked = std::chrono::steady_clock::now();
     return isRow(SQLFetchScroll(get(), SQL_FETCH_NEXT, 0));
 }
 

@@ -53,6 +53,9 @@ public:
 
     /// What a connection needs once, before its first write.
     virtual void beforeWriting(Session& session) const;
+    /// Whether a write then waits for another program's lock for as long as a user can be kept
+    /// waiting; else it is repeated.
+    [[nodiscard]] virtual bool waitsForLocks() const { return false; }
     /// How dates are written into statements; `bySetting` is the dialect that the settings choose.
     [[nodiscard]] virtual SqlDialect dialect(const SqlDialect& bySetting) const;
     /// The statement in the product's own words, where it does not know those of Access.

@@ -95,20 +95,19 @@ QString headRow(const plan::PlanState& state, const std::vector<int>& columns)
 /// The totals of the last page: they go on from page to page.
 QString totalsRow(const plan::PlanPage& page, const std::vector<int>& columns)
 {
-    const auto& totals = page.state.form.Tot;
-    const QString title = page.state.totals.isOld
+    const context::Totals& totals = page.state.totals;
+    const QString title = totals.isOld
                               ? QStringLiteral("Places occupées (comptées avant le dernier choix)")
                               : QStringLiteral("Places occupées");
-    const auto shown = [](const form::Label& total) { return total.visible; };
-    if (std::none_of(totals.begin(), totals.end(), shown)) {
+    if (!totals.isShown()) {
         return {};
     }
     QString html = QStringLiteral("<tfoot><tr><th scope=\"row\" colspan=\"2\">") + title +
                    QStringLiteral("</th>");
     for (const int number : columns) {
-        const form::Label& total = totals.at(static_cast<std::size_t>(number - 1));
-        html += QStringLiteral("<td>") + escaped(total.visible ? total.caption : QString()) +
-                QStringLiteral("</td>");
+        const auto& total = totals.line.at(static_cast<std::size_t>(number - 1));
+        html +=
+            QStringLiteral("<td>") + escaped(total.value_or(QString())) + QStringLiteral("</td>");
     }
     return html + QStringLiteral("</tr></tfoot>\n");
 }

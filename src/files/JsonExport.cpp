@@ -115,8 +115,8 @@ QJsonArray rowArray(const plan::PlanContent& content)
 QJsonArray totalArray(const plan::PlanState& state)
 {
     QJsonArray totals;
-    for (const form::Label& total : state.form.Tot) {
-        totals.append(total.visible ? QJsonValue(total.caption) : QJsonValue());
+    for (const std::optional<QString>& total : state.totals.line) {
+        totals.append(total ? QJsonValue(*total) : QJsonValue());
     }
     return totals;
 }

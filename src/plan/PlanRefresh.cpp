@@ -49,14 +49,13 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
     m_inProgress = refresh;
     startTotals(start);
     const context::Totals totals = m_state.totals;
-    const auto totalLabels = m_state.form.Tot;
     m_sources.reads.begin();
     startRows();
     while (m_nextRow <= m_lastRow) {
         drawRow(m_nextRow++);
         if (m_sources.reads.startAgain()) {
             m_state.totals = totals;
-            m_state.form.Tot = totalLabels;
+            m_state.totals.show(m_state.form);
             startRows();
             continue;
         }

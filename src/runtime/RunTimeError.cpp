@@ -68,7 +68,7 @@ QString explanationOf(ErrorNumber number)
     case ErrorNumber::ItemNotFound:
         return QStringLiteral("Une colonne manque dans la base de données.");
     case ErrorNumber::DatabaseFailure:
-        return QStringLiteral("La base de données ne se laisse pas lire.");
+        return QStringLiteral("La base de données ne se laisse pas lire ou modifier.");
     case ErrorNumber::StatementRefused:
         return QStringLiteral("La base de données refuse une demande.");
     case ErrorNumber::TableMissing:

@@ -6,6 +6,7 @@
 #include "support/Gate.h"
 #include "support/MariaDbServer.h"
 #include "support/TestFolder.h"
+#include "support/XSession.h"
 
 #include <QStatusBar>
 #include <QTimer>
@@ -15,20 +16,24 @@ using namespace test;
 namespace
 {
 
-/// Counts how often a widget is painted.
-class PaintCounter : public QObject
+/// Counts the events of one kind that a widget gets.
+class EventCounter : public QObject
 {
 public:
-    explicit PaintCounter(QObject* watched) { watched->installEventFilter(this); }
+    EventCounter(QObject* watched, QEvent::Type type) : m_type(type)
+    {
+        watched->installEventFilter(this);
+    }
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        m_paintings += event->type() == QEvent::Paint ? 1 : 0;
+        m_count += event->type() == m_type ? 1 : 0;
         return QObject::eventFilter(watched, event);
     }
-    [[nodiscard]] int paintings() const { return m_paintings; }
+    [[nodiscard]] int count() const { return m_count; }
 
 private:
-    int m_paintings = 0;
+    QEvent::Type m_type;
+    int m_count = 0;
 };
 
 /// The window before a server whose answers a gate holds up.
@@ -85,7 +90,7 @@ protected:
 TEST_F(TheWaitingWindow, saysThatItReadsAndIsPaintedMeanwhile)
 {
     open();
-    PaintCounter counter(view()->viewport());
+    const EventCounter counter(view()->viewport(), QEvent::Paint);
     QString told;
     Qt::CursorShape shape = Qt::ArrowCursor;
     bool painted = false;
@@ -94,9 +99,9 @@ TEST_F(TheWaitingWindow, saysThatItReadsAndIsPaintedMeanwhile)
     whileItReads([&] {
         told = footer();
         shape = QGuiApplication::overrideCursor()->shape();
-        const int paintings = counter.paintings();
+        const int paintings = counter.count();
         view()->viewport()->update();
-        painted = until([&] { return counter.paintings() > paintings; });
+        painted = until([&] { return counter.count() > paintings; });
         plan = view()->viewport()->grab().toImage();
     });
     window().forward([this] { form().CbJour.setListIndex(1); });
@@ -134,6 +139,45 @@ TEST_F(TheWaitingWindow, takesWhatTheUserDoesMeanwhileInItsTurn)
     EXPECT_TRUE(untouched);
     EXPECT_TRUE(until([this] { return !form().XpMat.isChecked(); }));
     EXPECT_EQ(form().CbJour.listIndex(), 1);
+}
+
+TEST_F(TheWaitingWindow, marksNothingByAClickThatWasMeantForThePlanBefore)
+{
+    open();
+    const auto absences = [this] { return database.read("select Classe, Debut from abscence"); };
+    const QList<QStringList> before = absences();
+    const QRectF image = overlays(0, 0).ZAbs;
+    const QPoint point = view()->viewport()->mapToGlobal(
+        view()
+            ->toViewport(QPointF(image.left() + image.width() / 4, image.center().y()))
+            .toPoint());
+    const EventCounter releases(view()->viewport(), QEvent::MouseButtonRelease);
+    const auto markByHand = [&] {
+        byHand(QString("keydown shift mousemove %1 %2 click 1 keyup shift")
+                   .arg(point.x())
+                   .arg(point.y()));
+    };
+    whileItReads(markByHand);
+    window().forward([this] { window().shell().engine().refreshPlan(); });
+    EXPECT_TRUE(until([&] { return releases.count() == 1; }));
+    EXPECT_EQ(absences(), before);
+    // The next one is meant for what it finds.
+    markByHand();
+    EXPECT_TRUE(until([&] { return absences() != before; }));
+}
+
+TEST_F(TheWaitingWindow, palesNoRowThatIsNew)
+{
+    open();
+    const QImage before = view()->viewport()->grab().toImage();
+    view()->showProgress();
+    view()->setOutOfDate(true);
+    EXPECT_EQ(view()->viewport()->grab().toImage(), before);
+    view()->showAll();
+    view()->setOutOfDate(true);
+    EXPECT_NE(view()->viewport()->grab().toImage(), before);
+    view()->setOutOfDate(false);
+    EXPECT_EQ(view()->viewport()->grab().toImage(), before);
 }
 
 TEST_F(TheWaitingWindow, putsOffAnActionThatComesByAnotherWay)

@@ -12,7 +12,7 @@ namespace
 
 QString words(const char* state, int code, const char* text = "")
 {
-    return connectFaultWords({state, code, text});
+    return connectFaultWords({state, code, text}, {});
 }
 
 QString explanationOf(const QString& connectString)
@@ -25,6 +25,8 @@ QString explanationOf(const QString& connectString)
 TEST(AConnectFault, isToldInWordsOfWhoIsToMendIt)
 {
     EXPECT_EQ(words("IM002", 0), "la source de données ODBC n’existe pas sur cet ordinateur");
+    EXPECT_EQ(connectFaultWords({"IM002", 0, {}}, "MySQL ODBC 3.51 Driver"),
+              "le pilote ODBC de la base de données ne se charge pas");
     EXPECT_EQ(words("IM003", 160), "le pilote ODBC de la base de données ne se charge pas");
     EXPECT_EQ(words("01000", 0, "[unixODBC][Driver Manager]Can't open lib 'x' : file not found"),
               "le pilote ODBC de la base de données ne se charge pas");

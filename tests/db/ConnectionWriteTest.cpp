@@ -245,3 +245,20 @@ TEST_P(Writing, deletesNothingForAQueryThatIsNoSelectionOfWholeRows)
 }
 
 TEMPORA_ON_BOTH_DATABASES(Writing);
+
+TEST_P(Writing, waitsOnceForARowThatAServerHoldsLocked)
+{
+    if (!database().usesMySql()) {
+        GTEST_SKIP() << "SQLite locks whole files";
+    }
+    database().execute("create table t (a integer)");
+    connection().insert("t", {{"a", integer(1)}}); // readies the connection for writes
+    connection().execute("set innodb_lock_wait_timeout = 1");
+    db::Connection other(database().connectString(), SqlDialect(true));
+    other.execute("set autocommit = 0");
+    other.execute("delete from t");
+    const long long before = connection().statementCount();
+    EXPECT_EQ(errorNumberOf([this] { std::ignore = connection().deleteFirst("select * from t"); }),
+              ErrorNumber::DatabaseFailure);
+    EXPECT_EQ(connection().statementCount(), before + 1);
+}
