@@ -213,8 +213,8 @@ QString PlanTable::note() const
     QStringList totals;
     for (int slot = 1; slot <= form::PlanForm::kSlotLabels; ++slot) {
         const auto& total = m_state.totals.line.at(static_cast<std::size_t>(slot - 1));
-        if (total) {
-            totals << slotTitle(slot) + QStringLiteral(" : ") + *total;
+        if (total.isShown) {
+            totals << slotTitle(slot) + QStringLiteral(" : ") + total.text;
         }
     }
     if (!totals.isEmpty()) {

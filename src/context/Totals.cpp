@@ -12,7 +12,7 @@ void Totals::clear(form::PlanForm& form)
     sums.fill(0);
     lacks.fill(false);
     isOld = false;
-    line.fill(std::nullopt);
+    line.fill({});
     show(form);
 }
 
@@ -20,16 +20,15 @@ void Totals::addRoom(form::PlanForm& form, bool teachers)
 {
     for (std::size_t slot = 0; slot < kSlots; ++slot) {
         sums.at(slot) += SlotSeats.at(slot);
-        line.at(slot).reset();
-        if (sums.at(slot) != 0 || lacks.at(slot)) {
-            QString& text = line.at(slot).emplace(QString::number(sums.at(slot)));
-            if (teachers) {
-                text += u'/' + QString::number(SlotTeacherCount.at(slot));
-            }
-            if (lacks.at(slot)) {
-                text += QStringLiteral(" ?");
-            }
+        Entry& entry = line.at(slot);
+        entry.text = QString::number(sums.at(slot));
+        if (teachers) {
+            entry.text += u'/' + QString::number(SlotTeacherCount.at(slot));
         }
+        if (lacks.at(slot)) {
+            entry.text += QStringLiteral(" ?");
+        }
+        entry.isShown = sums.at(slot) != 0 || lacks.at(slot);
     }
     show(form);
 }
@@ -38,15 +37,14 @@ void Totals::show(form::PlanForm& form) const
 {
     for (std::size_t slot = 0; slot < kSlots; ++slot) {
         form::Label& total = form.Tot.at(slot);
-        total.visible = line.at(slot).has_value();
-        total.caption = line.at(slot).value_or(QStringLiteral("0000"));
+        total.visible = line.at(slot).isShown;
+        total.caption = line.at(slot).text;
     }
 }
 
 bool Totals::isShown() const
 {
-    return std::any_of(line.begin(), line.end(),
-                       [](const std::optional<QString>& text) { return text.has_value(); });
+    return std::any_of(line.begin(), line.end(), [](const Entry& entry) { return entry.isShown; });
 }
 
 void ResetTotals(form::PlanForm& form, Totals& totals)

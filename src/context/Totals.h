@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 
 namespace context
 {
@@ -18,8 +17,12 @@ struct Totals {
     std::array<std::int32_t, kSlots> sums{};             ///< seats taken in all rooms counted
     /// Whether a room counted is of unknown use in the slot.
     std::array<bool, kSlots> lacks{};
-    /// What the line says of each slot: nothing where no seat is taken. `Tot` is written from it.
-    std::array<std::optional<QString>, kSlots> line;
+    /// What the line says of a slot.
+    struct Entry {
+        QString text = QStringLiteral("0000");
+        bool isShown = false; ///< not where no seat is taken
+    };
+    std::array<Entry, kSlots> line; ///< `Tot` is written from it
     /// Whether the next refresh counts at all.
     bool CountingOn = false;
     /// The line was counted before the last choice: a refresh that does not count left it standing.
@@ -32,6 +35,7 @@ struct Totals {
     void addRoom(form::PlanForm& form, bool teachers);
     /// Writes the line into its labels.
     void show(form::PlanForm& form) const;
+    /// Whether the line says anything.
     [[nodiscard]] bool isShown() const;
 };
 

@@ -106,8 +106,8 @@ QString totalsRow(const plan::PlanPage& page, const std::vector<int>& columns)
                    QStringLiteral("</th>");
     for (const int number : columns) {
         const auto& total = totals.line.at(static_cast<std::size_t>(number - 1));
-        html +=
-            QStringLiteral("<td>") + escaped(total.value_or(QString())) + QStringLiteral("</td>");
+        html += QStringLiteral("<td>") + escaped(total.isShown ? total.text : QString()) +
+                QStringLiteral("</td>");
     }
     return html + QStringLiteral("</tr></tfoot>\n");
 }

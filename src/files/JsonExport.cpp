@@ -115,8 +115,8 @@ QJsonArray rowArray(const plan::PlanContent& content)
 QJsonArray totalArray(const plan::PlanState& state)
 {
     QJsonArray totals;
-    for (const std::optional<QString>& total : state.totals.line) {
-        totals.append(total ? QJsonValue(*total) : QJsonValue());
+    for (const context::Totals::Entry& total : state.totals.line) {
+        totals.append(total.isShown ? QJsonValue(total.text) : QJsonValue());
     }
     return totals;
 }

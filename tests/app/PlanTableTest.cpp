@@ -124,7 +124,7 @@ TEST_F(TheTable, tellsTheTotalsOfTheSlotsThatShowOne)
     const QString greyed = "Première ligne, grisée, hors du tableau : R00. Ses séances ne sont pas "
                            "dessinées ici.";
     EXPECT_EQ(table().note(), greyed);
-    desk.state.totals.line[1] = "30";
+    desk.state.totals.line[1] = {"30", true};
     desk.totals.isOld = true;
     EXPECT_EQ(table().note(), greyed + " Places occupées, comptées avant le dernier choix, 9h30 à "
                                        "11h00 : 30.");

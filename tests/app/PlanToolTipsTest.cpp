@@ -87,7 +87,7 @@ TEST(TotalsToolTip, tellsHowOldTotalsAreCountedAnew)
     EXPECT_EQ(totalsToolTip(state), "");
     state.totals.isOld = true;
     EXPECT_EQ(totalsToolTip(state), ""); // nothing was ever counted
-    state.totals.line[0] = "30";
+    state.totals.line[0] = {"30", true};
     EXPECT_EQ(totalsToolTip(state), "Places occupées, comptées avant le dernier choix.\n"
                                     "Choisir le jour les compte à nouveau.");
 }
