@@ -33,6 +33,13 @@ SQLWCHAR* wide(const QString& text)
     return const_cast<SQLWCHAR*>(reinterpret_cast<const SQLWCHAR*>(text.utf16()));
 }
 
+/// How long the manager is told that the text is. Its end is its terminator wherever it can be: one
+/// driver counts a pair of surrogates as one character, and would read on behind the text.
+SQLINTEGER wideLength(const QString& text)
+{
+    return text.contains(QChar::Null) ? static_cast<SQLINTEGER>(text.size()) : SQL_NTS;
+}
+
 SQLCHAR* narrow(const QByteArray& text)
 {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): taken without const, never written
@@ -114,7 +121,7 @@ void ConnectionHandle::connect(const QString& connectString)
     }
     const SQLRETURN result = awaited([&] {
         return SQLDriverConnectW(get(), nullptr, wide(connectString),
-                                 static_cast<SQLSMALLINT>(connectString.size()), nullptr, 0,
+                                 static_cast<SQLSMALLINT>(wideLength(connectString)), nullptr, 0,
                                  nullptr, SQL_DRIVER_NOPROMPT);
     });
     if (!SQL_SUCCEEDED(result)) {
@@ -218,7 +225,7 @@ void StatementHandle::execute(const QString& sql)
         });
     } else {
         result = m_connection->awaited(
-            [&] { return SQLExecDirectW(get(), wide(sql), static_cast<SQLINTEGER>(sql.size())); });
+            [&] { return SQLExecDirectW(get(), wide(sql), wideLength(sql)); });
     }
     if (result != SQL_NO_DATA) { // the answer to a deletion that found no row
         check(result);
