@@ -173,8 +173,6 @@ int Program::serve()
     }
     if (m_exports) {
         drawInMemory();
-    }
-    if (m_exports) {
         startToolkit();
         exportWithoutWindow(line);
         return kDone;

@@ -4,14 +4,12 @@
 #include "app/TemporaProcess.h"
 #include "support/CuttingProxy.h"
 #include "support/MariaDbServer.h"
+#include "support/MutePort.h"
 #include "support/RuntimeMatchers.h"
 #include "support/TestFolder.h"
 #include "support/TinyFaculty.h"
 
 #include <QFile>
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 
 using namespace test;
 
@@ -154,28 +152,6 @@ TEST_P(ProgramFault, leavesTheDatabaseAsItWas)
 
 // The database itself out of reach.
 
-/// A port of this machine that nobody listens on, and that nobody else can take meanwhile.
-class SilentPort
-{
-public:
-    SilentPort()
-    {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t length = sizeof(address);
-        auto* const generic = reinterpret_cast<sockaddr*>(&address);
-        EXPECT_EQ(bind(m_socket.number(), generic, length), 0);
-        EXPECT_EQ(getsockname(m_socket.number(), generic, &length), 0);
-        m_number = ntohs(address.sin_port);
-    }
-    [[nodiscard]] int number() const { return m_number; }
-
-private:
-    Descriptor m_socket{socket(AF_INET, SOCK_STREAM, 0)};
-    int m_number = 0;
-};
-
 class ProgramWithoutServer : public testing::Test
 {
 protected:
@@ -230,7 +206,7 @@ TEST_F(ProgramWithoutServer, namesNoPasswordWhenItIsWrong)
 
 TEST_F(ProgramWithoutServer, saysThatNobodyAnswers)
 {
-    const SilentPort port;
+    const MutePort port(MutePort::Calls::Refused);
     serve("127.0.0.1", "planning", "s3cr&t;Été", "base", port.number());
     const QString errors = errorOfExport();
     EXPECT_TRUE(isConnectionFailure(errors, "SaKalo")) << errors.toStdString();

@@ -213,14 +213,22 @@ TEST_F(TheWaitingWindow, isClosedWhenItHasRead)
 TEST_F(TheWaitingWindow, keepsThePlanWhenItIsResizedMeanwhile)
 {
     open();
+    const QPoint inABox =
+        view()->toViewport(overlays(0, 0).ZAbs.topLeft() + QPointF(4, 4)).toPoint();
+    const QColor before = view()->viewport()->grab().toImage().pixelColor(inABox);
+    ASSERT_GT(before.saturation(), 40); // of a row's colour, as no empty plan is
+    QColor meanwhile;
     QSize size;
     whileItReads([&] {
         window().resize(1340, 600);
         std::ignore = until([this] { return window().size() == QSize(1340, 600); });
         size = window().size();
+        meanwhile = view()->viewport()->grab().toImage().pixelColor(inABox);
     });
     window().forward([this] { form().CbJour.setListIndex(1); });
     EXPECT_EQ(size, QSize(1340, 600));
+    EXPECT_NEAR(meanwhile.hue(), before.hue(), 4);
+    EXPECT_GT(meanwhile.saturation(), 10);
     EXPECT_TRUE(window().shell().engine().content().faults.empty());
 }
 

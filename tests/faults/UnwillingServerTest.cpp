@@ -7,12 +7,10 @@
 #include "plan/FaultWords.h"
 #include "support/CuttingProxy.h"
 #include "support/MariaDbServer.h"
+#include "support/MutePort.h"
 
-#include <arpa/inet.h>
 #include <atomic>
 #include <future>
-#include <netinet/in.h>
-#include <sys/socket.h>
 
 using namespace test;
 using Verdict = CuttingProxy::Verdict;
@@ -256,34 +254,6 @@ TEST_F(ASharedServer, thatTakesThePasswordNoMoreIsToldWithoutIt)
     EXPECT_FALSE(details.contains("mot-de-passe"));
 }
 
-namespace
-{
-
-/// A port of this machine where a call is taken and nobody says a word.
-class MutePort
-{
-public:
-    MutePort()
-    {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t length = sizeof(address);
-        auto* const generic = reinterpret_cast<sockaddr*>(&address);
-        EXPECT_EQ(bind(m_socket.number(), generic, length), 0);
-        EXPECT_EQ(getsockname(m_socket.number(), generic, &length), 0);
-        EXPECT_EQ(listen(m_socket.number(), 1), 0);
-        m_number = ntohs(address.sin_port);
-    }
-    [[nodiscard]] quint16 number() const { return m_number; }
-
-private:
-    Descriptor m_socket{socket(AF_INET, SOCK_STREAM, 0)};
-    quint16 m_number = 0;
-};
-
-} // namespace
-
 // Each of these waits as long as the program does; they wait at the same time.
 TEST_F(ASharedServer, thatFallsSilentIsGivenUpOnce)
 {
@@ -304,7 +274,7 @@ TEST_F(ASharedServer, thatFallsSilentIsGivenUpOnce)
         expectWhole(whole, desk);
     };
     const auto connectToAMutePort = [&] {
-        const MutePort mute;
+        const MutePort mute(MutePort::Calls::Taken);
         const QString there = QString(database.connectString())
                                   .replace(QString(";port=%1OPTION").arg(server.port()),
                                            QString(";port=%1OPTION").arg(mute.number()));

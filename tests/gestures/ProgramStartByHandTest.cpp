@@ -2,45 +2,21 @@
 // why, and the program ends with 1 once that is acknowledged.
 
 #include "app/TemporaProcess.h"
-#include "support/Descriptor.h"
+#include "support/CuttingProxy.h"
+#include "support/Gate.h"
 #include "support/MariaDbServer.h"
+#include "support/MutePort.h"
 #include "support/TestFolder.h"
 #include "support/TinyFaculty.h"
 #include "support/XSession.h"
 
-#include <arpa/inet.h>
 #include <csignal>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 
 using namespace test;
 
 namespace
 {
-
-/// A server that takes every connection and never says a word.
-class SilentServer
-{
-public:
-    SilentServer()
-    {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t length = sizeof(address);
-        auto* const generic = reinterpret_cast<sockaddr*>(&address);
-        EXPECT_EQ(bind(m_socket.number(), generic, length), 0);
-        EXPECT_EQ(listen(m_socket.number(), 8), 0);
-        EXPECT_EQ(getsockname(m_socket.number(), generic, &length), 0);
-        m_port = ntohs(address.sin_port);
-    }
-    [[nodiscard]] int port() const { return m_port; }
-
-private:
-    Descriptor m_socket{socket(AF_INET, SOCK_STREAM, 0)};
-    int m_port = 0;
-};
 
 class TheProgramOnAScreen : public testing::Test
 {
@@ -138,8 +114,8 @@ TEST_F(TheProgramOnAScreen, showsAChoiceThatTheDatabaseDoesNotHave)
 
 TEST_F(TheProgramOnAScreen, isLeftWhileItConnectsToAServerThatIsSilent)
 {
-    const SilentServer server;
-    serve(server.port());
+    const MutePort server(MutePort::Calls::Taken);
+    serve(server.number());
     const QString settings = setup.settingsText();
     program.startWithSettings({});
     byHand("search --sync --onlyvisible --name ^Tempora$");
@@ -151,8 +127,8 @@ TEST_F(TheProgramOnAScreen, isLeftWhileItConnectsToAServerThatIsSilent)
 
 TEST_F(TheProgramOnAScreen, isEndedByASignalWhileItConnects)
 {
-    const SilentServer server;
-    serve(server.port());
+    const MutePort server(MutePort::Calls::Taken);
+    serve(server.number());
     program.startWithSettings({});
     byHand("search --sync --onlyvisible --name ^Tempora$");
     kill(static_cast<pid_t>(program.processId()), SIGTERM);
@@ -161,10 +137,37 @@ TEST_F(TheProgramOnAScreen, isEndedByASignalWhileItConnects)
     EXPECT_EQ(program.errors(), "");
 }
 
+TEST_F(TheProgramOnAScreen, goesOnToItsWindowWhenASlowServerAnswers)
+{
+    TestDatabase served(DatabaseKind::MariaDb);
+    createTinyFaculty(served);
+    const ProgramSetup onServer(served);
+    Gate gate;
+    const CuttingProxy proxy(MariaDbServer::shared().port(), [&gate](const QByteArray&) {
+        gate.pass();
+        return CuttingProxy::Verdict::Pass;
+    });
+    const QString phpFile = onServer.path("app_data/" + served.baseName() + ".php");
+    writeFile(phpFile, fileText(phpFile).replace(QString::number(MariaDbServer::shared().port()),
+                                                 QString::number(proxy.port())));
+    TemporaProcess slow(onServer);
+    slow.environment = program.environment;
+    gate.shut();
+    slow.startWithSettings({});
+    byHand("search --sync --onlyvisible --name ^Tempora$");
+    gate.open();
+    byHand("search --sync --onlyvisible --name Planning");
+    EXPECT_TRUE(slow.isRunning());
+    kill(static_cast<pid_t>(slow.processId()), SIGTERM);
+    EXPECT_TRUE(slow.waitForEnd());
+    EXPECT_EQ(slow.exitCode(), 0);
+    EXPECT_EQ(slow.errors(), "");
+}
+
 TEST_F(TheProgramOnAScreen, saysThatAServerIsSilentWhenNobodyLeavesIt)
 {
-    const SilentServer server;
-    serve(server.port());
+    const MutePort server(MutePort::Calls::Taken);
+    serve(server.number());
     const QString errors = acknowledged();
     EXPECT_TRUE(errors.startsWith("Run-time error '-2147467259':")) << errors.toStdString();
     EXPECT_EQ(program.exitCode(), 1);
