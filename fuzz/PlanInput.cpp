@@ -17,8 +17,7 @@ void addSlot(Input& input, plan::PlanState& state)
 {
     const int number = input.number(1, context::DaySlots::kSlots);
     context::Slot slot{input.text(), 0, input.number(0, kMostMinutes)};
-    runtime::skipOnError(
-        [&] { slot.startSeconds = runtime::secondsOfDay(runtime::normaliseTimeText(slot.start)); });
+    runtime::skipOnError([&] { slot.startSeconds = runtime::secondsOfDay(slot.start); });
     state.slots.set(number, slot);
 }
 

@@ -17,12 +17,10 @@ namespace
 constexpr int kLoadMargin = 450;
 
 /// Start and end of a slot are written with a lower-case "h", 8h30; one in upper case does as well.
-int TimeTextToTime(QString text)
+int TimeTextToTime(const QString& text)
 {
-    return runtime::during(
-        QStringLiteral("Lecture de l’horaire « %1 » d’une séance").arg(text), [&] {
-            return runtime::secondsOfDay(runtime::normaliseTimeText(text.replace(u'h', u':')));
-        });
+    return runtime::during(QStringLiteral("Lecture de l’horaire « %1 » d’une séance").arg(text),
+                           [&] { return runtime::secondsOfDay(text); });
 }
 
 std::optional<Slot> slotIn(const db::Recordset& found)

@@ -12,7 +12,7 @@ namespace
 int secondsOf(const QString& text)
 {
     return runtime::during(QStringLiteral("Lecture de l’heure « %1 »").arg(text),
-                           [&] { return runtime::secondsOfDay(runtime::normaliseTimeText(text)); });
+                           [&] { return runtime::secondsOfDay(text); });
 }
 
 } // namespace

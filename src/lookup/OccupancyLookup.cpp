@@ -4,6 +4,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 #include "timetable/MeetingColumns.h"
+#include "timetable/ReadTimes.h"
 
 #include <optional>
 #include <utility>
@@ -90,7 +91,7 @@ RoomCell OccupancyLookup::cellOf(const db::Recordset& rows, const QString& room,
                                  const QString& seanceKey)
 {
     RoomCell cell;
-    cell.CellDuration = QStringLiteral("90");
+    cell.CellDuration = QString::number(timetable::kUsualLength.value);
     skipOnError([&] { cell.CellStart = m_view.tickTimes.value(SlotIndex(seanceKey)); });
     std::optional<MissingStep> missing;
     cell.CellText = composeCellText(rows.first(), room, m_view.options, m_view.typeNames, missing);

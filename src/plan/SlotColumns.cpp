@@ -51,7 +51,7 @@ std::size_t columnsOf(const context::DaySlots& slots, const PlanRow& row, const 
 {
     std::size_t count = 1;
     runtime::skipOnError([&] {
-        const int start = runtime::secondsOfDay(runtime::normaliseTimeText(box.cell.CellStart));
+        const int start = runtime::secondsOfDay(box.cell.CellStart);
         const auto isCovered = [&](int next) {
             return slots.reaches(next, start, box.minutes) && boxAt(row, next) == nullptr &&
                    !isUnknown(row, next);

@@ -17,8 +17,8 @@ QString normaliseTimeText(const QString& text)
 int secondsOfDay(const QString& text)
 {
     static const QRegularExpression form(
-        QStringLiteral("^([0-9]{1,2}) *: *([0-9]{1,2})?(?: *: *([0-9]{1,2}))?\\z"));
-    const QRegularExpressionMatch match = form.match(trimBlanks(text));
+        QStringLiteral("^([0-9]{1,2}) *: *(?:([0-9]{1,2})(?: *: *([0-9]{1,2}))?)?\\z"));
+    const QRegularExpressionMatch match = form.match(trimBlanks(normaliseTimeText(text)));
     const int hours = match.captured(1).toInt();
     const int minutes = match.captured(2).toInt();
     const int seconds = match.captured(3).toInt();
@@ -35,7 +35,7 @@ int minutesBetween(int fromSeconds, int toSeconds)
 
 int endMinute(const QString& start, int minutes)
 {
-    return secondsOfDay(normaliseTimeText(start)) / 60 + minutes;
+    return secondsOfDay(start) / 60 + minutes;
 }
 
 } // namespace runtime

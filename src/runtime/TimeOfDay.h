@@ -11,8 +11,8 @@ inline constexpr int kMinutesOfDay = 24 * 60;
 /// The text in upper case with every "H" turned into ":", as times are read from it.
 [[nodiscard]] QString normaliseTimeText(const QString& text);
 
-/// Seconds since midnight of a time of day written "8:30" or "8:30:15", outer blanks aside.
-/// "8:" is 8 o'clock, as "8h" is what people write.
+/// Seconds since midnight of a time of day written 8h30, 8H30, 8:30 or 8:30:15, outer blanks aside.
+/// 8h is 8 o'clock.
 /// Error: TypeMismatch for a text that is no time.
 [[nodiscard]] int secondsOfDay(const QString& text);
 

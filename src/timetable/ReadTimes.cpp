@@ -28,8 +28,7 @@ auto unlessItFails(QStringView text, Read read) -> std::optional<decltype(read(Q
 std::optional<MinuteOfDay> readTime(QStringView text)
 {
     return unlessItFails(text, [](const QString& time) {
-        return MinuteOfDay{runtime::secondsOfDay(runtime::normaliseTimeText(time)) /
-                           kSecondsPerMinute};
+        return MinuteOfDay{runtime::secondsOfDay(time) / kSecondsPerMinute};
     });
 }
 

@@ -14,6 +14,8 @@ TEST(TimeText, isNormalisedToUpperCaseWithColons)
 TEST(SecondsOfDay, countFromMidnight)
 {
     EXPECT_EQ(secondsOfDay(QStringLiteral("8:30")), 30600);
+    EXPECT_EQ(secondsOfDay(QStringLiteral("8h30")), 30600);
+    EXPECT_EQ(secondsOfDay(QStringLiteral("8H30")), 30600);
     EXPECT_EQ(secondsOfDay(QStringLiteral("08:30:15")), 30615);
     EXPECT_EQ(secondsOfDay(QStringLiteral(" 0:00 ")), 0);
     EXPECT_EQ(secondsOfDay(QStringLiteral("23:59:59")), 86399);
@@ -27,7 +29,7 @@ TEST(SecondsOfDay, acceptAFullHourWithoutMinutes)
 TEST(SecondsOfDay, mismatchForATextThatIsNoTime)
 {
     for (const char* text :
-         {"", "8", "24:00", "8:60", "8:30:60", "8:30x", "x", "8h30", "-8:30", "8:300", "8:30\n"}) {
+         {"", "8", "24:00", "8:60", "8:30:60", "8:30x", "x", "8::30", "8hh30", "-8:30", "8:300", "8:30\n"}) {
         EXPECT_EQ(test::errorNumberOf([&] { return secondsOfDay(QLatin1String(text)); }),
                   ErrorNumber::TypeMismatch)
             << text;
