@@ -23,7 +23,8 @@ Surroundings withoutEvents(Surroundings surroundings)
 Engine::Engine(Surroundings surroundings) : Engine(std::move(surroundings), StandIns()) {}
 
 Engine::Engine(Surroundings surroundings, const StandIns& standIns)
-    : Engine(std::move(surroundings), plan::PlanState(),
+    : Engine(std::move(surroundings),
+             standIns.state ? standIns.state : std::make_shared<plan::PlanState>(),
              standIns.database ? standIns.database : std::make_shared<db::Database>(), standIns)
 {
     m_state.colors = plan::RowColors(runtime::RandomSource(m_surroundings.seed));
@@ -32,17 +33,18 @@ Engine::Engine(Surroundings surroundings, const StandIns& standIns)
 }
 
 Engine::Engine(const Engine& other, OnCopy /*copy*/)
-    : Engine(withoutEvents(other.m_surroundings), other.m_state, other.m_database, other.m_standIns)
+    : Engine(withoutEvents(other.m_surroundings), std::make_shared<plan::PlanState>(other.m_state),
+             other.m_database, other.m_standIns)
 {
     m_state.form.visible = true;
     m_pageReads.goOnFrom(other.m_pageReads); // a sheet tells the time that the window tells
 }
 
-Engine::Engine(Surroundings surroundings, plan::PlanState state,
+Engine::Engine(Surroundings surroundings, std::shared_ptr<plan::PlanState> state,
                std::shared_ptr<db::Database> database, StandIns standIns)
-    : m_surroundings(std::move(surroundings)), m_state(std::move(state)),
-      m_database(std::move(database)), m_standIns(std::move(standIns)), m_sources(*m_database),
-      m_pageReads(upkeep()), m_rowsAsked(whoKnowsRows(), m_pageReads),
+    : m_surroundings(std::move(surroundings)), m_ownedState(std::move(state)),
+      m_state(*m_ownedState), m_database(std::move(database)), m_standIns(std::move(standIns)),
+      m_sources(*m_database), m_pageReads(upkeep()), m_rowsAsked(whoKnowsRows(), m_pageReads),
       m_absencesAsked(whoKnowsAbsences(), m_pageReads), m_reads(*m_database, m_surroundings.plain),
       m_periods(m_state.form, m_state.period, *m_database, m_state.totals, *this,
                 m_surroundings.today),
@@ -90,6 +92,21 @@ void Engine::chooseDatabase(bool useMySql, bool doublesQuotes)
                                                 : db::SqlDialect::Quotes::AsTheyStand);
     m_state.form.ImgSql.visible = useMySql;
     m_state.form.ImgAccess.visible = !useMySql;
+}
+
+void Engine::startAppearance()
+{
+    m_state.totals.CountingOn = m_state.form.Chk_Compt.isChecked();
+    m_state.layout.CellTextFormat = plan::CellLayout::kCentredLines;
+    adaptCells();
+    m_state.colors.fillRandomly();
+}
+
+void Engine::togglePaleColors()
+{
+    m_state.colors.PaleColors = !m_state.colors.PaleColors;
+    m_state.colors.RedrawMode = false;
+    m_refresh.RefreshPlan();
 }
 
 void Engine::adaptCells()

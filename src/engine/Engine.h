@@ -42,6 +42,7 @@ public:
         lookup::RowSource* rows = nullptr;       ///< answers in the place of the database
         plan::AbsenceSource* absences = nullptr; ///< so does this
         std::shared_ptr<db::Database> database;  ///< to be opened by the engine as its own
+        std::shared_ptr<plan::PlanState> state;  ///< so that the test can change it from outside
     };
 
     explicit Engine(Surroundings surroundings);
@@ -51,8 +52,8 @@ public:
     Engine& operator=(const Engine&) = delete;
 
     /// The choices, what start-up has read, where the plan stands.
-    [[nodiscard]] plan::PlanState& state() { return m_state; }
     [[nodiscard]] const plan::PlanState& state() const { return m_state; }
+    /// The controls, whose setters raise their events.
     [[nodiscard]] form::PlanForm& form() { return m_state.form; }
     [[nodiscard]] const form::PlanForm& form() const { return m_state.form; }
     /// What the last refresh worked out, as far as it has come.
@@ -68,9 +69,10 @@ public:
 
     /// `useMySql` is the setting "Mysql", `doublesQuotes` is "Apostrophes".
     void chooseDatabase(bool useMySql, bool doublesQuotes = false);
+    /// How the plan looks before the settings are read: counting as its box says, centred lines,
+    /// random row colours.
+    void startAppearance();
     void loadPalette(const QString& path) { m_palette.Charger_Palette(path); }
-    /// Fits the boxes to what they show and to the rooms per page.
-    void adaptCells();
     /// Opens the database and reads what the header shows.
     void loadEstablishment(const context::HeaderSource& source);
     void loadSlots();
@@ -84,6 +86,8 @@ public:
     // While the program runs.
 
     void refreshPlan() { m_refresh.RefreshPlan(); }
+    /// Row colours become pale, or full again; redraws.
+    void togglePaleColors();
     /// Works out the rows that a refresh in progress has not come to.
     void finishRefresh() { m_refresh.finishRows(); }
     /// Makes a refresh in progress end where it stands: the window closes.
@@ -114,11 +118,13 @@ private:
     struct OnCopy {
     };
     Engine(const Engine& other, OnCopy copy);
-    Engine(Surroundings surroundings, plan::PlanState state, std::shared_ptr<db::Database> database,
-           StandIns standIns);
+    Engine(Surroundings surroundings, std::shared_ptr<plan::PlanState> state,
+           std::shared_ptr<db::Database> database, StandIns standIns);
 
     void RefreshPlan() override { m_refresh.RefreshPlan(); }
     void PlaceRoomRows() override { placeRoomRows(); }
+    /// Fits the boxes to what they show and to the rooms per page.
+    void adaptCells();
     // Steps on the way to a new room set, which ends with a redraw of its own.
     void Command2_Click() override;
     void Command3_Click() override;
@@ -134,7 +140,8 @@ private:
 
     // In the order in which they build on one another.
     Surroundings m_surroundings;
-    plan::PlanState m_state;
+    std::shared_ptr<plan::PlanState> m_ownedState;
+    plan::PlanState& m_state;
     std::shared_ptr<db::Database> m_database;
     StandIns m_standIns;
     DatabaseSources m_sources;

@@ -29,17 +29,13 @@ QString Shell::setting(const QString& key, const QString& fallback) const
 
 void Shell::Form_Load()
 {
-    plan::PlanState& state = m_engine.state();
     chooseDatabase();
     m_SkinOn =
         converted(QStringLiteral("SKin"), setting(QStringLiteral("SKin"), QStringLiteral("False")),
                   runtime::toBoolean); // no skin is attached: the platform's look serves
-    state.totals.CountingOn = state.form.Chk_Compt.isChecked();
     listExamWeeks();
-    state.layout.CellTextFormat = plan::CellLayout::kCentredLines;
-    m_engine.adaptCells();
-    state.colors.fillRandomly();
-    state.form.Lab_Ver.caption = QStringLiteral(TEMPORA_VERSION);
+    m_engine.startAppearance();
+    form().Lab_Ver.caption = QStringLiteral(TEMPORA_VERSION);
     loadPalette();
     readDisplayOptions();
     readRoomsPerPage();
@@ -50,7 +46,7 @@ void Shell::Form_Load()
     if (converted(QStringLiteral("Grille_Visible"),
                   setting(QStringLiteral("Grille_Visible"), QStringLiteral("True")),
                   runtime::toBoolean)) {
-        state.form.ChkGrille.setChecked(true);
+        form().ChkGrille.setChecked(true);
     }
     m_engine.fillRoomPage();
     m_engine.showCurrentWeek();
@@ -84,7 +80,6 @@ void Shell::listExamWeeks()
 void Shell::loadPalette()
 {
     m_PaletteAtStart = setting(QStringLiteral("Palette"), QString());
-    m_engine.state().colors.PaletteName = m_PaletteAtStart;
     if (!m_PaletteAtStart.isEmpty()) {
         m_engine.loadPalette(m_PaletteAtStart);
     }

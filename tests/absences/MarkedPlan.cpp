@@ -61,7 +61,7 @@ MarkedPlan::MarkedPlan(const TestDatabase& database, std::vector<QStringList> ro
 
 MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<QStringList> rooms,
                        const QString& preparation)
-    : m_engine(surroundings(), {&m_rooms, nullptr, m_database})
+    : m_engine(surroundings(), {&m_rooms, nullptr, m_database, m_state})
 {
     m_engine.chooseDatabase(useMySql);
     m_database->open(connectString);
@@ -69,7 +69,7 @@ MarkedPlan::MarkedPlan(bool useMySql, const QString& connectString, std::vector<
         m_database->Db().execute(preparation);
     }
     m_rooms.classes = std::move(rooms);
-    plan::PlanState& state = m_engine.state();
+    plan::PlanState& state = *m_state;
     state.page.RowsShown = static_cast<std::int16_t>(m_rooms.classes.size());
     for (std::size_t position = 0; position < m_rooms.classes.size(); ++position) {
         state.page.setName(state.form, static_cast<int>(position) + 1, roomName(position));

@@ -75,6 +75,7 @@ private:
     Rooms m_rooms;
     Keys m_keys;
     std::shared_ptr<db::Database> m_database = std::make_shared<db::Database>();
+    std::shared_ptr<plan::PlanState> m_state = std::make_shared<plan::PlanState>();
     engine::Engine m_engine;
 };
 

@@ -36,9 +36,6 @@ TEST_F(TheHeaderBand, tellsWhosePlanThisIs)
 {
     EXPECT_EQ(text("Label4_4"), "Faculté Témoin");
     EXPECT_EQ(text("University"), "Université d'Essai · 2025");
-    engine().state().establishment.AcademicYear = 0;
-    mirror.sync();
-    EXPECT_EQ(text("University"), "Université d'Essai");
 }
 
 TEST_F(TheHeaderBand, tellsThePeriodWithItsDates)

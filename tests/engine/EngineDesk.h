@@ -18,16 +18,15 @@ public:
     /// `through`: the connection string, when it is not the database's own.
     explicit EngineDesk(const TestDatabase& database, bool plain = false,
                         const QString& through = {})
-        : engine(surroundings(plain), {nullptr, nullptr, connection})
+        : engine(surroundings(plain), {nullptr, nullptr, connection, state})
     {
         engine.chooseDatabase(database.usesMySql());
         form.Combo10.design({"1ère Sem. d'Examen", "2ème Sem. d'Examen", "Sem. de Contrôle"}, 0);
-        engine.state().colors.fillRandomly();
         for (form::CheckBox* box : {&form.XOpCl, &form.XOpEns, &form.XpMat}) {
             box->design(true);
         }
         form.Total_L_P.setText("19");
-        engine.adaptCells();
+        engine.startAppearance();
         engine.loadEstablishment(
             {database.baseName(), through.isEmpty() ? database.connectString() : through, "1"});
         engine.loadSlots();
@@ -71,6 +70,7 @@ public:
     QStringList messages;
     /// What the engine sends its statements over.
     std::shared_ptr<db::Database> connection = std::make_shared<db::Database>();
+    std::shared_ptr<plan::PlanState> state = std::make_shared<plan::PlanState>();
     engine::Engine engine;
     form::PlanForm& form = engine.form();
 

@@ -177,6 +177,6 @@ TEST_F(TheControls, ofACopyLeadNowhere)
     EXPECT_FALSE(desk().engine.state().totals.CountingOn);
     EXPECT_EQ(desk().engine.state().page.PageStart, 0);
     // Nor does what is copied back bring the copy's events along.
-    desk().engine.state() = copy;
+    *desk().state = copy;
     EXPECT_EQ(refreshesOf([this] { form().OptB().select(); }), 1U);
 }

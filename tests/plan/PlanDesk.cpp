@@ -44,7 +44,7 @@ bool FakeAbsences::Existe_AbsEtud(const plan::Marqueur&, const QString& classNam
 }
 
 PlanDesk::PlanDesk(int roomCount, const QString& lines, int places)
-    : engine(surroundings(), {&rows, &absences, nullptr})
+    : engine(surroundings(), {&rows, &absences, nullptr, m_state})
 {
     writeDatabase(roomCount, places);
     form.Total_L_P.setText(lines);

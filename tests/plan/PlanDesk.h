@@ -72,6 +72,7 @@ private:
     void yield();
 
     TestDatabase m_testDatabase{DatabaseKind::Sqlite};
+    std::shared_ptr<plan::PlanState> m_state = std::make_shared<plan::PlanState>();
     std::function<void()> m_event;
     int m_eventYield = 0;
 
@@ -83,7 +84,7 @@ public:
     std::vector<std::pair<QString, QString>> messages;
     engine::Engine engine;
 
-    plan::PlanState& state = engine.state();
+    plan::PlanState& state = *m_state;
     form::PlanForm& form = state.form;
     context::Totals& totals = state.totals;
     context::RoomPage& page = state.page;

@@ -39,6 +39,10 @@ TEST(Heading, namesTheEstablishmentTheUniversityAndTheYear)
     EXPECT_EQ(heading(desk).establishment, establishment().EstablishmentName);
     EXPECT_EQ(heading(desk).university, "Université du Nord");
     EXPECT_EQ(heading(desk).universityAndYear(), "Université du Nord · 2026");
+    plan::PlanState state = desk.state;
+    state.establishment = establishment();
+    state.establishment.AcademicYear = 0; // none is known
+    EXPECT_EQ(print::headingOf(state).universityAndYear(), "Université du Nord");
 }
 
 TEST(Heading, namesThePeriodWithItsDates)
