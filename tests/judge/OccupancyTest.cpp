@@ -29,6 +29,7 @@ namespace
 /// One question to both.
 struct Question {
     QString room;
+    int day = timetable::kMonday;
     int slot = 1;
     Week week = Week::Every;
     MeetingKind kind = MeetingKind::Course;
@@ -106,7 +107,7 @@ public:
                 question.kind != MeetingKind::Exam || meeting.examWeek == question.examWeek;
             const bool isOfItsDate =
                 question.kind != MeetingKind::MakeUp || meeting.date == RandomTimetable::date();
-            if (meeting.kind == question.kind && meeting.slot.day == timetable::kMonday &&
+            if (meeting.kind == question.kind && meeting.slot.day == question.day &&
                 meeting.slot.number == question.slot && isOfItsWeek && isOfItsDate) {
                 found.push_back(holding);
             }
@@ -126,19 +127,21 @@ public:
 private:
     [[nodiscard]] static QString keyOf(const Question& question)
     {
-        return QStringLiteral("Lundi%1").arg(question.slot);
+        const QString day = question.day == timetable::kMonday ? "Lundi" : "Mardi";
+        return day + QString::number(question.slot);
     }
     [[nodiscard]] When whenOf(const Question& question) const
     {
         switch (question.kind) {
         case MeetingKind::Course:
-            return When::weekday(timetable::kMonday, question.week);
+            return When::weekday(question.day, question.week);
         case MeetingKind::MakeUp:
             return When::date(RandomTimetable::date(), question.week);
         case MeetingKind::Exam:
             break;
         }
-        return When::date(RandomTimetable::date().addDays(56 + 7 * question.examWeek));
+        return When::date(
+            RandomTimetable::date().addDays(56 + 7 * question.examWeek + question.day));
     }
     [[nodiscard]] RoomId roomOf(const QString& name) const
     {
@@ -174,9 +177,9 @@ protected:
             return; // a name that a plain statement cannot hold: the plan knows nothing of it
         }
         SCOPED_TRACE(testing::Message()
-                     << "room " << question.room.toStdString() << ", slot " << question.slot
-                     << ", week " << static_cast<int>(question.week) << ", kind "
-                     << static_cast<int>(question.kind));
+                     << "room " << question.room.toStdString() << ", day " << question.day
+                     << ", slot " << question.slot << ", week " << static_cast<int>(question.week)
+                     << ", kind " << static_cast<int>(question.kind));
         if (rows->isEmpty()) {
             EXPECT_TRUE(ways.holdings(question).empty()) << "the plan finds no row";
             ++free;
@@ -186,6 +189,15 @@ protected:
         }
         ++cells;
     }
+    void compareSlot(BothWays& ways, const QString& room, int day, int slot)
+    {
+        for (const Week week : {Week::Every, Week::A, Week::B}) {
+            compare(ways, {room, day, slot, week, MeetingKind::Course});
+            compare(ways, {room, day, slot, week, MeetingKind::MakeUp});
+        }
+        compare(ways, {room, day, slot, Week::Every, MeetingKind::Exam, 1});
+        compare(ways, {room, day, slot, Week::Every, MeetingKind::Exam, 2});
+    }
     /// All that can be asked about one period.
     void comparePeriod(BothWays& ways, const QStringList& rooms)
     {
@@ -194,13 +206,10 @@ protected:
             if (!ways.knows(room) || room.contains(u'\\')) {
                 continue;
             }
-            for (int slot = 1; slot <= 5; ++slot) {
-                for (const Week week : {Week::Every, Week::A, Week::B}) {
-                    compare(ways, {room, slot, week, MeetingKind::Course});
-                    compare(ways, {room, slot, week, MeetingKind::MakeUp});
+            for (const int day : {timetable::kMonday, timetable::kMonday + 1}) {
+                for (int slot = 1; slot <= 5; ++slot) {
+                    compareSlot(ways, room, day, slot);
                 }
-                compare(ways, {room, slot, Week::Every, MeetingKind::Exam, 1});
-                compare(ways, {room, slot, Week::Every, MeetingKind::Exam, 2});
             }
         }
     }

@@ -133,7 +133,7 @@ RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engi
     };
     const auto roomOrNull = [&] { return chance(60) ? QString(kNull) : anyOf(m_rooms); };
     const auto key = [&]() -> QString {
-        const QString day = chance(90) ? "Lundi" : chance(50) ? "lundi" : "Mardi";
+        const QString day = chance(80) ? "Lundi" : chance(25) ? "lundi" : "Mardi";
         return day + QString::number(1 + pick(4));
     };
     const auto course = [&] {
