@@ -384,6 +384,13 @@ void PlClasse::leave()
     QCoreApplication::quit();
 }
 
+void PlClasse::saveOptions()
+{
+    if (!hasEnded()) {
+        runtime::skipOnError([this] { m_shell.saveOptions(); });
+    }
+}
+
 void PlClasse::closeEvent(QCloseEvent* event)
 {
     if (m_waiting.isServing()) {

@@ -49,6 +49,10 @@ public:
     /// dialog is open. Before the window is shown there is nothing to be saved.
     void leave();
 
+    /// The system is about to end the session, which may still be called off: saves what closing
+    /// the window saves. What cannot be saved is told when the window closes.
+    void saveOptions();
+
     /// Tells of a fault and ends the program with exit code 1, without saving anything. Once the
     /// window is closed nothing is told.
     void fail(const runtime::RunTimeError& error);

@@ -88,8 +88,10 @@ int runWindow(app::Application& application, app::EndSignal& signal, const shell
     const auto untie =
         qScopeGuard([&application] { application.onFault = app::Application::tellAndExit; });
     signal.serve([&window] { window.leave(); });
+    // The user may still think better of logging out; the toolkit closes the window once it is
+    // done.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
-                     [&window] { window.leave(); });
+                     [&window] { window.saveOptions(); });
     const auto serveNoMore = qScopeGuard([&signal] { signal.stop(); });
     return window.run(line);
 }

@@ -52,10 +52,7 @@ void Shell::fitPicture()
 void Shell::Form_KeyDown(int keyCode)
 {
     if (keyCode == kKeyF2) {
-        plan::RowColors& colors = m_engine.state().colors;
-        colors.PaleColors = !colors.PaleColors;
-        colors.RedrawMode = false;
-        m_engine.refreshPlan();
+        m_engine.togglePaleColors();
     }
 }
 
@@ -67,6 +64,18 @@ void Shell::Form_Unload()
     m_engine.abandonRefresh();
     form().visible = false;
     m_engine.closeDatabase();
+    writeOptions();
+}
+
+void Shell::saveOptions()
+{
+    if (m_loaded) {
+        writeOptions();
+    }
+}
+
+void Shell::writeOptions()
+{
     const QString& palette = m_engine.state().colors.PaletteName;
     if (palette != m_PaletteAtStart) {
         m_settings.save(QStringLiteral("Palette"), palette);

@@ -38,6 +38,9 @@ public:
     /// Closes the database and writes back the settings that changed. Closing twice does nothing.
     /// Error: PathFileAccess when the settings cannot be saved; all else is done by then.
     void Form_Unload();
+    /// Writes back the settings that changed, and goes on; before start-up has read them and once
+    /// all is closed there are none. Error: PathFileAccess.
+    void saveOptions();
     /// Gives every control the font of `Label20` and redraws.
     void Label20_Click();
     /// Asks for the focus to go to `Colorer`. The backgrounds of the option controls need no
@@ -73,6 +76,7 @@ private:
     void readDisplayOptions();
     [[nodiscard]] bool readOption(const QString& key) const;
     void readRoomsPerPage();
+    void writeOptions();
     void saveOption(const SavedOption& option);
     [[nodiscard]] QString setting(const QString& key, const QString& fallback) const;
 

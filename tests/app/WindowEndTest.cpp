@@ -45,13 +45,14 @@ protected:
     }
 
     QStringList messages; ///< of the boxes that were shown
-    DialogAnswer answer{[this](QDialog& dialog) {
+    std::function<void(QDialog&)> onDialog = [this](QDialog& dialog) {
         const auto* box = qobject_cast<QMessageBox*>(&dialog);
         messages.append(box != nullptr ? box->objectName() + ": " + box->text() + "\n\n" +
                                              box->informativeText()
                                        : "no box");
         dialog.reject();
-    }};
+    };
+    DialogAnswer answer{[this](QDialog& dialog) { onDialog(dialog); }};
 
 private:
     QTimer m_poll;
@@ -125,6 +126,8 @@ TEST_F(WindowsLife, endsWithABoxAndOneWhenTheSettingsCannotBeSaved)
     const WithoutPrivileges ordinaryUser;
     whenItServes([&] {
         window().forward([&] { form().Total_L_P.setText("3"); });
+        window().saveOptions(); // the session is about to end: nobody could acknowledge a box
+        EXPECT_EQ(messages, QStringList());
         window().close();
     });
     EXPECT_EQ(run(), 1);
@@ -133,6 +136,21 @@ TEST_F(WindowsLife, endsWithABoxAndOneWhenTheSettingsCannotBeSaved)
                                      "\n\nEnregistrement des paramètres (« " +
                                      setup.settingsFile() + " »)\n\n" +
                                      "Run-time error '75':\n\nPath/File access error"}));
+}
+
+TEST_F(WindowsLife, endsOverAnOpenDialog)
+{
+    create();
+    onDialog = [this](QDialog&) { window().leave(); };
+    whenItServes([this] {
+        window().forward([this] { form().Total_L_P.setText("3"); });
+        control<QPushButton>("Command4")->click(); // asks for a palette file, and draws again
+    });
+    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(answer.count(), 1);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_FALSE(window().failed());
+    EXPECT_EQ(setup.saved("Total_L_P"), "3");
 }
 
 TEST_F(WindowsLife, endsWithABoxAndOneAfterAFaultThatNobodyExpects)

@@ -210,6 +210,35 @@ TEST_F(TheWaitingWindow, isClosedWhenItHasRead)
     EXPECT_EQ(setup.saved("Total_L_P"), "3");
 }
 
+TEST_F(TheWaitingWindow, isLeftWhenItHasRead)
+{
+    open();
+    whileItReads([this] { window().leave(); });
+    window().forward([this] {
+        form().Total_L_P.setText("3");
+        form().CbJour.setListIndex(1);
+    });
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_FALSE(window().failed());
+    EXPECT_EQ(setup.saved("Total_L_P"), "3");
+}
+
+TEST_F(TheWaitingWindow, savesItsOptionsWhileItReads)
+{
+    open();
+    QString saved;
+    whileItReads([&] {
+        window().saveOptions();
+        saved = setup.saved("Total_L_P");
+    });
+    window().forward([this] {
+        form().Total_L_P.setText("3");
+        form().CbJour.setListIndex(1);
+    });
+    EXPECT_EQ(saved, "3");
+    EXPECT_TRUE(window().isVisible());
+}
+
 TEST_F(TheWaitingWindow, keepsThePlanWhenItIsResizedMeanwhile)
 {
     open();
