@@ -107,16 +107,17 @@ private:
 
     void begin(const QString& table, Victim& victim)
     {
-        victim.program = started(table, victim.left);
+        constexpr int more = 1'000'000; // than it lives to make
+        victim.program = started(table, more);
         victim.program->write("go\n");
         victim.lifetime = m_chance.bounded(5, 45);
     }
 
-    /// Hears what the program tells. Kills it when its time has come, and begins another one for
-    /// the toggles that are left.
+    /// Hears what the program tells. Kills it when its time has come, which is while it toggles on,
+    /// and begins another one for the toggles that are left.
     void goOn(const QString& table, Victim& victim)
     {
-        if (victim.left == 0) {
+        if (victim.left <= 0) {
             return;
         }
         QProcess& program = *victim.program;
@@ -125,22 +126,23 @@ private:
             victim.left = 0;
             return;
         }
-        const bool killed = victim.lifetime <= 0;
-        if (killed) {
+        hear(victim);
+        if (victim.lifetime <= 0 || victim.left <= 0) {
             program.kill();
-            std::ignore = program.waitForFinished(longestRunMilliseconds);
+            EXPECT_TRUE(program.waitForFinished(longestRunMilliseconds));
+            hear(victim);
+            ++kills;
+            if (victim.left > 0) {
+                begin(table, victim);
+            }
         }
-        while (program.canReadLine()) {
-            note(log, program.readLine());
+    }
+    void hear(Victim& victim)
+    {
+        while (victim.program->canReadLine()) {
+            note(log, victim.program->readLine());
             --victim.left;
             --victim.lifetime;
-        }
-        if (victim.left == 0) {
-            EXPECT_TRUE(program.state() == QProcess::NotRunning ||
-                        program.waitForFinished(longestRunMilliseconds));
-        } else if (killed) {
-            ++kills;
-            begin(table, victim);
         }
     }
 
@@ -213,7 +215,7 @@ TEST_P(KilledPrograms, leaveNoRowThatIsHalfOrUnaccountedFor)
     toggleAndKill(QStringLiteral("class"), 8, toggles > 0 ? toggles : 40);
     const QList<QStringList> rows = classAbsences(database());
     EXPECT_EQ(rows.count(classAbsence(classA)), rows.size());
-    EXPECT_GT(kills, 0);
+    EXPECT_GE(kills, 8);
     EXPECT_LE(std::abs(static_cast<int>(rows.size()) - (log.added - log.removed)), kills)
         << log.added << " added, " << log.removed << " removed, " << rows.size() << " rows, "
         << kills << " kills";

@@ -1,4 +1,4 @@
-// A server that goes away, or falls silent, before, during and after every statement of a plan.
+// A server that goes away before, during and after every statement of a start and of a plan.
 
 #include "engine/EngineDesk.h"
 #include "faults/ShownCells.h"
@@ -44,6 +44,39 @@ protected:
         loseAfter(kAll, 0);
         desk.engine.refreshPlan();
         return kAll - passing;
+    }
+
+    /// A start that loses nothing.
+    struct Starts {
+        int connecting = 0; ///< commands until the connection is open
+        int commands = 0;   ///< until the plan is drawn
+        ShownCells whole;
+        QStringList header;
+    };
+    Starts countStarts()
+    {
+        Starts starts;
+        const QString connectString = proxy.through(database.connectString());
+        loseAfter(kAll, 0);
+        db::Database connection(true);
+        connection.open(connectString);
+        starts.connecting = kAll - passing;
+        connection.close();
+        loseAfter(kAll, 0);
+        const EngineDesk desk(database, GetParam().plain, connectString);
+        starts.commands = kAll - passing;
+        starts.whole = shownCells(desk.engine.content());
+        starts.header = shownHeader(desk);
+        EXPECT_GT(starts.commands, starts.connecting + 8);
+        return starts;
+    }
+    /// What start-up has read beside the plan.
+    static QStringList shownHeader(const EngineDesk& desk)
+    {
+        const form::PlanForm& form = desk.engine.form();
+        return QStringList{desk.engine.state().establishment.EstablishmentName,
+                           form.Label4.at(1).caption, form.Label4.at(3).caption} +
+               form.CbTranche.items() + form.cb_Locaux.items() + form.Combo1.items();
     }
 
     TestDatabase database{DatabaseKind::MariaDb};
@@ -97,6 +130,39 @@ TEST_P(ALostAnswer, onceIsNoticedByNobody)
         EXPECT_EQ(shownCells(desk.engine.content()), whole) << cut;
         EXPECT_TRUE(desk.engine.content().faults.empty()) << cut;
     }
+}
+
+TEST_P(ALostAnswer, onceAtTheStartIsNoticedByNobody)
+{
+    const Starts starts = countStarts();
+    for (int cut = starts.connecting; cut < starts.commands; cut += GetParam().step) {
+        loseAfter(cut, 1);
+        const EngineDesk desk(database, GetParam().plain, proxy.through(database.connectString()));
+        EXPECT_EQ(shownCells(desk.engine.content()), starts.whole) << cut;
+        EXPECT_TRUE(desk.engine.content().faults.empty()) << cut;
+        EXPECT_EQ(shownHeader(desk), starts.header) << cut;
+    }
+}
+
+TEST_P(ALostAnswer, forGoodAtTheStartEndsItOrShowsNoRoomAsFree)
+{
+    const Starts starts = countStarts();
+    int ended = 0;
+    for (int cut = 0; cut < starts.commands; cut += GetParam().step) {
+        loseAfter(cut, kAll);
+        std::optional<EngineDesk> desk;
+        try {
+            desk.emplace(database, GetParam().plain, proxy.through(database.connectString()));
+        } catch (const runtime::RunTimeError& error) {
+            EXPECT_EQ(error.number(), runtime::ErrorNumber::DatabaseFailure) << cut;
+            ++ended;
+            continue;
+        }
+        expectNothingFreed(starts.whole, desk->engine.content(), QString::number(cut));
+        const bool isWhole = shownCells(desk->engine.content()) == starts.whole;
+        EXPECT_TRUE(isWhole || !desk->engine.content().faults.empty()) << cut;
+    }
+    EXPECT_GT(ended, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Over, ALostAnswer,

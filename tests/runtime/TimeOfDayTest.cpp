@@ -28,8 +28,8 @@ TEST(SecondsOfDay, acceptAFullHourWithoutMinutes)
 
 TEST(SecondsOfDay, mismatchForATextThatIsNoTime)
 {
-    for (const char* text :
-         {"", "8", "24:00", "8:60", "8:30:60", "8:30x", "x", "8::30", "8hh30", "-8:30", "8:300", "8:30\n"}) {
+    for (const char* text : {"", "8", "24:00", "8:60", "8:30:60", "8:30x", "x", "8::30", "8hh30",
+                             "-8:30", "8:300", "8:30\n"}) {
         EXPECT_EQ(test::errorNumberOf([&] { return secondsOfDay(QLatin1String(text)); }),
                   ErrorNumber::TypeMismatch)
             << text;

@@ -78,7 +78,21 @@ void XSession::startWindowManager()
 
 void byHand(const QString& commands)
 {
-    runProgram(findProgram(QStringLiteral("xdotool")), commands.split(u' ', Qt::SkipEmptyParts));
+    const QString hand = findProgram(QStringLiteral("xdotool"));
+    const QStringList words = commands.split(u' ', Qt::SkipEmptyParts);
+    constexpr int attempts = 100; // each lost to a window that vanished under the search
+    for (int attempt = 1; words.contains(QStringLiteral("--sync")) && attempt < attempts;
+         ++attempt) {
+        try {
+            runProgram(hand, words);
+            return;
+        } catch (const std::runtime_error& error) {
+            if (!QByteArray(error.what()).contains("BadWindow")) {
+                throw;
+            }
+        }
+    }
+    runProgram(hand, words);
 }
 
 } // namespace test
