@@ -128,10 +128,20 @@ Reading reading(std::size_t choice)
 void checkLiterals(const QStringList& texts, const Reading& reading)
 {
     for (const QString& text : texts) {
-        require(reading.dialect.holds(text) == !reading.dialect.held({text}).isEmpty(),
-                "a text is held or not", text);
+        require(reading.dialect.isOneLiteral(text) == !reading.dialect.askable({text}).isEmpty(),
+                "a text can be asked about or not", text);
+        if (reading.dialect.isOneLiteral(text)) {
+            const Parts parts =
+                partsOf(reading.dialect.literal(text) + u' ', reading.backslashEscapes);
+            require(parts.words == u"L " && parts.texts.size() == 1,
+                    "what is one literal is read as one", text, parts.words);
+        }
+        require(!reading.dialect.isRefused(text) || !reading.dialect.isOneLiteral(text),
+                "one literal is not refused", text);
     }
-    const QStringList held = reading.dialect.held(texts);
+    QStringList held = texts;
+    held.removeIf([&reading](const QString& text) { return !reading.dialect.holds(text); });
+    held.removeDuplicates();
     for (const QString& text : held) {
         const Parts parts = partsOf(reading.dialect.literal(text) + u' ', reading.backslashEscapes);
         require(parts.words == u"L " && parts.texts == QStringList(text), "a literal is its text",

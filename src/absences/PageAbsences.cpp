@@ -18,8 +18,8 @@ void PageAbsences::prepare(const plan::AbsenceQuestions& questions)
 {
     m_togglesBefore = m_plain.toggleCount();
     m_date = questions.date;
-    m_classNames = m_database.dialect().held(questions.classNames);
-    m_starts = m_database.dialect().held(questions.starts);
+    m_classNames = m_database.dialect().askable(questions.classNames);
+    m_starts = m_database.dialect().askable(questions.starts);
     m_classesAsked = QSet<QString>(m_classNames.begin(), m_classNames.end());
     m_classes.reset();
     m_students.reset();
@@ -111,7 +111,7 @@ bool PageAbsences::Existe_AbsClasse(const plan::Marqueur& marker, const QString&
     if (m_classes && isPrepared(marker, className)) {
         return m_classes->contains({className, marker.Debut});
     }
-    return m_tables[kClasses].ask(m_database.dialect().holds(className),
+    return m_tables[kClasses].ask({className, marker.Debut}, m_database.dialect(),
                                   [&] { return m_plain.Existe_AbsClasse(marker, className); });
 }
 
@@ -121,8 +121,7 @@ bool PageAbsences::Existe_AbsEtud(const plan::Marqueur& marker, const QString& c
     if (m_students && className == name && isPrepared(marker, className)) {
         return m_students->contains({className, marker.Debut});
     }
-    return m_tables[kStudents].ask(m_database.dialect().holds(className) &&
-                                       m_database.dialect().holds(name),
+    return m_tables[kStudents].ask({className, name, marker.Debut}, m_database.dialect(),
                                    [&] { return m_plain.Existe_AbsEtud(marker, className, name); });
 }
 

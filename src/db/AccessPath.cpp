@@ -50,7 +50,7 @@ AccessPaths sqliteAccessPaths(const Recordset& explained)
             return std::nullopt;
         }
         if (detail.startsWith(u"SEARCH ") || detail.startsWith(u"SCAN ")) {
-            paths.push_back({{}, detail});
+            paths.push_back({{}, detail, false});
         } else if (detail != u"COMPOUND QUERY" && detail != u"LEFT-MOST SUBQUERY" &&
                    detail != u"UNION ALL") {
             return std::nullopt; // rows gathered by several indexes, for one
@@ -66,7 +66,9 @@ AccessPaths mariaDbAccessPaths(const Recordset& explained)
         if (textOf(line, QStringLiteral("select_type")) == u"UNION RESULT") {
             continue; // reads no table
         }
-        paths.push_back({textOf(line, QStringLiteral("table")), mariaDbPath(line)});
+        paths.push_back(
+            {textOf(line, QStringLiteral("table")), mariaDbPath(line),
+             textOf(line, QStringLiteral("possible_keys")) == textOf(line, QStringLiteral("key"))});
     }
     return paths;
 }

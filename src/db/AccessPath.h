@@ -25,6 +25,8 @@ struct AccessPath {
     /// leading columns, each of them fixed. Within the rows that agree in these columns the order
     /// is then the index's, whatever else the queries ask. Empty for a path of any other kind.
     QString path;
+    /// The database says that no other index could serve the query.
+    bool isOnlyOne = false;
 
     friend bool operator==(const AccessPath&, const AccessPath&) = default;
 };
@@ -32,7 +34,8 @@ struct AccessPath {
 /// A path for each joined query; nothing when the answer does not read as that.
 using AccessPaths = std::optional<std::vector<AccessPath>>;
 
-/// From the rows of SQLite's "explain query plan", which does not tell the table behind a view.
+/// From the rows of SQLite's "explain query plan", which tells neither the table behind a view nor
+/// what else could serve.
 [[nodiscard]] AccessPaths sqliteAccessPaths(const Recordset& explained);
 /// From the rows of MariaDB's "explain partitions" or MySQL's "explain".
 [[nodiscard]] AccessPaths mariaDbAccessPaths(const Recordset& explained);

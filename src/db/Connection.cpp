@@ -3,7 +3,6 @@
 #include "db/EqualTexts.h"
 #include "db/JoinedQueries.h"
 #include "db/ParameterSet.h"
-#include "db/QueryPlans.h"
 #include "db/Repeated.h"
 #include "db/ResultReader.h"
 #include "db/Session.h"
@@ -52,17 +51,23 @@ std::vector<Recordset> Connection::openJoined(const QStringList& queries)
 
 RowOrder Connection::joinedRowOrder() const
 {
-    return db::joinedRowOrder(session());
+    return session().queryPlans().joinedRowOrder();
 }
 
 std::vector<RowOrder> Connection::rowOrders(const std::vector<WideQuery>& queries)
 {
-    return db::rowOrders(queries, session());
+    return session().queryPlans().rowOrders(queries);
 }
 
 std::vector<TextGroups> Connection::equalTexts(const std::vector<TextQuestion>& questions)
 {
     return db::equalTexts(questions, session());
+}
+
+std::vector<std::vector<TextCount>>
+Connection::countTexts(const std::vector<CountQuestion>& questions, const QStringList& texts)
+{
+    return db::countTexts(questions, texts, session());
 }
 
 std::optional<Packing> Connection::packing() const

@@ -6,6 +6,7 @@
 #include "db/Recordset.h"
 #include "db/RowOrder.h"
 #include "db/SqlDialect.h"
+#include "db/TextCounts.h"
 #include "db/TextQuestion.h"
 
 #include <QString>
@@ -46,9 +47,8 @@ public:
     [[nodiscard]] Recordset open(const QString& sql);
     /// Runs a query and counts its rows without reading their fields.
     [[nodiscard]] int recordCount(const QString& sql);
-    /// Runs several queries, each without its "Select", as one statement. Returns the rows of each,
-    /// a number put before their first column; fewer record sets than queries when not so many can
-    /// be joined.
+    /// Runs several queries, each without its "Select", as one statement, or a few where not so
+    /// many can be joined. Returns the rows of each, a number put before their first column.
     [[nodiscard]] std::vector<Recordset> openJoined(const QStringList& queries);
     /// Where these rows stand among those that each query alone would bring: `Same` or `Untold`.
     [[nodiscard]] RowOrder joinedRowOrder() const;
@@ -58,6 +58,10 @@ public:
     /// Which of the texts of each question are equal where its column is compared with them; by one
     /// statement as a rule (see EqualTexts.h).
     [[nodiscard]] std::vector<TextGroups> equalTexts(const std::vector<TextQuestion>& questions);
+    /// How many rows each of the texts finds in the questions' columns; by one statement (see
+    /// TextCounts.h).
+    [[nodiscard]] std::vector<std::vector<TextCount>>
+    countTexts(const std::vector<CountQuestion>& questions, const QStringList& texts);
     /// How a query's rows can arrive as one text each (see PackedRow.h); nothing where they cannot.
     [[nodiscard]] std::optional<Packing> packing() const;
     /// The condition, with a hint to the database that most rows of the table meet it.

@@ -20,6 +20,12 @@ bool concernsAllReads(Failure failure)
     return true;
 }
 
+DatabaseError nameRefused()
+{
+    return {Failure::Refused, runtime::ErrorNumber::StatementRefused,
+            QStringLiteral("The name cannot stand between quotes as it is.")};
+}
+
 Failure failureOf(const runtime::RunTimeError& error)
 {
     if (const auto* told = dynamic_cast<const DatabaseError*>(&error)) {

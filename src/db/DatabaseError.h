@@ -42,6 +42,10 @@ private:
     Failure m_failure;
 };
 
+/// What a statement is refused with that is known to be none, because a name cannot stand between
+/// its quotes as it is.
+[[nodiscard]] DatabaseError nameRefused();
+
 /// Runs `step` and skips it when the database turns it down. What concerns all reads is raised.
 /// Tells whether it succeeded.
 template <typename Step>

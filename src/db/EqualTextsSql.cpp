@@ -1,5 +1,7 @@
 #include "db/EqualTextsSql.h"
 
+#include "db/NumberedTexts.h"
+
 #include <QStringList>
 #include <algorithm>
 #include <cstddef>
@@ -25,37 +27,15 @@ QString hexadecimal(const QString& text)
     return QStringLiteral("x'") + QString::fromLatin1(text.toUtf8().toHex()) + u'\'';
 }
 
-/// The texts with their numbers as rows, on SQLite, which takes any number of them.
 QString numberedTexts(const std::vector<QString>& texts)
 {
-    QStringList rows;
+    QStringList literals;
     for (const QString& text : texts) {
-        const QString literal =
-            isOdd(text) ? QStringLiteral("cast(") + hexadecimal(text) + QStringLiteral(" as text)")
-                        : quoted(text);
-        rows << u'(' + QString::number(rows.size() + 1) + u',' + literal + u')';
+        literals << (isOdd(text)
+                         ? QStringLiteral("cast(") + hexadecimal(text) + QStringLiteral(" as text)")
+                         : quoted(text));
     }
-    return QStringLiteral("values ") + rows.join(u',');
-}
-
-/// The numbers from 1 up to `count` as a query on any server.
-QString numbers(std::size_t count)
-{
-    constexpr int base = 10;
-    QString digit = QStringLiteral("(select 0 as d");
-    for (int value = 1; value < base; ++value) {
-        digit += QStringLiteral(" union all select ") + QString::number(value);
-    }
-    digit += u')';
-    QString sum = QStringLiteral("1");
-    QStringList places;
-    for (std::size_t unit = 1; unit < std::max<std::size_t>(count, 2); unit *= base) {
-        const QString name = QStringLiteral("d") + QString::number(places.size());
-        sum += u'+' + QString::number(unit) + u'*' + name + QStringLiteral(".d");
-        places << digit + u' ' + name;
-    }
-    return QStringLiteral("select ") + sum + QStringLiteral(" as n from ") +
-           places.join(QStringLiteral(" cross join "));
+    return sqliteNumberedRows(literals);
 }
 
 QString questionSql(std::size_t number, const QString& numberedTexts)
@@ -75,9 +55,7 @@ QString comparedBySqlite(const TextQuestion& question, const QString& numberedTe
            question.table + QStringLiteral(" where 0=1 union all ") + numberedTexts;
 }
 
-/// The same on a server. There the column must stand among the literals of one function: only then
-/// are they turned into its character set. Not every server knows rows of values, and a query per
-/// text takes MariaDB three times as long.
+/// The same on a server.
 QString comparedByServer(const TextQuestion& question, TextColumns columns)
 {
     const QString column =
@@ -91,10 +69,7 @@ QString comparedByServer(const TextQuestion& question, TextColumns columns)
     for (const QString& text : texts) {
         literals << (hasOdd ? QStringLiteral("_utf8mb4 ") + hexadecimal(text) : quoted(text));
     }
-    return QStringLiteral("select n, elt(n,") + literals.join(u',') + QStringLiteral(",(select ") +
-           column + QStringLiteral(" from ") + question.table +
-           QStringLiteral(" where 0=1)) as t from (") + numbers(texts.size()) +
-           QStringLiteral(") k where n<=") + QString::number(texts.size());
+    return serverNumberedRows(literals, column, question.table);
 }
 
 /// Lists of texts, each written once in front of the statement: most questions are about the same

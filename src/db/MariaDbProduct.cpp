@@ -179,6 +179,12 @@ QString MariaDbProduct::equalTextsSql(const std::vector<TextQuestion>& questions
     return serverEqualTextsSql(questions, columns);
 }
 
+QString MariaDbProduct::textCountsSql(const std::vector<CountQuestion>& questions,
+                                      const QStringList& literals) const
+{
+    return serverTextCountsSql(questions, literals);
+}
+
 AccessPaths MariaDbProduct::accessPaths(const QString& sql, Session& session) const
 {
     // In capitals: where "i" and "I" are no pair, as in Turkish, the driver does not know the word

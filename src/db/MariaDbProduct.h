@@ -48,8 +48,11 @@ public:
     [[nodiscard]] std::optional<Packing> packing() const override { return Packing::Separated; }
     [[nodiscard]] QString equalTextsSql(const std::vector<TextQuestion>& questions,
                                         TextColumns columns) const override;
+    [[nodiscard]] QString textCountsSql(const std::vector<CountQuestion>& questions,
+                                        const QStringList& literals) const override;
 
     [[nodiscard]] AccessPaths accessPaths(const QString& sql, Session& session) const override;
+    [[nodiscard]] bool tellsOnlyPaths() const override { return true; }
 
 private:
     Server m_server;

@@ -41,6 +41,12 @@ QString Product::equalTextsSql(const std::vector<TextQuestion>& /*questions*/,
     return {};
 }
 
+QString Product::textCountsSql(const std::vector<CountQuestion>& /*questions*/,
+                               const QStringList& /*literals*/) const
+{
+    return {};
+}
+
 AccessPaths Product::accessPaths(const QString& /*sql*/, Session& /*session*/) const
 {
     return std::nullopt;

@@ -6,6 +6,7 @@
 #include "db/OdbcApi.h"
 #include "db/PackedRow.h"
 #include "db/SqlDialect.h"
+#include "db/TextCountsSql.h"
 #include "db/Value.h"
 
 #include <QDate>
@@ -84,6 +85,11 @@ public:
     [[nodiscard]] virtual QString equalTextsSql(const std::vector<TextQuestion>& questions,
                                                 TextColumns columns) const;
 
+    /// The statement that counts the rows that texts find (see TextCountsSql.h); empty where the
+    /// product cannot be asked. The texts are given as literals.
+    [[nodiscard]] virtual QString textCountsSql(const std::vector<CountQuestion>& questions,
+                                                const QStringList& literals) const;
+
     // Queries joined by "union all"
 
     /// How many can be joined: SQLite takes 500, and none is known to take fewer.
@@ -94,6 +100,8 @@ public:
     /// The access path of each joined query, without running them; nothing where the product does
     /// not tell. Error: any database error.
     [[nodiscard]] virtual AccessPaths accessPaths(const QString& sql, Session& session) const;
+    /// Whether an access path says that no other index could serve its query (isOnlyOne).
+    [[nodiscard]] virtual bool tellsOnlyPaths() const { return false; }
 };
 
 } // namespace db

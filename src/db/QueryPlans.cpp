@@ -4,6 +4,7 @@
 #include "db/Session.h"
 #include "runtime/RunTimeError.h"
 
+#include <QSet>
 #include <algorithm>
 #include <cstddef>
 
@@ -12,45 +13,68 @@ namespace db
 namespace
 {
 
-/// What the paths of the query and its parts tell.
-RowOrder rowOrder(const WideQuery& query, const std::vector<AccessPath>& paths)
+QStringList conditionsOfEach(const std::vector<NarrowQuery>& queries)
 {
-    const auto all = [&paths](auto holds) {
-        return std::all_of(paths.begin(), paths.end(), holds);
-    };
-    if (!all([&](const AccessPath& path) { // a view can have an order of its own
-            return path.table.isEmpty() ||
-                   path.table.compare(query.table, Qt::CaseInsensitive) == 0;
-        })) {
-        return RowOrder::Untold;
+    QStringList conditions;
+    for (const NarrowQuery& query : queries) {
+        conditions << query.condition();
     }
-    const QString& first = paths.front().path;
-    const bool same =
-        !first.isEmpty() && all([&](const AccessPath& path) { return path.path == first; });
-    return same ? RowOrder::Same : RowOrder::Other;
+    return conditions;
+}
+
+/// Every point without a choice, and every choice with one of its points.
+QStringList conditionsOfRepresentatives(const std::vector<NarrowQuery>& queries)
+{
+    QStringList conditions;
+    QSet<QString> points;
+    QSet<QString> choices;
+    for (const NarrowQuery& query : queries) {
+        if (!points.contains(query.point)) {
+            points.insert(query.point);
+            conditions << query.point;
+        }
+        if (!choices.contains(query.choice)) {
+            choices.insert(query.choice);
+            conditions << query.condition();
+        }
+    }
+    return conditions;
 }
 
 } // namespace
 
-RowOrder joinedRowOrder(Session& session)
+/// Explaining a hundred queries still takes a server some milliseconds, and makes a statement that
+/// takes a slow line longer. Where it says that one index alone can serve, and reads that one for a
+/// point without any choice, then no choice decides the path: representatives are enough.
+bool QueryPlans::asksAboutEach(const WideQuery& query) const
 {
-    return session.product().joinedQueriesKeepOrder() ? RowOrder::Same : RowOrder::Untold;
+    return !m_session.product().tellsOnlyPaths() || m_severalPaths.contains(query.table);
 }
 
-std::vector<RowOrder> rowOrders(const std::vector<WideQuery>& queries, Session& session)
+QStringList QueryPlans::explainedConditions(const WideQuery& query) const
 {
-    const Product& product = session.product();
-    std::vector<RowOrder> orders(queries.size(), joinedRowOrder(session) == RowOrder::Same
-                                                     ? RowOrder::Other
-                                                     : RowOrder::Untold);
+    return QStringList{query.condition} + (asksAboutEach(query)
+                                               ? conditionsOfEach(query.parts)
+                                               : conditionsOfRepresentatives(query.parts));
+}
+
+RowOrder QueryPlans::joinedRowOrder() const
+{
+    return m_session.product().joinedQueriesKeepOrder() ? RowOrder::Same : RowOrder::Untold;
+}
+
+std::vector<RowOrder> QueryPlans::rowOrders(const std::vector<WideQuery>& queries)
+{
+    const Product& product = m_session.product();
+    std::vector<RowOrder> orders(
+        queries.size(), joinedRowOrder() == RowOrder::Same ? RowOrder::Other : RowOrder::Untold);
     QStringList explained;
     std::vector<qsizetype> ends; // of each table's
     for (const WideQuery& query : queries) {
         const QString select = QStringLiteral("Select ") + query.column + QStringLiteral(" from ") +
                                query.table + QStringLiteral(" WHERE");
-        explained << select + query.condition;
-        for (const QString& part : query.parts) {
-            explained << select + part;
+        for (const QString& condition : explainedConditions(query)) {
+            explained << select + condition;
         }
         ends.push_back(explained.size());
     }
@@ -59,7 +83,7 @@ std::vector<RowOrder> rowOrders(const std::vector<WideQuery>& queries, Session& 
     }
     runtime::skipOnError([&] {
         const AccessPaths paths =
-            product.accessPaths(explained.join(QStringLiteral(" union all ")), session);
+            product.accessPaths(explained.join(QStringLiteral(" union all ")), m_session);
         if (!paths || static_cast<qsizetype>(paths->size()) != explained.size()) {
             return;
         }
@@ -71,6 +95,27 @@ std::vector<RowOrder> rowOrders(const std::vector<WideQuery>& queries, Session& 
         }
     });
     return orders;
+}
+
+RowOrder QueryPlans::rowOrder(const WideQuery& query, const std::vector<AccessPath>& paths)
+{
+    const auto all = [&paths](auto holds) {
+        return std::all_of(paths.begin(), paths.end(), holds);
+    };
+    if (!all([&](const AccessPath& path) { // a view can have an order of its own
+            return path.table.isEmpty() ||
+                   path.table.compare(query.table, Qt::CaseInsensitive) == 0;
+        })) {
+        return RowOrder::Untold;
+    }
+    if (!asksAboutEach(query) && !all([](const AccessPath& path) { return path.isOnlyOne; })) {
+        m_severalPaths.insert(query.table); // next time it is worth asking about each
+        return RowOrder::Other;
+    }
+    const QString& first = paths.front().path;
+    const bool same =
+        !first.isEmpty() && all([&](const AccessPath& path) { return path.path == first; });
+    return same ? RowOrder::Same : RowOrder::Other;
 }
 
 } // namespace db

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/DatabaseError.h"
+#include "db/SqlDialect.h"
 
 #include <optional>
 #include <utility>
@@ -10,18 +11,26 @@ namespace db
 
 /// What is known of a table that a statement for a whole page was refused for. The first statement
 /// about a single thing tells whether it was the table's fault; then nothing more is asked of it.
+/// Nor is what a name is certain to be refused for.
 class RefusedTable
 {
 public:
     /// The page's statement was refused.
     void suspect() { m_suspected = true; }
 
-    /// Runs a read about one thing. `isPlain`: its statement holds nothing that could be refused by
-    /// itself. Errors: the read's; without running it, that of an earlier read, once the table is
-    /// known to refuse.
+    /// Runs a read about one thing, whose statement has these names between its quotes. Errors: the
+    /// read's; without running it, that of an earlier read, once the table is known to refuse, and
+    /// nameRefused().
     template <typename Read>
-    decltype(auto) ask(bool isPlain, Read&& read)
+    decltype(auto) ask(const QStringList& names, const SqlDialect& dialect, Read&& read)
     {
+        bool isPlain = true;
+        for (const QString& name : names) {
+            if (dialect.isRefused(name)) {
+                throw nameRefused();
+            }
+            isPlain = isPlain && dialect.isOneLiteral(name);
+        }
         if (isPlain && m_verdict) {
             throw DatabaseError(*m_verdict);
         }

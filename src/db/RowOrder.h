@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
+#include <vector>
 
 /// Several narrow queries on a table can be answered by one wide query whose rows are then sorted
 /// into theirs. What that leaves open is the order within each: nobody asks for one, and the first
@@ -17,14 +17,23 @@ enum class RowOrder {
             ///< alone
 };
 
+/// The conditions of a narrow query, as they stand after "WHERE". They compare columns with texts
+/// and numbers by `=`.
+struct NarrowQuery {
+    QString choice; ///< alternatives in parentheses; few differ among many queries
+    QString point;  ///< all else, joined by "and"; few differ among many queries
+
+    [[nodiscard]] QString condition() const { return choice + QStringLiteral(" and") + point; }
+
+    friend bool operator==(const NarrowQuery&, const NarrowQuery&) = default;
+};
+
 /// A query that has brought the rows of several narrow ones, and these.
 struct WideQuery {
     QString table;
-    QString column;    ///< one of the table's that no index of the parts' slots would hold
+    QString column;    ///< one of the table's that no index of the points would hold
     QString condition; ///< as it stands after "WHERE"; what it compares it compares by `=` or `in`
-    /// The conditions of the narrow queries, as they stand after "WHERE"; at least one. They
-    /// compare columns with texts and numbers by `=`.
-    QStringList parts;
+    std::vector<NarrowQuery> parts; ///< at least one
 };
 
 } // namespace db

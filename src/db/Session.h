@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/OdbcHandles.h"
+#include "db/QueryPlans.h"
 #include "db/Recordset.h"
 #include "db/SqlDialect.h"
 
@@ -46,10 +47,14 @@ public:
     void countStatement() { ++m_statementCount; }
     [[nodiscard]] long long statementCount() const { return m_statementCount; }
 
+    /// What is known of the database's query plans.
+    [[nodiscard]] QueryPlans& queryPlans() { return m_queryPlans; }
+
 private:
     EnvironmentHandle m_environment;
     ConnectionHandle m_connection;
     SqlDialect m_dialect;
+    QueryPlans m_queryPlans{*this};
     long long m_statementCount = 0;
     bool m_isReadyToWrite = false;
 };

@@ -1,7 +1,38 @@
 #include "db/SqlDialect.h"
 
+#include <algorithm>
+#include <array>
+
 namespace db
 {
+namespace
+{
+
+/// Whether the character is none that begins a comment, a name, a parameter, an escape or another
+/// statement.
+bool isHarmless(QChar character)
+{
+    return character.isLetterOrNumber() || QStringLiteral(" '.,-()+&").contains(character);
+}
+
+/// Whether a condition, or the statement behind it, may go on with the word after a literal.
+bool goesOn(const QString& word)
+{
+    constexpr std::array words{
+        u"and",    u"or",        u"xor",    u"not",    u"is",      u"isnull",    u"notnull",
+        u"in",     u"like",      u"ilike",  u"alike",  u"rlike",   u"regexp",    u"glob",
+        u"match",  u"similar",   u"sounds", u"member", u"between", u"collate",   u"escape",
+        u"div",    u"mod",       u"eqv",    u"imp",    u"at",      u"overlaps",  u"group",
+        u"having", u"order",     u"limit",  u"offset", u"fetch",   u"union",     u"intersect",
+        u"except", u"minus",     u"window", u"for",    u"lock",    u"procedure", u"into",
+        u"with",   u"returning", u"on",     u"as",     u"rows",    u"n",         u"x",
+        u"b",      u"then",      u"when",   u"else",   u"end",     u"asc",       u"desc"};
+    return std::any_of(words.begin(), words.end(), [&word](const char16_t* each) {
+        return word.compare(QStringView(each), Qt::CaseInsensitive) == 0;
+    });
+}
+
+} // namespace
 
 SqlDialect SqlDialect::ofMySql(bool backslashEscapes) const
 {
@@ -38,12 +69,51 @@ bool SqlDialect::holds(const QString& text) const
            (!text.contains(u'\'') && !(m_backslashEscapes && text.contains(u'\\')));
 }
 
-QStringList SqlDialect::held(const QStringList& texts) const
+bool SqlDialect::isOneLiteral(const QString& text) const
 {
-    QStringList held = texts;
-    held.removeIf([this](const QString& text) { return !holds(text); });
-    held.removeDuplicates();
-    return held;
+    return holds(text) || (!text.contains(QChar(u'\0')) && endOfLiteral(text) == text.size());
+}
+
+QStringList SqlDialect::askable(const QStringList& texts) const
+{
+    QStringList askable = texts;
+    askable.removeIf([this](const QString& text) { return !isOneLiteral(text); });
+    askable.removeDuplicates();
+    return askable;
+}
+
+bool SqlDialect::isRefused(const QString& text) const
+{
+    if (isOneLiteral(text) || !std::all_of(text.begin(), text.end(), isHarmless) ||
+        text.contains(QStringLiteral("--"))) {
+        return false;
+    }
+    const QString behind = text.mid(endOfLiteral(text) + 1).trimmed();
+    const auto end = std::find_if_not(behind.begin(), behind.end(),
+                                      [](QChar character) { return character.isLetterOrNumber(); });
+    const QString word(behind.constData(), end - behind.begin());
+    return !word.isEmpty() && word.front().isLetter() && !goesOn(word);
+}
+
+/// Where the first quote stands that ends the literal; the text's size where the last one does, and
+/// beyond it where none does.
+qsizetype SqlDialect::endOfLiteral(const QString& text) const
+{
+    qsizetype position = 0;
+    while (position < text.size()) {
+        if (m_backslashEscapes && text[position] == u'\\') {
+            position += 2;
+        } else if (text[position] != u'\'') {
+            ++position;
+        } else if (position + 1 < text.size() && text[position + 1] == u'\'') {
+            position += 2;
+        } else if (position + 1 == text.size()) {
+            return text.size() + 1; // it forms a pair with the quote behind the text
+        } else {
+            return position;
+        }
+    }
+    return position;
 }
 
 QString SqlDialect::SqlDateDelimiter() const

@@ -43,10 +43,19 @@ public:
     /// Whether the literal means the text: no quote ends it, no backslash hides one, no null
     /// character cuts it off.
     [[nodiscard]] bool holds(const QString& text) const;
-    /// The texts whose literals mean them, each once, in their order.
-    [[nodiscard]] QStringList held(const QStringList& texts) const;
+    /// Whether the literal is one literal, whatever it means: quotes within it stand in pairs, and
+    /// no backslash hides the last one.
+    [[nodiscard]] bool isOneLiteral(const QString& text) const;
+    /// The texts whose literals are one literal, each once, in their order.
+    [[nodiscard]] QStringList askable(const QStringList& texts) const;
+    /// Whether whatever compares a column with the literal is certain to be refused: a quote ends
+    /// it early, and what follows is a word that continues no condition on any product, as in
+    /// "Salle d'informatique".
+    [[nodiscard]] bool isRefused(const QString& text) const;
 
 private:
+    [[nodiscard]] qsizetype endOfLiteral(const QString& text) const;
+
     bool m_useMySql;
     bool m_backslashEscapes;
     Quotes m_quotes;

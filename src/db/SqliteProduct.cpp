@@ -148,6 +148,12 @@ QString SqliteProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
     return columns == TextColumns::AsTheyAre ? sqliteEqualTextsSql(questions) : QString();
 }
 
+QString SqliteProduct::textCountsSql(const std::vector<CountQuestion>& questions,
+                                     const QStringList& literals) const
+{
+    return sqliteTextCountsSql(questions, literals);
+}
+
 AccessPaths SqliteProduct::accessPaths(const QString& sql, Session& session) const
 {
     return sqliteAccessPaths(session.open(QStringLiteral("explain query plan ") + sql));

@@ -43,7 +43,7 @@ Crowded crowdedOf(const PageCells& page, RoomQuestion question, const QString& c
     for (const PageCells::Cell cell : crowded.cells) {
         question.room = page.room(cell);
         question.seanceKey = page.key(cell);
-        crowded.query.parts << question.condition(dialect);
+        crowded.query.parts.push_back(question.narrowQuery(dialect));
     }
     return crowded;
 }
@@ -53,8 +53,8 @@ Crowded crowdedOf(const PageCells& page, RoomQuestion question, const QString& c
 void askAgain(db::Connection& connection, const Crowded& crowded, PageCells& page)
 {
     QStringList queries;
-    for (const QString& condition : crowded.query.parts) {
-        queries << wholeRows(crowded.query.table) + condition;
+    for (const db::NarrowQuery& question : crowded.query.parts) {
+        queries << wholeRows(crowded.query.table) + question.condition();
     }
     const std::vector<db::Recordset> found = connection.openJoined(queries);
     for (std::size_t index = 0; index < found.size(); ++index) {

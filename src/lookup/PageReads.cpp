@@ -40,9 +40,7 @@ void PageReads::expectHeld(const QStringList& names)
 {
     for (const QString& name : names) {
         if (!m_upkeep.holds(name)) {
-            const db::DatabaseError error(
-                Failure::Refused, runtime::ErrorNumber::StatementRefused,
-                QStringLiteral("The name cannot stand between quotes as it is."));
+            const db::DatabaseError error = db::nameRefused();
             add({name, error.text(), error.failure()});
             throw error;
         }

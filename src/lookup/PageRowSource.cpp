@@ -1,12 +1,12 @@
 #include "lookup/PageRowSource.h"
 
-#include "db/MatchMasks.h"
 #include "lookup/ClassStatements.h"
 #include "runtime/RunTimeError.h"
 #include "timetable/MeetingColumns.h"
 #include "timetable/SchoolColumns.h"
 
 #include <QSet>
+#include <memory>
 #include <optional>
 
 namespace lookup
@@ -17,6 +17,20 @@ namespace table = timetable::table;
 
 namespace
 {
+
+using Counts = std::vector<std::vector<db::TextCount>>;
+
+// What is asked about classes.
+
+db::CountQuestion studentsQuestion()
+{
+    return {table::kEtudiant, column::kClasseOfStudent, {}};
+}
+
+db::CountQuestion classesQuestion()
+{
+    return {table::kClasseTable, column::kNom, column::kCapacite};
+}
 
 /// Texts in the order in which they came, each once: the same page makes the same statements.
 class DistinctTexts
@@ -42,16 +56,13 @@ private:
     QStringList m_texts;
 };
 
-/// Names that several groups bear: not every type of column groups by what its values look like.
-QSet<QString> namesOfSeveral(const db::Recordset& groups)
+/// A class's rows, as far as they are asked about: none, or one that says what all of them say.
+db::Recordset rowsOf(const db::TextCount& count)
 {
-    QSet<QString> known;
-    QSet<QString> several;
-    for (const db::Row& group : groups.rows()) {
-        const QString name = group.field(0).toText();
-        (known.contains(name) ? several : known).insert(name);
-    }
-    return several;
+    static const auto columns =
+        std::make_shared<const db::Columns>(QStringList{QString(column::kCapacite)});
+    return count.rows == 0 ? db::Recordset()
+                           : db::Recordset(columns, {db::Row(columns, {count.value})});
 }
 
 /// Whether it does not matter which of the rows comes first.
@@ -86,22 +97,14 @@ PageFacts PageRowSource::prepare(const PageQuestions& questions)
     m_students = {};
     m_classes = {};
     fetchTimetable();
-    const QStringList classNames = m_database.dialect().held(allClasses());
-    if (!classNames.isEmpty()) {
-        if (!db::skipWhenRefused([&] { fetchStudents(classNames); })) {
-            m_students.suspect();
-        }
-        if (!db::skipWhenRefused([&] { fetchClasses(classNames); })) {
-            m_classes.suspect();
-        }
-    }
+    fetchClassFacts(m_database.dialect().askable(allClasses()));
     return facts();
 }
 
 void PageRowSource::fetchTimetable()
 {
-    const QStringList rooms = m_database.dialect().held(m_questions.rooms);
-    const QStringList keys = m_database.dialect().held(m_questions.seanceKeys);
+    const QStringList rooms = m_database.dialect().askable(m_questions.rooms);
+    const QStringList keys = m_database.dialect().askable(m_questions.seanceKeys);
     if (rooms.isEmpty() || keys.isEmpty()) {
         return;
     }
@@ -117,66 +120,89 @@ void PageRowSource::fetchTimetable()
     }
 }
 
+/// Students and capacities, by one statement. What it cannot bring is asked for in the plain
+/// statements' own words, joined; what that cannot bring is left to the plain source.
+void PageRowSource::fetchClassFacts(const QStringList& classNames)
+{
+    const bool atOnce = db::skipWhenRefused([&] {
+        const Counts counts =
+            m_database.Db().countTexts({studentsQuestion(), classesQuestion()}, classNames);
+        keepStudents(classNames, counts[0]);
+        keepClasses(classNames, counts[1]);
+    });
+    if (!atOnce) {
+        fetchStudents(classNames);
+        fetchClasses(classNames);
+    }
+    fetchClassesThatDiffer(unanswered(classNames, m_classRows));
+}
+
 void PageRowSource::fetchStudents(const QStringList& classNames)
 {
-    // The database groups the spellings that it takes for equal. A name that comes back as it is
-    // spelt here equals that group and no other.
-    const db::Recordset groups = m_database.Db().open(
-        QStringLiteral("Select ") + column::kClasseOfStudent +
-        QStringLiteral(" as v, count(*) as n from ") + table::kEtudiant +
-        QStringLiteral(" WHERE ") +
-        db::MatchMasks(column::kClasseOfStudent, classNames, m_database.dialect()).anyOf() +
-        QStringLiteral(" group by ") + column::kClasseOfStudent);
-    QHash<QString, int> rows;
-    rows.reserve(classNames.size());
-    for (const db::Row& group : groups.rows()) {
-        rows.insert(group.field(0).toText(), group.field(1).toInt32());
+    const auto inPlainWords = [&] {
+        QStringList statements;
+        for (const QString& name : classNames) {
+            statements << QStringLiteral("count(*) as n") +
+                              fromStudentsOf(name, m_database.dialect());
+        }
+        const std::vector<db::Recordset> found = m_database.Db().openJoined(statements);
+        for (qsizetype index = 0; index < classNames.size(); ++index) {
+            m_studentRows.insert(classNames[index],
+                                 found[static_cast<std::size_t>(index)].first().field(1).toInt32());
+        }
+    };
+    const auto byOneQuestion = [&] {
+        keepStudents(classNames, m_database.Db().countTexts({studentsQuestion()}, classNames)[0]);
+    };
+    if (!db::skipWhenRefused(byOneQuestion) && !db::skipWhenRefused(inPlainWords)) {
+        m_studentRows.clear();
+        m_students.suspect();
     }
-    for (const QString& name : namesOfSeveral(groups)) {
-        rows.remove(name);
-    }
-    const QStringList others = unanswered(classNames, rows);
-    QStringList statements;
-    for (const QString& name : others) {
-        statements << QStringLiteral("count(*) as n") + fromStudentsOf(name, m_database.dialect());
-    }
-    const std::vector<db::Recordset> counts = m_database.Db().openJoined(statements);
-    for (std::size_t index = 0; index < counts.size(); ++index) {
-        rows.insert(others[static_cast<qsizetype>(index)],
-                    counts[index].first().field(1).toInt32());
-    }
-    m_studentRows = std::move(rows);
 }
 
 void PageRowSource::fetchClasses(const QStringList& classNames)
 {
-    // A group of one row has that row's capacity for its least one.
-    const db::Recordset groups = m_database.Db().open(
-        QStringLiteral("select ") + column::kNom + QStringLiteral(" as v, count(*) as n, min(") +
-        column::kCapacite + QStringLiteral(") as ") + column::kCapacite + QStringLiteral(" from ") +
-        table::kClasseTable + QStringLiteral(" Where ") +
-        db::MatchMasks(column::kNom, classNames, m_database.dialect()).anyOf() +
-        QStringLiteral(" group by ") + column::kNom);
-    m_classRows.reserve(classNames.size());
-    for (const db::Row& group : groups.rows()) {
-        if (group.field(1).toInt32() == 1) {
-            m_classRows.insert(group.field(0).toText(), db::Recordset(groups.columns(), {group}));
-        }
-    }
-    for (const QString& name : namesOfSeveral(groups)) {
-        m_classRows.remove(name);
-    }
-    const QStringList others = unanswered(classNames, m_classRows);
+    db::skipWhenRefused([&] {
+        keepClasses(classNames, m_database.Db().countTexts({classesQuestion()}, classNames)[0]);
+    });
+}
+
+/// Classes whose rows differ: the plain question takes the first.
+void PageRowSource::fetchClassesThatDiffer(const QStringList& classNames)
+{
     QStringList statements;
-    for (const QString& name : others) {
+    for (const QString& name : classNames) {
         statements << table::kClasseTable + QStringLiteral(".*") +
                           fromClass(name, m_database.dialect());
     }
-    const std::vector<db::Recordset> found = m_database.Db().openJoined(statements);
-    const bool inOrder = m_database.Db().joinedRowOrder() == db::RowOrder::Same;
-    for (std::size_t index = 0; index < found.size(); ++index) {
-        if (inOrder || haveOneCapacity(found[index])) {
-            m_classRows.insert(others[static_cast<qsizetype>(index)], found[index]);
+    const bool fetched = db::skipWhenRefused([&] {
+        const std::vector<db::Recordset> found = m_database.Db().openJoined(statements);
+        const bool inOrder = m_database.Db().joinedRowOrder() == db::RowOrder::Same;
+        for (std::size_t index = 0; index < found.size(); ++index) {
+            if (inOrder || haveOneCapacity(found[index])) {
+                m_classRows.insert(classNames[static_cast<qsizetype>(index)], found[index]);
+            }
+        }
+    });
+    if (!fetched) {
+        m_classes.suspect();
+    }
+}
+
+void PageRowSource::keepStudents(const QStringList& classNames,
+                                 const std::vector<db::TextCount>& counts)
+{
+    for (std::size_t index = 0; index < counts.size(); ++index) {
+        m_studentRows.insert(classNames[static_cast<qsizetype>(index)], counts[index].rows);
+    }
+}
+
+void PageRowSource::keepClasses(const QStringList& classNames,
+                                const std::vector<db::TextCount>& counts)
+{
+    for (std::size_t index = 0; index < counts.size(); ++index) {
+        if (!counts[index].rowsDiffer) {
+            m_classRows.insert(classNames[static_cast<qsizetype>(index)], rowsOf(counts[index]));
         }
     }
 }
@@ -223,7 +249,7 @@ db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
             return *rows;
         }
     }
-    return m_tables[question.table].ask(m_database.dialect().holds(question.room),
+    return m_tables[question.table].ask({question.room}, m_database.dialect(),
                                         [&] { return m_plain.timetableRows(question); });
 }
 
@@ -233,7 +259,7 @@ int PageRowSource::studentRows(const QString& className)
     if (rows != m_studentRows.constEnd()) {
         return *rows;
     }
-    return m_students.ask(m_database.dialect().holds(className),
+    return m_students.ask({className}, m_database.dialect(),
                           [&] { return m_plain.studentRows(className); });
 }
 
@@ -243,7 +269,7 @@ db::Recordset PageRowSource::classRows(const QString& className)
     if (rows != m_classRows.constEnd()) {
         return *rows;
     }
-    return m_classes.ask(m_database.dialect().holds(className),
+    return m_classes.ask({className}, m_database.dialect(),
                          [&] { return m_plain.classRows(className); });
 }
 

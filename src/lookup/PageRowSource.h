@@ -16,10 +16,10 @@ namespace lookup
 /// far away: there every statement costs a journey.
 ///
 /// No answer differs from the plain source's: the database itself says which row answers which
-/// question. Where a name was found under another spelling only the database knows what it equals;
-/// such questions are put once more, each in the plain statement's own words, all joined into one.
-/// What cannot be fetched is left to the plain source; a table that refuses the page and then the
-/// first plain question, too, is not asked any more.
+/// question, and how many students and places equal which class. What it does not say is asked for
+/// once more, each in the plain statement's own words, all joined into one. What cannot be fetched
+/// is left to the plain source; a table that refuses the page and then the first plain question,
+/// too, is not asked any more, nor is a name whose statement is certain to be refused.
 class PageRowSource : public RowSource
 {
 public:
@@ -35,8 +35,12 @@ public:
 
 private:
     void fetchTimetable();
+    void fetchClassFacts(const QStringList& classNames);
     void fetchStudents(const QStringList& classNames);
     void fetchClasses(const QStringList& classNames);
+    void fetchClassesThatDiffer(const QStringList& classNames);
+    void keepStudents(const QStringList& classNames, const std::vector<db::TextCount>& counts);
+    void keepClasses(const QStringList& classNames, const std::vector<db::TextCount>& counts);
     [[nodiscard]] QStringList allClasses() const;
     [[nodiscard]] PageFacts facts() const;
 

@@ -64,9 +64,14 @@ QString RoomQuestion::slotCondition(const db::SqlDialect& dialect) const
            periodCondition(dialect);
 }
 
+db::NarrowQuery RoomQuestion::narrowQuery(const db::SqlDialect& dialect) const
+{
+    return {roomCondition(dialect), slotCondition(dialect)};
+}
+
 QString RoomQuestion::condition(const db::SqlDialect& dialect) const
 {
-    return roomCondition(dialect) + QStringLiteral(" and") + slotCondition(dialect);
+    return narrowQuery(dialect).condition();
 }
 
 QString RoomQuestion::sql(const db::SqlDialect& dialect) const

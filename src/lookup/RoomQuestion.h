@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/RowOrder.h"
 #include "db/SqlDialect.h"
 
 #include <QDate>
@@ -34,6 +35,8 @@ struct RoomQuestion {
     [[nodiscard]] QString periodCondition(const db::SqlDialect& dialect) const;
     /// The conditions on slot and period; starts with a blank.
     [[nodiscard]] QString slotCondition(const db::SqlDialect& dialect) const;
+    /// All conditions: the room is the choice, slot and period are the point.
+    [[nodiscard]] db::NarrowQuery narrowQuery(const db::SqlDialect& dialect) const;
     /// All conditions, as they stand after "WHERE".
     [[nodiscard]] QString condition(const db::SqlDialect& dialect) const;
     /// The whole statement. No order is asked for: the database's first row decides the box.

@@ -72,6 +72,13 @@ TEST(SqliteAccessPaths, nameThePathOfEachJoinedQuery)
     EXPECT_EQ(pathsOf(*joined), QStringList({"SCAN emplois", "SCAN emplois"}));
 }
 
+TEST(SqliteAccessPaths, neverSayThatThereIsNoOther)
+{
+    const auto paths = sqliteAccessPaths(sqliteAnswer({"SCAN emplois"}));
+    ASSERT_TRUE(paths);
+    EXPECT_FALSE(paths->front().isOnlyOne);
+}
+
 TEST(SqliteAccessPaths, areUnknownWhereSeveralIndexesServe)
 {
     EXPECT_EQ(sqliteAccessPaths(
@@ -108,6 +115,19 @@ TEST(MariaDbAccessPaths, differByIndexAndByHowMuchOfItIsUsed)
     EXPECT_EQ(pathsOf(*paths), QStringList({"i 408", "i 5", "j 408", "ALL"}));
 }
 
+TEST(MariaDbAccessPaths, sayWhetherThereIsAnother)
+{
+    const auto paths = mariaDbAccessPaths(mySqlAnswer({{"ref", "i", "i", "408", "Using where"},
+                                                       {"ref", "i,j", "i", "408", "Using where"},
+                                                       {"ALL", "", "", "", "Using where"},
+                                                       {"ALL", "i", "", "", "Using where"}}));
+    ASSERT_TRUE(paths);
+    EXPECT_TRUE(paths->at(0).isOnlyOne);
+    EXPECT_FALSE(paths->at(1).isOnlyOne);
+    EXPECT_TRUE(paths->at(2).isOnlyOne);
+    EXPECT_FALSE(paths->at(3).isOnlyOne);
+}
+
 TEST(MariaDbAccessPaths, areUnknownWhereRowsAreSortedOrGathered)
 {
     const auto paths = mariaDbAccessPaths(
@@ -133,5 +153,5 @@ TEST(MariaDbAccessPaths, nameTheTableAndPassOverTheUnionItself)
         mariaDbAccessPaths(mySqlLines({{"PRIMARY", "courses", "", "ALL", "", "", "", "Using where"},
                                        {"UNION RESULT", "<union1,2>", "", "ALL", "", "", "", ""}}));
     ASSERT_TRUE(paths);
-    EXPECT_EQ(*paths, (std::vector<AccessPath>{{"courses", "ALL"}}));
+    EXPECT_EQ(*paths, (std::vector<AccessPath>{{"courses", "ALL", true}}));
 }

@@ -111,7 +111,7 @@ TEST_F(TheDriverOfAccess, isNeverAskedToExplain)
     EXPECT_EQ(connection.rowOrders({{QStringLiteral("t"),
                                      QStringLiteral("a"),
                                      QStringLiteral(" a in (1,2)"),
-                                     {QStringLiteral(" (a=1) and b=1")}}}),
+                                     {{QStringLiteral(" (a=1)"), QStringLiteral(" b=1")}}}}),
               std::vector{db::RowOrder::Untold});
     EXPECT_EQ(connection.statementCount(), 0);
 }

@@ -41,7 +41,8 @@ TEST_P(AConnection, keepsTheOrderOfJoinedQueriesThroughAViewOnSqliteAlone)
 TEST_P(AConnection, tellsWhereTheRowsOfAPartStand)
 {
     database().execute(QStringLiteral("create table t (a integer, b integer)"));
-    const WideQuery query{"t", "a", " a in (1,2) and b=3", {" (a=1) and b=3", " (a=2) and b=3"}};
+    const WideQuery query{
+        "t", "a", " a in (1,2) and b=3", {{" (a=1)", " b=3"}, {" (a=2)", " b=3"}}};
     EXPECT_EQ(connection().rowOrders({query}), std::vector{RowOrder::Same});
     EXPECT_EQ(connection().statementCount(), 1);
 }

@@ -60,19 +60,19 @@ TEST(ARefusedTable, isAskedOnceMoreAndThenNoLonger)
     RefusedTable table;
     table.suspect();
     int asked = 0;
-    const auto ask = [&](bool isPlain) {
+    const auto ask = [&](const QString& name) {
         return test::errorOf([&] {
-                   table.ask(isPlain, [&] {
+                   table.ask({name}, SqlDialect(false), [&] {
                        ++asked;
                        throw refusal();
                    });
                })
             .text();
     };
-    EXPECT_EQ(ask(true), "refused");
-    EXPECT_EQ(ask(true), "refused");
+    EXPECT_EQ(ask("A1"), "refused");
+    EXPECT_EQ(ask("A''2"), "refused");
     EXPECT_EQ(asked, 1);
-    EXPECT_EQ(ask(false), "refused"); // its own words may be the reason
+    EXPECT_EQ(ask("A' or 1=1"), "refused"); // its own words may be the reason
     EXPECT_EQ(asked, 2);
 }
 
@@ -80,8 +80,8 @@ TEST(ARefusedTable, isAskedOnWhileItAnswers)
 {
     RefusedTable table;
     table.suspect();
-    EXPECT_EQ(table.ask(true, [] { return 1; }), 1);
-    EXPECT_EQ(table.ask(true, [] { return 2; }), 2);
+    EXPECT_EQ(table.ask({"A1"}, SqlDialect(false), [] { return 1; }), 1);
+    EXPECT_EQ(table.ask({"A1"}, SqlDialect(false), [] { return 2; }), 2);
 }
 
 TEST(ARefusedTable, isAskedAboutEachThingWhenThePageWasNotRefused)
@@ -89,7 +89,7 @@ TEST(ARefusedTable, isAskedAboutEachThingWhenThePageWasNotRefused)
     RefusedTable table;
     int asked = 0;
     for (int i = 0; i < 2; ++i) {
-        EXPECT_THROW(table.ask(true,
+        EXPECT_THROW(table.ask({"A1"}, SqlDialect(false),
                                [&] {
                                    ++asked;
                                    throw refusal();
@@ -146,4 +146,17 @@ TEST(DatabaseError, isExplainedByItsFailure)
     EXPECT_EQ(DatabaseError(Failure::NoAnswer, runtime::ErrorNumber::DatabaseFailure, "timed out")
                   .explanation(),
               "La base de données ne répond pas.");
+}
+
+TEST(ARefusedTable, isNotAskedAboutANameWhoseStatementIsNone)
+{
+    RefusedTable table;
+    bool asked = false;
+    const auto error = test::errorOf([&] {
+        table.ask({"A1", "Salle d'informatique"}, SqlDialect(false), [&] { asked = true; });
+    });
+    EXPECT_FALSE(asked);
+    EXPECT_EQ(error.number(), ErrorNumber::StatementRefused);
+    EXPECT_TRUE(table.ask({"Salle d'informatique"}, SqlDialect(false, SqlDialect::Quotes::Doubled),
+                          [] { return true; }));
 }

@@ -48,9 +48,11 @@ TEST_P(JoinedQueries, areNoStatementAtAllWhenThereAreNone)
     EXPECT_EQ(open({}, 0), QStringList());
 }
 
-TEST_P(JoinedQueries, leaveOutWhatIsBeyondTheMostThatADatabaseJoins)
+TEST_P(JoinedQueries, areSeveralStatementsBeyondTheMostThatADatabaseJoins)
 {
-    EXPECT_EQ(open(QStringList(451, "t.* from t where a = 1")), QStringList(450, "one"));
+    const QStringList queries = QStringList(450, "t.* from t where a = 1") +
+                                QStringList({"t.* from t where a = 3", "t.* from t where a = 2"});
+    EXPECT_EQ(open(queries, 2), QStringList(450, "one") + QStringList({"", "two,zwei"}));
 }
 
 TEST_P(JoinedQueries, failTogether)

@@ -48,5 +48,6 @@ TEST(AProductWithoutWaysOfItsOwn, failsAsItsStateSays)
 TEST(AProductWithoutWaysOfItsOwn, promisesNoOrderOfRows)
 {
     EXPECT_FALSE(PlainProduct().joinedQueriesKeepOrder());
+    EXPECT_FALSE(PlainProduct().tellsOnlyPaths());
     EXPECT_EQ(PlainProduct().mostJoined(), 450);
 }

@@ -38,7 +38,43 @@ TEST(ALiteral, leavesQuotesAsTheyStandUnlessTold)
     EXPECT_TRUE(mySql.ofMySql(false).holds("a\\b"));
     EXPECT_TRUE(mySql.withoutBackslashes().holds("a\\b"));
     EXPECT_FALSE(access.holds(QString("a") + QChar(u'\0')));
-    EXPECT_EQ(mySql.held({"A", "O'Brien", "B\\2", "A", ""}), QStringList({"A", ""}));
+}
+
+TEST(ALiteral, isOneWhenNothingEndsItEarly)
+{
+    const SqlDialect access(false);
+    const SqlDialect mySql(true);
+    for (const char* one : {"A", "", "L1''s", "''''"}) {
+        EXPECT_TRUE(access.isOneLiteral(one) && mySql.isOneLiteral(one)) << one;
+    }
+    for (const char* several : {"l'oral", "'", "A'", "'A", "A'''B", "A''B'C"}) {
+        EXPECT_FALSE(access.isOneLiteral(several) || mySql.isOneLiteral(several)) << several;
+    }
+    EXPECT_TRUE(mySql.isOneLiteral("M\\1"));
+    EXPECT_TRUE(mySql.isOneLiteral("M\\'s"));
+    EXPECT_FALSE(access.isOneLiteral("M\\'s"));
+    EXPECT_TRUE(access.isOneLiteral("M\\"));
+    EXPECT_FALSE(mySql.isOneLiteral("M\\")); // hides the last quote
+    EXPECT_FALSE(mySql.isOneLiteral("M\\\\'"));
+    EXPECT_FALSE(access.isOneLiteral(QString("a") + QChar(u'\0')));
+    EXPECT_EQ(mySql.askable({"A", "O'Brien", "B\\2", "A", "", "C''"}),
+              QStringList({"A", "B\\2", "", "C''"}));
+}
+
+TEST(ALiteral, isRefusedWhereAWordFollowsThatContinuesNothing)
+{
+    const SqlDialect dialect(true);
+    for (const char* refused : {"Salle d'informatique", "1re année d'anglais", "O'Brien",
+                                "L2 'bis'", "s'il n'y a", "D''Or d'Eu", "Œuvre d'été (2)"}) {
+        EXPECT_TRUE(dialect.isRefused(refused)) << refused;
+    }
+    for (const char* asked : {"A1", "", "D''Or", "Salle d'or", "x' OR '1'='1", "Amphi'", "A'1",
+                              "B'--", "C' union select", "D'abc -- ", "E\\'abc", "F'abc;", "G'abc#",
+                              "H'abc?", "I' + J", "K'Like"}) {
+        EXPECT_FALSE(dialect.isRefused(asked)) << asked;
+    }
+    const SqlDialect doubled(true, SqlDialect::Quotes::Doubled);
+    EXPECT_FALSE(doubled.isRefused("Salle d'informatique"));
 }
 
 TEST(ALiteral, meansItsTextWhereQuotesAreDoubled)

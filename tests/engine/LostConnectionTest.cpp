@@ -106,10 +106,10 @@ TEST_F(ALostConnection, leavesThePlanUnknownAsLongAsNobodyAnswers)
 
 TEST_F(ALostConnection, isNoticedInTheMiddleOfAPage)
 {
-    // The capacities of a page's classes are its fourth question.
+    // The sizes of a page's classes are its last question but one.
     std::atomic<int> cuts = 0;
     CuttingProxy proxy(MariaDbServer::shared().port(), [&cuts](const QByteArray& command) {
-        const bool isAsked = command.contains("from classe Where");
+        const bool isAsked = command.contains("from classe where");
         return isAsked && cuts-- > 0 ? CuttingProxy::Verdict::Cut : CuttingProxy::Verdict::Pass;
     });
     EngineDesk desk(database, false, proxy.through(database.connectString()));

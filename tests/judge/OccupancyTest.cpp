@@ -122,6 +122,7 @@ public:
             return m_occupancy->isOn(holding, whenOf(question)) && isRow(holding, row);
         });
     }
+    [[nodiscard]] bool holds(const QString& room) const { return m_database.dialect().holds(room); }
     [[nodiscard]] bool knows(const QString& room) const { return !roomOf(room).isNone(); }
 
 private:
@@ -202,8 +203,8 @@ protected:
     void comparePeriod(BothWays& ways, const QStringList& rooms)
     {
         for (const QString& room : rooms) {
-            // In a plain statement a backslash may begin a sign of its own.
-            if (!ways.knows(room) || room.contains(u'\\')) {
+            // A plain statement may ask about another name.
+            if (!ways.knows(room) || !ways.holds(room)) {
                 continue;
             }
             for (const int day : {timetable::kMonday, timetable::kMonday + 1}) {

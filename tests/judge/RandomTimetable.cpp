@@ -33,6 +33,28 @@ QStringList oddClasses()
     return {"GC1", "gc1", "GC1 ", "GÇ1", "L2 \"B\"", "D'Arc", "M\\1", "", "INF", "Inf", kNull};
 }
 
+/// Names that a statement may refuse, take for something else, or be changed by.
+QStringList quotedRooms()
+{
+    return {"Salle d'informatique",
+            "Salle d'or",
+            "L''été",
+            "L'été",
+            "x' OR '1'='1",
+            "Atelier d'1",
+            "Amphi'",
+            "B\\\\2",
+            "'Annexe",
+            "d'art -- bis",
+            "B\\\\"};
+}
+
+QStringList quotedClasses()
+{
+    return {"1re année d'anglais", "1RE ANNÉE D'ANGLAIS", "L2 d'or", "M''1",  "M'1", "D\\\\eau",
+            "L'Hiver B",           "x' or 'a'='a",        "L1'",     "M\\\\1"};
+}
+
 /// Plain names before the odd ones, so that these come in a later mask column.
 QStringList withManyBefore(const QStringList& names)
 {
@@ -126,6 +148,10 @@ RandomTimetable::RandomTimetable(TestDatabase& database, unsigned seed) : m_engi
 {
     m_rooms = chance(20) ? withManyBefore(oddRooms()) : oddRooms();
     m_classes = chance(20) ? withManyBefore(oddClasses()) : oddClasses();
+    if (chance(33)) {
+        m_rooms += quotedRooms();
+        m_classes += quotedClasses();
+    }
     Timetable tables(database);
     addSchool(tables);
     const auto text = [](const QString& column, const QString& value) {

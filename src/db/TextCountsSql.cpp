@@ -1,0 +1,68 @@
+#include "db/TextCountsSql.h"
+
+#include "db/NumberedTexts.h"
+
+namespace db
+{
+namespace
+{
+
+/// The table's rows that equal one of the texts, a group for each text that the column tells from
+/// the others. `odd`: a condition that holds where the column does not compare as texts do.
+QString foundRows(const CountQuestion& question, const QStringList& literals, const QString& odd)
+{
+    const QString& value = question.valueColumn;
+    const QString values =
+        value.isEmpty() ? QStringLiteral("null as lo, null as hi, 0 as v")
+                        : QStringLiteral("min(") + value + QStringLiteral(") as lo, max(") + value +
+                              QStringLiteral(") as hi, count(") + value + QStringLiteral(") as v");
+    return QStringLiteral("select ") + question.column +
+           QStringLiteral(" as t, null as n, count(*) as r, ") + values + QStringLiteral(", max(") +
+           odd + QStringLiteral(") as o from ") + question.table + QStringLiteral(" where ") +
+           question.column + QStringLiteral(" in (") + literals.join(u',') +
+           QStringLiteral(") group by ") + question.column;
+}
+
+/// One question: its rows and the texts themselves, by what the column takes for equal. The column
+/// comes first, whose collation then serves for both.
+QString questionSql(std::size_t number, const QString& rows, const QString& texts)
+{
+    return QStringLiteral("select ") + QString::number(number) +
+           QStringLiteral(" as q, group_concat(n) as members, count(n) as c, sum(r) as r, "
+                          "min(lo) as lo, max(hi) as hi, sum(v) as v, max(o) as o from (") +
+           rows + QStringLiteral(" union all select t, n, 0, null, null, 0, 0 from (") + texts +
+           QStringLiteral(") l) u group by t");
+}
+
+} // namespace
+
+QString sqliteTextCountsSql(const std::vector<CountQuestion>& questions,
+                            const QStringList& literals)
+{
+    QStringList parts;
+    for (const CountQuestion& question : questions) {
+        const QString odd =
+            QStringLiteral("typeof(") + question.column + QStringLiteral(")<>'text'");
+        parts << questionSql(static_cast<std::size_t>(parts.size()),
+                             foundRows(question, literals, odd),
+                             QStringLiteral("select n, t from texts"));
+    }
+    return QStringLiteral("with texts(n,t) as (") + sqliteNumberedRows(literals) +
+           QStringLiteral(") ") + parts.join(QStringLiteral(" union all "));
+}
+
+QString serverTextCountsSql(const std::vector<CountQuestion>& questions,
+                            const QStringList& literals)
+{
+    QStringList parts;
+    for (const CountQuestion& question : questions) {
+        const QString odd =
+            QStringLiteral("collation(") + question.column + QStringLiteral(")='binary'");
+        parts << questionSql(static_cast<std::size_t>(parts.size()),
+                             foundRows(question, literals, odd),
+                             serverNumberedRows(literals, question.column, question.table));
+    }
+    return parts.join(QStringLiteral(" union all "));
+}
+
+} // namespace db

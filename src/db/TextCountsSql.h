@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace db
+{
+
+/// "How many rows does each of these texts find in that column?"
+struct CountQuestion {
+    QString table;
+    QString column;
+    QString valueColumn; ///< whose values in these rows are asked for, too; empty for none
+};
+
+/// What the columns of the statement's rows are, in their order. A row is a group of texts that the
+/// column takes for equal, with the table's rows that equal them.
+enum class TextCountColumn {
+    Question, ///< its number
+    Members,  ///< the numbers of the texts, counted from 1, separated by commas; null for none
+    Texts,    ///< how many these are
+    Rows,     ///< of the table
+    Least,    ///< value in these rows
+    Greatest,
+    Values,  ///< how many of the rows have a value
+    OddRows, ///< not 0 where the column does not compare as texts do
+};
+
+/// The statement that answers such questions about texts, given as literals, each of which is one;
+/// an answer holds the texts that find no row, too.
+[[nodiscard]] QString sqliteTextCountsSql(const std::vector<CountQuestion>& questions,
+                                          const QStringList& literals);
+/// For MariaDB and MySQL. A server refuses texts that a column's character set cannot hold.
+[[nodiscard]] QString serverTextCountsSql(const std::vector<CountQuestion>& questions,
+                                          const QStringList& literals);
+
+} // namespace db
