@@ -1,6 +1,9 @@
 #include "app/PlanPicture.h"
 
 #include <QPainter>
+#include <algorithm>
+#include <set>
+#include <utility>
 
 namespace app
 {
@@ -28,35 +31,104 @@ QPixmap blank(QSize size, double ratio)
 
 } // namespace
 
-void PlanPicture::draw(const paint::PlanScene& scene, QSize size, double ratio)
+PlanPicture::Change PlanPicture::draw(const paint::PlanScene& scene, QSize size, double ratio)
 {
-    m_plan = blank(size, ratio);
-    m_totals = blank({size.width(), kTotalsHeight}, ratio);
+    Ground ground = groundOf(scene, size, ratio);
+    std::vector<DrawnRow> rows = rowsOf(scene);
+    DrawnTotals totals{scene.form.Tot, scene.hasOldTotals};
+    Change change;
+    if (ground == m_ground && rows.size() == m_rows.size()) {
+        change = {drawRows(scene, changedRows(rows)), totals != m_drawnTotals};
+    } else {
+        m_plan = blank(size, ratio);
+        m_totals = blank({size.width(), kTotalsHeight}, ratio);
+        drawAll(scene, size);
+        change = {QRect(QPoint(), size), true};
+    }
+    if (change.totals) {
+        drawTotals(scene);
+    }
+    m_ground = std::move(ground);
+    m_rows = std::move(rows);
+    m_drawnTotals = std::move(totals);
+    return change;
+}
+
+/// By the number of their row.
+std::vector<PlanPicture::DrawnRow> PlanPicture::rowsOf(const paint::PlanScene& scene)
+{
+    std::vector<DrawnRow> rows;
+    rows.reserve(scene.form.Salle.size());
+    for (std::size_t index = 0; index < scene.form.Salle.size(); ++index) {
+        rows.push_back({scene.form.Salle[index], scene.form.Cap[index], {}});
+    }
+    for (const plan::PlanRow& row : scene.content.rows) {
+        rows.at(static_cast<std::size_t>(row.index)).content = row;
+    }
+    return rows;
+}
+
+PlanPicture::Ground PlanPicture::groundOf(const paint::PlanScene& scene, QSize size, double ratio)
+{
+    Ground ground{scene.form,    scene.layout, scene.target, scene.rowsShown,
+                  scene.axisEnd, size,         ratio};
+    // Where rows lie decides about others, too: the first one's height is every box's.
+    for (form::Label& name : ground.form.Salle) {
+        name = form::Label{{}, name.visible, name.place, {}, {}, name.font};
+    }
+    ground.form.Cap = ground.form.Salle;
+    ground.form.Tot = {};
+    return ground;
+}
+
+void PlanPicture::drawAll(const paint::PlanScene& scene, QSize size)
+{
     const form::Place& first = scene.form.Salle.front().place;
     QPainter painter(&m_plan);
     QRectF area = boxStrip(scene, first.top, first.height);
     area.setBottom(size.height());
     painter.fillRect(area, kPlanFill);
     paint::PlanPainter(painter, scene).paintPlan();
-    drawTotals(scene);
 }
 
-void PlanPicture::drawLastRow(const paint::PlanScene& scene)
+std::vector<int> PlanPicture::changedRows(const std::vector<DrawnRow>& rows) const
 {
-    if (m_plan.isNull() || scene.content.rows.empty()) {
-        return;
+    std::vector<int> changed;
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        if (rows[index] != m_rows[index]) {
+            changed.push_back(static_cast<int>(index));
+        }
     }
-    const plan::PlanRow& row = scene.content.rows.back();
-    const form::Place& place = scene.form.Salle.at(static_cast<std::size_t>(row.index)).place;
-    QPainter painter(&m_plan);
-    painter.setClipRect(QRectF(0, scene.target.toPixelsY(place.top) - 1, m_plan.width(),
-                               scene.target.toPixelsY(place.height) + 2));
-    painter.fillRect(boxStrip(scene, place.top, place.height).adjusted(0, -1, 0, 1), kPlanFill);
-    paint::PlanPainter plan(painter, scene);
-    plan.paintGrid();
-    plan.paintBoxesOf(row);
-    plan.paintLabelsOf(row);
-    drawTotals(scene);
+    return changed;
+}
+
+/// Returns the strips that it has drawn. Where rows stand close, a strip holds an edge of the rows
+/// beside it, which are drawn there once more.
+QRegion PlanPicture::drawRows(const paint::PlanScene& scene, const std::vector<int>& rows)
+{
+    QRegion strips;
+    std::set<int> touched;
+    const int last = static_cast<int>(scene.form.Salle.size()) - 1;
+    for (const int row : rows) {
+        const form::Place& place = scene.form.Salle[static_cast<std::size_t>(row)].place;
+        strips +=
+            QRectF(0, scene.target.toPixelsY(place.top) - 1, m_plan.deviceIndependentSize().width(),
+                   scene.target.toPixelsY(place.height) + 2)
+                .toAlignedRect();
+        touched.insert({std::max(row - 1, 0), row, std::min(row + 1, last)});
+    }
+    if (!strips.isEmpty()) {
+        QPainter painter(&m_plan);
+        painter.setClipRegion(strips);
+        const QRectF all = strips.boundingRect();
+        painter.fillRect(all, kBandFill);
+        const QRectF boxes = boxStrip(scene, 0, 0);
+        painter.fillRect(QRectF(boxes.left(), all.top(), boxes.width(), all.height()), kPlanFill);
+        paint::PlanPainter plan(painter, scene);
+        plan.paintGrid();
+        plan.paintRows({touched.begin(), touched.end()});
+    }
+    return strips;
 }
 
 void PlanPicture::drawTotals(const paint::PlanScene& scene)

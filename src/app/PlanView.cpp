@@ -102,25 +102,28 @@ void PlanView::updateScrollBars()
     horizontalScrollBar()->setPageStep(view.boxes.width());
 }
 
-void PlanView::showProgress()
+void PlanView::showProgress(std::chrono::milliseconds patience)
 {
-    const auto& rows = m_engine.content().rows;
-    if (rows.empty()) {
+    const std::size_t rows = m_engine.content().rows.size();
+    if (m_shownRefresh != m_engine.refreshCount() || rows < m_shownRows) {
+        m_shownRows = 0;
+    }
+    if (rows == m_shownRows ||
+        std::chrono::steady_clock::now() - m_engine.refreshBegan() < patience) {
         return;
     }
     m_rowsAreNew = true;
-    if (rows.size() == 1) {
+    if (m_shownRows == 0) {
         m_isOutOfDate = false;
-        drawAll(); // what the plan showed before goes as a whole: no row of another day stays
-        return;
     }
-    m_picture.drawLastRow(scene());
-    const form::Place& place =
-        m_engine.form().Salle.at(static_cast<std::size_t>(rows.back().index)).place;
-    const int top = static_cast<int>(m_target.toPixelsY(place.top)) - verticalScrollBar()->value();
-    const int height = static_cast<int>(m_target.toPixelsY(place.height)) + 2;
-    viewport()->update(0, top - 1, viewport()->width(), height + 2);
-    viewport()->update(bands().totals);
+    noteShown();
+    drawAll(); // what the plan showed before goes as a whole: no row of another day stays
+}
+
+void PlanView::noteShown()
+{
+    m_shownRefresh = m_engine.refreshCount();
+    m_shownRows = m_engine.content().rows.size();
 }
 
 void PlanView::setOutOfDate(bool outOfDate)
@@ -137,6 +140,7 @@ void PlanView::setOutOfDate(bool outOfDate)
 void PlanView::showAll()
 {
     m_rowsAreNew = false;
+    noteShown();
     drawAll();
     tellScreenReaders(*this);
 }
@@ -173,8 +177,14 @@ QSize PlanView::planSize() const
 
 void PlanView::drawPicture()
 {
-    m_picture.draw(scene(), planSize(), devicePixelRatioF());
-    viewport()->update();
+    const PlanPicture::Change change = m_picture.draw(scene(), planSize(), devicePixelRatioF());
+    for (const QRect& part : change.plan) {
+        viewport()->update(0, part.top() - verticalScrollBar()->value(), viewport()->width(),
+                           part.height());
+    }
+    if (change.totals) {
+        viewport()->update(bands().totals);
+    }
 }
 
 void PlanView::paintEvent(QPaintEvent* event)
@@ -223,7 +233,9 @@ void PlanView::scrollContentsBy(int dx, int dy)
 
 void PlanView::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || !bands().boxes.contains(event->position().toPoint())) {
+    const bool isOfThisPlan = m_shownRefresh == m_engine.refreshCount();
+    if (event->button() != Qt::LeftButton || !isOfThisPlan ||
+        !bands().boxes.contains(event->position().toPoint())) {
         return;
     }
     const PlanHit hit =

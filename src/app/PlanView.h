@@ -6,6 +6,7 @@
 #include "paint/PlanPainter.h"
 
 #include <QAbstractScrollArea>
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -31,9 +32,13 @@ public:
 
     /// Fits the plan to the view anew: the rows, their number or the time axis have changed.
     void fit();
-    /// Repaints what a refresh has drawn since the last call.
-    void showProgress();
-    /// Repaints everything and tells screen readers what has changed.
+    /// A refresh that has taken so long shows its rows as they come; others show all at once.
+    static constexpr std::chrono::milliseconds kShowingPatience{80};
+
+    /// Paints what a refresh in progress has worked out since the last call, once it has taken
+    /// `patience`.
+    void showProgress(std::chrono::milliseconds patience = kShowingPatience);
+    /// Paints whatever is not yet in the picture and tells screen readers what has changed.
     void showAll();
 
     /// While what was drawn last is not what has been asked for, it stands there paled: an answer
@@ -89,6 +94,7 @@ private:
     [[nodiscard]] QSize planSize() const;
     void drawPicture();
     void drawAll();
+    void noteShown();
     /// Where a cell lies in the viewport; the rooms' names stay when the boxes scroll sideways.
     [[nodiscard]] QRect inViewport(const PlanTable::Cell& cell) const;
 
@@ -102,8 +108,10 @@ private:
     int m_lastRows = 0;
     int m_totalsHeight = 0;
     bool m_isOutOfDate = false;
-    bool m_rowsAreNew = false;   ///< of the refresh in progress some are drawn
-    bool m_clicksAreOld = false; ///< those to come were meant for another plan
+    std::uint64_t m_shownRefresh = 0; ///< of which refresh the picture is
+    std::size_t m_shownRows = 0;      ///< how many of its rows are in the picture
+    bool m_rowsAreNew = false;        ///< of the refresh in progress some are drawn
+    bool m_clicksAreOld = false;      ///< those to come were meant for another plan
 };
 
 } // namespace app

@@ -20,6 +20,7 @@
 #include "plan/WatchedAbsences.h"
 
 #include <QString>
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -62,6 +63,11 @@ public:
     [[nodiscard]] const plan::MarkerRecords& markers() const { return m_refresh.markers(); }
     /// How many refreshes have started.
     [[nodiscard]] std::uint64_t refreshCount() const { return m_refresh.refreshCount(); }
+    /// When the last one did.
+    [[nodiscard]] std::chrono::steady_clock::time_point refreshBegan() const
+    {
+        return m_refresh.began();
+    }
     /// Statements sent so far: what a click costs over a far server.
     [[nodiscard]] long long statementCount() const;
 

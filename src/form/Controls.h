@@ -41,6 +41,9 @@ public:
         }
     }
 
+    /// All events are the same value.
+    friend bool operator==(const Event& /*left*/, const Event& /*right*/) { return true; }
+
 private:
     Handler m_handler;
 };
@@ -51,6 +54,8 @@ struct Place {
     int top = 0;
     int width = 0;
     int height = 0;
+
+    friend bool operator==(const Place&, const Place&) = default;
 };
 
 /// A font of the window's design.
@@ -58,6 +63,8 @@ struct Font {
     QString name = QStringLiteral("Arial");
     int points = 9; ///< size in points (1/72 inch)
     bool bold = false;
+
+    friend bool operator==(const Font&, const Font&) = default;
 };
 
 struct Label {
@@ -67,12 +74,16 @@ struct Label {
     Colour backColor;
     QString toolTip;
     Font font;
+
+    friend bool operator==(const Label&, const Label&) = default;
 };
 
 /// A control that is only shown or hidden: a picture or a frame.
 struct Frame {
     QString caption;
     bool visible = true;
+
+    friend bool operator==(const Frame&, const Frame&) = default;
 };
 
 class CheckBox
@@ -100,6 +111,8 @@ public:
     bool visible = true;
     Event click;
 
+    friend bool operator==(const CheckBox&, const CheckBox&) = default;
+
 private:
     bool m_checked;
 };
@@ -125,6 +138,8 @@ public:
         }
     }
     [[nodiscard]] Event& click(int button) { return m_clicks.at(static_cast<std::size_t>(button)); }
+
+    friend bool operator==(const OptionGroup&, const OptionGroup&) = default;
 
 private:
     QStringList m_captions;
@@ -201,6 +216,8 @@ public:
     bool visible = true;
     Event click;
 
+    friend bool operator==(const List&, const List&) = default;
+
 private:
     QStringList m_items;
     int m_listIndex = -1;
@@ -220,6 +237,8 @@ public:
     }
 
     Event change;
+
+    friend bool operator==(const TextBox&, const TextBox&) = default;
 
 private:
     QString m_text;
@@ -241,6 +260,8 @@ public:
     bool visible = false;
     Event change;
 
+    friend bool operator==(const DatePicker&, const DatePicker&) = default;
+
 private:
     QDate m_value;
 };
@@ -261,6 +282,8 @@ public:
     QString caption;
     bool enabled = true;
     Event click;
+
+    friend bool operator==(const Button&, const Button&) = default;
 };
 
 } // namespace form

@@ -110,6 +110,8 @@ public:
     [[nodiscard]] QString title() const;
     /// Gives every label the font of that name; sizes and weights stay.
     void setFontName(const QString& name);
+
+    friend bool operator==(const PlanForm&, const PlanForm&) = default;
 };
 
 } // namespace form

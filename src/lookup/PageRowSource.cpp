@@ -249,6 +249,9 @@ db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
             return *rows;
         }
     }
+    if (question.room.isEmpty()) { // asks about `Salle` alone, whatever column refuses the others
+        return m_plain.timetableRows(question);
+    }
     return m_tables[question.table].ask({question.room}, m_database.dialect(),
                                         [&] { return m_plain.timetableRows(question); });
 }

@@ -24,6 +24,8 @@ struct DrawingTarget {
     /// starts from the painter's font.
     int FontSize = 0;
 
+    friend bool operator==(const DrawingTarget&, const DrawingTarget&) = default;
+
     [[nodiscard]] double toPixelsX(double twips) const { return twips / TargetTwipsPerPixelX; }
     [[nodiscard]] double toPixelsY(double twips) const { return twips / TargetTwipsPerPixelY; }
     /// A rectangle in twips as it lies on the target, without the boxes' offset.

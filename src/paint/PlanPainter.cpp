@@ -196,15 +196,26 @@ void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::Al
                   isRowZero ? m_rowZeroRuler : m_labelRuler);
 }
 
-void PlanPainter::paintLabelsOf(const plan::PlanRow& row)
+void PlanPainter::paintRows(const std::vector<int>& rows)
 {
-    if (!plan::isShown(m_scene.form, row)) {
-        return;
+    const auto isOne = [&rows](int row) {
+        return std::find(rows.begin(), rows.end(), row) != rows.end();
+    };
+    for (const plan::PlanRow& row : m_scene.content.rows) {
+        if (isOne(row.index)) {
+            paintBoxesOf(row);
+        }
     }
-    const auto index = static_cast<std::size_t>(row.index);
     m_surface.save();
-    paintRowLabel(m_scene.form.Salle[index], row.index == 0, Qt::AlignLeft);
-    paintRowLabel(m_scene.form.Cap[index], row.index == 0, Qt::AlignRight);
+    for (const auto& [labels, side] : {std::pair(&m_scene.form.Salle, Qt::AlignLeft),
+                                       std::pair(&m_scene.form.Cap, Qt::AlignRight)}) {
+        for (const int row : rows) {
+            const form::Label& label = labels->at(static_cast<std::size_t>(row));
+            if (label.visible) {
+                paintRowLabel(label, row == 0, side);
+            }
+        }
+    }
     m_surface.restore();
 }
 

@@ -47,8 +47,9 @@ public:
     void paintBoxesOf(const plan::PlanRow& row);
     void paintRoomLabels();
     void paintPlaces();
-    /// Room name and places of one row of the content.
-    void paintLabelsOf(const plan::PlanRow& row);
+    /// Boxes, names and places of these rows, in the order in which the whole plan is painted. The
+    /// grid lies beneath.
+    void paintRows(const std::vector<int>& rows);
     void paintTotals();
 
     /// Bottom of the last row that is shown, in device pixels.

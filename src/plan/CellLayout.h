@@ -15,6 +15,8 @@ struct CellLayout {
     /// How a box text is set: see kCentredLines and kWordBreak.
     int CellTextFormat = kCentredLines;
 
+    friend bool operator==(const CellLayout&, const CellLayout&) = default;
+
     /// Pages of fewer rooms than this have rows high enough for several lines; as the window's
     /// design has it.
     static constexpr double kManyRooms = 20;

@@ -15,6 +15,8 @@ struct GroupCounter {
     QString details;   ///< what a click on the counter shows
     bool overfull = false;
     bool atRight = false; ///< the counter stands in the box's right corner, else in its left one
+
+    friend bool operator==(const GroupCounter&, const GroupCounter&) = default;
 };
 
 /// The counter of a box; none for a single class that fits. `places` is the text of the room's

@@ -27,6 +27,8 @@ struct PlanBox {
     bool classAbsent = false; ///< `XAbs` shows the picture of `Image5`
     bool studentAbsent = false; ///< `YAbs` shows the picture of `Image6`
     QString absentToolTip;      ///< tooltip of `YAbs`
+
+    friend bool operator==(const PlanBox&, const PlanBox&) = default;
 };
 
 /// A slot of a room of which it is not known what is in it. Positions are in twips.
@@ -36,6 +38,8 @@ struct UnknownCell {
     int minutes = 0;    ///< length of the slot
     int x = 0;          ///< left edge
     double width = 0.0; ///< as long as the slot lasts
+
+    friend bool operator==(const UnknownCell&, const UnknownCell&) = default;
 };
 
 struct PlanRow {
@@ -45,6 +49,8 @@ struct PlanRow {
     form::Colour color;
     std::vector<PlanBox> boxes;
     std::vector<UnknownCell> unknown;
+
+    friend bool operator==(const PlanRow&, const PlanRow&) = default;
 };
 
 /// What one refresh worked out: whatever shows the plan, on the screen, on paper or in a file,

@@ -46,6 +46,7 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
         return;
     }
     const std::uint64_t refresh = ++m_refreshes;
+    m_began = std::chrono::steady_clock::now();
     m_inProgress = refresh;
     startTotals(start);
     const context::Totals totals = m_state.totals;

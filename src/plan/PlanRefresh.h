@@ -6,6 +6,7 @@
 #include "plan/PlanContent.h"
 #include "plan/PlanState.h"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -55,6 +56,8 @@ public:
     [[nodiscard]] const PlanContent& content() const { return m_content; }
     /// How many refreshes have started.
     [[nodiscard]] std::uint64_t refreshCount() const { return m_refreshes; }
+    /// When the last one did.
+    [[nodiscard]] std::chrono::steady_clock::time_point began() const { return m_began; }
 
     [[nodiscard]] MarkerRecords& markers() { return m_markers; }
     [[nodiscard]] const MarkerRecords& markers() const { return m_markers; }
@@ -91,6 +94,7 @@ private:
     int m_nextRow = 1; ///< row that the refresh in progress comes to next
     int m_lastRow = 0; ///< row that it ends with
     std::uint64_t m_refreshes = 0;
+    std::chrono::steady_clock::time_point m_began;
     std::uint64_t m_inProgress = 0; ///< number of the refresh that goes on; 0 for none
 };
 

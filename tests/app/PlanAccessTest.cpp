@@ -280,7 +280,7 @@ TEST_F(ThePlanAsATable, hasTheRowsDrawnSoFarInTheMiddleOfARefresh)
     QList<int> rows;
     QList<bool> valid;
     desk.whileYielding = [&] {
-        view->showProgress();
+        view->showProgress(std::chrono::milliseconds(0));
         rows << table().rowCount();
         valid << last->isValid();
     };

@@ -32,15 +32,17 @@ protected:
 
     [[nodiscard]] paint::PlanScene scene() const
     {
-        return paint::sceneOf(desk.state, desk.engine.content(), paint::DrawingTarget());
+        return paint::sceneOf(desk.state, desk.engine.content(), target);
     }
-    void draw(double ratio = 1) { picture.draw(scene(), {1500, 200}, ratio); }
+    PlanPicture::Change draw(double ratio = 1) { return picture.draw(scene(), {1500, 200}, ratio); }
     [[nodiscard]] QColor at(int x, int y) const
     {
         return picture.plan().toImage().pixelColor(x, y);
     }
 
+    static constexpr int row3 = (345 + 3 * 368 + 40) / 15;
     PlanDesk desk{4};
+    paint::DrawingTarget target;
     PlanPicture picture;
 };
 
@@ -98,50 +100,70 @@ TEST_F(ThePicture, holdsTheTotalsInABandOfTheirOwn)
     EXPECT_EQ(totals.pixelColor(300, 24), band);
 }
 
-TEST_F(ThePicture, takesTheLastRowAloneAnew)
+TEST_F(ThePicture, takesOnlyTheRowsAnewThatHaveChanged)
 {
-    draw();
+    EXPECT_EQ(draw().plan, QRect(0, 0, 1500, 200));
+    EXPECT_TRUE(draw().plan.isEmpty());
     desk.meeting(3, 1);
     desk.engine.refreshPlan();
+    // Row 3 lies from 345 + 3 * 368 twips on, at 96.6 to 116.6, and its edges.
+    EXPECT_EQ(draw().plan, QRect(0, 95, 1500, 23));
+    EXPECT_EQ(at(112, row3 + 1), yellow);
+    EXPECT_EQ(at(112, 50), yellow);
+    desk.form.Salle[1].backColor = form::Colour::fromRgb(0, 200, 200);
+    EXPECT_EQ(draw().plan, QRect(0, 46, 1500, 23));
+    EXPECT_EQ(at(1, 50), QColor(0, 200, 200));
+    desk.rows = {};
+    desk.draw();
+    EXPECT_EQ(draw().plan, QRegion(0, 46, 1500, 23) + QRegion(0, 95, 1500, 23));
+    EXPECT_EQ(at(112, row3 + 1), white);
+}
+
+TEST_F(ThePicture, takesTheTotalsAnewWhenTheyHaveChanged)
+{
+    EXPECT_TRUE(draw().totals);
+    EXPECT_FALSE(draw().totals);
     desk.form.Tot[1].visible = true;
     desk.totals.isOld = false;
-    desk.form.Salle[1].backColor = form::Colour::fromRgb(0, 200, 200);
-    desk.form.Salle[3].backColor = form::Colour::fromRgb(0, 200, 200);
-    picture.drawLastRow(scene());
-    const int row3 = (345 + 3 * 368 + 40) / 15;
-    EXPECT_EQ(at(1, row3), QColor(0, 200, 200));
-    EXPECT_EQ(at(112, row3 + 1), yellow);
-    EXPECT_EQ(at(600, row3), white);
-    EXPECT_EQ(at(1, 50), yellow); // row 1 stays as it was
+    const PlanPicture::Change change = draw();
+    EXPECT_TRUE(change.totals);
+    EXPECT_TRUE(change.plan.isEmpty());
     EXPECT_EQ(picture.totals().toImage().pixelColor(270, 4), white);
 }
 
-TEST_F(ThePicture, leavesOtherRowsUnderTheirBoxesWhenTheLastOneIsDrawn)
+TEST_F(ThePicture, isTakenWholeWhereARowIsNotAllThatHasChanged)
 {
-    desk.form.ChkGrille.setChecked(true);
-    draw();
-    ASSERT_EQ(at(215, 50), yellow); // 9h00 within the box of row 1, which lies over the grid
-    picture.drawLastRow(scene());
-    EXPECT_EQ(at(215, 50), yellow);
-    const int row3 = (345 + 3 * 368 + 40) / 15;
-    EXPECT_EQ(at(428, row3), QColor(0, 0, 180)); // 11h00 on the grid of the row itself
+    const QRegion all(0, 0, 1500, 200);
+    std::ignore = draw();
+    desk.form.ChkGrille.design(true);
+    EXPECT_EQ(draw().plan, all);
+    desk.layout.CellTextFormat = plan::CellLayout::kWordBreak;
+    EXPECT_EQ(draw().plan, all);
+    desk.form.Salle[3].place.top += 15;
+    EXPECT_EQ(draw().plan, all);
+    EXPECT_EQ(draw(2).plan, all);
+    EXPECT_TRUE(draw(2).plan.isEmpty());
+    EXPECT_EQ(draw(1).plan, all);
 }
 
-TEST_F(ThePicture, losesWhatTheLastRowHeldBefore)
+// Rows that touch each other, at whatever scale: what is drawn row by row is what is drawn at once.
+TEST_F(ThePicture, isTheSameHoweverItCameAbout)
 {
-    draw();
-    desk.state.form.Salle[3].visible = true;
-    desk.meeting(3, 1);
-    desk.draw();
-    picture.drawLastRow(scene());
-    desk.rows = {};
-    desk.draw();
-    picture.drawLastRow(scene());
-    EXPECT_EQ(at(112, (345 + 3 * 368 + 40) / 15), white);
-}
-
-TEST_F(ThePicture, takesNoRowBeforeItIsDrawn)
-{
-    picture.drawLastRow(scene());
-    EXPECT_TRUE(picture.plan().isNull());
+    desk.form.ChkGrille.design(true);
+    for (const int twipsPerPixel : {9, 15, 31}) {
+        target.TargetTwipsPerPixelX = target.TargetTwipsPerPixelY = twipsPerPixel;
+        std::ignore = draw(1.5);
+        for (int step = 0; step < 12; ++step) {
+            const int row = 1 + step % 3;
+            desk.meeting(row, 1 + step % 5).set("Classe", step % 2 == 0 ? "L1" : "L2 INFO");
+            desk.form.Salle[static_cast<std::size_t>(row)].backColor =
+                form::Colour::fromRgb(20 * step, 200, 100);
+            desk.engine.refreshPlan();
+            EXPECT_FALSE(draw(1.5).plan.contains(QPoint(1, 1))) << step; // the ticks stay
+            PlanPicture whole;
+            std::ignore = whole.draw(scene(), {1500, 200}, 1.5);
+            ASSERT_EQ(picture.plan().toImage(), whole.plan().toImage()) << step << twipsPerPixel;
+            ASSERT_EQ(picture.totals().toImage(), whole.totals().toImage()) << step;
+        }
+    }
 }

@@ -205,3 +205,36 @@ TEST_P(TheRowsOfAPage, takeNoStatementWithoutRoomsOrSlots)
     none.seanceKeys.clear();
     EXPECT_EQ(statementsOf([&] { static_cast<void>(page->prepare(none)); }), 0);
 }
+
+TEST_P(TheRowsOfAPage, areFoundForARoomWithoutANameThoughAFurtherColumnIsMissing)
+{
+    // Only rooms with a name are looked for there.
+    database().execute(QStringList{"alter table emplois drop column XSalle",
+                                   "update emplois set Salle = '' where Salle = 'B1'"});
+    questions.rooms << QString();
+    static_cast<void>(page->prepare(questions));
+    EXPECT_THROW(static_cast<void>(page->timetableRows(question("A2", "Lundi1"))),
+                 runtime::RunTimeError);
+    EXPECT_THROW(static_cast<void>(page->timetableRows(question("B2", "Lundi1"))),
+                 runtime::RunTimeError);
+    EXPECT_EQ(sorted(classesOf(page->timetableRows(question("", "Lundi3")))),
+              QStringList({"G2", "G3"}));
+}
+
+TEST_P(TheRowsOfAPage, askNothingAboutANameThatNoStatementHolds)
+{
+    questions.rooms << "Salle d'informatique";
+    static_cast<void>(page->prepare(questions));
+    EXPECT_EQ(statementsOf([&] {
+                  EXPECT_EQ(errorNumberOf([&] {
+                                std::ignore =
+                                    page->timetableRows(question("Salle d'informatique", "Lundi1"));
+                            }),
+                            runtime::ErrorNumber::StatementRefused);
+                  EXPECT_THROW(std::ignore = page->studentRows("1re année d'anglais"),
+                               runtime::RunTimeError);
+                  EXPECT_THROW(std::ignore = page->classRows("1re année d'anglais"),
+                               runtime::RunTimeError);
+              }),
+              0);
+}

@@ -321,25 +321,23 @@ TEST_F(APaintedPlan, hasNoLabelsInHiddenRows)
     EXPECT_TRUE(places.isTouched(1416, middleOf(4)));
 }
 
-TEST_F(APaintedPlan, hasTheLabelsOfOneRowAlone)
+TEST_F(APaintedPlan, hasSomeOfItsRowsAlone)
 {
     desk.draw();
-    const auto labelsOf = [this](std::size_t row) {
+    const auto row = [this](int number) {
         const PlanScene scene = sceneOf(desk.state, desk.engine.content(), DrawingTarget());
         Canvas canvas(1500, 400);
-        canvas.draw([&](QPainter& painter) {
-            PlanPainter(painter, scene).paintLabelsOf(desk.drawn().at(row));
-        });
+        canvas.draw([&](QPainter& painter) { PlanPainter(painter, scene).paintRows({number}); });
         return canvas;
     };
-    const Canvas second = labelsOf(1); // row 2, at 345 + 2 * 368 twips: 72.07 to 92.07
+    const Canvas second = row(2); // row 2, at 345 + 2 * 368 twips: 72.07 to 92.07
     EXPECT_EQ(second.touched(), QRect(0, 72, 1450, 20));
     EXPECT_EQ(second.at(1, 74), boxFill); // row 0 alone is greyed
     EXPECT_FALSE(second.isTouched(100, 80));
     EXPECT_FALSE(second.isTouched(1413, 80));
     EXPECT_TRUE(second.isTouched(1414, 80));
-    desk.form.Salle[2].visible = false;
-    EXPECT_TRUE(labelsOf(1).touched().isEmpty());
+    desk.form.Salle[2].visible = desk.form.Cap[2].visible = false;
+    EXPECT_TRUE(row(2).touched().isEmpty());
 }
 
 TEST_F(APaintedPlan, hasAGridOnlyWhileItIsTicked)
