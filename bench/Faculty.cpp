@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <stdexcept>
+#include <utility>
 
 namespace bench
 {
@@ -50,13 +51,23 @@ Faculty::Faculty(const demo::FacultyOptions& options, test::DatabaseKind kind) :
     }
 }
 
+Faculty::Start Faculty::start(bool plain) const
+{
+    const QString settings = m_folder.filePath(QStringLiteral("Tempora.ini"));
+    write(settings,
+          QStringLiteral("[Settings]\nMysql=%1\nBase=%2\nBase_Sql=%2\n")
+              .arg(m_database.usesMySql() ? QStringLiteral("True") : QStringLiteral("False"),
+                   m_database.baseName()));
+    engine::Surroundings surroundings;
+    surroundings.applicationFolder = m_folder.path();
+    surroundings.seed = 1;
+    surroundings.plain = plain;
+    return {shell::Settings::fromFile(settings), surroundings};
+}
+
 std::unique_ptr<shell::Shell> Faculty::open(bool plain, quint16 port) const
 {
     const bool mySql = m_database.usesMySql();
-    const QString settings = m_folder.filePath(QStringLiteral("Tempora.ini"));
-    write(settings, QStringLiteral("[Settings]\nMysql=%1\nBase=%2\nBase_Sql=%2\n")
-                        .arg(mySql ? QStringLiteral("True") : QStringLiteral("False"),
-                             m_database.baseName()));
     const QString php =
         m_folder.filePath(QStringLiteral("app_data/%1.php").arg(m_database.baseName()));
     const QString usual = mySql ? read(php) : QString();
@@ -66,11 +77,8 @@ std::unique_ptr<shell::Shell> Faculty::open(bool plain, quint16 port) const
                       QStringLiteral("$port=\"%1\"").arg(port));
         write(php, moved);
     }
-    engine::Surroundings environment;
-    environment.applicationFolder = m_folder.path();
-    environment.seed = 1;
-    environment.plain = plain;
-    auto program = std::make_unique<shell::Shell>(shell::Settings::fromFile(settings), environment);
+    Start start = this->start(plain);
+    auto program = std::make_unique<shell::Shell>(std::move(start.settings), start.surroundings);
     program->Form_Load();
     program->fitPicture();
     program->Form_Activate();

@@ -22,6 +22,13 @@ public:
     /// (0: leave it); `plain` sends one statement per question.
     [[nodiscard]] std::unique_ptr<shell::Shell> open(bool plain, quint16 port = 0) const;
 
+    /// What a program that uses the faculty is started with.
+    struct Start {
+        shell::Settings settings;
+        engine::Surroundings surroundings;
+    };
+    [[nodiscard]] Start start(bool plain = false) const;
+
     /// The database itself.
     [[nodiscard]] test::TestDatabase& database() { return m_database; }
 

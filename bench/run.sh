@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Measures what docs/performance.md tells, and prints it as Markdown. Installs what is missing.
 #
-#   bench/run.sh [small|middle|large]...      (all three unless told; about a quarter of an hour)
+#   bench/run.sh [small|middle|large]...      (all three unless told; about twelve minutes)
 #   bench/run.sh --near [small|middle|large]...  without the servers behind a delay, which take most
 #
-# Statements and time per refresh, plain and ahead; reading a whole period; time to lay out and paint
-# a page; first plan from process start; peak memory; every page of the rooms to PDF. Leave the
+# Statements and time per refresh, plain and ahead; a whole click in the window; reading a whole period;
+# time to lay out and paint a page; first plan from process start; peak memory; every page of the rooms to PDF. Leave the
 # machine alone meanwhile.
 set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
@@ -30,7 +30,8 @@ work=$folder/work
 ensure_packages "${build_packages[@]}" hyperfine libbenchmark-dev libgtest-dev mariadb-client-core \
     mariadb-server-core xauth xvfb
 configure "$folder" bench
-build "$folder" tempora tempora-demo refresh_bench timetable_bench drawing_bench first_plan
+build "$folder" tempora tempora-demo refresh_bench click_bench timetable_bench \
+    drawing_bench first_plan
 mkdir -p "$work"
 use_private_folders "$work/home"
 mkdir -p "$XDG_CONFIG_HOME"
@@ -79,6 +80,8 @@ peak_memory() {
 printf '%s, %s, %s processors\n\n' "$(date +%F)" \
     "$(awk -F': ' '/model name/ { print $2; exit }' /proc/cpuinfo)" "$(nproc)"
 (unset ODBCINI ODBCSYSINI && "$bin/refresh_bench" "${near[@]}" "${sizes[@]}")
+printf '\n'
+(unset ODBCINI ODBCSYSINI && under_x "$bin/click_bench" 2>/dev/null)
 printf '\n'
 (unset ODBCINI ODBCSYSINI && "$bin/timetable_bench" "${near[@]}")
 printf '\n```\n'

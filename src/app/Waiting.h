@@ -17,7 +17,7 @@ class Waiting : public QObject
 public:
     /// How waiting is shown. `show` and `hide` take turns.
     struct Sign {
-        std::chrono::milliseconds after; ///< how much of an action passes without a sign
+        std::chrono::milliseconds after{}; ///< how much of an action passes without a sign
         std::function<void()> show;
         std::function<void()> hide;
         /// Which events are served while a call is under way.
