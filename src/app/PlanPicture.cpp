@@ -122,8 +122,10 @@ QRegion PlanPicture::drawRows(const paint::PlanScene& scene, const std::vector<i
         painter.setClipRegion(strips);
         const QRectF all = strips.boundingRect();
         painter.fillRect(all, kBandFill);
-        const QRectF boxes = boxStrip(scene, 0, 0);
-        painter.fillRect(QRectF(boxes.left(), all.top(), boxes.width(), all.height()), kPlanFill);
+        const form::Place& first = scene.form.Salle.front().place;
+        QRectF boxes = boxStrip(scene, first.top, first.height); // white from the first row on
+        boxes.setBottom(all.bottom());
+        painter.fillRect(boxes, kPlanFill);
         paint::PlanPainter plan(painter, scene);
         plan.paintGrid();
         plan.paintRows({touched.begin(), touched.end()});

@@ -84,6 +84,7 @@ void PlanView::fit()
     m_shell.layOut(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
                    viewport()->height() * m_target.TargetTwipsPerPixelY);
     updateScrollBars();
+    viewport()->update();
     if (!m_isOutOfDate) { // else the rows to come are drawn, and not one without its boxes
         drawPicture();
     }
@@ -113,8 +114,8 @@ void PlanView::showProgress(std::chrono::milliseconds patience)
         return;
     }
     m_rowsAreNew = true;
-    if (m_shownRows == 0) {
-        m_isOutOfDate = false;
+    if (std::exchange(m_isOutOfDate, false)) {
+        viewport()->update(); // without the veil, rows that have not changed included
     }
     noteShown();
     drawAll(); // what the plan showed before goes as a whole: no row of another day stays
@@ -183,7 +184,8 @@ void PlanView::drawPicture()
                            part.height());
     }
     if (change.totals) {
-        viewport()->update(bands().totals);
+        const QRect totals = bands().totals;
+        viewport()->update(0, totals.top(), viewport()->width(), totals.height());
     }
 }
 

@@ -18,7 +18,7 @@ namespace db
 class MatchMasks
 {
 public:
-    /// The dialect holds the texts (SqlDialect::holds).
+    /// Each text is one literal (SqlDialect::isOneLiteral) and stands for what that means.
     MatchMasks(QString column, QStringList texts, const SqlDialect& dialect = SqlDialect(false));
 
     [[nodiscard]] const QStringList& texts() const { return m_texts; }

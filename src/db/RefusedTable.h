@@ -22,11 +22,11 @@ public:
     /// read's; without running it, that of an earlier read, once the table is known to refuse, and
     /// nameRefused().
     template <typename Read>
-    decltype(auto) ask(const QStringList& names, const SqlDialect& dialect, Read&& read)
+    auto ask(const QStringList& names, const SqlDialect& dialect, Read&& read)
     {
         bool isPlain = true;
         for (const QString& name : names) {
-            if (dialect.isRefused(name)) {
+            if (isPlain && dialect.isRefused(name)) { // behind other quotes it may read otherwise
                 throw nameRefused();
             }
             isPlain = isPlain && dialect.isOneLiteral(name);
@@ -35,7 +35,9 @@ public:
             throw DatabaseError(*m_verdict);
         }
         try {
-            return std::forward<Read>(read)();
+            auto answer = std::forward<Read>(read)();
+            m_suspected = m_suspected && !isPlain;
+            return answer;
         } catch (const DatabaseError& error) {
             if (isPlain && m_suspected) {
                 m_verdict = error;

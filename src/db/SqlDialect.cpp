@@ -8,11 +8,10 @@ namespace db
 namespace
 {
 
-/// Whether the character is none that begins a comment, a name, a parameter, an escape or another
-/// statement.
+/// Whether drivers and servers read the character as it stands, wherever it does.
 bool isHarmless(QChar character)
 {
-    return character.isLetterOrNumber() || QStringLiteral(" '.,-()+&").contains(character);
+    return character != u'\\' && character != u'\0' && character != u'{' && character != u'}';
 }
 
 /// Whether a condition, or the statement behind it, may go on with the word after a literal.
@@ -84,10 +83,10 @@ QStringList SqlDialect::askable(const QStringList& texts) const
 
 bool SqlDialect::isRefused(const QString& text) const
 {
-    if (isOneLiteral(text) || !std::all_of(text.begin(), text.end(), isHarmless) ||
-        text.contains(QStringLiteral("--"))) {
+    if (isOneLiteral(text) || !std::all_of(text.begin(), text.end(), isHarmless)) {
         return false;
     }
+    // What stands before the quote is within the literal, and at the word the grammar gives up.
     const QString behind = text.mid(endOfLiteral(text) + 1).trimmed();
     const auto end = std::find_if_not(behind.begin(), behind.end(),
                                       [](QChar character) { return character.isLetterOrNumber(); });

@@ -5,6 +5,7 @@
 #include "db/Session.h"
 
 #include <cstddef>
+#include <optional>
 
 namespace db
 {
@@ -32,7 +33,7 @@ TextCount countOf(const Row& row)
     TextCount count;
     count.rows = numberOf(row, TextCountColumn::Rows);
     const int values = numberOf(row, TextCountColumn::Values);
-    const Value least = fieldOf(row, TextCountColumn::Least);
+    const Value least = values == 0 ? Value() : fieldOf(row, TextCountColumn::Least);
     count.rowsDiffer =
         values > 0 && (values < count.rows || least != fieldOf(row, TextCountColumn::Greatest));
     if (!count.rowsDiffer) {
@@ -41,34 +42,64 @@ TextCount countOf(const Row& row)
     return count;
 }
 
-/// What the group's texts find.
-void keep(const Row& row, std::vector<std::vector<TextCount>>& counts)
+/// The answers, as far as they have come.
+class Counts
 {
-    if (numberOf(row, TextCountColumn::OddRows) != 0) {
-        throw refused(QStringLiteral("The column does not compare as texts do."));
+public:
+    Counts(std::size_t questions, std::size_t texts)
+        : m_counts(questions, std::vector<std::optional<TextCount>>(texts))
+    {
     }
-    std::vector<TextCount>& ofQuestion =
-        counts.at(static_cast<std::size_t>(numberOf(row, TextCountColumn::Question)));
-    const QString members = fieldOf(row, TextCountColumn::Members).toJoinedText();
-    const QStringList numbers = members.isEmpty() ? QStringList() : members.split(u',');
-    if (numbers.size() != numberOf(row, TextCountColumn::Texts)) { // a server cuts long lists off
-        throw refused(QStringLiteral("The list of equal names is not complete."));
+
+    /// Keeps what a group's texts find.
+    void keep(const Row& row)
+    {
+        if (numberOf(row, TextCountColumn::OddRows) != 0) {
+            throw refused(QStringLiteral("The column does not compare as texts do."));
+        }
+        auto& ofQuestion =
+            m_counts.at(static_cast<std::size_t>(numberOf(row, TextCountColumn::Question)));
+        const QString members = fieldOf(row, TextCountColumn::Members).toJoinedText();
+        for (const QString& member : members.split(u',', Qt::SkipEmptyParts)) {
+            const std::size_t number = member.toULongLong();
+            if (number < 1 || number > ofQuestion.size() || ofQuestion[number - 1]) {
+                throw incomplete();
+            }
+            ofQuestion[number - 1] = countOf(row);
+        }
     }
-    const TextCount count = countOf(row);
-    for (const QString& number : numbers) {
-        ofQuestion.at(number.toULongLong() - 1) = count;
+    /// Requires each text to have been named once: a server cuts long lists off.
+    [[nodiscard]] std::vector<std::vector<TextCount>> take() const
+    {
+        std::vector<std::vector<TextCount>> counts;
+        for (const auto& ofQuestion : m_counts) {
+            std::vector<TextCount>& taken = counts.emplace_back();
+            for (const std::optional<TextCount>& count : ofQuestion) {
+                if (!count) {
+                    throw incomplete();
+                }
+                taken.push_back(*count);
+            }
+        }
+        return counts;
     }
-}
+
+private:
+    static DatabaseError incomplete()
+    {
+        return refused(QStringLiteral("The list of equal names is not complete."));
+    }
+
+    std::vector<std::vector<std::optional<TextCount>>> m_counts;
+};
 
 } // namespace
 
 std::vector<std::vector<TextCount>> countTexts(const std::vector<CountQuestion>& questions,
                                                const QStringList& texts, Session& session)
 {
-    std::vector<std::vector<TextCount>> counts(
-        questions.size(), std::vector<TextCount>(static_cast<std::size_t>(texts.size())));
     if (texts.isEmpty()) {
-        return counts;
+        return std::vector<std::vector<TextCount>>(questions.size());
     }
     QStringList literals;
     for (const QString& text : texts) {
@@ -78,11 +109,12 @@ std::vector<std::vector<TextCount>> countTexts(const std::vector<CountQuestion>&
     if (sql.isEmpty()) {
         throw refused(QStringLiteral("The database cannot be asked for names in this way."));
     }
+    Counts counts(questions.size(), static_cast<std::size_t>(texts.size()));
     const Recordset groups = session.open(sql);
     for (const Row& row : groups.rows()) {
-        keep(row, counts);
+        counts.keep(row);
     }
-    return counts;
+    return counts.take();
 }
 
 } // namespace db

@@ -13,7 +13,7 @@ QString foundRows(const CountQuestion& question, const QStringList& literals, co
 {
     const QString& value = question.valueColumn;
     const QString values =
-        value.isEmpty() ? QStringLiteral("null as lo, null as hi, 0 as v")
+        value.isEmpty() ? QStringLiteral("0 as lo, 0 as hi, 0 as v")
                         : QStringLiteral("min(") + value + QStringLiteral(") as lo, max(") + value +
                               QStringLiteral(") as hi, count(") + value + QStringLiteral(") as v");
     return QStringLiteral("select ") + question.column +

@@ -21,7 +21,7 @@ enum class TextCountColumn {
     Members,  ///< the numbers of the texts, counted from 1, separated by commas; null for none
     Texts,    ///< how many these are
     Rows,     ///< of the table
-    Least,    ///< value in these rows
+    Least,    ///< value in these rows; means nothing where `Values` is 0
     Greatest,
     Values,  ///< how many of the rows have a value
     OddRows, ///< not 0 where the column does not compare as texts do

@@ -2,6 +2,7 @@
 
 #include "context/AxisLabels.h"
 #include "plan/RoomRows.h"
+#include "runtime/Numbers.h"
 
 #include <utility>
 
@@ -79,19 +80,22 @@ void Shell::writeOptions()
     const QString& palette = m_engine.state().colors.PaletteName;
     if (palette != m_PaletteAtStart) {
         m_settings.save(QStringLiteral("Palette"), palette);
+        m_PaletteAtStart = palette;
     }
     if (context::linesPerPage(form()) != m_RoomsPerPage) {
         m_settings.save(QStringLiteral("Total_L_P"), form().Total_L_P.text());
+        m_RoomsPerPage = runtime::nearestInt16(context::linesPerPage(form()));
     }
     saveOption({QStringLiteral("ChkEnseignant"), form().XOpEns, m_ShowTeacherAtStart});
     saveOption({QStringLiteral("ChkClasse"), form().XOpCl, m_ShowClassAtStart});
     saveOption({QStringLiteral("ChkMatiere"), form().XpMat, m_ShowSubjectAtStart});
 }
 
-void Shell::saveOption(const SavedOption& option)
+void Shell::saveOption(SavedOption option)
 {
     if (option.box.isChecked() != option.atStart) {
         m_settings.save(option.key, QString::number(option.box.isChecked() ? 1 : 0));
+        option.atStart = option.box.isChecked();
     }
 }
 

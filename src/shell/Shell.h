@@ -67,7 +67,7 @@ private:
     struct SavedOption {
         QString key;
         const form::CheckBox& box;
-        bool atStart = true;
+        bool& atStart;
     };
 
     void chooseDatabase();
@@ -77,7 +77,7 @@ private:
     [[nodiscard]] bool readOption(const QString& key) const;
     void readRoomsPerPage();
     void writeOptions();
-    void saveOption(const SavedOption& option);
+    void saveOption(SavedOption option);
     [[nodiscard]] QString setting(const QString& key, const QString& fallback) const;
 
     Settings m_settings;
@@ -87,6 +87,7 @@ private:
     DatabaseChoice m_choice;
     bool m_SkinOn = false; ///< installations have the setting; nothing reads it
 
+    // What the settings say, at the start and since they were last saved.
     QString m_PaletteAtStart;
     bool m_ShowTeacherAtStart = true;
     bool m_ShowClassAtStart = true;

@@ -158,6 +158,7 @@ TEST_F(ThePicture, isTheSameHoweverItCameAbout)
             desk.meeting(row, 1 + step % 5).set("Classe", step % 2 == 0 ? "L1" : "L2 INFO");
             desk.form.Salle[static_cast<std::size_t>(row)].backColor =
                 form::Colour::fromRgb(20 * step, 200, 100);
+            desk.form.Salle[0].caption = QString("R%1").arg(step); // the room before the page
             desk.engine.refreshPlan();
             EXPECT_FALSE(draw(1.5).plan.contains(QPoint(1, 1))) << step; // the ticks stay
             PlanPicture whole;

@@ -27,40 +27,40 @@ struct SessionManager::Protocol {
 
     static Protocol& of(SmPointer data) { return *static_cast<Protocol*>(data); }
 
-    static Status answerRegistration(SmsConn program, SmPointer data, char* previous)
+    static Status answerRegistration(SmsConn client, SmPointer data, char* previous)
     {
         std::free(previous); // NOLINT(cppcoreguidelines-no-malloc): the library's own
-        char* name = SmsGenerateClientID(program);
-        SmsRegisterClientReply(program, name);
+        char* name = SmsGenerateClientID(client);
+        SmsRegisterClientReply(client, name);
         std::free(name); // NOLINT(cppcoreguidelines-no-malloc)
         of(data).registered = true;
         // The protocol wants a new program to save once.
-        SmsSaveYourself(program, SmSaveLocal, False, SmInteractStyleNone, False);
+        SmsSaveYourself(client, SmSaveLocal, False, SmInteractStyleNone, False);
         return 1;
     }
 
-    static void hangUp(SmsConn program, SmPointer data, int count, char** reasons)
+    static void hangUp(SmsConn client, SmPointer data, int number, char** reasons)
     {
-        SmFreeReasons(count, reasons);
-        SmsCleanUp(program);
+        SmFreeReasons(number, reasons);
+        SmsCleanUp(client);
         IceSetShutdownNegotiation(of(data).line, False);
         IceCloseConnection(of(data).line);
         of(data).line = nullptr;
         of(data).gone = true;
     }
 
-    static void forget(SmsConn /*program*/, SmPointer /*data*/, int count, SmProp** properties)
+    static void forget(SmsConn /*client*/, SmPointer /*data*/, int number, SmProp** properties)
     {
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < number; ++i) {
             SmFreeProperty(properties[i]);
         }
         std::free(properties); // NOLINT(cppcoreguidelines-no-malloc)
     }
 
-    static Status greet(SmsConn program, SmPointer data, unsigned long* mask,
+    static Status greet(SmsConn client, SmPointer data, unsigned long* mask,
                         SmsCallbacks* callbacks, char** /*reason*/)
     {
-        of(data).program = program;
+        of(data).program = client;
         *mask = SmsRegisterClientProcMask | SmsInteractRequestProcMask | SmsInteractDoneProcMask |
                 SmsSaveYourselfRequestProcMask | SmsSaveYourselfP2RequestProcMask |
                 SmsSaveYourselfDoneProcMask | SmsCloseConnectionProcMask |
@@ -78,7 +78,8 @@ struct SessionManager::Protocol {
         callbacks->close_connection = {hangUp, data};
         callbacks->set_properties = {forget, data};
         callbacks->delete_properties = {
-            [](SmsConn, SmPointer, int count, char** names) { SmFreeReasons(count, names); }, data};
+            [](SmsConn, SmPointer, int number, char** names) { SmFreeReasons(number, names); },
+            data};
         callbacks->get_properties = {
             [](SmsConn asking, SmPointer) { SmsReturnProperties(asking, 0, nullptr); }, data};
         return 1;

@@ -64,13 +64,15 @@ TEST(ALiteral, isOneWhenNothingEndsItEarly)
 TEST(ALiteral, isRefusedWhereAWordFollowsThatContinuesNothing)
 {
     const SqlDialect dialect(true);
-    for (const char* refused : {"Salle d'informatique", "1re année d'anglais", "O'Brien",
-                                "L2 'bis'", "s'il n'y a", "D''Or d'Eu", "Œuvre d'été (2)"}) {
+    for (const char* refused :
+         {"Salle d'informatique", "1re année d'anglais", "O'Brien", "L2 'bis'", "s'il n'y a",
+          "D''Or d'Eu", "Œuvre d'été (2)", "Salle d'informatique n°2", "L2 d'anglais/espagnol",
+          "d'étude_1", "[x] -- l'abc; drop"}) {
         EXPECT_TRUE(dialect.isRefused(refused)) << refused;
     }
-    for (const char* asked : {"A1", "", "D''Or", "Salle d'or", "x' OR '1'='1", "Amphi'", "A'1",
-                              "B'--", "C' union select", "D'abc -- ", "E\\'abc", "F'abc;", "G'abc#",
-                              "H'abc?", "I' + J", "K'Like"}) {
+    for (const char* asked :
+         {"A1", "", "D''Or", "Salle d'or", "x' OR '1'='1", "Amphi'", "A'1", "B'--",
+          "C' union select", "E\\'abc", "F'_abc", "G'#abc", "H'?", "I' + J", "K'Like", "L'{abc}"}) {
         EXPECT_FALSE(dialect.isRefused(asked)) << asked;
     }
     const SqlDialect doubled(true, SqlDialect::Quotes::Doubled);

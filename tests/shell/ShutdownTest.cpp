@@ -110,6 +110,22 @@ TEST_P(Shutdown, writesNoOtherChoice)
     EXPECT_EQ(writtenAtClosing(), QStringList());
 }
 
+TEST_P(Shutdown, writesWhatHasChangedSinceTheOptionsWereSaved)
+{
+    form::CheckBox& classes = desk.form().XOpCl;
+    const bool atStart = classes.isChecked();
+    classes.setChecked(!atStart);
+    desk.form().Total_L_P.setText("20");
+    desk.shell().saveOptions(); // the session may end
+    EXPECT_EQ(desk.setup.saved("ChkClasse"), atStart ? "0" : "1");
+    EXPECT_EQ(desk.setup.saved("Total_L_P"), "20");
+    classes.setChecked(atStart); // but went on
+    desk.form().Total_L_P.setText("21");
+    desk.shell().Form_Unload();
+    EXPECT_EQ(desk.setup.saved("ChkClasse"), atStart ? "1" : "0");
+    EXPECT_EQ(desk.setup.saved("Total_L_P"), "21");
+}
+
 TEST_P(Shutdown, closesTheDatabaseAndHappensOnce)
 {
     desk.form().Total_L_P.setText("20");
