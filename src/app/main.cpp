@@ -5,6 +5,7 @@
 #include "app/PlClasse.h"
 #include "app/PlatformTexts.h"
 #include "files/WholeFile.h"
+#include "shell/Answers.h"
 #include "shell/CommandLine.h"
 #include "shell/Export.h"
 #include "shell/Player.h"
@@ -66,11 +67,15 @@ engine::Surroundings surroundingsFor(const shell::CommandLine& line)
     return surroundings;
 }
 
-/// An export plays on a program of its own: it saves no settings.
-void exportWithoutWindow(const shell::CommandLine& line)
+/// A file is written by a program of its own: it saves no settings.
+void writeWithoutWindow(const shell::CommandLine& line)
 {
     shell::Shell shell(openSettings(line), surroundingsFor(line));
     shell.Form_Load();
+    if (line.answer) {
+        shell::writeAnswer(shell, line);
+        return;
+    }
     shell.fitPicture();
     shell.Form_Activate();
     shell::play(shell, line);
@@ -157,9 +162,9 @@ int Program::serve()
         const QCoreApplication toRead(m_argc, m_argv); // a mistake or --help needs no display
         arguments = QCoreApplication::arguments();
     }
-    m_exports = shell::CommandLine::asksForExport(arguments);
+    m_exports = shell::CommandLine::asksForFile(arguments);
     const shell::CommandLine line = shell::CommandLine::parse(arguments);
-    m_exports = !line.exportFile.isEmpty();
+    m_exports = line.writesFile();
     if (line.help) {
         app::writeOutput(shell::CommandLine::helpText());
         return kDone;
@@ -176,7 +181,7 @@ int Program::serve()
     if (m_exports) {
         drawInMemory();
         startToolkit();
-        exportWithoutWindow(line);
+        writeWithoutWindow(line);
         return kDone;
     }
     app::EndSignal signal; // before the toolkit starts threads of its own

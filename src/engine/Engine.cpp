@@ -2,6 +2,7 @@
 
 #include "context/LoadSlots.h"
 #include "plan/RoomRows.h"
+#include "timetable/TimetableReader.h"
 
 #include <utility>
 
@@ -123,6 +124,12 @@ void Engine::loadEstablishment(const context::HeaderSource& source)
 void Engine::loadSlots()
 {
     context::LoadSlots(m_state.form, m_reads, m_state.slots, m_state.places);
+}
+
+timetable::Timetable Engine::readTimetable()
+{
+    m_database->revive();
+    return timetable::readTimetable(m_database->Db(), m_state.period.TrancheIdent);
 }
 
 void Engine::placeRoomRows()

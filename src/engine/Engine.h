@@ -18,6 +18,7 @@
 #include "plan/PlanState.h"
 #include "plan/SubjectFilter.h"
 #include "plan/WatchedAbsences.h"
+#include "timetable/Timetable.h"
 
 #include <QString>
 #include <chrono>
@@ -115,6 +116,8 @@ public:
     /// Every page of the room set from the first one on, as "Page Suivante" would show them. Pages
     /// without a room are left out, unless there are no others.
     [[nodiscard]] std::vector<plan::PlanPage> allPages() const;
+    /// Everything that the database says about the chosen period (see TimetableReader.h).
+    [[nodiscard]] timetable::Timetable readTimetable();
     /// The page as it is shown, with what the last refresh worked out.
     [[nodiscard]] plan::PlanPage drawnPage() const { return {m_state, content()}; }
 

@@ -2,6 +2,7 @@
 
 #include "files/FileFormat.h"
 #include "form/PlanForm.h"
+#include "timetable/ReadTimes.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -47,6 +48,23 @@ const std::vector<OptionText>& optionTexts()
         {"allow-incomplete",
          {},
          QStringLiteral("écrit le fichier même si la base n’a pas tout dit (avec --export)")},
+        {"free", QStringLiteral("FICHIER.json"),
+         QStringLiteral("écrit les salles libres (avec --from, --to et --day ou --date)")},
+        {"from", QStringLiteral("HEURE"), QStringLiteral("début, par exemple 9h30 (avec --free)")},
+        {"to", QStringLiteral("HEURE"), QStringLiteral("fin, par exemple 11h00 (avec --free)")},
+        {"places", QStringLiteral("0..99999"), QStringLiteral("places au moins (avec --free)")},
+        {"weeks-running", QStringLiteral("1..60"),
+         QStringLiteral("libre tant de semaines de suite (avec --free et --date)")},
+        {"week-of", QStringLiteral("FICHIER.json"),
+         QStringLiteral("écrit la semaine d’une salle, d’un enseignant, d’une classe ou d’une "
+                        "matière")},
+        {"room", QStringLiteral("NOM"), QStringLiteral("cette salle (avec --week-of)")},
+        {"teacher", QStringLiteral("NOM"), QStringLiteral("cet enseignant (avec --week-of)")},
+        {"class", QStringLiteral("NOM"), QStringLiteral("cette classe (avec --week-of)")},
+        {"matter", QStringLiteral("NOM"), QStringLiteral("cette matière (avec --week-of)")},
+        {"find", QStringLiteral("FICHIER.json"),
+         QStringLiteral("écrit qui et quoi porte un texte dans son nom, et où (avec --text)")},
+        {"text", QStringLiteral("TEXTE"), QStringLiteral("texte cherché (avec --find)")},
         {"settings", QStringLiteral("FICHIER.ini"),
          QStringLiteral("remplace les paramètres de l’utilisateur pour cette fois")},
         {"tranche", QStringLiteral("NOM"), QStringLiteral("période affichée")},
@@ -252,6 +270,108 @@ void readFiles(const Reader& reader, CommandLine& line)
     }
 }
 
+/// Refuses options that go with another one alone.
+void requireOption(const Reader& reader, const char* needed,
+                   const std::vector<const char*>& options)
+{
+    for (const char* option : options) {
+        if (reader.has(option) && !reader.has(needed)) {
+            fail(QString::fromLatin1(option),
+                 QStringLiteral("demande --") + QString::fromLatin1(needed));
+        }
+    }
+}
+
+timetable::MinuteOfDay readTime(const Reader& reader, const char* name)
+{
+    if (!reader.has(name)) {
+        fail(QString::fromLatin1(name), QStringLiteral("manque (avec --free)"));
+    }
+    const auto time = timetable::readTime(reader.text(name));
+    if (!time) {
+        reader.failWithValue(name);
+    }
+    return *time;
+}
+
+void readFreeRooms(const Reader& reader, AnswerRequest& request)
+{
+    const timetable::MinuteOfDay from = readTime(reader, "from");
+    const timetable::MinuteOfDay to = readTime(reader, "to");
+    if (to <= from) {
+        fail(QStringLiteral("to"), QStringLiteral("n’est pas après --from"));
+    }
+    request.span = timetable::between(from, to);
+    request.places = reader.number("places", 0, 99999).value_or(0);
+    request.weeksRunning = reader.number("weeks-running", 1, 60).value_or(1);
+    if (reader.has("weeks-running") && !reader.has("date")) {
+        fail(QStringLiteral("weeks-running"), QStringLiteral("demande --date"));
+    }
+    if (!reader.has("day") && !reader.has("date")) {
+        fail(QStringLiteral("free"), QStringLiteral("demande --day ou --date"));
+    }
+}
+
+void readWeekOf(const Reader& reader, AnswerRequest& request)
+{
+    using Who = AnswerRequest::Who;
+    int names = 0;
+    for (const auto& [option, who] :
+         {std::pair("room", Who::Room), std::pair("teacher", Who::Teacher),
+          std::pair("class", Who::Class), std::pair("matter", Who::Subject)}) {
+        if (reader.has(option)) {
+            ++names;
+            request.who = who;
+            request.name = reader.text(option);
+        }
+    }
+    if (names != 1) {
+        fail(QStringLiteral("week-of"),
+             QStringLiteral(
+                 "demande --room, --teacher, --class ou --matter, et un seul d’entre eux"));
+    }
+}
+
+void readAnswer(const Reader& reader, CommandLine& line)
+{
+    using Kind = AnswerRequest::Kind;
+    const char* first = reader.has("export") ? "export" : nullptr;
+    for (const auto& [option, kind] :
+         {std::pair("free", Kind::FreeRooms), std::pair("week-of", Kind::WeekOf),
+          std::pair("find", Kind::Find)}) {
+        if (!reader.has(option)) {
+            continue;
+        }
+        if (first != nullptr) {
+            fail(QString::fromLatin1(option),
+                 QStringLiteral("ne va pas avec --") + QString::fromLatin1(first));
+        }
+        first = option;
+        line.answer.emplace();
+        line.answer->kind = kind;
+        line.answer->file = reader.text(option);
+        if (!line.answer->file.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive)) {
+            reader.failWithValue(option);
+        }
+    }
+    requireOption(reader, "free", {"from", "to", "places", "weeks-running"});
+    requireOption(reader, "week-of", {"room", "teacher", "class", "matter"});
+    requireOption(reader, "find", {"text"});
+    if (!line.answer) {
+        return;
+    }
+    if (line.answer->kind == Kind::FreeRooms) {
+        readFreeRooms(reader, *line.answer);
+    } else if (line.answer->kind == Kind::WeekOf) {
+        readWeekOf(reader, *line.answer);
+    } else {
+        line.answer->text = reader.text("text");
+        if (line.answer->text.isEmpty()) {
+            fail(QStringLiteral("find"), QStringLiteral("demande --text"));
+        }
+    }
+}
+
 void readDay(const Reader& reader, CommandLine& line)
 {
     line.day = reader.number("day", 0, 5);
@@ -302,6 +422,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.makeup = reader.has("makeup");
     line.counting = reader.has("counting");
     readDay(reader, line);
+    readAnswer(reader, line);
     line.page = reader.number("page", 1, 9999).value_or(1);
     if (const auto seed = reader.number("seed", 0, std::numeric_limits<int>::max())) {
         line.seed = static_cast<std::uint32_t>(*seed);
@@ -309,19 +430,21 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     return line;
 }
 
-bool CommandLine::asksForExport(const QStringList& arguments)
+bool CommandLine::asksForFile(const QStringList& arguments)
 {
     return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
-        const QRegularExpression option(QStringLiteral("^--?export(=|$)"));
+        const QRegularExpression option(QStringLiteral("^--?(export|free|week-of|find)(=|$)"));
         return option.match(argument).hasMatch();
     });
 }
 
 QString CommandLine::helpText()
 {
-    QString text = QStringLiteral("Usage : tempora [options]\n"
-                                  "Planning des classes : quelle salle est prise, par qui.\n"
-                                  "Sans --export, les options s’appliquent à la fenêtre.\n\n");
+    QString text =
+        QStringLiteral("Usage : tempora [options]\n"
+                       "Planning des classes : quelle salle est prise, par qui.\n"
+                       "Sans --export, --free, --week-of ou --find, les options s’appliquent à la "
+                       "fenêtre.\n\n");
     for (const OptionText& option : optionTexts()) {
         QString left = QStringLiteral("  --") + QString::fromLatin1(option.name);
         if (!option.value.isNull()) {

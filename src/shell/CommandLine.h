@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/AnswerRequest.h"
+
 #include <QDate>
 #include <QString>
 #include <QStringList>
@@ -38,6 +40,7 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     QString exportFile;
+    std::optional<AnswerRequest> answer;
     bool allPages = false;        ///< the export holds every page of the room set
     bool allowIncomplete = false; ///< the export is written although the database has failed
     QString settingsFile;
@@ -62,7 +65,8 @@ struct CommandLine {
     /// `arguments` starts with the program's name. Error: UsageError.
     [[nodiscard]] static CommandLine parse(const QStringList& arguments);
     /// Whether these arguments, right or wrong, ask for a file and not for the window.
-    [[nodiscard]] static bool asksForExport(const QStringList& arguments);
+    [[nodiscard]] static bool asksForFile(const QStringList& arguments);
+    [[nodiscard]] bool writesFile() const { return !exportFile.isEmpty() || answer.has_value(); }
     /// The text of --help.
     [[nodiscard]] static QString helpText();
 };

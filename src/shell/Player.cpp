@@ -16,11 +16,8 @@ void select(form::List& list, const QString& option, const QString& text)
     }
 }
 
-void playPeriod(form::PlanForm& form, const CommandLine& line)
+void playMode(form::PlanForm& form, const CommandLine& line)
 {
-    if (line.tranche) {
-        select(form.CbTranche, QStringLiteral("tranche"), *line.tranche);
-    }
     if (line.mode) {
         (*line.mode == CommandLine::Mode::Exam ? form.OpExam() : form.OpEns()).select();
     }
@@ -106,6 +103,13 @@ void playDay(Shell& shell, const CommandLine& line)
 
 } // namespace
 
+void choosePeriod(Shell& shell, const CommandLine& line)
+{
+    if (line.tranche) {
+        select(shell.form().CbTranche, QStringLiteral("tranche"), *line.tranche);
+    }
+}
+
 void play(Shell& shell, const CommandLine& line)
 {
     form::PlanForm& form = shell.form();
@@ -114,7 +118,8 @@ void play(Shell& shell, const CommandLine& line)
             choose();
         }
     };
-    step([&] { playPeriod(form, line); });
+    step([&] { choosePeriod(shell, line); });
+    step([&] { playMode(form, line); });
     step([&] { playDisplay(form, line); });
     step([&] { playRooms(form, line); });
     step([&] { playDay(shell, line); });

@@ -6,6 +6,10 @@
 namespace shell
 {
 
+/// Chooses the period of the command line. Error: UsageError for one that the database does not
+/// have.
+void choosePeriod(Shell& shell, const CommandLine& line);
+
 /// Plays on the started program the events of a user who makes the choices of the command line:
 /// period, mode, exam week, display options, week kind, make-up, subject filter, rooms per page,
 /// room filter, counting, day or date, pages. The day is chosen again when make-up or counting

@@ -55,6 +55,10 @@ public:
     /// What messages call the database; empty before start-up has chosen it.
     [[nodiscard]] QString databaseName() const { return m_choice.nameInMessages(); }
 
+    /// A Monday of some week A, as the setting `SemaineA` has it; no valid date where it is empty.
+    /// Error: TypeMismatch for a text that is no date.
+    [[nodiscard]] QDate weekA() const;
+
     /// Tells that the shown date was asked for, and is not just the week of the clock.
     void keepDate() { m_dateAskedFor = true; }
     /// The shown date for files that carry one: only where the plan shows it, where it was asked

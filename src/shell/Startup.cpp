@@ -67,6 +67,19 @@ void Shell::chooseDatabase()
     m_choice = shell::chooseDatabase(m_settings, useMySql, m_applicationFolder);
 }
 
+QDate Shell::weekA() const
+{
+    const QString key = QStringLiteral("SemaineA");
+    const QString text = setting(key, QString());
+    return text.isEmpty() ? QDate() : converted(key, text, [](const QString& date) {
+        const QDate day = QDate::fromString(date, Qt::ISODate);
+        if (!day.isValid()) {
+            throw runtime::RunTimeError(runtime::ErrorNumber::TypeMismatch);
+        }
+        return day;
+    });
+}
+
 void Shell::listExamWeeks()
 {
     form::List& weeks = form().Combo10;

@@ -34,11 +34,14 @@ QString refusal(const QStringList& arguments)
 TEST(CommandLine, asksForAnExportAlsoWhereTheRestIsWrong)
 {
     const auto asks = [](const QStringList& arguments) {
-        return CommandLine::asksForExport(QStringList{"tempora"} + arguments);
+        return CommandLine::asksForFile(QStringList{"tempora"} + arguments);
     };
     EXPECT_TRUE(asks({"--day", "9", "--export", "plan.pdf"}));
     EXPECT_TRUE(asks({"--export=plan.pdf"}));
     EXPECT_TRUE(asks({"-export", "plan.pdf"}));
+    EXPECT_TRUE(asks({"--free", "libre.json"}));
+    EXPECT_TRUE(asks({"--week-of=semaine.json"}));
+    EXPECT_TRUE(asks({"--find", "noms.json", "--text"}));
     EXPECT_FALSE(asks({}));
     EXPECT_FALSE(asks({"--exports", "export", "--day", "1"}));
 }
@@ -294,4 +297,52 @@ TEST(CommandLine, refusesASettingsFileThatCannotBeRead)
 TEST(CommandLine, takesTheLastOfARepeatedOption)
 {
     EXPECT_EQ(parse({"--zone", "1", "--zone", "2"}).zone, 2);
+}
+
+TEST(CommandLine, readsQuestionsAboutTheTimetable)
+{
+    using Request = shell::AnswerRequest;
+    const CommandLine free =
+        parse({"--free", "l.json", "--from", "9h30", "--to", "11:00", "--places", "40", "--date",
+               "2026-11-16", "--weeks-running", "3"});
+    ASSERT_TRUE(free.answer);
+    EXPECT_TRUE(free.writesFile());
+    EXPECT_EQ(free.answer->kind, Request::Kind::FreeRooms);
+    EXPECT_EQ(free.answer->file, "l.json");
+    EXPECT_EQ(free.answer->span, (timetable::TimeSpan{{570}, {90}}));
+    EXPECT_EQ(free.answer->places, 40);
+    EXPECT_EQ(free.answer->weeksRunning, 3);
+    const CommandLine week = parse({"--week-of", "s.JSON", "--teacher", "Durand"});
+    EXPECT_EQ(week.answer->kind, Request::Kind::WeekOf);
+    EXPECT_EQ(week.answer->who, Request::Who::Teacher);
+    EXPECT_EQ(week.answer->name, "Durand");
+    const CommandLine find = parse({"--find", "t.json", "--text", "dur"});
+    EXPECT_EQ(find.answer->kind, Request::Kind::Find);
+    EXPECT_EQ(find.answer->text, "dur");
+    EXPECT_FALSE(parse({}).writesFile());
+}
+
+TEST(CommandLine, refusesQuestionsThatCannotBeAnswered)
+{
+    const QStringList nine{"--from", "9h30", "--to", "11h00"};
+    for (const QStringList& arguments : {
+             QStringList{"--free", "l.json", "--day", "1"},
+             QStringList{"--free", "l.json"} + nine,
+             QStringList{"--free", "l.txt", "--day", "1"} + nine,
+             QStringList{"--free", "l.json", "--day", "1", "--from", "neuf", "--to", "11h00"},
+             QStringList{"--free", "l.json", "--day", "1", "--from", "11h00", "--to", "11h00"},
+             QStringList{"--free", "l.json", "--day", "1", "--weeks-running", "2"} + nine,
+             QStringList{"--free", "l.json", "--day", "1", "--places", "-1"} + nine,
+             QStringList{"--day", "1"} + nine,
+             QStringList{"--week-of", "s.json"},
+             QStringList{"--week-of", "s.json", "--room", "A", "--class", "B"},
+             QStringList{"--room", "A"},
+             QStringList{"--find", "t.json"},
+             QStringList{"--find", "t.json", "--text", ""},
+             QStringList{"--text", "a"},
+             QStringList{"--find", "t.json", "--text", "a", "--export", "p.json"},
+             QStringList{"--find", "t.json", "--text", "a", "--week-of", "s.json", "--room", "A"},
+         }) {
+        EXPECT_FALSE(refusal(arguments).isEmpty()) << arguments.join(' ').toStdString();
+    }
 }

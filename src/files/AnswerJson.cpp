@@ -1,0 +1,124 @@
+#include "files/AnswerJson.h"
+
+#include "answers/HolderWords.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <array>
+
+namespace files
+{
+namespace
+{
+
+using Key = QLatin1String;
+using timetable::HoldingId;
+using timetable::Occupancy;
+
+QString kindName(timetable::MeetingKind kind)
+{
+    constexpr std::array names{"course", "makeup", "exam"};
+    return QLatin1String(names.at(static_cast<std::size_t>(kind)));
+}
+
+QString partName(timetable::Part part)
+{
+    constexpr std::array names{"A", "A2", "B", "B2"};
+    return QLatin1String(names.at(static_cast<std::size_t>(part)));
+}
+
+QString weeksName(timetable::Week weeks)
+{
+    constexpr std::array names{"all", "A", "B"};
+    return QLatin1String(names.at(static_cast<std::size_t>(weeks)));
+}
+
+template <typename Number>
+QJsonValue orNull(const std::optional<Number>& number)
+{
+    return number ? QJsonValue(*number) : QJsonValue();
+}
+
+QJsonObject holderObject(const Occupancy& occupancy, HoldingId id)
+{
+    const timetable::Holder holder = occupancy.describe(occupancy.holding(id));
+    QJsonArray classes;
+    if (!holder.className.isEmpty()) {
+        classes.append(holder.className);
+    }
+    const bool hasTime = holder.time.has_value();
+    return {{Key("kind"), kindName(holder.kind)},
+            {Key("part"), partName(holder.part)},
+            {Key("rooms"), QJsonArray::fromStringList(holder.rooms)},
+            {Key("classes"), classes},
+            {Key("teachers"), QJsonArray::fromStringList(holder.teachers)},
+            {Key("subject"), holder.subject},
+            {Key("day"), holder.day},
+            {Key("slot"), holder.slot > 0 ? QJsonValue(holder.slot) : QJsonValue()},
+            {Key("start"), hasTime ? QJsonValue(holder.time->start.value) : QJsonValue()},
+            {Key("minutes"), hasTime ? QJsonValue(holder.time->length.value) : QJsonValue()},
+            {Key("weeks"), weeksName(holder.weeks)},
+            {Key("date"),
+             holder.date.isValid() ? QJsonValue(holder.date.toString(Qt::ISODate)) : QJsonValue()}};
+}
+
+QJsonArray holderArray(const Occupancy& occupancy, const std::vector<HoldingId>& ids)
+{
+    QJsonArray holders;
+    for (const HoldingId id : ids) {
+        holders.append(holderObject(occupancy, id));
+    }
+    return holders;
+}
+
+QByteArray written(const QJsonObject& answer)
+{
+    return QJsonDocument(answer).toJson(QJsonDocument::Indented);
+}
+
+} // namespace
+
+QByteArray freeRoomsAsJson(const Occupancy& occupancy, const answers::FreeRooms& answer)
+{
+    QJsonArray rooms;
+    for (const answers::FreeRoom& free : answer.rooms) {
+        const timetable::Room& room = occupancy.timetable().room(free.room);
+        rooms.append(QJsonObject{{Key("room"), room.name},
+                                 {Key("places"), room.places},
+                                 {Key("zone"), orNull(room.zone)},
+                                 {Key("department"), orNull(room.department)},
+                                 {Key("free_from"), free.stretch.start.value},
+                                 {Key("free_to"), free.stretch.end().value}});
+    }
+    QJsonArray taken;
+    for (const answers::HeldRoom& held : answer.taken) {
+        taken.append(QJsonObject{{Key("room"), occupancy.timetable().room(held.room).name},
+                                 {Key("by"), holderArray(occupancy, held.by)}});
+    }
+    QJsonArray unknown;
+    for (const answers::HeldRoom& held : answer.unknown) {
+        unknown.append(QJsonObject{{Key("room"), occupancy.timetable().room(held.room).name},
+                                   {Key("why"), answers::whyUnknown(occupancy, held.by)}});
+    }
+    return written({{Key("rooms"), rooms}, {Key("taken"), taken}, {Key("unknown"), unknown}});
+}
+
+QByteArray weekAsJson(const Occupancy& occupancy, const std::vector<HoldingId>& items)
+{
+    return written({{Key("items"), holderArray(occupancy, items)}});
+}
+
+QByteArray hitsAsJson(const Occupancy& occupancy, const std::vector<answers::Hit>& hits)
+{
+    constexpr std::array kinds{"room", "teacher", "class", "subject"};
+    QJsonArray array;
+    for (const answers::Hit& hit : hits) {
+        array.append(QJsonObject{{Key("what"), QLatin1String(kinds.at(hit.subject.index()))},
+                                 {Key("name"), hit.name},
+                                 {Key("items"), holderArray(occupancy, hit.items)}});
+    }
+    return written({{Key("hits"), array}});
+}
+
+} // namespace files

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "timetable/TimeSpan.h"
+
+#include <QString>
+
+namespace shell
+{
+
+/// A question about the timetable whose answer is written into a file.
+struct AnswerRequest {
+    enum class Kind { FreeRooms, WeekOf, Find };
+    enum class Who { Room, Teacher, Class, Subject };
+
+    Kind kind = Kind::FreeRooms;
+    QString file;
+    // Free rooms
+    timetable::TimeSpan span; ///< longer than nothing
+    int places = 0;           ///< at least
+    int weeksRunning = 1;     ///< 1 upward; more only with a date
+    // Week of...
+    Who who = Who::Room;
+    QString name;
+    // Find
+    QString text; ///< not empty
+};
+
+} // namespace shell

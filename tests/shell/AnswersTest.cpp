@@ -1,0 +1,201 @@
+#include "shell/Answers.h"
+
+#include "files/WholeFile.h"
+#include "shell/ShellDesk.h"
+
+#include <QFile>
+#include <QJsonArray>
+
+using namespace test;
+
+namespace
+{
+
+/// Questions about the tiny faculty, asked on the command line.
+class Answers : public OnBothDatabases
+{
+protected:
+    void SetUp() override { createTinyFaculty(database()); }
+
+    void write(const QStringList& arguments)
+    {
+        ShellDesk desk(database());
+        if (!semaineA.isEmpty()) {
+            desk.setup.set("SemaineA", semaineA);
+        }
+        desk.load();
+        shell::writeAnswer(desk.shell(),
+                           shell::CommandLine::parse(QStringList{"tempora"} + arguments));
+    }
+    /// What is written for a question, whose file is the first argument's value.
+    QJsonObject answer(const QString& option, const QStringList& arguments)
+    {
+        write(QStringList{option, file} + arguments);
+        return QJsonDocument::fromJson(fileText(file).toUtf8()).object();
+    }
+    /// The values under a key in the objects of an array.
+    static QStringList each(const QJsonValue& array, const char* key)
+    {
+        QStringList values;
+        for (const QJsonValue value : array.toArray()) {
+            values << value.toObject()[QLatin1String(key)].toVariant().toString();
+        }
+        return values;
+    }
+    /// The line that a mistake is answered with.
+    QString refusal(const QStringList& arguments)
+    {
+        try {
+            write(arguments);
+        } catch (const shell::UsageError& error) {
+            return QString::fromUtf8(error.what());
+        }
+        ADD_FAILURE() << "no mistake is found";
+        return {};
+    }
+
+    QString file = emptyFolder() + "/answer.json";
+    QString semaineA;
+    const QStringList firstSlot{"--day", "0", "--from", "8h30", "--to", "10h00"};
+};
+
+TEMPORA_ON_BOTH_DATABASES(Answers);
+
+} // namespace
+
+TEST_P(Answers, tellWhichRoomsAreFree)
+{
+    const QJsonObject told = answer("--free", firstSlot);
+    EXPECT_EQ(each(told["rooms"], "room"), QStringList({"B2", "A1", "B1"})); // by places
+    EXPECT_EQ(each(told["rooms"], "free_from"), QStringList({"510", "510", "510"}));
+    EXPECT_EQ(each(told["rooms"], "free_to"), QStringList({"615", "1035", "840"}));
+    EXPECT_EQ(told["rooms"].toArray()[1].toObject(), (QJsonObject{{"room", "A1"},
+                                                                  {"places", 30},
+                                                                  {"zone", 1},
+                                                                  {"department", "INFO"},
+                                                                  {"free_from", 510},
+                                                                  {"free_to", 1035}}));
+    EXPECT_EQ(told["rooms"].toArray()[0].toObject()["department"], QJsonValue());
+    EXPECT_EQ(each(told["taken"], "room"), QStringList({"A2", "C1"}));
+    const QJsonArray by = told["taken"].toArray()[0].toObject()["by"].toArray();
+    ASSERT_EQ(by.size(), 1);
+    EXPECT_EQ(by[0].toObject(), (QJsonObject{{"kind", "course"},
+                                             {"part", "A"},
+                                             {"rooms", QJsonArray{"A2"}},
+                                             {"classes", QJsonArray{"G1"}},
+                                             {"teachers", QJsonArray{"Dupont", "Durand"}},
+                                             {"subject", "Algèbre"},
+                                             {"day", 0},
+                                             {"slot", 1},
+                                             {"start", 510},
+                                             {"minutes", 90},
+                                             {"weeks", "all"},
+                                             {"date", QJsonValue()}}));
+    EXPECT_TRUE(told["unknown"].toArray().isEmpty());
+}
+
+TEST_P(Answers, takeOnlyTheRoomsThatAreAskedFor)
+{
+    const auto rooms = [this](const QStringList& further) {
+        return each(answer("--free", firstSlot + further)["rooms"], "room");
+    };
+    EXPECT_EQ(rooms({"--places", "30"}), QStringList({"A1", "B1"}));
+    EXPECT_EQ(rooms({"--zone", "2"}), QStringList({"B2", "B1"}));
+    EXPECT_EQ(rooms({"--zone", "0"}), QStringList({"B2", "A1", "B1"}));
+    EXPECT_EQ(rooms({"--department", "INFO"}), QStringList({"A1", "B1"}));
+    EXPECT_EQ(rooms({"--department", "INFO", "--zone", "2"}), QStringList({"B1"}));
+}
+
+TEST_P(Answers, countMakeUpsOnTheirDate)
+{
+    const QStringList second{"--from", "10h15", "--to", "11h45"};
+    const auto taken = [&](const QStringList& when) {
+        return each(answer("--free", second + when)["taken"], "room");
+    };
+    EXPECT_EQ(taken({"--day", "0"}), QStringList({"B2"}));
+    EXPECT_EQ(taken({"--date", "2025-03-17"}), QStringList({"A2", "B2"}));
+    EXPECT_EQ(taken({"--date", "2025-03-10"}), QStringList({"B2"}));
+    EXPECT_EQ(taken({"--date", "2025-03-10", "--weeks-running", "2"}), QStringList({"A2", "B2"}));
+    EXPECT_EQ(taken({"--date", "2025-07-14"}), QStringList()); // behind the period
+}
+
+TEST_P(Answers, knowTheWeekOfADateWhereTheSettingsTellIt)
+{
+    const auto teachers = [this](const QStringList& when) {
+        const QJsonArray taken =
+            answer("--free", QStringList{"--from", "8h30", "--to", "10h00"} + when)["taken"]
+                .toArray();
+        return each(taken.last().toObject()["by"], "teachers"); // of C1
+    };
+    const auto parts = [this](const QStringList& when) {
+        const QJsonArray taken =
+            answer("--free", QStringList{"--from", "8h30", "--to", "10h00"} + when)["taken"]
+                .toArray();
+        return each(taken.last().toObject()["by"], "part");
+    };
+    EXPECT_EQ(parts({"--date", "2025-03-17"}), QStringList({"A", "B"}));
+    EXPECT_EQ(parts({"--date", "2025-03-17", "--week", "B"}), QStringList({"B"}));
+    semaineA = "2025-03-03";
+    EXPECT_EQ(parts({"--date", "2025-03-17"}), QStringList({"A"}));
+    EXPECT_EQ(parts({"--date", "2025-03-24"}), QStringList({"B"}));
+    EXPECT_EQ(parts({"--date", "2025-02-24"}), QStringList({"B"})); // before it
+    EXPECT_EQ(parts({"--date", "2025-03-17", "--week", "all"}), QStringList({"A", "B"}));
+    EXPECT_EQ(parts({"--date", "2025-03-17", "--weeks-running", "2"}), QStringList({"A", "B"}));
+    semaineA = "lundi";
+    EXPECT_EQ(errorNumberOf([&] {
+                  std::ignore = teachers({"--date", "2025-03-17"});
+              }),
+              runtime::ErrorNumber::TypeMismatch);
+}
+
+TEST_P(Answers, tellTheWeekOfSomebody)
+{
+    const auto week = [this](const QStringList& who) {
+        const QJsonValue items = answer("--week-of", who)["items"];
+        return each(items, "day").join(' ') + '/' + each(items, "start").join(' ');
+    };
+    EXPECT_EQ(week({"--room", "A2"}), "0 1/510 615");
+    EXPECT_EQ(week({"--teacher", "roux"}), "0 1/510 615");
+    EXPECT_EQ(week({"--class", "G2"}), "0 0/615 840");
+    EXPECT_EQ(week({"--matter", "Analyse"}), "0 0/840 840");
+    EXPECT_EQ(week({"--room", "A2", "--date", "2025-03-19"}), "0 0 1/510 615 615");
+    EXPECT_EQ(week({"--teacher", "Blanc", "--week", "A"}), "/");
+    EXPECT_EQ(refusal({"--week-of", file, "--room", "Z9"}), "--room : « Z9 » n’existe pas");
+    EXPECT_EQ(refusal({"--week-of", file, "--teacher", "Personne"}),
+              "--teacher : « Personne » n’existe pas");
+}
+
+TEST_P(Answers, findNames)
+{
+    const QJsonValue hits = answer("--find", {"--text", "DU"})["hits"];
+    EXPECT_EQ(each(hits, "what"), QStringList({"teacher", "teacher"}));
+    EXPECT_EQ(each(hits, "name"), QStringList({"Dupont", "Durand"}));
+    EXPECT_TRUE(answer("--find", {"--text", "zzz"})["hits"].toArray().isEmpty());
+}
+
+TEST_P(Answers, areRefusedWhereThereIsNothingToTellOf)
+{
+    EXPECT_EQ(refusal(QStringList{"--free", file, "--tranche", "Automne"} + firstSlot),
+              "La période « Automne » n’a aucun cours");
+    EXPECT_EQ(refusal(QStringList{"--free", file, "--zone", "9"} + firstSlot),
+              "--zone : aucune salle n’est de la zone 9");
+    EXPECT_TRUE(refusal(QStringList{"--free", file, "--department", "X"} + firstSlot)
+                    .startsWith("--department : aucune salle n’est du département « X »"));
+    EXPECT_TRUE(refusal(QStringList{"--free", file, "--tranche", "Hiver"} + firstSlot)
+                    .startsWith("--tranche : « Hiver » n’existe pas"));
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_P(Answers, takeNothingForFreeThatCouldNotBeRead)
+{
+    writeFile(file, "old");
+    database().execute("drop table ratrap");
+    EXPECT_THROW(
+        write({"--free", file, "--date", "2025-03-17", "--from", "10h15", "--to", "11h45"}),
+        files::ExportError);
+    EXPECT_EQ(fileText(file), "old");
+    // On a day of the week no make-up plays a part.
+    EXPECT_EQ(each(answer("--free", firstSlot)["taken"], "room"), QStringList({"A2", "C1"}));
+    database().execute("drop table emplois");
+    EXPECT_THROW(write(QStringList{"--free", file} + firstSlot), runtime::RunTimeError);
+}
