@@ -1,0 +1,188 @@
+#include "answers/ClashSentence.h"
+
+#include "runtime/FrenchDate.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <set>
+
+namespace answers
+{
+namespace
+{
+
+using timetable::Holder;
+using timetable::HoldingId;
+using timetable::MeetingKind;
+using timetable::Occupancy;
+using timetable::Week;
+
+constexpr qsizetype kNamedHolders = 5;
+
+QString timeWords(timetable::MinuteOfDay time)
+{
+    constexpr int hour = 60;
+    return QStringLiteral("%1h%2")
+        .arg(time.value / hour)
+        .arg(time.value % hour, 2, 10, QChar(u'0'));
+}
+
+QString dayWords(int day, QDate date)
+{
+    if (date.isValid()) {
+        return runtime::frenchDayAndDate(date);
+    }
+    return day == timetable::kSunday
+               ? QStringLiteral("dimanche")
+               : runtime::frenchDayNames().at(static_cast<std::size_t>(day)).toLower();
+}
+
+QString spanWords(const timetable::TimeSpan& time)
+{
+    return QStringLiteral(" de ") + timeWords(time.start) + QStringLiteral(" à ") +
+           timeWords(time.end());
+}
+
+QString weekWords(Week week)
+{
+    return week == Week::A   ? QStringLiteral(", semaine A")
+           : week == Week::B ? QStringLiteral(", semaine B")
+                             : QString();
+}
+
+/// Whose clash it is.
+QString nameWords(const Clash& clash)
+{
+    switch (clash.kind) {
+    case ClashKind::Teacher:
+    case ClashKind::MakeupTeacher:
+        return QStringLiteral("Enseignant ") + clash.name;
+    case ClashKind::Class:
+    case ClashKind::MakeupClass:
+        return QStringLiteral("Classe ") + clash.name;
+    default:
+        return QStringLiteral("Salle ") +
+               (clash.name.isEmpty() ? QStringLiteral("sans nom") : clash.name);
+    }
+}
+
+QString kindWords(const Holder& holder)
+{
+    return holder.kind == MeetingKind::MakeUp ? QStringLiteral("rattrapage ")
+           : holder.kind == MeetingKind::Exam ? QStringLiteral("examen ")
+                                              : QString();
+}
+
+/// "L1 A avec Durand", as far as it is known.
+QString together(const Holder& holder, const QString& what, const QStringList& companions)
+{
+    QStringList words;
+    if (!what.isEmpty()) {
+        words << what;
+    }
+    if (!companions.isEmpty()) {
+        words << QStringLiteral("avec ") + companions.join(QStringLiteral(" et "));
+    }
+    if (words.isEmpty()) {
+        words << (holder.subject.isEmpty() ? QStringLiteral("séance sans nom") : holder.subject);
+    }
+    return kindWords(holder) + words.join(u' ');
+}
+
+/// A holder, but for what the clash is about.
+QString holderWords(const Holder& holder, ClashKind kind)
+{
+    const QString rooms = holder.rooms.join(QStringLiteral(" et "));
+    switch (kind) {
+    case ClashKind::Teacher:
+    case ClashKind::MakeupTeacher:
+        return together(holder, rooms,
+                        holder.className.isEmpty() ? QStringList() : QStringList(holder.className));
+    case ClashKind::Class:
+    case ClashKind::MakeupClass:
+        return together(holder, rooms, holder.teachers);
+    case ClashKind::Overfull:
+        return together(holder, holder.className, {});
+    case ClashKind::UnknownRoom:
+        return together(holder, holder.className, holder.teachers) + u' ' +
+               dayWords(holder.day, holder.date) +
+               (holder.time ? spanWords(*holder.time) : QStringLiteral(" à une heure inconnue"));
+    default:
+        return together(holder, holder.className, holder.teachers);
+    }
+}
+
+/// All holders in brackets.
+QString holdersWords(const Occupancy& occupancy, const Clash& clash)
+{
+    QStringList all;
+    for (const HoldingId id : clash.holders) {
+        all << holderWords(occupancy.describe(occupancy.holding(id)), clash.kind);
+    }
+    if (clash.kind == ClashKind::Overfull) {
+        all.removeDuplicates(); // each class once
+    }
+    if (all.isEmpty()) {
+        return {};
+    }
+    const qsizetype more = all.size() - kNamedHolders;
+    QString words = all.mid(0, kNamedHolders).join(QStringLiteral(", "));
+    if (more > 0) {
+        words +=
+            more == 1 ? QStringLiteral(" et une autre") : QStringLiteral(" et %1 autres").arg(more);
+    }
+    return QStringLiteral(" (") + words + u')';
+}
+
+/// Which séances name a room that is not known.
+QString namedByWords(const Occupancy& occupancy, const Clash& clash)
+{
+    std::set<int> meetings;
+    for (const HoldingId id : clash.holders) {
+        meetings.insert(occupancy.holding(id).meeting);
+    }
+    const QString words = QStringLiteral("absente de la liste des salles, mais nommée par ");
+    return words + (meetings.empty()       ? QStringLiteral("une séance dont le jour est inconnu")
+                    : meetings.size() == 1 ? QStringLiteral("une séance")
+                                           : QStringLiteral("%1 séances").arg(meetings.size()));
+}
+
+/// What is wrong.
+QString faultWords(const Occupancy& occupancy, const Clash& clash)
+{
+    const bool areTwo = clash.holders.size() == 2;
+    switch (clash.kind) {
+    case ClashKind::Teacher:
+    case ClashKind::MakeupTeacher:
+        return areTwo ? QStringLiteral("dans deux salles à la fois")
+                      : QStringLiteral("dans plusieurs salles à la fois");
+    case ClashKind::Overfull:
+        return QStringLiteral("%1 étudiants pour %2 %3")
+            .arg(clash.students)
+            .arg(clash.places)
+            .arg(clash.places == 1 ? QStringLiteral("place") : QStringLiteral("places"));
+    case ClashKind::UnknownRoom:
+        return namedByWords(occupancy, clash);
+    case ClashKind::NoTime:
+        return QStringLiteral(
+            "heure inconnue, le début ne se lit ni dans la séance ni dans son créneau");
+    default:
+        return areTwo ? QStringLiteral("deux séances à la fois")
+                      : QStringLiteral("plusieurs séances à la fois");
+    }
+}
+
+} // namespace
+
+QString clashSentence(const Occupancy& occupancy, const Clash& clash)
+{
+    QString where = nameWords(clash);
+    if (clash.kind != ClashKind::UnknownRoom) {
+        where += QStringLiteral(", ") + dayWords(clash.day, clash.date) +
+                 (clash.time ? spanWords(*clash.time) : QString()) + weekWords(clash.weeks);
+    }
+    return where + QStringLiteral(" : ") + faultWords(occupancy, clash) +
+           holdersWords(occupancy, clash) + u'.';
+}
+
+} // namespace answers

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "answers/Clashes.h"
+
+#include <QString>
+
+namespace answers
+{
+
+/// A clash of this occupancy in one French sentence: where, when, what is wrong, and for whom, of
+/// many holders the first five.
+[[nodiscard]] QString clashSentence(const timetable::Occupancy& occupancy, const Clash& clash);
+
+} // namespace answers

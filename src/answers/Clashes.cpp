@@ -1,0 +1,329 @@
+#include "answers/Clashes.h"
+
+#include "answers/ClashGroups.h"
+#include "answers/ClashRules.h"
+#include "answers/Crowds.h"
+#include "answers/Diary.h"
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <tuple>
+
+namespace answers
+{
+namespace
+{
+
+using timetable::Holding;
+using timetable::HoldingId;
+using timetable::MeetingKind;
+using timetable::Names;
+using timetable::Occupancy;
+using timetable::RoomId;
+using timetable::RoomNameId;
+using timetable::TimeSpan;
+using timetable::Week;
+
+using PairRule = std::function<bool(const Holding&, const Holding&)>;
+
+/// Of a room, teacher or class.
+struct Kinds {
+    ClashKind usual;
+    ClashKind withMakeUp;
+};
+
+Week commonWeek(Week left, Week right)
+{
+    return left == Week::Every ? right : left;
+}
+
+/// Those that clash in pairs. The candidates are of one day, by start.
+std::vector<ClashGroup> clashing(const Occupancy& occupancy, std::span<const HoldingId> candidates,
+                                 const PairRule& rule)
+{
+    ClashGroups groups(candidates);
+    std::vector<std::size_t> present;
+    for (std::size_t next = 0; next < candidates.size(); ++next) {
+        const Holding& coming = occupancy.holding(candidates[next]);
+        std::erase_if(present, [&](std::size_t position) {
+            return occupancy.holding(candidates[position]).time->end() <= coming.time->start;
+        });
+        for (const std::size_t position : present) {
+            const Holding& there = occupancy.holding(candidates[position]);
+            if (timetable::shareWeek(there.weeks, coming.weeks) && rule(there, coming)) {
+                const auto end = std::min(there.time->end(), coming.time->end());
+                groups.join(position, next,
+                            {commonWeek(there.weeks, coming.weeks),
+                             timetable::between(coming.time->start, end)});
+            }
+        }
+        present.push_back(next);
+    }
+    return groups.groups();
+}
+
+/// The candidates of a make-up's date, by start.
+std::vector<HoldingId> allOf(const Occupancy& occupancy, const DiaryDay& day)
+{
+    std::vector<HoldingId> all;
+    for (const std::vector<HoldingId>* list : {&day.courses, &day.makeUps, &day.exams}) {
+        all.insert(all.end(), list->begin(), list->end());
+    }
+    std::sort(all.begin(), all.end(), [&](HoldingId left, HoldingId right) {
+        return std::tuple(occupancy.holding(left).time, left) <
+               std::tuple(occupancy.holding(right).time, right);
+    });
+    return all;
+}
+
+/// Collects the clashes, kind by kind.
+class Search
+{
+public:
+    explicit Search(const Occupancy& occupancy) : m_occupancy(occupancy), m_rules(occupancy) {}
+
+    void searchRooms();
+    void searchTeachers();
+    void searchClasses();
+    void searchUnknownRooms();
+    void searchTimes();
+    [[nodiscard]] std::vector<Clash> take();
+
+private:
+    template <typename NameId>
+    void searchNames(const Names<NameId>& names, std::vector<std::vector<HoldingId>> lists,
+                     const Kinds& kinds, const PairRule& rule);
+    void searchDiary(const QString& name, const std::vector<DiaryDay>& diary, const Kinds& kinds,
+                     const PairRule& rule);
+    void searchCrowds(const timetable::Room& room, const std::vector<DiaryDay>& diary);
+    [[nodiscard]] bool isHeldAsAnEqualOne(RoomId room, const std::vector<HoldingId>& holders) const;
+    [[nodiscard]] Week weeksOf(const std::vector<HoldingId>& holders) const;
+    [[nodiscard]] bool isMakeUp(const Holding& holding) const
+    {
+        return m_occupancy.meetingOf(holding).kind == MeetingKind::MakeUp;
+    }
+    void add(ClashKind kind, const QString& name, const DiaryDay& day,
+             std::vector<ClashGroup> groups, int places = 0);
+
+    const Occupancy& m_occupancy;
+    ClashRules m_rules;
+    std::vector<Clash> m_found;
+};
+
+void Search::add(ClashKind kind, const QString& name, const DiaryDay& day,
+                 std::vector<ClashGroup> groups, int places)
+{
+    for (ClashGroup& group : groups) {
+        m_found.push_back({kind, name, day.day, day.date, group.reason.weeks,
+                           std::move(group.holders), group.reason.time, group.reason.students,
+                           places});
+    }
+}
+
+void Search::searchDiary(const QString& name, const std::vector<DiaryDay>& diary,
+                         const Kinds& kinds, const PairRule& rule)
+{
+    const PairRule withMakeUp = [&](const Holding& left, const Holding& right) {
+        return (isMakeUp(left) || isMakeUp(right)) && rule(left, right);
+    };
+    for (const DiaryDay& day : diary) {
+        const bool isDate = day.date.isValid();
+        add(kinds.usual, name, day, clashing(m_occupancy, isDate ? day.exams : day.courses, rule));
+        if (!day.makeUps.empty()) {
+            add(kinds.withMakeUp, name, day,
+                clashing(m_occupancy, allOf(m_occupancy, day), withMakeUp));
+        }
+    }
+}
+
+void Search::searchCrowds(const timetable::Room& room, const std::vector<DiaryDay>& diary)
+{
+    for (const DiaryDay& day : diary) {
+        if (!day.date.isValid()) {
+            add(ClashKind::Overfull, room.name, day, crowds(m_occupancy, day.courses, room.places),
+                room.places);
+            continue;
+        }
+        for (const std::vector<HoldingId>& held : {day.makeUps, day.exams}) {
+            add(ClashKind::Overfull, room.name, day, crowds(m_occupancy, held, room.places),
+                room.places);
+        }
+    }
+}
+
+/// Whether an earlier room has an equal name and the same holders.
+bool Search::isHeldAsAnEqualOne(RoomId room, const std::vector<HoldingId>& holders) const
+{
+    for (const RoomNameId name : m_occupancy.holding(holders.front()).rooms) {
+        if (name.isNone()) {
+            continue;
+        }
+        const std::vector<RoomId>& equal = m_occupancy.timetable().roomName(name).rooms;
+        const bool isNamed = std::find(equal.begin(), equal.end(), room) != equal.end();
+        if (isNamed && std::any_of(equal.begin(), equal.end(), [&](RoomId other) {
+                return other < room && m_occupancy.everyHolder(other) == holders;
+            })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void Search::searchRooms()
+{
+    const auto rooms = m_occupancy.timetable().rooms();
+    for (std::size_t index = 0; index < rooms.size(); ++index) {
+        const RoomId id(static_cast<int>(index));
+        const std::vector<HoldingId> holders = m_occupancy.everyHolder(id);
+        if (holders.empty() || isHeldAsAnEqualOne(id, holders)) {
+            continue;
+        }
+        const std::vector<DiaryDay> diary = diaryOf(m_occupancy, holders);
+        searchDiary(rooms[index].name, diary, {ClashKind::Room, ClashKind::MakeupRoom},
+                    [this](const Holding& left, const Holding& right) {
+                        return m_rules.clashOverRoom(left, right);
+                    });
+        searchCrowds(rooms[index], diary);
+    }
+}
+
+template <typename NameId>
+void Search::searchNames(const Names<NameId>& names, std::vector<std::vector<HoldingId>> lists,
+                         const Kinds& kinds, const PairRule& rule)
+{
+    for (std::size_t index = 0; index < lists.size(); ++index) {
+        searchDiary(names.text(NameId(static_cast<int>(index))),
+                    diaryOf(m_occupancy, std::move(lists[index])), kinds, rule);
+    }
+}
+
+void Search::searchTeachers()
+{
+    const auto& teachers = m_occupancy.timetable().teachers();
+    std::vector<std::vector<HoldingId>> lists(static_cast<std::size_t>(teachers.count()));
+    const std::vector<Holding>& holdings = m_occupancy.holdings();
+    for (std::size_t index = 0; index < holdings.size(); ++index) {
+        const Holding& holding = holdings[index];
+        const HoldingId id(static_cast<int>(index));
+        for (const timetable::TeacherId each :
+             m_occupancy.meetingOf(holding).part(holding.part).teachers) {
+            if (each.isNone()) {
+                continue;
+            }
+            auto& list = lists[static_cast<std::size_t>(teachers.group(each).index())];
+            if (list.empty() || list.back() != id) { // a part may name somebody twice
+                list.push_back(id);
+            }
+        }
+    }
+    searchNames(teachers, std::move(lists), {ClashKind::Teacher, ClashKind::MakeupTeacher},
+                [this](const Holding& left, const Holding& right) {
+                    return m_rules.clashOverTeacher(left, right);
+                });
+}
+
+void Search::searchClasses()
+{
+    const auto& classes = m_occupancy.timetable().classes();
+    std::vector<std::vector<HoldingId>> lists(static_cast<std::size_t>(classes.count()));
+    const std::vector<Holding>& holdings = m_occupancy.holdings();
+    for (std::size_t index = 0; index < holdings.size(); ++index) {
+        const timetable::ClassId each = m_occupancy.meetingOf(holdings[index]).className;
+        if (!each.isNone()) {
+            lists[static_cast<std::size_t>(classes.group(each).index())].push_back(
+                HoldingId(static_cast<int>(index)));
+        }
+    }
+    searchNames(classes, std::move(lists), {ClashKind::Class, ClashKind::MakeupClass},
+                [this](const Holding& left, const Holding& right) {
+                    return m_rules.clashOverClass(left, right);
+                });
+}
+
+Week Search::weeksOf(const std::vector<HoldingId>& holders) const
+{
+    if (holders.empty()) {
+        return Week::Every;
+    }
+    const Week first = m_occupancy.holding(holders.front()).weeks;
+    const bool isAll = std::all_of(holders.begin(), holders.end(), [&](HoldingId id) {
+        return m_occupancy.holding(id).weeks == first;
+    });
+    return isAll ? first : Week::Every;
+}
+
+void Search::searchUnknownRooms()
+{
+    const timetable::Timetable& timetable = m_occupancy.timetable();
+    for (int index = static_cast<int>(timetable.rooms().size()); index < timetable.roomCount();
+         ++index) {
+        std::vector<HoldingId> holders = m_occupancy.everyHolder(RoomId(index));
+        std::sort(holders.begin(), holders.end(), [&](HoldingId left, HoldingId right) {
+            return comesBefore(m_occupancy, left, right);
+        });
+        Clash clash;
+        clash.kind = ClashKind::UnknownRoom;
+        clash.name = timetable.room(RoomId(index)).name;
+        clash.weeks = weeksOf(holders);
+        clash.holders = std::move(holders);
+        m_found.push_back(std::move(clash));
+    }
+}
+
+/// One clash for each row: its holdings follow each other.
+void Search::searchTimes()
+{
+    const timetable::Timetable& timetable = m_occupancy.timetable();
+    const std::vector<Holding>& holdings = m_occupancy.holdings();
+    std::size_t end = 0;
+    for (std::size_t index = 0; index < holdings.size(); index = end) {
+        const Holding& first = holdings[index];
+        std::vector<HoldingId> holders;
+        for (end = index; end < holdings.size() && holdings[end].meeting == first.meeting; ++end) {
+            holders.emplace_back(static_cast<int>(end));
+        }
+        if (first.time) {
+            continue;
+        }
+        Clash clash;
+        clash.kind = ClashKind::NoTime;
+        const RoomId room = timetable.roomName(first.rooms.front()).rooms.front();
+        clash.name = timetable.room(room).name;
+        clash.day = first.date.isValid() ? timetable::dayOf(first.date) : first.day;
+        clash.date = first.date;
+        clash.weeks = weeksOf(holders);
+        clash.holders = std::move(holders);
+        m_found.push_back(std::move(clash));
+    }
+}
+
+std::vector<Clash> Search::take()
+{
+    std::stable_sort(m_found.begin(), m_found.end(), [](const Clash& left, const Clash& right) {
+        const auto key = [](const Clash& clash) {
+            const bool isDate = clash.date.isValid();
+            return std::tuple(clash.kind, isDate, isDate ? clash.date.toJulianDay() : clash.day,
+                              clash.time);
+        };
+        const auto one = key(left);
+        const auto other = key(right);
+        return one != other ? one < other : left.name < right.name;
+    });
+    return std::move(m_found);
+}
+
+} // namespace
+
+std::vector<Clash> clashes(const Occupancy& occupancy)
+{
+    Search search(occupancy);
+    search.searchRooms();
+    search.searchTeachers();
+    search.searchClasses();
+    search.searchUnknownRooms();
+    search.searchTimes();
+    return search.take();
+}
+
+} // namespace answers

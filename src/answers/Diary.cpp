@@ -1,0 +1,78 @@
+#include "answers/Diary.h"
+
+#include <algorithm>
+#include <iterator>
+#include <tuple>
+
+namespace answers
+{
+namespace
+{
+
+using timetable::Holding;
+using timetable::HoldingId;
+using timetable::MeetingKind;
+using timetable::Occupancy;
+
+/// What tells days apart, in their order: 0 to 6 for the teaching weeks, more for any date.
+qint64 dayKey(const Holding& holding)
+{
+    constexpr qint64 dates = qint64(1) << 40; // more than any date's distance from day 0
+    return holding.date.isValid() ? dates + holding.date.toJulianDay() : holding.day;
+}
+
+std::vector<HoldingId>& listOf(DiaryDay& day, MeetingKind kind)
+{
+    return kind == MeetingKind::Course   ? day.courses
+           : kind == MeetingKind::MakeUp ? day.makeUps
+                                         : day.exams;
+}
+
+/// Gives dates with make-ups the courses of their weekday, as far as these are held then.
+void addCourses(const Occupancy& occupancy, std::vector<DiaryDay>& diary)
+{
+    const auto firstDate = std::find_if(diary.begin(), diary.end(),
+                                        [](const DiaryDay& each) { return each.date.isValid(); });
+    for (auto date = firstDate; date != diary.end(); ++date) {
+        const auto weekday = std::find_if(
+            diary.begin(), firstDate, [&](const DiaryDay& each) { return each.day == date->day; });
+        if (!date->makeUps.empty() && weekday != firstDate) {
+            const timetable::When when = timetable::When::date(date->date);
+            std::copy_if(weekday->courses.begin(), weekday->courses.end(),
+                         std::back_inserter(date->courses),
+                         [&](HoldingId id) { return occupancy.isOn(occupancy.holding(id), when); });
+        }
+    }
+}
+
+} // namespace
+
+bool comesBefore(const Occupancy& occupancy, HoldingId left, HoldingId right)
+{
+    const Holding& one = occupancy.holding(left);
+    const Holding& other = occupancy.holding(right);
+    return std::tuple(dayKey(one), one.time, left) < std::tuple(dayKey(other), other.time, right);
+}
+
+std::vector<DiaryDay> diaryOf(const Occupancy& occupancy, std::vector<HoldingId> holdings)
+{
+    std::erase_if(holdings, [&](HoldingId id) { return !occupancy.holding(id).time; });
+    std::sort(holdings.begin(), holdings.end(),
+              [&](HoldingId left, HoldingId right) { return comesBefore(occupancy, left, right); });
+    std::vector<DiaryDay> diary;
+    qint64 latest = -1;
+    for (const HoldingId id : holdings) {
+        const Holding& holding = occupancy.holding(id);
+        if (dayKey(holding) != latest) {
+            latest = dayKey(holding);
+            const bool isDate = holding.date.isValid();
+            diary.push_back(
+                {isDate ? timetable::dayOf(holding.date) : holding.day, holding.date, {}, {}, {}});
+        }
+        listOf(diary.back(), occupancy.meetingOf(holding).kind).push_back(id);
+    }
+    addCourses(occupancy, diary);
+    return diary;
+}
+
+} // namespace answers
