@@ -1,5 +1,6 @@
 #include "files/AnswerJson.h"
 
+#include "answers/ClashSentence.h"
 #include "answers/HolderWords.h"
 
 #include <QJsonArray>
@@ -38,6 +39,11 @@ template <typename Number>
 QJsonValue orNull(const std::optional<Number>& number)
 {
     return number ? QJsonValue(*number) : QJsonValue();
+}
+
+QJsonValue dateValue(QDate date)
+{
+    return date.isValid() ? QJsonValue(date.toString(Qt::ISODate)) : QJsonValue();
 }
 
 QJsonObject holderObject(const Occupancy& occupancy, HoldingId id)
@@ -119,6 +125,53 @@ QByteArray hitsAsJson(const Occupancy& occupancy, const std::vector<answers::Hit
                                  {Key("items"), holderArray(occupancy, hit.items)}});
     }
     return written({{Key("hits"), array}});
+}
+
+QByteArray clashesAsJson(const Occupancy& occupancy, const std::vector<answers::Clash>& clashes)
+{
+    constexpr std::array kinds{"room",         "teacher",      "class",
+                               "overfull",     "makeup-room",  "makeup-teacher",
+                               "makeup-class", "unknown-room", "no-time"};
+    QJsonArray array;
+    for (const answers::Clash& clash : clashes) {
+        array.append(QJsonObject{
+            {Key("kind"), QLatin1String(kinds.at(static_cast<std::size_t>(clash.kind)))},
+            {Key("name"), clash.name},
+            {Key("day"), clash.day == timetable::kNoDay ? QJsonValue() : QJsonValue(clash.day)},
+            {Key("date"), dateValue(clash.date)},
+            {Key("weeks"), weeksName(clash.weeks)},
+            {Key("holders"), holderArray(occupancy, clash.holders)},
+            {Key("sentence"), answers::clashSentence(occupancy, clash)}});
+    }
+    return written({{Key("clashes"), array}});
+}
+
+QByteArray roomUseAsJson(const Occupancy& occupancy, const answers::RoomUse& use)
+{
+    const auto seats = [&use](double share) {
+        return use.areSeatsKnown ? QJsonValue(share) : QJsonValue();
+    };
+    QJsonArray rooms;
+    for (const answers::UseOfRoom& room : use.rooms) {
+        rooms.append(QJsonObject{{Key("room"), occupancy.timetable().room(room.room).name},
+                                 {Key("places"), room.places},
+                                 {Key("slots"), room.slots},
+                                 {Key("held"), room.held},
+                                 {Key("share"), room.share},
+                                 {Key("seats_share"), seats(room.seatsShare)}});
+    }
+    QJsonArray slots;
+    for (const answers::UseOfSlot& slot : use.slots) {
+        slots.append(QJsonObject{{Key("day"), slot.day},
+                                 {Key("slot"), slot.slot},
+                                 {Key("rooms"), slot.rooms},
+                                 {Key("held"), slot.held},
+                                 {Key("share"), slot.share}});
+    }
+    return written({{Key("rooms"), rooms},
+                    {Key("slots"), slots},
+                    {Key("share"), use.share},
+                    {Key("seats_share"), seats(use.seatsShare)}});
 }
 
 } // namespace files

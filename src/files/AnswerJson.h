@@ -1,6 +1,8 @@
 #pragma once
 
+#include "answers/Clashes.h"
 #include "answers/FreeRooms.h"
+#include "answers/RoomUse.h"
 #include "answers/Whereabouts.h"
 
 #include <QByteArray>
@@ -14,6 +16,11 @@ namespace files
                                          const answers::FreeRooms& answer);
 [[nodiscard]] QByteArray weekAsJson(const timetable::Occupancy& occupancy,
                                     const std::vector<timetable::HoldingId>& items);
+[[nodiscard]] QByteArray clashesAsJson(const timetable::Occupancy& occupancy,
+                                       const std::vector<answers::Clash>& clashes);
+/// Shares of seats that cannot be known are null.
+[[nodiscard]] QByteArray roomUseAsJson(const timetable::Occupancy& occupancy,
+                                       const answers::RoomUse& use);
 [[nodiscard]] QByteArray hitsAsJson(const timetable::Occupancy& occupancy,
                                     const std::vector<answers::Hit>& hits);
 

@@ -9,7 +9,7 @@ namespace shell
 
 /// A question about the timetable whose answer is written into a file.
 struct AnswerRequest {
-    enum class Kind { FreeRooms, WeekOf, Find };
+    enum class Kind { FreeRooms, WeekOf, Find, Clashes, RoomUse };
     enum class Who { Room, Teacher, Class, Subject };
 
     Kind kind = Kind::FreeRooms;

@@ -123,13 +123,21 @@ answers::Subject subjectOf(const Occupancy& occupancy, const AnswerRequest& requ
     return *subject;
 }
 
-/// What was not read is not known to be free. Make-ups and exams play a part on dates alone.
+/// Whether the answer needs a table that a timetable can do without. Make-ups and exams play a part
+/// on dates, and in clashes; students in clashes. Where the use of seats lacks them, it says so
+/// itself.
+bool needs(const CommandLine& line, const QString& unread)
+{
+    const bool isClashes = line.answer->kind == AnswerRequest::Kind::Clashes;
+    const bool isDated = unread == u"ratrap" || unread == u"examen" || unread == u"dat_exam";
+    return isDated ? isClashes || line.date.has_value() : isClashes && unread == u"etudiant";
+}
+
+/// What was not read is not known to be free.
 void requireAllRead(const timetable::Timetable& timetable, const CommandLine& line)
 {
     for (const timetable::UnreadTable& unread : timetable.unread()) {
-        const bool plays = line.date && (unread.table == u"ratrap" || unread.table == u"examen" ||
-                                         unread.table == u"dat_exam");
-        if (plays) {
+        if (needs(line, unread.table)) {
             throw files::ExportError(
                 QStringLiteral("La table « %1 » ne se laisse pas lire (%2) : le fichier n’est pas "
                                "écrit.")
@@ -150,6 +158,11 @@ QByteArray answerOf(const Shell& shell, const CommandLine& line, const Occupancy
         return files::weekAsJson(
             occupancy,
             answers::weekOf(occupancy, subjectOf(occupancy, request), weekAskedFor(shell, line)));
+    case AnswerRequest::Kind::Clashes:
+        return files::clashesAsJson(occupancy, answers::clashes(occupancy));
+    case AnswerRequest::Kind::RoomUse:
+        return files::roomUseAsJson(
+            occupancy, answers::roomUse(occupancy, askedWeek(line), filterOf(occupancy, line)));
     case AnswerRequest::Kind::Find:
         break;
     }

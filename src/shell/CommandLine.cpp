@@ -64,6 +64,10 @@ const std::vector<OptionText>& optionTexts()
         {"matter", QStringLiteral("NOM"), QStringLiteral("cette matière (avec --week-of)")},
         {"find", QStringLiteral("FICHIER.json"),
          QStringLiteral("écrit qui et quoi porte un texte dans son nom, et où (avec --text)")},
+        {"clashes", QStringLiteral("FICHIER.json"),
+         QStringLiteral("écrit les conflits de la période : salles, enseignants, classes")},
+        {"use", QStringLiteral("FICHIER.json"),
+         QStringLiteral("écrit l’occupation des salles, par salle et par séance")},
         {"text", QStringLiteral("TEXTE"), QStringLiteral("texte cherché (avec --find)")},
         {"settings", QStringLiteral("FICHIER.ini"),
          QStringLiteral("remplace les paramètres de l’utilisateur pour cette fois")},
@@ -338,7 +342,8 @@ void readAnswer(const Reader& reader, CommandLine& line)
     const char* first = reader.has("export") ? "export" : nullptr;
     for (const auto& [option, kind] :
          {std::pair("free", Kind::FreeRooms), std::pair("week-of", Kind::WeekOf),
-          std::pair("find", Kind::Find)}) {
+          std::pair("find", Kind::Find), std::pair("clashes", Kind::Clashes),
+          std::pair("use", Kind::RoomUse)}) {
         if (!reader.has(option)) {
             continue;
         }
@@ -364,7 +369,7 @@ void readAnswer(const Reader& reader, CommandLine& line)
         readFreeRooms(reader, *line.answer);
     } else if (line.answer->kind == Kind::WeekOf) {
         readWeekOf(reader, *line.answer);
-    } else {
+    } else if (line.answer->kind == Kind::Find) {
         line.answer->text = reader.text("text");
         if (line.answer->text.isEmpty()) {
             fail(QStringLiteral("find"), QStringLiteral("demande --text"));
@@ -433,7 +438,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
 bool CommandLine::asksForFile(const QStringList& arguments)
 {
     return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
-        const QRegularExpression option(QStringLiteral("^--?(export|free|week-of|find)(=|$)"));
+        const QRegularExpression option(
+            QStringLiteral("^--?(export|free|week-of|find|clashes|use)(=|$)"));
         return option.match(argument).hasMatch();
     });
 }
@@ -443,7 +449,7 @@ QString CommandLine::helpText()
     QString text =
         QStringLiteral("Usage : tempora [options]\n"
                        "Planning des classes : quelle salle est prise, par qui.\n"
-                       "Sans --export, --free, --week-of ou --find, les options s’appliquent à la "
+                       "Sans l’une des options qui écrivent un fichier, elles s’appliquent à la "
                        "fenêtre.\n\n");
     for (const OptionText& option : optionTexts()) {
         QString left = QStringLiteral("  --") + QString::fromLatin1(option.name);

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QJsonArray>
+#include <QTemporaryDir>
 
 using namespace test;
 
@@ -54,7 +55,8 @@ protected:
         return {};
     }
 
-    QString file = emptyFolder() + "/answer.json";
+    QTemporaryDir folder{processFolder() + "/answers-XXXXXX"};
+    QString file = folder.filePath("answer.json");
     QString semaineA;
     const QStringList firstSlot{"--day", "0", "--from", "8h30", "--to", "10h00"};
 };
@@ -198,4 +200,42 @@ TEST_P(Answers, takeNothingForFreeThatCouldNotBeRead)
     EXPECT_EQ(each(answer("--free", firstSlot)["taken"], "room"), QStringList({"A2", "C1"}));
     database().execute("drop table emplois");
     EXPECT_THROW(write(QStringList{"--free", file} + firstSlot), runtime::RunTimeError);
+}
+
+TEST_P(Answers, tellWhatClashes)
+{
+    EXPECT_TRUE(answer("--clashes", {})["clashes"].toArray().isEmpty());
+    database().execute(
+        "insert into emplois (Tranche, Seance, Salle, Classe, Enseignant1, newnature, "
+        "Debut) values (1, 'Lundi1', 'A2', 'G2', 'Petit', '00', '9h00')");
+    const QJsonArray clashes = answer("--clashes", {})["clashes"].toArray();
+    ASSERT_EQ(clashes.size(), 1);
+    const QJsonObject clash = clashes[0].toObject();
+    EXPECT_EQ(clash["kind"].toString(), "room");
+    EXPECT_EQ(clash["name"].toString(), "A2");
+    EXPECT_EQ(clash["day"].toInt(-1), 0);
+    EXPECT_TRUE(clash["date"].isNull());
+    EXPECT_EQ(clash["weeks"].toString(), "all");
+    EXPECT_EQ(each(clash["holders"], "start"), QStringList({"510", "540"}));
+    EXPECT_TRUE(clash["sentence"].toString().contains("A2"))
+        << clash["sentence"].toString().toStdString();
+}
+
+TEST_P(Answers, tellHowMuchTheRoomsAreUsed)
+{
+    const QJsonObject told = answer("--use", {"--week", "A"});
+    EXPECT_EQ(each(told["rooms"], "room"), QStringList({"A1", "A2", "B1", "B2", "C1"}));
+    // Four slots on each of six days; B1's course of three hours reaches into the fourth.
+    EXPECT_EQ(each(told["rooms"], "slots"), QStringList({"24", "24", "24", "24", "24"}));
+    EXPECT_EQ(each(told["rooms"], "held"), QStringList({"0", "2", "2", "1", "1"}));
+    EXPECT_DOUBLE_EQ(told["share"].toDouble(), 6.0 / 120);
+    const QJsonObject first = told["slots"].toArray()[0].toObject();
+    EXPECT_EQ(first,
+              (QJsonObject{{"day", 0}, {"slot", 1}, {"rooms", 5}, {"held", 2}, {"share", 0.4}}));
+    // A2: G1 with 3 students and G3 with 2; B1: 2 in each of two slots; B2: nobody; C1: 2.
+    EXPECT_DOUBLE_EQ(told["seats_share"].toDouble(), 11.0 / (24 * (30 + 40 + 100 + 20 + 12)));
+    EXPECT_EQ(each(answer("--use", {"--zone", "1"})["rooms"], "room"), QStringList({"A1", "A2"}));
+    database().execute("drop table etudiant");
+    EXPECT_TRUE(answer("--use", {})["seats_share"].isNull());
+    EXPECT_THROW(write({"--clashes", file}), files::ExportError);
 }

@@ -319,6 +319,8 @@ TEST(CommandLine, readsQuestionsAboutTheTimetable)
     const CommandLine find = parse({"--find", "t.json", "--text", "dur"});
     EXPECT_EQ(find.answer->kind, Request::Kind::Find);
     EXPECT_EQ(find.answer->text, "dur");
+    EXPECT_EQ(parse({"--clashes", "c.json"}).answer->kind, Request::Kind::Clashes);
+    EXPECT_EQ(parse({"--use", "u.json"}).answer->kind, Request::Kind::RoomUse);
     EXPECT_FALSE(parse({}).writesFile());
 }
 
