@@ -203,8 +203,13 @@ int PlClasse::run(const shell::CommandLine& line)
     }
     resize(kFirstSize);
     showMaximized();
+    m_isStarting = true;
     activate();
     play(line);
+    m_isStarting = false;
+    if (std::exchange(m_leavesOnceStarted, false)) {
+        leave();
+    }
     // The first redraws serve events, too: by now the user may have closed the window.
     const int code = hasEnded() ? kDone : QApplication::exec();
     return m_failed ? kFailed : code;
@@ -329,7 +334,9 @@ void PlClasse::processEvents()
 {
     m_view->showProgress();
     m_waiting.showWhenDue();
-    QCoreApplication::processEvents();
+    // What the user clicks in the first plan is meant for the one that the command line asks for.
+    QCoreApplication::processEvents(m_isStarting ? QEventLoop::ExcludeUserInputEvents
+                                                 : QEventLoop::AllEvents);
 }
 
 void PlClasse::clickMarker(int marker)
@@ -379,6 +386,10 @@ void PlClasse::leave()
 {
     if (!isVisible()) {
         leaveAtOnce(m_failed ? kFailed : kDone);
+    }
+    if (m_isStarting) {
+        m_leavesOnceStarted = true;
+        return;
     }
     close();
     QCoreApplication::quit();

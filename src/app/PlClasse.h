@@ -46,7 +46,8 @@ public:
     void forward(const std::function<void()>& action);
 
     /// The system wants the program to end: does what closing the window does, and ends whatever
-    /// dialog is open. Before the window is shown there is nothing to be saved.
+    /// dialog is open. Before the window is shown there is nothing to be saved; while the choices of
+    /// the command line are being played it waits for these.
     void leave();
 
     /// The system is about to end the session, which may still be called off: saves what closing
@@ -100,6 +101,8 @@ private:
     HelpWindow* m_help = nullptr; ///< null until it is asked for
     int m_focusRequests = 0;
     QString m_fontName;
+    bool m_isStarting = false; ///< the choices of the command line are still being played
+    bool m_leavesOnceStarted = false;
     bool m_failed = false;
     bool m_closed = false;
 };

@@ -75,6 +75,16 @@ TEST_F(WindowsLife, beginsWithTheOptionsOfTheCommandLine)
     EXPECT_EQ(messages, QStringList());
 }
 
+TEST_F(WindowsLife, isLeftOnceTheChoicesOfTheCommandLineArePlayed)
+{
+    create();
+    QTimer::singleShot(0, &window(), [this] { window().leave(); }); // in the first redraw
+    EXPECT_EQ(run({"--show", "class", "--rooms-per-page", "3"}), 0);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(setup.saved("ChkEnseignant"), "0");
+    EXPECT_EQ(setup.saved("Total_L_P"), "3");
+}
+
 TEST_F(WindowsLife, endsWhenItIsClosedInItsFirstRedraw)
 {
     create();
