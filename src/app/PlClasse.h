@@ -46,8 +46,8 @@ public:
     void forward(const std::function<void()>& action);
 
     /// The system wants the program to end: does what closing the window does, and ends whatever
-    /// dialog is open. Before the window is shown there is nothing to be saved; while the choices of
-    /// the command line are being played it waits for these.
+    /// dialog is open. Before the window is shown there is nothing to be saved; while the choices
+    /// of the command line are being played it waits for these.
     void leave();
 
     /// The system is about to end the session, which may still be called off: saves what closing

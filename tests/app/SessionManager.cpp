@@ -39,14 +39,10 @@ struct SessionManager::Protocol {
         return 1;
     }
 
-    static void hangUp(SmsConn client, SmPointer data, int number, char** reasons)
+    static void hangUp(SmsConn /*client*/, SmPointer data, int number, char** reasons)
     {
         SmFreeReasons(number, reasons);
-        SmsCleanUp(client);
-        IceSetShutdownNegotiation(of(data).line, False);
-        IceCloseConnection(of(data).line);
-        of(data).line = nullptr;
-        of(data).gone = true;
+        of(data).drop();
     }
 
     static void forget(SmsConn /*client*/, SmPointer /*data*/, int number, SmProp** properties)
@@ -85,6 +81,18 @@ struct SessionManager::Protocol {
         return 1;
     }
 
+    /// The line is closed from here.
+    void drop()
+    {
+        if (program != nullptr) {
+            SmsCleanUp(program);
+            program = nullptr;
+        }
+        IceSetShutdownNegotiation(line, False);
+        IceCloseConnection(line);
+        line = nullptr;
+        gone = true;
+    }
     void accept(IceListenObj listener)
     {
         IceAcceptStatus status = IceAcceptFailure;
@@ -117,10 +125,7 @@ struct SessionManager::Protocol {
         }
         if (line != nullptr && sources.back().revents != 0 &&
             IceProcessMessages(line, nullptr, nullptr) == IceProcessMessagesIOError) {
-            IceSetShutdownNegotiation(line, False);
-            IceCloseConnection(line);
-            line = nullptr;
-            gone = true;
+            drop();
         }
     }
 };
@@ -148,8 +153,7 @@ SessionManager::SessionManager() : m_protocol(std::make_unique<Protocol>())
 SessionManager::~SessionManager()
 {
     if (m_protocol->line != nullptr) {
-        IceSetShutdownNegotiation(m_protocol->line, False);
-        IceCloseConnection(m_protocol->line);
+        m_protocol->drop();
     }
     IceFreeListenObjs(m_protocol->count, m_protocol->listening);
 }
