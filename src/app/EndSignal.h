@@ -8,7 +8,8 @@ namespace app
 
 /// The system's wish that the program end: a signal on Unix (SIGTERM, SIGINT, SIGHUP). Windows
 /// sends none to a program with a window; there, as with session managers, the end of a session
-/// comes through the toolkit (QGuiApplication::commitDataRequest, then the windows are closed).
+/// comes through the toolkit (QGuiApplication::commitDataRequest; what follows, Windows may cut
+/// short).
 class EndSignal
 {
 public:
