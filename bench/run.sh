@@ -27,8 +27,8 @@ folder=$project/build-bench
 bin=$folder/bin
 work=$folder/work
 
-ensure_packages "${build_packages[@]}" hyperfine libbenchmark-dev libgtest-dev mariadb-client-core \
-    mariadb-server-core xauth xvfb
+ensure_packages "${build_packages[@]}" hyperfine libbenchmark-dev libgtest-dev libsm-dev \
+    mariadb-client-core mariadb-server-core xauth xvfb
 configure "$folder" bench
 build "$folder" tempora tempora-demo refresh_bench click_bench timetable_bench \
     drawing_bench first_plan

@@ -12,7 +12,7 @@ set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 # shellcheck source=scripts/common.sh
 source "$project/scripts/common.sh"
-ensure_packages python3 "${build_packages[@]}" ccache libgtest-dev
+ensure_packages python3 "${build_packages[@]}" ccache libgtest-dev libsm-dev
 
 cd "$project"
 copy=$project/build-mutants
