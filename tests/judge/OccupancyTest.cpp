@@ -1,8 +1,10 @@
 // The model of the timetable against the plan's own lookup, over random databases: what the plan
-// shows is held, and where the plan's query finds nothing at all, nothing is held. Where several
-// rows meet they may differ: the plan composes its text from the first row, the model looks at all.
+// shows is held and not called free, and where the plan's query finds nothing at all, nothing is
+// held. Where several rows meet they may differ: the plan composes its text from the first row, the
+// model looks at all.
 
 #include "timetable/Occupancy.h"
+#include "answers/FreeRooms.h"
 #include "db/Database.h"
 #include "judge/JudgedCells.h"
 #include "judge/RandomTimetable.h"
@@ -10,6 +12,7 @@
 #include "lookup/PlainRowSource.h"
 #include "runtime/RunTimeError.h"
 #include "timetable/MeetingColumns.h"
+#include "timetable/ReadTimes.h"
 #include "timetable/TimetableReader.h"
 
 #include <algorithm>
@@ -122,6 +125,27 @@ public:
             return m_occupancy->isOn(holding, whenOf(question)) && isRow(holding, row);
         });
     }
+    /// Whether the room is called free at the time of a row that the plan shows in it.
+    [[nodiscard]] bool isCalledFree(const Question& question, const db::Row& row) const
+    {
+        const When when = whenOf(question);
+        auto start = timetable::readTime(fieldOf(row, timetable::column::kDebut));
+        if (!start) {
+            const timetable::DaySlot* slot =
+                m_occupancy->timetable().slot(when.day(), question.slot);
+            start = slot == nullptr ? std::nullopt : slot->start;
+        }
+        const auto length = timetable::readLength(fieldOf(row, timetable::column::kDuree));
+        if (!start) {
+            return false; // nobody knows when
+        }
+        const answers::FreeRooms free = answers::freeRooms(
+            *m_occupancy, {{when}, {*start, length.value_or(timetable::kUsualLength)}, 0, {}});
+        return std::any_of(free.rooms.begin(), free.rooms.end(),
+                           [room = roomOf(question.room)](const answers::FreeRoom& each) {
+                               return each.room == room;
+                           });
+    }
     [[nodiscard]] bool holds(const QString& room) const { return m_database.dialect().holds(room); }
     [[nodiscard]] bool knows(const QString& room) const { return !roomOf(room).isNone(); }
 
@@ -186,6 +210,7 @@ protected:
             ++free;
         } else if (!ways.box(question).isEmpty()) {
             EXPECT_TRUE(ways.names(question, rows->first())) << ways.box(question).toStdString();
+            EXPECT_FALSE(ways.isCalledFree(question, rows->first()));
             ++taken;
         }
         ++cells;
