@@ -74,9 +74,39 @@ std::optional<QString> unlessEmpty(const QString& text)
     return text.isEmpty() ? std::nullopt : std::optional(text);
 }
 
+QString timeText(timetable::MinuteOfDay time)
+{
+    constexpr int minutesPerHour = 60;
+    return QStringLiteral("%1h%2")
+        .arg(time.value / minutesPerHour)
+        .arg(time.value % minutesPerHour);
+}
+
+void addAnswer(const shell::AnswerRequest& request, Writer& writer)
+{
+    using Kind = shell::AnswerRequest::Kind;
+    constexpr std::array kinds{"free", "week-of", "find", "clashes", "use"};
+    constexpr std::array people{"room", "teacher", "class", "matter"};
+    writer.add(kinds.at(static_cast<std::size_t>(request.kind)), std::optional(request.file));
+    if (request.kind == Kind::FreeRooms) {
+        writer.add("from", std::optional(timeText(request.span.start)));
+        writer.add("to", std::optional(timeText(request.span.end())));
+        writer.add("places", std::optional(request.places));
+        writer.add("weeks-running",
+                   request.weeksRunning > 1 ? std::optional(request.weeksRunning) : std::nullopt);
+    } else if (request.kind == Kind::WeekOf) {
+        writer.add(people.at(static_cast<std::size_t>(request.who)), std::optional(request.name));
+    } else if (request.kind == Kind::Find) {
+        writer.add("text", std::optional(request.text));
+    }
+}
+
 QStringList argumentsOf(const CommandLine& line)
 {
     Writer writer;
+    if (line.answer) {
+        addAnswer(*line.answer, writer);
+    }
     writer.add("export", unlessEmpty(line.exportFile));
     writer.add("all-pages", line.allPages);
     writer.add("allow-incomplete", line.allowIncomplete);
@@ -116,6 +146,10 @@ void checkUnderstood(const CommandLine& line, const QStringList& arguments)
                 isWithin(line.roomsPerPage, 1, form::PlanForm::kMostRooms),
             "numbers are within their ranges", shown);
     require(!line.date || line.date->isValid(), "a date is one", shown);
+    require(!line.answer || line.answer->kind != shell::AnswerRequest::Kind::FreeRooms ||
+                (line.answer->span.length.value > 0 && line.answer->weeksRunning > 0),
+            "a free room is asked for some time", shown);
+    require(!(line.answer && !line.exportFile.isEmpty()), "one file is written", shown);
     require(!(line.date && line.day), "a date and a day do not go together", shown);
     const QStringList written = argumentsOf(line);
     const QStringList again = argumentsOf(CommandLine::parse(written));
