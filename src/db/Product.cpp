@@ -41,6 +41,12 @@ QString Product::equalTextsSql(const std::vector<TextQuestion>& /*questions*/,
     return {};
 }
 
+QString Product::spelledCountsSql(const std::vector<CountQuestion>& /*questions*/,
+                                  const QStringList& /*literals*/) const
+{
+    return {};
+}
+
 QString Product::textCountsSql(const std::vector<CountQuestion>& /*questions*/,
                                const QStringList& /*literals*/) const
 {

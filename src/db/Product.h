@@ -85,6 +85,10 @@ public:
     [[nodiscard]] virtual QString equalTextsSql(const std::vector<TextQuestion>& questions,
                                                 TextColumns columns) const;
 
+    /// The quick statement that counts them where rows spell the texts as they are given; empty
+    /// where the product is asked whole at once.
+    [[nodiscard]] virtual QString spelledCountsSql(const std::vector<CountQuestion>& questions,
+                                                   const QStringList& literals) const;
     /// The statement that counts the rows that texts find (see TextCountsSql.h); empty where the
     /// product cannot be asked. The texts are given as literals.
     [[nodiscard]] virtual QString textCountsSql(const std::vector<CountQuestion>& questions,

@@ -148,6 +148,12 @@ QString SqliteProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
     return columns == TextColumns::AsTheyAre ? sqliteEqualTextsSql(questions) : QString();
 }
 
+QString SqliteProduct::spelledCountsSql(const std::vector<CountQuestion>& questions,
+                                        const QStringList& literals) const
+{
+    return sqliteSpelledCountsSql(questions, literals);
+}
+
 QString SqliteProduct::textCountsSql(const std::vector<CountQuestion>& questions,
                                      const QStringList& literals) const
 {

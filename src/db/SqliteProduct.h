@@ -49,6 +49,8 @@ public:
     [[nodiscard]] std::optional<Packing> packing() const override { return Packing::Json; }
     [[nodiscard]] QString equalTextsSql(const std::vector<TextQuestion>& questions,
                                         TextColumns columns) const override;
+    [[nodiscard]] QString spelledCountsSql(const std::vector<CountQuestion>& questions,
+                                           const QStringList& literals) const override;
     [[nodiscard]] QString textCountsSql(const std::vector<CountQuestion>& questions,
                                         const QStringList& literals) const override;
 

@@ -28,27 +28,58 @@ QString foundRows(const CountQuestion& question, const QStringList& literals, co
 QString questionSql(std::size_t number, const QString& rows, const QString& texts)
 {
     return QStringLiteral("select ") + QString::number(number) +
-           QStringLiteral(" as q, group_concat(n) as members, count(n) as c, sum(r) as r, "
+           QStringLiteral(" as q, group_concat(n) as members, sum(r) as r, "
                           "min(lo) as lo, max(hi) as hi, sum(v) as v, max(o) as o from (") +
            rows + QStringLiteral(" union all select t, n, 0, null, null, 0, 0 from (") + texts +
            QStringLiteral(") l) u group by t");
 }
 
+/// Holds where the column does not compare as texts do. All rows of a group have one type.
+QString sqliteOdd(const CountQuestion& question)
+{
+    return QStringLiteral("typeof(") + question.column + QStringLiteral(")<>'text'");
+}
+
+/// The texts in front of a statement.
+QString sqliteTexts(const QStringList& literals)
+{
+    return QStringLiteral("with texts(n,t) as (") + sqliteNumberedRows(literals) +
+           QStringLiteral(") ");
+}
+
 } // namespace
+
+QString sqliteSpelledCountsSql(const std::vector<CountQuestion>& questions,
+                               const QStringList& literals)
+{
+    QStringList groups;
+    QStringList equals;
+    for (const CountQuestion& question : questions) {
+        const auto number = static_cast<int>(groups.size());
+        groups << QStringLiteral("select ") + QString::number(number) +
+                      QStringLiteral(" as q, t as members, r, lo, hi, v, o from (") +
+                      foundRows(question, literals, sqliteOdd(question)) + u')';
+        equals << QStringLiteral("select ") +
+                      QString::number(static_cast<int>(questions.size()) + number) +
+                      QStringLiteral(
+                          " as q, group_concat(n) as members, 0, 0, 0, 0, 0 from (select ") +
+                      question.column + QStringLiteral(" as t, null as n from ") + question.table +
+                      QStringLiteral(" where 0=1 union all select t, n from texts) group by t "
+                                     "having count(*)>1");
+    }
+    return sqliteTexts(literals) + (groups + equals).join(QStringLiteral(" union all "));
+}
 
 QString sqliteTextCountsSql(const std::vector<CountQuestion>& questions,
                             const QStringList& literals)
 {
     QStringList parts;
     for (const CountQuestion& question : questions) {
-        const QString odd =
-            QStringLiteral("typeof(") + question.column + QStringLiteral(")<>'text'");
         parts << questionSql(static_cast<std::size_t>(parts.size()),
-                             foundRows(question, literals, odd),
+                             foundRows(question, literals, sqliteOdd(question)),
                              QStringLiteral("select n, t from texts"));
     }
-    return QStringLiteral("with texts(n,t) as (") + sqliteNumberedRows(literals) +
-           QStringLiteral(") ") + parts.join(QStringLiteral(" union all "));
+    return sqliteTexts(literals) + parts.join(QStringLiteral(" union all "));
 }
 
 QString serverTextCountsSql(const std::vector<CountQuestion>& questions,
