@@ -63,18 +63,15 @@ std::vector<timetable::When> AskedWeek::days() const
     return days;
 }
 
-std::vector<HoldingId> weekOf(const Occupancy& occupancy, const Subject& subject,
-                              const AskedWeek& week)
+std::vector<HoldingId> weekOfAll(const Occupancy& occupancy, const AskedWeek& week)
 {
     const std::vector<timetable::When> days = week.days();
     std::vector<HoldingId> found;
     const std::vector<Holding>& holdings = occupancy.holdings();
     for (std::size_t index = 0; index < holdings.size(); ++index) {
-        const Holding& holding = holdings[index];
-        const bool isOfWeek =
-            std::any_of(days.begin(), days.end(),
-                        [&](const timetable::When& day) { return occupancy.isOn(holding, day); });
-        if (isOfWeek && std::visit(IsAbout(occupancy, holding), subject)) {
+        if (std::any_of(days.begin(), days.end(), [&](const timetable::When& day) {
+                return occupancy.isOn(holdings[index], day);
+            })) {
             found.push_back(HoldingId(static_cast<int>(index)));
         }
     }
@@ -86,6 +83,16 @@ std::vector<HoldingId> weekOf(const Occupancy& occupancy, const Subject& subject
     std::stable_sort(found.begin(), found.end(),
                      [&key](HoldingId left, HoldingId right) { return key(left) < key(right); });
     return found;
+}
+
+std::vector<HoldingId> weekOf(const Occupancy& occupancy, const Subject& subject,
+                              const AskedWeek& week)
+{
+    std::vector<HoldingId> items = weekOfAll(occupancy, week);
+    std::erase_if(items, [&](HoldingId id) {
+        return !std::visit(IsAbout(occupancy, occupancy.holding(id)), subject);
+    });
+    return items;
 }
 
 } // namespace answers

@@ -3,6 +3,9 @@
 #include "answers/SearchText.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
+#include <utility>
 
 namespace answers
 {
@@ -42,10 +45,7 @@ public:
     void add(Id id, const QString& spelling, const QString& name)
     {
         const bool isWanted = !spelling.isEmpty() && searchForm(spelling).contains(m_wanted);
-        const bool isThere = std::any_of(m_hits.begin(), m_hits.end(), [id](const Hit& hit) {
-            return hit.subject == Subject(id);
-        });
-        if (isWanted && !isThere) {
+        if (isWanted && m_known.insert(id).second) {
             m_hits.push_back({id, name, {}});
         }
     }
@@ -63,8 +63,43 @@ public:
 private:
     QString m_wanted;
     std::vector<Hit> m_hits;
+    std::set<Subject> m_known; ///< theirs
     std::ptrdiff_t m_sorted = 0;
 };
+
+/// Whose week a holding belongs to, names by the first of their spellings.
+std::set<Subject> subjectsOf(const Occupancy& occupancy, timetable::HoldingId id)
+{
+    const timetable::Timetable& timetable = occupancy.timetable();
+    const timetable::Holding& holding = occupancy.holding(id);
+    const timetable::Meeting& meeting = occupancy.meetingOf(holding);
+    const timetable::MeetingPart& part = meeting.part(holding.part);
+    std::set<Subject> subjects{timetable.classes().group(meeting.className),
+                               timetable.subjects().group(part.subject)};
+    for (const timetable::TeacherId teacher : part.teachers) {
+        subjects.insert(timetable.teachers().group(teacher));
+    }
+    for (const RoomId room : occupancy.roomsOf(holding)) {
+        subjects.insert(room);
+    }
+    return subjects;
+}
+
+/// Gives each hit its week, in one walk through all of it.
+void addItems(const Occupancy& occupancy, const AskedWeek& week, std::vector<Hit>& hits)
+{
+    std::map<Subject, Hit*> bySubject;
+    for (Hit& hit : hits) {
+        bySubject.emplace(hit.subject, &hit);
+    }
+    for (const timetable::HoldingId id : weekOfAll(occupancy, week)) {
+        for (const Subject& subject : subjectsOf(occupancy, id)) {
+            if (const auto found = bySubject.find(subject); found != bySubject.end()) {
+                found->second->items.push_back(id);
+            }
+        }
+    }
+}
 
 /// `forEach` calls what it is given with all ids and spellings.
 template <typename ForEach>
@@ -88,7 +123,7 @@ std::optional<Subject> named(const QString& name, ForEach forEach)
 
 std::vector<Hit> whereabouts(const Occupancy& occupancy, const QString& text, const AskedWeek& week)
 {
-    if (text.isEmpty()) {
+    if (searchForm(text).isEmpty()) {
         return {};
     }
     const timetable::Timetable& timetable = occupancy.timetable();
@@ -105,9 +140,7 @@ std::vector<Hit> whereabouts(const Occupancy& occupancy, const QString& text, co
     addNames(timetable.classes());
     addNames(timetable.subjects());
     std::vector<Hit> found = hits.take();
-    for (Hit& hit : found) {
-        hit.items = weekOf(occupancy, hit.subject, week);
-    }
+    addItems(occupancy, week, found);
     return found;
 }
 
