@@ -387,12 +387,12 @@ void PlClasse::leave()
     if (!isVisible()) {
         leaveAtOnce(m_failed ? kFailed : kDone);
     }
-    if (m_isStarting) {
+    if (m_isStarting && !m_failed) { // a fault's message is to go at once
         m_leavesOnceStarted = true;
         return;
     }
     close();
-    QCoreApplication::quit();
+    QCoreApplication::exit(m_failed ? kFailed : kDone); // of a dialog, too, before all is started
 }
 
 void PlClasse::saveOptions()

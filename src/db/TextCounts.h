@@ -21,10 +21,11 @@ struct TextCount {
     friend bool operator==(const TextCount&, const TextCount&) = default;
 };
 
-/// Counts for each of the texts the rows that equal it, by one statement for all questions: an
-/// answer for each question, in the order of the texts. The texts are literals of the session's
-/// dialect (SqlDialect::isOneLiteral) and stand for what these mean; the column's own collation
-/// decides what equals what, also among texts that no row has.
+/// Counts for each of the texts the rows that equal it, by one statement for all questions, two
+/// where rows of SQLite spell a text otherwise: an answer for each question, in the order of the
+/// texts. The texts are literals of the session's dialect (SqlDialect::isOneLiteral) and stand for
+/// what these mean; the column's own collation decides what equals what, also among texts that no
+/// row has.
 ///
 /// Errors: any of the database; StatementRefused on a product that knows no such statement, and for
 /// a column that does not compare as texts do.

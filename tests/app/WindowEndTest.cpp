@@ -22,7 +22,10 @@ protected:
         constexpr int longestLifeMilliseconds = 60000;
         QTimer watchdog;
         watchdog.setSingleShot(true);
-        QObject::connect(&watchdog, &QTimer::timeout, [] { QCoreApplication::exit(-1); });
+        QObject::connect(&watchdog, &QTimer::timeout, [this] {
+            timedOut = true;
+            QCoreApplication::exit(-1);
+        });
         watchdog.start(longestLifeMilliseconds);
         return window().run(shell::CommandLine::parse(QStringList{"tempora"} + options));
     }
@@ -44,7 +47,8 @@ protected:
         QTimer::singleShot(0, &window(), [this] { window().close(); });
     }
 
-    QStringList messages; ///< of the boxes that were shown
+    bool timedOut = false; ///< the program did not end
+    QStringList messages;  ///< of the boxes that were shown
     std::function<void(QDialog&)> onDialog = [this](QDialog& dialog) {
         const auto* box = qobject_cast<QMessageBox*>(&dialog);
         messages.append(box != nullptr ? box->objectName() + ": " + box->text() + "\n\n" +
@@ -83,6 +87,17 @@ TEST_F(WindowsLife, isLeftOnceTheChoicesOfTheCommandLineArePlayed)
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(setup.saved("ChkEnseignant"), "0");
     EXPECT_EQ(setup.saved("Total_L_P"), "3");
+}
+
+TEST_F(WindowsLife, isLeftAtOnceWhenAChoiceOfTheCommandLineHasFailed)
+{
+    create();
+    window().shell().form().CbJour.click = [] { throw std::logic_error("boum"); };
+    onDialog = [this](QDialog&) { window().leave(); };
+    EXPECT_EQ(run({"--day", "1"}), 1);
+    EXPECT_FALSE(timedOut);
+    EXPECT_EQ(answer.count(), 1);
+    EXPECT_FALSE(window().isVisible());
 }
 
 TEST_F(WindowsLife, endsWhenItIsClosedInItsFirstRedraw)
