@@ -84,7 +84,7 @@ QString timeText(timetable::MinuteOfDay time)
 
 void addAnswer(const shell::AnswerRequest& request, Writer& writer)
 {
-    using Kind = shell::AnswerRequest::Kind;
+    using Kind = files::AnswerKind;
     constexpr std::array kinds{"free", "week-of", "find", "clashes", "use"};
     constexpr std::array people{"room", "teacher", "class", "matter"};
     writer.add(kinds.at(static_cast<std::size_t>(request.kind)), std::optional(request.file));
@@ -94,9 +94,9 @@ void addAnswer(const shell::AnswerRequest& request, Writer& writer)
         writer.add("places", std::optional(request.places));
         writer.add("weeks-running",
                    request.weeksRunning > 1 ? std::optional(request.weeksRunning) : std::nullopt);
-    } else if (request.kind == Kind::WeekOf) {
+    } else if (request.kind == Kind::Week) {
         writer.add(people.at(static_cast<std::size_t>(request.who)), std::optional(request.name));
-    } else if (request.kind == Kind::Find) {
+    } else if (request.kind == Kind::Hits) {
         writer.add("text", std::optional(request.text));
     }
 }
@@ -146,7 +146,7 @@ void checkUnderstood(const CommandLine& line, const QStringList& arguments)
                 isWithin(line.roomsPerPage, 1, form::PlanForm::kMostRooms),
             "numbers are within their ranges", shown);
     require(!line.date || line.date->isValid(), "a date is one", shown);
-    require(!line.answer || line.answer->kind != shell::AnswerRequest::Kind::FreeRooms ||
+    require(!line.answer || line.answer->kind != files::AnswerKind::FreeRooms ||
                 (line.answer->span.length.value > 0 && line.answer->weeksRunning > 0),
             "a free room is asked for some time", shown);
     require(!(line.answer && !line.exportFile.isEmpty()), "one file is written", shown);

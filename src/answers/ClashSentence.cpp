@@ -1,6 +1,6 @@
 #include "answers/ClashSentence.h"
 
-#include "runtime/FrenchDate.h"
+#include "answers/Words.h"
 
 #include <QStringList>
 #include <algorithm>
@@ -13,41 +13,21 @@ namespace
 
 using timetable::Holder;
 using timetable::HoldingId;
-using timetable::MeetingKind;
 using timetable::Occupancy;
 using timetable::Week;
 
 constexpr qsizetype kNamedHolders = 5;
 
-QString timeWords(timetable::MinuteOfDay time)
+QString fromToWords(const timetable::TimeSpan& time)
 {
-    constexpr int hour = 60;
-    return QStringLiteral("%1h%2")
-        .arg(time.value / hour)
-        .arg(time.value % hour, 2, 10, QChar(u'0'));
+    return QStringLiteral(" de ") + clockWords(time.start) + QStringLiteral(" à ") +
+           clockWords(time.end());
 }
 
-QString dayWords(int day, QDate date)
+/// Nothing for every week.
+QString inWeekWords(Week week)
 {
-    if (date.isValid()) {
-        return runtime::frenchDayAndDate(date);
-    }
-    return day == timetable::kSunday
-               ? QStringLiteral("dimanche")
-               : runtime::frenchDayNames().at(static_cast<std::size_t>(day)).toLower();
-}
-
-QString spanWords(const timetable::TimeSpan& time)
-{
-    return QStringLiteral(" de ") + timeWords(time.start) + QStringLiteral(" à ") +
-           timeWords(time.end());
-}
-
-QString weekWords(Week week)
-{
-    return week == Week::A   ? QStringLiteral(", semaine A")
-           : week == Week::B ? QStringLiteral(", semaine B")
-                             : QString();
+    return week == Week::Every ? QString() : QStringLiteral(", ") + weekWords(week);
 }
 
 /// Whose clash it is.
@@ -66,11 +46,11 @@ QString nameWords(const Clash& clash)
     }
 }
 
-QString kindWords(const Holder& holder)
+/// What it is, if no course, and a blank.
+QString leadingKind(const Holder& holder)
 {
-    return holder.kind == MeetingKind::MakeUp ? QStringLiteral("rattrapage ")
-           : holder.kind == MeetingKind::Exam ? QStringLiteral("examen ")
-                                              : QString();
+    const QString kind = kindWords(holder.kind);
+    return kind.isEmpty() ? kind : kind + u' ';
 }
 
 /// "L1 A avec Durand", as far as it is known.
@@ -86,7 +66,7 @@ QString together(const Holder& holder, const QString& what, const QStringList& c
     if (words.isEmpty()) {
         words << (holder.subject.isEmpty() ? QStringLiteral("séance sans nom") : holder.subject);
     }
-    return kindWords(holder) + words.join(u' ');
+    return leadingKind(holder) + words.join(u' ');
 }
 
 /// A holder, but for what the clash is about.
@@ -106,7 +86,7 @@ QString holderWords(const Holder& holder, ClashKind kind)
     case ClashKind::UnknownRoom:
         return together(holder, holder.className, holder.teachers) + u' ' +
                dayWords(holder.day, holder.date) +
-               (holder.time ? spanWords(*holder.time) : QStringLiteral(" à une heure inconnue"));
+               (holder.time ? fromToWords(*holder.time) : QStringLiteral(" à une heure inconnue"));
     default:
         return together(holder, holder.className, holder.teachers);
     }
@@ -179,7 +159,7 @@ QString clashSentence(const Occupancy& occupancy, const Clash& clash)
     QString where = nameWords(clash);
     if (clash.kind != ClashKind::UnknownRoom) {
         where += QStringLiteral(", ") + dayWords(clash.day, clash.date) +
-                 (clash.time ? spanWords(*clash.time) : QString()) + weekWords(clash.weeks);
+                 (clash.time ? fromToWords(*clash.time) : QString()) + inWeekWords(clash.weeks);
     }
     return where + QStringLiteral(" : ") + faultWords(occupancy, clash) +
            holdersWords(occupancy, clash) + u'.';

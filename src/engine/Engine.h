@@ -118,6 +118,9 @@ public:
     [[nodiscard]] std::vector<plan::PlanPage> allPages() const;
     /// Everything that the database says about the chosen period (see TimetableReader.h).
     [[nodiscard]] timetable::Timetable readTimetable();
+    /// The colours of all rooms, given in their order: of one that is shown its row's, of others
+    /// that of the row which they have where pages hold all rooms.
+    [[nodiscard]] std::vector<form::Colour> roomColors(const std::vector<QString>& rooms) const;
     /// The page as it is shown, with what the last refresh worked out.
     [[nodiscard]] plan::PlanPage drawnPage() const { return {m_state, content()}; }
 

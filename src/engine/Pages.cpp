@@ -4,6 +4,8 @@
 
 #include "engine/Engine.h"
 
+#include <QHash>
+#include <algorithm>
 #include <utility>
 
 namespace engine
@@ -55,6 +57,28 @@ bool Engine::showNextPage()
     m_state.form.Command3.enabled = true;
     m_paging.Command3_Click();
     return m_state.page.PageStart > before;
+}
+
+std::vector<form::Colour> Engine::roomColors(const std::vector<QString>& rooms) const
+{
+    QHash<QString, form::Colour> shown;
+    for (const plan::PlanRow& row : content().rows) {
+        shown.insert(row.room, row.color);
+    }
+    // Row 0 of a page holds a room, too.
+    const auto rowsOfPage =
+        static_cast<std::size_t>(std::clamp(context::linesPerPage(m_state.form), 0.0,
+                                            static_cast<double>(form::PlanForm::kMostRooms))) +
+        1;
+    std::vector<form::Colour> colors;
+    colors.reserve(rooms.size());
+    for (std::size_t index = 0; index < rooms.size(); ++index) {
+        const auto found = shown.constFind(rooms[index]);
+        colors.push_back(found != shown.cend()
+                             ? *found
+                             : m_refresh.tabledColor(static_cast<int>(index % rowsOfPage)));
+    }
+    return colors;
 }
 
 } // namespace engine

@@ -78,14 +78,7 @@ QJsonArray holderArray(const Occupancy& occupancy, const std::vector<HoldingId>&
     return holders;
 }
 
-QByteArray written(const QJsonObject& answer)
-{
-    return QJsonDocument(answer).toJson(QJsonDocument::Indented);
-}
-
-} // namespace
-
-QByteArray freeRoomsAsJson(const Occupancy& occupancy, const answers::FreeRooms& answer)
+QJsonObject freeRoomsObject(const Occupancy& occupancy, const answers::FreeRooms& answer)
 {
     QJsonArray rooms;
     for (const answers::FreeRoom& free : answer.rooms) {
@@ -107,15 +100,15 @@ QByteArray freeRoomsAsJson(const Occupancy& occupancy, const answers::FreeRooms&
         unknown.append(QJsonObject{{Key("room"), occupancy.timetable().room(held.room).name},
                                    {Key("why"), answers::whyUnknown(occupancy, held.by)}});
     }
-    return written({{Key("rooms"), rooms}, {Key("taken"), taken}, {Key("unknown"), unknown}});
+    return {{Key("rooms"), rooms}, {Key("taken"), taken}, {Key("unknown"), unknown}};
 }
 
-QByteArray weekAsJson(const Occupancy& occupancy, const std::vector<HoldingId>& items)
+QJsonObject weekObject(const Occupancy& occupancy, const WeekAnswer& week)
 {
-    return written({{Key("items"), holderArray(occupancy, items)}});
+    return {{Key("items"), holderArray(occupancy, week.items)}};
 }
 
-QByteArray hitsAsJson(const Occupancy& occupancy, const std::vector<answers::Hit>& hits)
+QJsonObject hitsObject(const Occupancy& occupancy, const HitList& hits)
 {
     constexpr std::array kinds{"room", "teacher", "class", "subject"};
     QJsonArray array;
@@ -124,10 +117,10 @@ QByteArray hitsAsJson(const Occupancy& occupancy, const std::vector<answers::Hit
                                  {Key("name"), hit.name},
                                  {Key("items"), holderArray(occupancy, hit.items)}});
     }
-    return written({{Key("hits"), array}});
+    return {{Key("hits"), array}};
 }
 
-QByteArray clashesAsJson(const Occupancy& occupancy, const std::vector<answers::Clash>& clashes)
+QJsonObject clashesObject(const Occupancy& occupancy, const ClashList& clashes)
 {
     constexpr std::array kinds{"room",         "teacher",      "class",
                                "overfull",     "makeup-room",  "makeup-teacher",
@@ -143,10 +136,11 @@ QByteArray clashesAsJson(const Occupancy& occupancy, const std::vector<answers::
             {Key("holders"), holderArray(occupancy, clash.holders)},
             {Key("sentence"), answers::clashSentence(occupancy, clash)}});
     }
-    return written({{Key("clashes"), array}});
+    return {{Key("clashes"), array}};
 }
 
-QByteArray roomUseAsJson(const Occupancy& occupancy, const answers::RoomUse& use)
+/// Shares of seats that cannot be known are null.
+QJsonObject roomUseObject(const Occupancy& occupancy, const answers::RoomUse& use)
 {
     const auto seats = [&use](double share) {
         return use.areSeatsKnown ? QJsonValue(share) : QJsonValue();
@@ -168,10 +162,38 @@ QByteArray roomUseAsJson(const Occupancy& occupancy, const answers::RoomUse& use
                                  {Key("held"), slot.held},
                                  {Key("share"), slot.share}});
     }
-    return written({{Key("rooms"), rooms},
-                    {Key("slots"), slots},
-                    {Key("share"), use.share},
-                    {Key("seats_share"), seats(use.seatsShare)}});
+    return {{Key("rooms"), rooms},
+            {Key("slots"), slots},
+            {Key("share"), use.share},
+            {Key("seats_share"), seats(use.seatsShare)}};
+}
+
+/// An answer of any kind.
+struct ObjectOf {
+    const Occupancy& occupancy;
+
+    QJsonObject operator()(const answers::FreeRooms& free) const
+    {
+        return freeRoomsObject(occupancy, free);
+    }
+    QJsonObject operator()(const WeekAnswer& week) const { return weekObject(occupancy, week); }
+    QJsonObject operator()(const HitList& hits) const { return hitsObject(occupancy, hits); }
+    QJsonObject operator()(const ClashList& clashes) const
+    {
+        return clashesObject(occupancy, clashes);
+    }
+    QJsonObject operator()(const answers::RoomUse& use) const
+    {
+        return roomUseObject(occupancy, use);
+    }
+};
+
+} // namespace
+
+QByteArray answerAsJson(const AnswerDocument& document)
+{
+    const QJsonObject object = std::visit(ObjectOf{*document.occupancy}, document.answer);
+    return QJsonDocument(object).toJson(QJsonDocument::Indented);
 }
 
 } // namespace files

@@ -127,15 +127,17 @@ void PlanRefresh::withoutYielding(const std::function<void()>& action)
 form::Colour PlanRefresh::rowColor(int row)
 {
     RowColors& colors = m_state.colors;
-    if (!m_state.form.Colorer.isChecked()) {
-        return kPlainRow;
-    }
-    if (colors.PaletteName.isEmpty() && !colors.RedrawMode) {
+    if (m_state.form.Colorer.isChecked() && colors.PaletteName.isEmpty() && !colors.RedrawMode) {
         const form::Colour color = colors.randomColor();
         colors.set(row, color);
         return color;
     }
-    return colors.at(row + kColorStep);
+    return tabledColor(row);
+}
+
+form::Colour PlanRefresh::tabledColor(int row) const
+{
+    return m_state.form.Colorer.isChecked() ? m_state.colors.at(row + kColorStep) : kPlainRow;
 }
 
 QString PlanRefresh::seanceKey(int slot) const

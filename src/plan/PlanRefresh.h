@@ -64,6 +64,10 @@ public:
     /// The box of a marker; null when the last refresh drew none with this number.
     [[nodiscard]] PlanBox* box(int marker) { return m_content.box(marker); }
 
+    /// The colour that a row has while none are drawn by lot: the table's, or none without
+    /// "Couleurs".
+    [[nodiscard]] form::Colour tabledColor(int row) const;
+
 private:
     void startTotals(TotalsStart start);
     void startRows();

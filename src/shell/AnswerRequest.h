@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/AnswerFormat.h"
 #include "timetable/TimeSpan.h"
 
 #include <QString>
@@ -9,10 +10,9 @@ namespace shell
 
 /// A question about the timetable whose answer is written into a file.
 struct AnswerRequest {
-    enum class Kind { FreeRooms, WeekOf, Find, Clashes, RoomUse };
     enum class Who { Room, Teacher, Class, Subject };
 
-    Kind kind = Kind::FreeRooms;
+    files::AnswerKind kind = files::AnswerKind::FreeRooms;
     QString file;
     // Free rooms
     timetable::TimeSpan span; ///< longer than nothing

@@ -1,14 +1,10 @@
 #include "shell/Answers.h"
 
-#include "answers/FreeRooms.h"
 #include "answers/Whereabouts.h"
-#include "files/AnswerJson.h"
+#include "files/AnswerFormat.h"
 #include "files/WholeFile.h"
+#include "shell/Inquiry.h"
 #include "shell/Player.h"
-#include "timetable/DateRules.h"
-
-#include <algorithm>
-#include <memory>
 
 namespace shell
 {
@@ -18,8 +14,6 @@ namespace
 using timetable::Occupancy;
 using timetable::Week;
 using timetable::When;
-
-constexpr int kDaysOfWeek = 7;
 
 Week other(Week week)
 {
@@ -34,22 +28,12 @@ Week askedWeek(const CommandLine& line)
 }
 
 /// Which week a date lies in, as far as the line or the settings say.
-Week weekOfDate(const Shell& shell, const CommandLine& line, QDate date)
+Week weekOfDate(const Inquiry& inquiry, const CommandLine& line, QDate date)
 {
-    if (line.week) {
-        return askedWeek(line);
-    }
-    const QDate weekA = shell.weekA();
-    if (!weekA.isValid()) {
-        return Week::Every;
-    }
-    const qint64 days =
-        timetable::MondayOnOrBefore(weekA).daysTo(timetable::MondayOnOrBefore(date));
-    const bool isEven = days / kDaysOfWeek % 2 == 0;
-    return isEven ? Week::A : Week::B;
+    return line.week ? askedWeek(line) : inquiry.rhythm().weekOf(date);
 }
 
-std::vector<When> askedDays(const Shell& shell, const CommandLine& line)
+std::vector<When> askedDays(const Inquiry& inquiry, const CommandLine& line)
 {
     if (line.day) {
         return {When::weekday(*line.day, askedWeek(line))};
@@ -58,40 +42,34 @@ std::vector<When> askedDays(const Shell& shell, const CommandLine& line)
         throw UsageError(QStringLiteral("--free : demande --day ou --date"));
     }
     std::vector<When> days;
-    Week week = weekOfDate(shell, line, *line.date);
+    Week week = weekOfDate(inquiry, line, *line.date);
     for (int number = 0; number < line.answer->weeksRunning; ++number) {
-        days.push_back(When::date(line.date->addDays(number * kDaysOfWeek), week));
+        days.push_back(When::date(line.date->addDays(number * timetable::kDaysOfWeek), week));
         week = other(week);
     }
     return days;
 }
 
-answers::RoomFilter filterOf(const Occupancy& occupancy, const CommandLine& line)
+answers::RoomFilter filterOf(const Inquiry& inquiry, const CommandLine& line)
 {
     answers::RoomFilter filter;
     if (line.zone.value_or(0) != 0) {
         filter.zone = line.zone;
     }
     filter.department = line.department;
-    const auto rooms = occupancy.timetable().rooms();
-    if (std::none_of(rooms.begin(), rooms.end(),
-                     [&filter](const timetable::Room& room) { return filter.holds(room); })) {
-        throw UsageError(
-            filter.department
-                ? QStringLiteral("--department : aucune salle n’est du département "
-                                 "« %1 »%2")
-                      .arg(*filter.department,
-                           filter.zone ? QStringLiteral(" dans cette zone") : QString())
-            : filter.zone
-                ? QStringLiteral("--zone : aucune salle n’est de la zone %1").arg(*filter.zone)
-                : QStringLiteral("La base ne connaît aucune salle"));
+    const QString why = inquiry.whyNoRoom(filter);
+    if (!why.isEmpty()) {
+        const QString option = filter.department ? QStringLiteral("--department : ")
+                               : filter.zone     ? QStringLiteral("--zone : ")
+                                                 : QString();
+        throw UsageError(option + why);
     }
     return filter;
 }
 
-answers::AskedWeek weekAskedFor(const Shell& shell, const CommandLine& line)
+answers::AskedWeek weekAskedFor(const Inquiry& inquiry, const CommandLine& line)
 {
-    return line.date ? answers::AskedWeek{weekOfDate(shell, line, *line.date), *line.date}
+    return line.date ? answers::AskedWeek{weekOfDate(inquiry, line, *line.date), *line.date}
                      : answers::AskedWeek{askedWeek(line), {}};
 }
 
@@ -123,51 +101,23 @@ answers::Subject subjectOf(const Occupancy& occupancy, const AnswerRequest& requ
     return *subject;
 }
 
-/// Whether the answer needs a table that a timetable can do without. Make-ups and exams play a part
-/// on dates, and in clashes; students in clashes. Where the use of seats lacks them, it says so
-/// itself.
-bool needs(const CommandLine& line, const QString& unread)
-{
-    const bool isClashes = line.answer->kind == AnswerRequest::Kind::Clashes;
-    const bool isDated = unread == u"ratrap" || unread == u"examen" || unread == u"dat_exam";
-    return isDated ? isClashes || line.date.has_value() : isClashes && unread == u"etudiant";
-}
-
-/// What was not read is not known to be free.
-void requireAllRead(const timetable::Timetable& timetable, const CommandLine& line)
-{
-    for (const timetable::UnreadTable& unread : timetable.unread()) {
-        if (needs(line, unread.table)) {
-            throw files::ExportError(
-                QStringLiteral("La table « %1 » ne se laisse pas lire (%2) : le fichier n’est pas "
-                               "écrit.")
-                    .arg(unread.table, unread.reason));
-        }
-    }
-}
-
-QByteArray answerOf(const Shell& shell, const CommandLine& line, const Occupancy& occupancy)
+files::AnswerDocument answerTo(const Inquiry& inquiry, const CommandLine& line)
 {
     const AnswerRequest& request = *line.answer;
     switch (request.kind) {
-    case AnswerRequest::Kind::FreeRooms:
-        return files::freeRoomsAsJson(
-            occupancy, answers::freeRooms(occupancy, {askedDays(shell, line), request.span,
-                                                      request.places, filterOf(occupancy, line)}));
-    case AnswerRequest::Kind::WeekOf:
-        return files::weekAsJson(
-            occupancy,
-            answers::weekOf(occupancy, subjectOf(occupancy, request), weekAskedFor(shell, line)));
-    case AnswerRequest::Kind::Clashes:
-        return files::clashesAsJson(occupancy, answers::clashes(occupancy));
-    case AnswerRequest::Kind::RoomUse:
-        return files::roomUseAsJson(
-            occupancy, answers::roomUse(occupancy, askedWeek(line), filterOf(occupancy, line)));
-    case AnswerRequest::Kind::Find:
+    case files::AnswerKind::FreeRooms:
+        return inquiry.freeRooms(
+            {askedDays(inquiry, line), request.span, request.places, filterOf(inquiry, line)});
+    case files::AnswerKind::Week:
+        return inquiry.weekOf(subjectOf(inquiry.occupancy(), request), weekAskedFor(inquiry, line));
+    case files::AnswerKind::Clashes:
+        return inquiry.clashes();
+    case files::AnswerKind::RoomUse:
+        return inquiry.roomUse(askedWeek(line), filterOf(inquiry, line));
+    case files::AnswerKind::Hits:
         break;
     }
-    return files::hitsAsJson(
-        occupancy, answers::whereabouts(occupancy, request.text, weekAskedFor(shell, line)));
+    return inquiry.find(request.text, weekAskedFor(inquiry, line));
 }
 
 } // namespace
@@ -175,17 +125,18 @@ QByteArray answerOf(const Shell& shell, const CommandLine& line, const Occupancy
 void writeAnswer(Shell& shell, const CommandLine& line)
 {
     choosePeriod(shell, line);
-    const auto timetable =
-        std::make_shared<const timetable::Timetable>(shell.engine().readTimetable());
-    requireAllRead(*timetable, line);
-    const auto& meetings = timetable->meetings();
-    if (std::none_of(meetings.begin(), meetings.end(), [](const timetable::Meeting& meeting) {
-            return meeting.kind == timetable::MeetingKind::Course;
-        })) {
-        throw UsageError(
-            QStringLiteral("La période « %1 » n’a aucun cours").arg(shell.form().CbTranche.text()));
+    const Inquiry inquiry(shell);
+    const AnswerRequest& request = *line.answer;
+    const QString why =
+        inquiry.whyOpen(line.date.has_value(), request.kind == files::AnswerKind::Clashes);
+    if (!why.isEmpty()) {
+        throw files::ExportError(why + QStringLiteral(" : le fichier n’est pas écrit."));
     }
-    files::writeWholeFile(line.answer->file, answerOf(shell, line, Occupancy(timetable)));
+    if (!inquiry.hasCourses()) {
+        throw UsageError(QStringLiteral("La période « %1 » n’a aucun cours").arg(inquiry.period()));
+    }
+    const files::AnswerFormat& format = *files::answerFormatOf(request.kind, request.file);
+    files::writeWholeFile(request.file, format.write(answerTo(inquiry, line)));
 }
 
 } // namespace shell

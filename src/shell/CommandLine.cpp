@@ -37,6 +37,12 @@ struct OptionText {
     QString meaning; ///< in French
 };
 
+/// "FICHIER.json|.csv".
+QString answerFile(files::AnswerKind kind)
+{
+    return QStringLiteral("FICHIER.") + files::answerEndings(kind).join(QStringLiteral("|."));
+}
+
 const std::vector<OptionText>& optionTexts()
 {
     static const std::vector<OptionText> texts = {
@@ -48,25 +54,25 @@ const std::vector<OptionText>& optionTexts()
         {"allow-incomplete",
          {},
          QStringLiteral("écrit le fichier même si la base n’a pas tout dit (avec --export)")},
-        {"free", QStringLiteral("FICHIER.json"),
+        {"free", answerFile(files::AnswerKind::FreeRooms),
          QStringLiteral("écrit les salles libres (avec --from, --to et --day ou --date)")},
         {"from", QStringLiteral("HEURE"), QStringLiteral("début, par exemple 9h30 (avec --free)")},
         {"to", QStringLiteral("HEURE"), QStringLiteral("fin, par exemple 11h00 (avec --free)")},
         {"places", QStringLiteral("0..99999"), QStringLiteral("places au moins (avec --free)")},
         {"weeks-running", QStringLiteral("1..60"),
          QStringLiteral("libre tant de semaines de suite (avec --free et --date)")},
-        {"week-of", QStringLiteral("FICHIER.json"),
+        {"week-of", answerFile(files::AnswerKind::Week),
          QStringLiteral("écrit la semaine d’une salle, d’un enseignant, d’une classe ou d’une "
                         "matière")},
         {"room", QStringLiteral("NOM"), QStringLiteral("cette salle (avec --week-of)")},
         {"teacher", QStringLiteral("NOM"), QStringLiteral("cet enseignant (avec --week-of)")},
         {"class", QStringLiteral("NOM"), QStringLiteral("cette classe (avec --week-of)")},
         {"matter", QStringLiteral("NOM"), QStringLiteral("cette matière (avec --week-of)")},
-        {"find", QStringLiteral("FICHIER.json"),
+        {"find", answerFile(files::AnswerKind::Hits),
          QStringLiteral("écrit qui et quoi porte un texte dans son nom, et où (avec --text)")},
-        {"clashes", QStringLiteral("FICHIER.json"),
+        {"clashes", answerFile(files::AnswerKind::Clashes),
          QStringLiteral("écrit les conflits de la période : salles, enseignants, classes")},
-        {"use", QStringLiteral("FICHIER.json"),
+        {"use", answerFile(files::AnswerKind::RoomUse),
          QStringLiteral("écrit l’occupation des salles, par salle et par séance")},
         {"text", QStringLiteral("TEXTE"), QStringLiteral("texte cherché (avec --find)")},
         {"settings", QStringLiteral("FICHIER.ini"),
@@ -338,11 +344,11 @@ void readWeekOf(const Reader& reader, AnswerRequest& request)
 
 void readAnswer(const Reader& reader, CommandLine& line)
 {
-    using Kind = AnswerRequest::Kind;
+    using Kind = files::AnswerKind;
     const char* first = reader.has("export") ? "export" : nullptr;
     for (const auto& [option, kind] :
-         {std::pair("free", Kind::FreeRooms), std::pair("week-of", Kind::WeekOf),
-          std::pair("find", Kind::Find), std::pair("clashes", Kind::Clashes),
+         {std::pair("free", Kind::FreeRooms), std::pair("week-of", Kind::Week),
+          std::pair("find", Kind::Hits), std::pair("clashes", Kind::Clashes),
           std::pair("use", Kind::RoomUse)}) {
         if (!reader.has(option)) {
             continue;
@@ -355,7 +361,7 @@ void readAnswer(const Reader& reader, CommandLine& line)
         line.answer.emplace();
         line.answer->kind = kind;
         line.answer->file = reader.text(option);
-        if (!line.answer->file.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive)) {
+        if (files::answerFormatOf(kind, line.answer->file) == nullptr) {
             reader.failWithValue(option);
         }
     }
@@ -367,9 +373,9 @@ void readAnswer(const Reader& reader, CommandLine& line)
     }
     if (line.answer->kind == Kind::FreeRooms) {
         readFreeRooms(reader, *line.answer);
-    } else if (line.answer->kind == Kind::WeekOf) {
+    } else if (line.answer->kind == Kind::Week) {
         readWeekOf(reader, *line.answer);
-    } else if (line.answer->kind == Kind::Find) {
+    } else if (line.answer->kind == Kind::Hits) {
         line.answer->text = reader.text("text");
         if (line.answer->text.isEmpty()) {
             fail(QStringLiteral("find"), QStringLiteral("demande --text"));

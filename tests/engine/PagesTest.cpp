@@ -98,3 +98,20 @@ TEST_F(ThePages, areDrawnInOneGo)
 {
     EXPECT_EQ(roomsOf(desk().engine.drawnPage()), roomsOf(desk().engine.shownPage()));
 }
+
+TEST_F(ThePages, giveEveryRoomTheColourOfItsRow)
+{
+    desk().form.Total_L_P.setText("2"); // rows 0 to 2: A1, A2, B1
+    desk().form.Colorer.setChecked(true);
+    desk().engine.refreshPlan();
+    const auto& rows = desk().engine.content().rows;
+    ASSERT_EQ(rows.size(), 2U);
+    const auto colors = desk().engine.roomColors({"A1", "A2", "B1", "B2", "C1"});
+    ASSERT_EQ(colors.size(), 5U);
+    EXPECT_EQ(colors[1], rows[0].color);
+    EXPECT_EQ(colors[2], rows[1].color);
+    EXPECT_EQ(colors[3], colors[0]); // B2 begins the next page as A1 began the first
+    desk().form.Command3.press();
+    EXPECT_EQ(desk().engine.roomColors({"A1", "A2", "B1", "B2", "C1"})[4],
+              desk().engine.content().rows.front().color);
+}

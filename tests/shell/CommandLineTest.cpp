@@ -301,26 +301,26 @@ TEST(CommandLine, takesTheLastOfARepeatedOption)
 
 TEST(CommandLine, readsQuestionsAboutTheTimetable)
 {
-    using Request = shell::AnswerRequest;
+    using Who = shell::AnswerRequest::Who;
     const CommandLine free =
         parse({"--free", "l.json", "--from", "9h30", "--to", "11:00", "--places", "40", "--date",
                "2026-11-16", "--weeks-running", "3"});
     ASSERT_TRUE(free.answer);
     EXPECT_TRUE(free.writesFile());
-    EXPECT_EQ(free.answer->kind, Request::Kind::FreeRooms);
+    EXPECT_EQ(free.answer->kind, files::AnswerKind::FreeRooms);
     EXPECT_EQ(free.answer->file, "l.json");
     EXPECT_EQ(free.answer->span, (timetable::TimeSpan{{570}, {90}}));
     EXPECT_EQ(free.answer->places, 40);
     EXPECT_EQ(free.answer->weeksRunning, 3);
     const CommandLine week = parse({"--week-of", "s.JSON", "--teacher", "Durand"});
-    EXPECT_EQ(week.answer->kind, Request::Kind::WeekOf);
-    EXPECT_EQ(week.answer->who, Request::Who::Teacher);
+    EXPECT_EQ(week.answer->kind, files::AnswerKind::Week);
+    EXPECT_EQ(week.answer->who, Who::Teacher);
     EXPECT_EQ(week.answer->name, "Durand");
     const CommandLine find = parse({"--find", "t.json", "--text", "dur"});
-    EXPECT_EQ(find.answer->kind, Request::Kind::Find);
+    EXPECT_EQ(find.answer->kind, files::AnswerKind::Hits);
     EXPECT_EQ(find.answer->text, "dur");
-    EXPECT_EQ(parse({"--clashes", "c.json"}).answer->kind, Request::Kind::Clashes);
-    EXPECT_EQ(parse({"--use", "u.json"}).answer->kind, Request::Kind::RoomUse);
+    EXPECT_EQ(parse({"--clashes", "c.json"}).answer->kind, files::AnswerKind::Clashes);
+    EXPECT_EQ(parse({"--use", "u.json"}).answer->kind, files::AnswerKind::RoomUse);
     EXPECT_FALSE(parse({}).writesFile());
 }
 

@@ -1,0 +1,39 @@
+#include "files/AnswerFormat.h"
+
+#include "files/AnswerJson.h"
+
+#include <QFileInfo>
+#include <algorithm>
+#include <array>
+
+namespace files
+{
+
+const std::vector<AnswerFormat>& answerFormats(AnswerKind kind)
+{
+    static const AnswerFormat json{QStringLiteral("json"), answerAsJson};
+    static const std::vector<AnswerFormat> week{json};
+    static const std::vector<AnswerFormat> others{json};
+    return kind == AnswerKind::Week ? week : others;
+}
+
+const AnswerFormat* answerFormatOf(AnswerKind kind, const QString& path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    const auto& formats = answerFormats(kind);
+    const auto found =
+        std::find_if(formats.begin(), formats.end(),
+                     [&](const AnswerFormat& format) { return format.ending == ending; });
+    return found != formats.end() ? &*found : nullptr;
+}
+
+QStringList answerEndings(AnswerKind kind)
+{
+    QStringList endings;
+    for (const AnswerFormat& format : answerFormats(kind)) {
+        endings << format.ending;
+    }
+    return endings;
+}
+
+} // namespace files
