@@ -61,11 +61,29 @@ QString RoomSet::filterInWords() const
                : zone;
 }
 
+db::Recordset RoomSet::readRooms() const
+{
+    return runtime::during(QStringLiteral("Lecture des salles (%1)").arg(filterInWords()),
+                           [&] { return m_database.read(roomQuery()); });
+}
+
+std::optional<int> RoomSet::positionOf(const QString& room) const
+{
+    const db::Recordset rooms = readRooms();
+    const auto found =
+        std::find_if(rooms.rows().begin(), rooms.rows().end(), [&room](const db::Row& row) {
+            return row.field(timetable::column::kNom).toJoinedText() == room;
+        });
+    if (found == rooms.rows().end()) {
+        return std::nullopt;
+    }
+    return static_cast<int>(found - rooms.rows().begin());
+}
+
 void RoomSet::FillRoomPage(std::optional<db::Recordset> all)
 {
     if (!all || m_form.cb_Locaux.text() != u"0" || m_form.ElemDep.isChecked()) {
-        all = runtime::during(QStringLiteral("Lecture des salles (%1)").arg(filterInWords()),
-                              [&] { return m_database.read(roomQuery()); });
+        all = readRooms();
     }
     fillRows(*all);
     showRows();

@@ -22,6 +22,10 @@ public:
     /// The query for the room set that the filter controls describe.
     [[nodiscard]] QString roomQuery() const;
 
+    /// Position of a room in the list of rooms, 0 upward, by the very name that the room table has;
+    /// nothing where the filter leaves it out. Error: any database error.
+    [[nodiscard]] std::optional<int> positionOf(const QString& room) const;
+
     /// Writes the rooms of the current page into `Salle` and `Cap` and sets `RowsShown` and the
     /// rows' visibility. Reaching the end of the rooms ends the page early.
     /// `all`: all rooms by name, where they have just been read; a choice of some asks for these.
@@ -37,6 +41,7 @@ private:
     [[nodiscard]] QString departmentCondition() const;
     /// The filter as a message names it.
     [[nodiscard]] QString filterInWords() const;
+    [[nodiscard]] db::Recordset readRooms() const;
     void fillRows(const db::Recordset& rooms);
     void showRows();
 

@@ -147,6 +147,16 @@ void Engine::Command3_Click()
     m_refresh.withoutYielding([this] { m_paging.Command3_Click(); });
 }
 
+Engine::RoomLine Engine::showRoom(const QString& room)
+{
+    const std::optional<int> position = m_rooms.positionOf(room);
+    if (!position) {
+        return RoomLine::None;
+    }
+    m_paging.showPageOf(*position);
+    return m_state.page.room(0).name == room ? RoomLine::Greyed : RoomLine::Drawn;
+}
+
 void Engine::clickMarker(int marker, absences::AsyncKeyState& keys)
 {
     absences::Marking(m_refresh, m_sources.records(), keys).Clic_Marqueur(marker);

@@ -101,6 +101,14 @@ public:
     void abandonRefresh() { m_refresh.abandon(); }
     /// Goes to the first page of the room set, whatever the buttons' state.
     void showFirstPage() { m_paging.showFirstPage(); }
+    /// How the page that holds a room shows it.
+    enum class RoomLine {
+        Drawn,  ///< as a row
+        Greyed, ///< as the room before the first row
+        None,   ///< not at all: the choice of rooms leaves it out
+    };
+    /// Goes to the page that holds the room, by its name in the room table.
+    RoomLine showRoom(const QString& room);
     /// A click on one of a box's marker images: the keys decide what is toggled.
     void clickMarker(int marker, absences::AsyncKeyState& keys);
     /// A click on a group counter: shows the classes behind it.

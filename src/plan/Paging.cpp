@@ -112,6 +112,30 @@ void Paging::showFirstPage()
     showPage(PlanRefresh::TotalsStart::Zero);
 }
 
+void Paging::showPageOf(int position)
+{
+    const auto lines = static_cast<int>(context::linesPerPage(m_state.form));
+    const int start = m_state.page.PageOffset;
+    const int first = start == 0 ? 0 : start + 1; // the room of row 0
+    if (position >= first && position <= first + lines) {
+        return;
+    }
+    if (lines < 1) { // no page of such a size holds anything
+        showFirstPage();
+        return;
+    }
+    const int page = position / (lines + 1);
+    m_refresh.ClearPlanOverlays();
+    m_state.page.PageOffset = page == 0 ? 0 : page * (lines + 1) - 1;
+    m_state.page.PageStart = m_state.page.PageOffset;
+    m_state.form.Command2.enabled = page > 0;
+    m_state.form.Command3.enabled = true;
+    showPage(PlanRefresh::TotalsStart::Zero);
+    if (m_state.page.PageStart + lines + 1 >= m_state.page.RoomTotal) {
+        stopAtLastPage();
+    }
+}
+
 void Paging::showPage(PlanRefresh::TotalsStart totals)
 {
     m_rooms.FillRoomPage();

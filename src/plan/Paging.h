@@ -26,6 +26,10 @@ public:
     /// Goes to the first page, whatever the buttons' state, and counts from there.
     /// Error: any database error.
     void showFirstPage();
+    /// Goes to the page that holds this position in the list of rooms (0 upward), as the buttons
+    /// would from the first page on; a page that holds it already stays. Counting begins with that
+    /// page, as after a step back. Error: any database error.
+    void showPageOf(int position);
     /// Brings the page boundaries into agreement with the rooms per page.
     void recomputePages();
 

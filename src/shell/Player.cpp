@@ -72,18 +72,6 @@ void playRooms(form::PlanForm& form, const CommandLine& line)
     }
 }
 
-/// The picker changes the week and the day. While it is hidden, or shows the date already and so
-/// has no change to tell, the day is chosen from the list.
-void pickDate(form::PlanForm& form, QDate date)
-{
-    const bool picks = form.DTPicker1.visible && form.DTPicker1.value() != date;
-    form.DTPicker1.setValue(date);
-    if (!picks) {
-        form.CbJour.setListIndex(context::dayListIndex(date));
-        form.DTPicker1.setValue(date); // the list does not hold Sunday
-    }
-}
-
 void playDay(Shell& shell, const CommandLine& line)
 {
     form::PlanForm& form = shell.form();
@@ -102,6 +90,16 @@ void playDay(Shell& shell, const CommandLine& line)
 }
 
 } // namespace
+
+void pickDate(form::PlanForm& form, QDate date)
+{
+    const bool picks = form.DTPicker1.visible && form.DTPicker1.value() != date;
+    form.DTPicker1.setValue(date);
+    if (!picks) {
+        form.CbJour.setListIndex(context::dayListIndex(date));
+        form.DTPicker1.setValue(date); // the list does not hold Sunday
+    }
+}
 
 void choosePeriod(Shell& shell, const CommandLine& line)
 {

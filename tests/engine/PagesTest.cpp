@@ -115,3 +115,21 @@ TEST_F(ThePages, giveEveryRoomTheColourOfItsRow)
     EXPECT_EQ(desk().engine.roomColors({"A1", "A2", "B1", "B2", "C1"})[4],
               desk().engine.content().rows.front().color);
 }
+
+TEST_F(ThePages, areFoundByTheirRooms)
+{
+    desk().form.Total_L_P.setText("2"); // A1, A2 and B1; B2 and C1
+    EXPECT_EQ(desk().engine.showRoom("C1"), engine::Engine::RoomLine::Drawn);
+    EXPECT_EQ(desk().engine.state().page.room(1).name, "C1");
+    EXPECT_EQ(desk().engine.showRoom("B2"), engine::Engine::RoomLine::Greyed);
+    EXPECT_EQ(desk().engine.showRoom("A2"), engine::Engine::RoomLine::Drawn);
+    EXPECT_EQ(desk().engine.state().page.room(1).name, "A2");
+}
+
+TEST_F(ThePages, doNotHoldARoomThatTheChoiceLeavesOut)
+{
+    desk().form.cb_Locaux.setListIndex(1);
+    const QStringList drawn = desk().drawn();
+    EXPECT_EQ(desk().engine.showRoom("C1"), engine::Engine::RoomLine::None);
+    EXPECT_EQ(desk().drawn(), drawn);
+}

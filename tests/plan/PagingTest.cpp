@@ -31,6 +31,10 @@ protected:
         next();
         next();
     }
+    void go(const QString& room)
+    {
+        EXPECT_NE(desk.engine.showRoom(room), engine::Engine::RoomLine::None);
+    }
     [[nodiscard]] int start() const
     {
         EXPECT_EQ(desk.page.PageStart, desk.page.PageOffset);
@@ -289,4 +293,32 @@ TEST_F(Pages, takeThePulledBackStartForTheNumberOfLines)
     EXPECT_EQ(form.Total_L_P.text(), "29");
     EXPECT_EQ(start(), 4);
     EXPECT_EQ(desk.page.RowsShown, 29);
+}
+
+TEST_F(Pages, canBeReachedByTheRoomThatTheyHold)
+{
+    go("R11"); // the room before the first row of the second page
+    EXPECT_EQ(start(), 10);
+    EXPECT_TRUE(form.Command2.enabled);
+    EXPECT_TRUE(form.Command3.enabled);
+    const QString second = desk.page.room(1).name;
+    go("R34"); // the last of the 35 rooms
+    EXPECT_EQ(start(), 32);
+    EXPECT_FALSE(form.Command3.enabled);
+    go("R10"); // the last row of the first page
+    EXPECT_EQ(start(), 0);
+    EXPECT_FALSE(form.Command2.enabled);
+    next(); // the buttons go on from there
+    EXPECT_EQ(start(), 10);
+    EXPECT_EQ(desk.page.room(1).name, second);
+}
+
+TEST_F(Pages, stayWhereTheRoomIsShownAlready)
+{
+    next();
+    EXPECT_EQ(redraws([&] { go("R11"); }), 0U);
+    EXPECT_EQ(redraws([&] { go("R21"); }), 0U);
+    EXPECT_EQ(start(), 10);
+    EXPECT_EQ(redraws([&] { go("R22"); }), 1U);
+    EXPECT_EQ(start(), 21);
 }
