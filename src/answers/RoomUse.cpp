@@ -1,7 +1,5 @@
 #include "answers/RoomUse.h"
 
-#include "timetable/ReadTimes.h"
-
 #include <algorithm>
 
 namespace answers
@@ -27,17 +25,6 @@ double shareOf(double part, double whole)
 std::vector<Week> weeksOf(Week asked)
 {
     return asked == Week::Every ? std::vector{Week::A, Week::B} : std::vector{asked};
-}
-
-/// Nothing where its start cannot be read.
-std::optional<TimeSpan> timeOf(const timetable::DaySlot& slot)
-{
-    if (!slot.start) {
-        return std::nullopt;
-    }
-    const bool hasEnd = slot.end && *slot.end > *slot.start;
-    return hasEnd ? timetable::between(*slot.start, *slot.end)
-                  : TimeSpan{*slot.start, timetable::kUsualLength};
 }
 
 /// Adds up who is where, room by room.

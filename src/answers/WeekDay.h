@@ -35,4 +35,7 @@ using WeekDays = std::array<WeekDay, kShownDays>;
 weekDays(const timetable::Timetable& timetable, const AskedWeek& week,
          const std::array<std::vector<timetable::TimeSpan>, kShownDays>& times);
 
+/// From the first start of all days to their last end.
+[[nodiscard]] timetable::TimeSpan commonAxis(const WeekDays& days);
+
 } // namespace answers

@@ -41,4 +41,8 @@ struct DaySlot {
     friend bool operator==(const DaySlot&, const DaySlot&) = default;
 };
 
+/// When the slot is. Without a readable end, or with one that is not behind its start, it lasts as
+/// long as a usual course. Nothing where its start cannot be read.
+[[nodiscard]] std::optional<TimeSpan> timeOf(const DaySlot& slot);
+
 } // namespace timetable
