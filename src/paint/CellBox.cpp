@@ -130,7 +130,12 @@ QRect boxRectangle(const DrawingTarget& target, double x, double y, double minut
 void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& style, double x,
                  double y, int minutes, const QString& text)
 {
-    const QRect box = boxRectangle(target, x, y, minutes, style.rowHeight);
+    drawBox(surface, target, style, boxRectangle(target, x, y, minutes, style.rowHeight), text);
+}
+
+void drawBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& style,
+             const QRect& box, const QString& text)
+{
     if (box.width() <= 0 || box.height() <= 0) {
         return;
     }

@@ -18,7 +18,7 @@ namespace paint
 struct BoxStyle {
     form::Colour fill;
     bool hatched = false; ///< diagonal crosses: a make-up
-    int rowHeight = 0;    ///< twips: the height of `Salle`(0)
+    int rowHeight = 0;    ///< twips: the height of `Salle`(0); for boxes of the plan
     int textFormat = plan::CellLayout::kCentredLines;
     /// Device pixels that small labels over the box take from its text, at each side.
     QMarginsF reserved;
@@ -36,7 +36,12 @@ struct BoxStyle {
 [[nodiscard]] QRect boxRectangle(const DrawingTarget& target, double x, double y, double minutes,
                                  int rowHeight);
 
-/// Draws one box and its text. The one drawing of a box, on whatever the painter paints.
+/// Draws one box of whole device pixels with its text; nothing where it has none. The one drawing
+/// of a box, on whatever the painter paints.
+void drawBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& style,
+             const QRect& box, const QString& text);
+
+/// Draws one box of the plan in the same way.
 void DrawCellBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& style, double x,
                  double y, int minutes, const QString& text);
 

@@ -3,6 +3,7 @@
 #include "answers/RoomWeeks.h"
 #include "form/Colour.h"
 #include "paint/DrawingTarget.h"
+#include "paint/Lettering.h"
 
 #include <QPainter>
 #include <QPointF>
@@ -65,8 +66,11 @@ public:
 
 private:
     void paintRow(QPainter& surface, std::size_t row) const;
-    void paintBox(QPainter& surface, const answers::WeekBox& box, const QRect& place,
-                  form::Colour color) const;
+    void paintGround(QPainter& surface, const QRectF& row) const;
+    void paintName(QPainter& surface, const answers::RoomWeek& week, const QRectF& place,
+                   form::Colour color) const;
+    void paintHours(QPainter& surface, int day) const;
+    [[nodiscard]] static QString placesOf(const answers::RoomWeek& row);
     [[nodiscard]] double xOf(int day, timetable::MinuteOfDay time) const;
     [[nodiscard]] QRect placeOf(const answers::WeekBox& box, std::size_t row) const;
 
@@ -74,10 +78,14 @@ private:
     const std::vector<form::Colour>& m_roomColors;
     DrawingTarget m_target;
     QRectF m_area;
-    double m_left; ///< where the days begin
-    double m_top;  ///< where the rows begin
+    double m_top; ///< where the rows begin
     double m_rowHeight;
-    std::array<double, answers::kShownDays + 1> m_dayEdges; ///< left edge of each day; right one
+    Lettering m_text;
+    Lettering m_title;
+    Lettering m_hours;
+    double m_left = 0; ///< where the days begin
+    /// The left edge of each day, and the right one of the last.
+    std::array<double, answers::kShownDays + 1> m_dayEdges{};
 };
 
 } // namespace paint

@@ -47,7 +47,11 @@ QFont markFont(const DrawingTarget& target, int height)
 void drawUnknownMark(QPainter& surface, const DrawingTarget& target, double x, double y,
                      int minutes, int rowHeight)
 {
-    const QRect box = boxRectangle(target, x, y, minutes, rowHeight);
+    drawUnknownMark(surface, target, boxRectangle(target, x, y, minutes, rowHeight));
+}
+
+void drawUnknownMark(QPainter& surface, const DrawingTarget& target, const QRect& box)
+{
     if (box.width() <= 0 || box.height() <= 0) {
         return;
     }

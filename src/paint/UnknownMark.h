@@ -3,6 +3,7 @@
 #include "paint/DrawingTarget.h"
 
 #include <QPainter>
+#include <QRect>
 
 namespace paint
 {
@@ -12,5 +13,8 @@ namespace paint
 /// left corner in device pixels before the target's offset, `rowHeight` is in twips.
 void drawUnknownMark(QPainter& surface, const DrawingTarget& target, double x, double y,
                      int minutes, int rowHeight);
+
+/// The same over whole device pixels.
+void drawUnknownMark(QPainter& surface, const DrawingTarget& target, const QRect& box);
 
 } // namespace paint

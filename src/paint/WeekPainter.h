@@ -3,6 +3,7 @@
 #include "answers/WeekGrid.h"
 #include "form/Colour.h"
 #include "paint/DrawingTarget.h"
+#include "paint/Lettering.h"
 
 #include <QPainter>
 #include <QPointF>
@@ -47,7 +48,8 @@ private:
     void paintGrid(QPainter& surface) const;
     void paintTitles(QPainter& surface) const;
     void paintHours(QPainter& surface) const;
-    void paintBox(QPainter& surface, const answers::WeekBox& box, const QRect& place) const;
+    void paintBoxes(QPainter& surface) const;
+    void paintNotes(QPainter& surface) const;
     [[nodiscard]] double yOf(timetable::MinuteOfDay time) const;
     [[nodiscard]] double xOf(int day) const;
     [[nodiscard]] QRect placeOf(const answers::WeekBox& box) const;
@@ -56,9 +58,11 @@ private:
     const std::vector<form::Colour>& m_roomColors;
     DrawingTarget m_target;
     QRectF m_area;
-    QRectF m_body;               ///< the columns of the days, below their titles
-    QRectF m_notes;              ///< see unplacedRectangle
-    int m_textSize;              ///< pixels that texts start from
+    QRectF m_body;  ///< the columns of the days, below their titles
+    QRectF m_notes; ///< see unplacedRectangle
+    int m_textSize; ///< pixels that texts start from
+    Lettering m_text;
+    Lettering m_title;
     std::vector<QRect> m_places; ///< of the boxes
 };
 
