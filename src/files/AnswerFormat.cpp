@@ -1,6 +1,8 @@
 #include "files/AnswerFormat.h"
 
 #include "files/AnswerJson.h"
+#include "files/AnswerWeekHtml.h"
+#include "files/AnswerWeekPdf.h"
 
 #include <QFileInfo>
 #include <algorithm>
@@ -12,7 +14,8 @@ namespace files
 const std::vector<AnswerFormat>& answerFormats(AnswerKind kind)
 {
     static const AnswerFormat json{QStringLiteral("json"), answerAsJson};
-    static const std::vector<AnswerFormat> week{json};
+    static const std::vector<AnswerFormat> week{
+        json, {QStringLiteral("html"), weekAsHtml}, {QStringLiteral("pdf"), weekAsPdf}};
     static const std::vector<AnswerFormat> others{json};
     return kind == AnswerKind::Week ? week : others;
 }

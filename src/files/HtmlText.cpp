@@ -67,11 +67,16 @@ QString colorText(form::Colour color)
 
 QString htmlDocument(const QString& title, const QString& body)
 {
+    return htmlDocument(title, body, styleSheet());
+}
+
+QString htmlDocument(const QString& title, const QString& body, const QString& style)
+{
     return QStringLiteral("<!DOCTYPE html>\n<html lang=\"fr\">\n<head>\n"
                           "<meta charset=\"utf-8\"/>\n"
                           "<meta name=\"viewport\" content=\"width=device-width, "
                           "initial-scale=1\"/>\n<title>") +
-           escaped(title) + QStringLiteral("</title>\n<style>") + styleSheet() +
+           escaped(title) + QStringLiteral("</title>\n<style>") + style +
            QStringLiteral("</style>\n</head>\n<body>\n") + body +
            QStringLiteral("</body>\n</html>\n");
 }

@@ -6,7 +6,6 @@
 #include <QBuffer>
 #include <QHashSeed>
 #include <QPageSize>
-#include <QPdfWriter>
 #include <QRegularExpression>
 #include <utility>
 
@@ -83,7 +82,7 @@ QByteArray withCreationDate(const QByteArray& pdf, QDate date)
     return movedPositions(std::move(result), start, text.size() - (end - start));
 }
 
-QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date)
+QByteArray pdfDrawn(const QString& title, QDate date, const std::function<void(QPdfWriter&)>& draw)
 {
     QByteArray bytes;
     {
@@ -93,16 +92,22 @@ QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date)
         QPdfWriter writer(&buffer);
         writer.setResolution(kSheetResolution);
         writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setCreator(QStringLiteral("Tempora"));
+        writer.setTitle(title);
+        draw(writer);
+    }
+    return withCreationDate(bytes, date);
+}
+
+QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date)
+{
+    const QString title = sheets.empty() ? QString() : sheets.front().heading.title;
+    return pdfDrawn(title, date, [&sheets](QPdfWriter& writer) {
         if (!layPaper(writer)) {
             throw runtime::RunTimeError(runtime::ErrorNumber::PrinterError);
         }
-        writer.setCreator(QStringLiteral("Tempora"));
-        if (!sheets.empty()) {
-            writer.setTitle(sheets.front().heading.title);
-        }
         printSheets(writer, sheets);
-    }
-    return withCreationDate(bytes, date);
+    });
 }
 
 } // namespace print

@@ -4,6 +4,9 @@
 
 #include <QByteArray>
 #include <QDate>
+#include <QPdfWriter>
+#include <QString>
+#include <functional>
 #include <vector>
 
 namespace print
@@ -15,6 +18,12 @@ namespace print
 /// 1 January 2000.
 /// Error: PrinterError.
 [[nodiscard]] QByteArray pdfOf(const std::vector<Sheet>& sheets, QDate date);
+
+/// What `draw` draws as a PDF document, on A4 standing upright unless it lays the paper otherwise:
+/// fonts embedded, the title and the date as in `pdfOf`. The writer has `kSheetResolution` dots per
+/// inch.
+[[nodiscard]] QByteArray pdfDrawn(const QString& title, QDate date,
+                                  const std::function<void(QPdfWriter&)>& draw);
 
 /// Whether the bytes are a PDF document of Qt's to its end, with nothing missing in between: its
 /// last lines tell where the table of positions lies.
