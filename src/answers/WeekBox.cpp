@@ -57,10 +57,21 @@ public:
     {
         const Holding& first = m_occupancy.holding(holdings.front());
         const timetable::MeetingPart& part = m_occupancy.meetingOf(first).part(first.part);
-        QStringList lines{classesOf(holdings), nameOf(m_timetable.subjects(), part.subject),
+        QStringList lines{listed(classesOf(holdings)), nameOf(m_timetable.subjects(), part.subject),
                           teachersOf(part), roomsOf(first)};
         lines.removeAll(QString());
         return lines;
+    }
+
+    [[nodiscard]] QString shortOf(const std::vector<HoldingId>& holdings) const
+    {
+        const QStringList classes = classesOf(holdings);
+        if (classes.isEmpty()) {
+            return of(holdings).value(0);
+        }
+        return classes.size() == 1
+                   ? classes.front()
+                   : QStringLiteral("%1 +%2").arg(classes.front()).arg(classes.size() - 1);
     }
 
 private:
@@ -75,13 +86,17 @@ private:
     {
         return isSubject(names, id) ? QString() : names.text(id).trimmed();
     }
-    [[nodiscard]] static QString listed(QStringList names)
+    [[nodiscard]] static QStringList told(QStringList names)
     {
         names.removeAll(QString());
         names.removeDuplicates();
-        return names.join(QStringLiteral(", "));
+        return names;
     }
-    [[nodiscard]] QString classesOf(const std::vector<HoldingId>& holdings) const
+    [[nodiscard]] static QString listed(const QStringList& names)
+    {
+        return told(names).join(QStringLiteral(", "));
+    }
+    [[nodiscard]] QStringList classesOf(const std::vector<HoldingId>& holdings) const
     {
         std::vector<timetable::ClassId> known;
         QStringList names;
@@ -94,7 +109,7 @@ private:
                 names << nameOf(m_timetable.classes(), name);
             }
         }
-        return listed(names);
+        return told(names);
     }
     [[nodiscard]] QString teachersOf(const timetable::MeetingPart& part) const
     {
@@ -214,6 +229,7 @@ std::vector<WeekBox> weekBoxes(const Occupancy& occupancy, const std::optional<S
     const BoxLines lines(occupancy, subject);
     for (WeekBox& box : boxes) {
         box.lines = lines.of(box.holdings);
+        box.shortText = lines.shortOf(box.holdings);
     }
     std::stable_sort(boxes.begin(), boxes.end(), [](const WeekBox& left, const WeekBox& right) {
         return std::tuple(left.day, left.time.start, rankOf(left)) <

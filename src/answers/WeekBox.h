@@ -22,6 +22,9 @@ struct WeekBox {
     /// What to write, most important first and none empty, without whose week it is: classes,
     /// subject, teachers, rooms.
     QStringList lines;
+    /// What to write where there is room for hardly anything: the first class with the number of
+    /// the others, "L1 INFO A +4", or else the first line; empty without lines.
+    QString shortText;
     QString corner; ///< "A" or "B"; empty for what is held every week or has a date
     timetable::MeetingKind kind = timetable::MeetingKind::Course;
     timetable::RoomId room; ///< whose colour it has: the one whose week it is, else its first

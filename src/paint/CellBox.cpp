@@ -88,15 +88,6 @@ void drawFrame(QPainter& surface, const DrawingTarget& target, const QRect& box)
     surface.fillRect(QRect(box.topRight(), box.bottomRight()), kFrameInk);
 }
 
-/// Where a box's text goes: off the frame and off the labels over the box.
-QRectF textRectangle(const DrawingTarget& target, const BoxStyle& style, const QRect& box)
-{
-    const QMarginsF frame = target.TargetIsPrinter
-                                ? QMarginsF(kTextGap, 0, kTextGap, 0) * target.PixelsPerPoint
-                                : QMarginsF(3, 1, 3, 1);
-    return QRectF(box).marginsRemoved(style.reserved + frame);
-}
-
 } // namespace
 
 double contrastRatio(form::Colour first, form::Colour second)
@@ -111,6 +102,15 @@ form::Colour readableOn(form::Colour background)
     constexpr form::Colour white = form::Colour::fromRgb(255, 255, 255);
     const double light = luminance(background) + kFlare;
     return light / kFlare >= (1 + kFlare) / light ? black : white;
+}
+
+QRectF textRectangle(const DrawingTarget& target, const BoxStyle& style, const QRect& box)
+{
+    const double side = style.tight ? 1.0 / 3 : 1;
+    const QMarginsF frame = target.TargetIsPrinter
+                                ? QMarginsF(kTextGap, 0, kTextGap, 0) * side * target.PixelsPerPoint
+                                : QMarginsF(3 * side, 1, 3 * side, 1);
+    return QRectF(box).marginsRemoved(style.reserved + frame);
 }
 
 QRectF boxArea(const DrawingTarget& target, double x, double y, double width, int rowHeight)

@@ -22,6 +22,7 @@ struct BoxStyle {
     int textFormat = plan::CellLayout::kCentredLines;
     /// Device pixels that small labels over the box take from its text, at each side.
     QMarginsF reserved;
+    bool tight = false; ///< hardly any room between frame and text: boxes that have none to spare
     /// Measures the box texts of a whole page; without one the painter's font serves.
     const TextRuler* ruler = nullptr;
 };
@@ -35,6 +36,10 @@ struct BoxStyle {
 /// The whole pixels of a box's area that are drawn; `minutes` is its length in time.
 [[nodiscard]] QRect boxRectangle(const DrawingTarget& target, double x, double y, double minutes,
                                  int rowHeight);
+
+/// Where the text of such a box goes: off the frame and off what is reserved.
+[[nodiscard]] QRectF textRectangle(const DrawingTarget& target, const BoxStyle& style,
+                                   const QRect& box);
 
 /// Draws one box of whole device pixels with its text; nothing where it has none. The one drawing
 /// of a box, on whatever the painter paints.

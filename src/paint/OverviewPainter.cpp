@@ -1,6 +1,7 @@
 #include "paint/OverviewPainter.h"
 
 #include "answers/Words.h"
+#include "paint/BoxText.h"
 #include "paint/CellBox.h"
 #include "paint/RoomColor.h"
 #include "paint/UnknownMark.h"
@@ -32,8 +33,9 @@ constexpr double kMostRow = 36;
 constexpr double kLargestText = 9;   ///< what texts start from
 constexpr double kSmallestStart = 7; ///< likewise, in the lowest rows
 constexpr double kTextOfRow = 0.6;
-// The share of a line's height that is enough for a line.
-constexpr double kTextOfLine = 0.85;
+// Points that texts in boxes on paper start from, and those of the smallest.
+constexpr int kPaperText = 7;
+constexpr double kLeastPaperText = 5;
 // The share of the width that the names take at most, and at least.
 constexpr double kMostForNames = 0.14;
 constexpr double kLeastForNames = 0.06;
@@ -78,6 +80,7 @@ OverviewPainter::OverviewPainter(const answers::RoomWeeks& weeks,
       m_title(target, pixelsOf(target, kLargestText), true),
       m_hours(target, pixelsOf(target, kSmallestStart))
 {
+    m_target.FontSize = std::min(m_target.FontSize, kPaperText);
     double names = kLeastForNames * area.width();
     for (const RoomWeek& row : weeks.rows) {
         names = std::max(names, m_text.width(row.name + QStringLiteral("  ") + placesOf(row)) +
@@ -205,9 +208,10 @@ void OverviewPainter::paintRow(QPainter& surface, std::size_t row) const
                                 .toAlignedRect());
         }
     }
+    const int least =
+        m_target.TargetIsPrinter ? pixelsOf(m_target, kLeastPaperText) : kSmallestText;
     for (const WeekBox& box : week.boxes) {
-        drawWeekBox(surface, m_target, box, placeOf(box, row), color, m_text,
-                    m_text.height() * kTextOfLine);
+        drawDenseWeekBox(surface, m_target, box, placeOf(box, row), color, m_text, least);
     }
 }
 

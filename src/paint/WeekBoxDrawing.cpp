@@ -1,6 +1,7 @@
 #include "paint/WeekBoxDrawing.h"
 
 #include "paint/CellBox.h"
+#include "paint/MeasuredWords.h"
 #include "paint/WeekInks.h"
 
 #include <algorithm>
@@ -11,6 +12,8 @@ namespace paint
 namespace
 {
 
+// Characters of a text that is cut that still tell something, without the ellipsis.
+constexpr qsizetype kTellingCharacters = 4;
 // Times its own width that a box has at least when a label stands in its corner.
 constexpr double kRoomForTag = 3;
 // The label's size, of a line of text.
@@ -58,33 +61,96 @@ void drawExamFrame(QPainter& surface, const DrawingTarget& target, const QRect& 
                      kExamFrame);
 }
 
-} // namespace
-
-void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
-                 const QRect& place, form::Colour fill, const Lettering& text, double linePixels)
+BoxStyle styleOf(const answers::WeekBox& box, form::Colour fill, const Lettering& text)
 {
-    const QString tag = tagText(box);
-    const QRectF corner = tagPlace(tag, place, text);
-    const bool isAbove =
-        place.height() - corner.height() >= linePixels * static_cast<double>(box.lines.size());
     BoxStyle style;
     style.fill = fill;
     style.hatched = box.kind == timetable::MeetingKind::MakeUp;
     style.ruler = &text.ruler();
+    return style;
+}
+
+/// The names of a list stay whole when it is broken into lines.
+QString unbrokenNames(QString line)
+{
+    const QString separator = QStringLiteral(", ");
+    return line.contains(separator)
+               ? line.replace(u' ', QChar::Nbsp).replace(QStringLiteral(",\u00a0"), separator)
+               : line;
+}
+
+void drawKind(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
+              const BoxStyle& style, const QRect& place, const QStringList& lines)
+{
+    QStringList written;
+    for (const QString& line : lines) {
+        written << unbrokenNames(line);
+    }
+    surface.setFont(style.ruler->font());
+    drawBox(surface, target, style, place, written.join(u'\n'));
+    if (box.kind == timetable::MeetingKind::Exam) {
+        drawExamFrame(surface, target, place);
+    }
+}
+
+/// Whether the text, broken between words, fits the area in that size.
+bool fits(const QString& text, const QRectF& area, const TextRuler& ruler, double scale)
+{
+    const QStringList lines(text);
+    const MeasuredWords::Extent set = MeasuredWords(ruler, lines).extent(area.width() * scale);
+    return set.width <= area.width() * scale &&
+           set.lines * ruler.height() <= (area.height() + 1) * scale;
+}
+
+/// What of the text is worth writing in the smallest size.
+QString tellingText(const QString& text, const QRectF& area, const TextRuler& ruler, int pixels)
+{
+    const double scale = static_cast<double>(ruler.font().pixelSize()) / pixels;
+    const QString first = text.section(QStringLiteral(" +"), 0, 0);
+    for (const QString& each : {text, first}) {
+        if (fits(each, area, ruler, scale)) {
+            return each;
+        }
+    }
+    const QString cut = ruler.elided(first, area.width() * scale);
+    const bool tells =
+        cut.size() > kTellingCharacters && ruler.height() <= (area.height() + 1) * scale;
+    return tells ? cut : QString();
+}
+
+} // namespace
+
+void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
+                 const QRect& place, form::Colour fill, const Lettering& text, int leastPixels)
+{
+    const QString tag = tagText(box);
+    const QRectF corner = tagPlace(tag, place, text);
+    const double line = text.height() * leastPixels / text.ruler().font().pixelSize();
+    const bool isAbove =
+        place.height() - corner.height() >= line * static_cast<double>(box.lines.size());
+    BoxStyle style = styleOf(box, fill, text);
     style.reserved = isAbove ? QMarginsF(0, corner.height(), 0, 0)
                              : QMarginsF(corner.width(), 0, corner.width(), 0);
     const double height = place.height() - style.reserved.top();
     surface.save();
-    surface.setFont(text.ruler().font());
-    drawBox(surface, target, style, place, fittingLines(box.lines, height, linePixels).join(u'\n'));
-    if (box.kind == timetable::MeetingKind::Exam) {
-        drawExamFrame(surface, target, place);
-    }
+    drawKind(surface, target, box, style, place, fittingLines(box.lines, height, line));
     if (!corner.isEmpty()) {
         surface.fillRect(corner, kHeaderInk);
         surface.setPen(kWeekGround);
         text.draw(surface, corner, tag, Qt::AlignHCenter);
     }
+    surface.restore();
+}
+
+void drawDenseWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
+                      const QRect& place, form::Colour fill, const Lettering& text, int leastPixels)
+{
+    BoxStyle style = styleOf(box, fill, text);
+    style.tight = true;
+    const QRectF area = textRectangle(target, style, place);
+    surface.save();
+    drawKind(surface, target, box, style, place,
+             QStringList(tellingText(box.shortText, area, text.ruler(), leastPixels)));
     surface.restore();
 }
 

@@ -12,12 +12,17 @@
 namespace paint
 {
 
-/// Draws one box of a week: what is in it, as many of its lines as find room, in a box of the
-/// plan's; a make-up hatched, an exam in a thick frame; a label in the corner for week A or B and
-/// for an exam, where there is room for one. `linePixels`: what a line needs at least, or else the
-/// less important ones are left out.
+/// Draws one box of a week in a box of the plan's: what is in it, as many of its lines as find
+/// room in the smallest size, `leastPixels`; a make-up hatched, an exam in a thick frame; in the
+/// corner a label for week A or B and for an exam, where there is room for one.
 void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
-                 const QRect& place, form::Colour fill, const Lettering& text, double linePixels);
+                 const QRect& place, form::Colour fill, const Lettering& text, int leastPixels);
+
+/// The same for boxes that have hardly any room: their short text, or as much of it as still tells
+/// something, or nothing; and no label.
+void drawDenseWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
+                      const QRect& place, form::Colour fill, const Lettering& text,
+                      int leastPixels);
 
 /// Says in the middle of an area that there is nothing.
 void drawNothingThere(QPainter& surface, const DrawingTarget& target, const QRectF& area,

@@ -188,13 +188,13 @@ void WeekPainter::paintHours(QPainter& surface) const
 
 void WeekPainter::paintBoxes(QPainter& surface) const
 {
-    const double least =
-        m_target.TargetIsPrinter ? kLeastPaperText * m_target.PixelsPerPoint : kSmallestText;
-    const double line = m_text.height() * least / m_textSize;
+    const int least = m_target.TargetIsPrinter
+                          ? nearestInteger(kLeastPaperText * m_target.PixelsPerPoint)
+                          : kSmallestText;
     for (std::size_t index = 0; index < m_grid.boxes.size(); ++index) {
         const WeekBox& box = m_grid.boxes[index];
         drawWeekBox(surface, m_target, box, m_places[index], roomColor(m_roomColors, box.room),
-                    m_text, line);
+                    m_text, least);
     }
 }
 
