@@ -26,6 +26,8 @@ namespace answers
 [[nodiscard]] QString nameOf(const timetable::Timetable& timetable, const Subject& subject);
 /// What it is: "Salle", "Enseignant", "Classe" or "Matière".
 [[nodiscard]] QString kindWords(const Subject& subject);
+/// A share of 1 as a whole number of hundredths: "62 %", with a narrow space that does not break.
+[[nodiscard]] QString shareWords(double share);
 /// "rattrapage", "examen", or nothing for a course.
 [[nodiscard]] QString kindWords(timetable::MeetingKind kind);
 

@@ -25,7 +25,7 @@ QLabel* label(const QString& name, const QString& role)
 
 } // namespace
 
-HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help)
+HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help, QMenu* questions)
 {
     setObjectName(QStringLiteral("HeaderBand"));
     setAttribute(Qt::WA_StyledBackground);
@@ -82,6 +82,14 @@ HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help
     auto* button = new QToolButton;
     button->setObjectName(QStringLiteral("Aide"));
     button->setDefaultAction(help);
+    auto* ask = new QToolButton;
+    ask->setObjectName(QStringLiteral("Questions"));
+    ask->setText(QStringLiteral("Chercher"));
+    ask->setToolTip(QStringLiteral("Salle libre, enseignant, semaine, conflits, occupation"));
+    ask->setAccessibleName(QStringLiteral("Chercher"));
+    ask->setPopupMode(QToolButton::InstantPopup);
+    ask->setMenu(questions);
+    right->addWidget(ask);
     right->addWidget(button);
     band->addLayout(right, 1);
 }

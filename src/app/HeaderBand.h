@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QAction;
+class QMenu;
 
 namespace engine
 {
@@ -18,8 +19,8 @@ class FormMirror;
 class HeaderBand : public QWidget
 {
 public:
-    /// `help` opens the guide.
-    HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help);
+    /// `help` opens the guide, `questions` is the menu behind "Chercher".
+    HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help, QMenu* questions);
 };
 
 } // namespace app

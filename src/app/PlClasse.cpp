@@ -9,9 +9,12 @@
 #include "app/PlainTexts.h"
 #include "app/PlanView.h"
 #include "app/WindowStyle.h"
+#include "app/asking/Questions.h"
 #include "plan/FaultWords.h"
 #include "runtime/FrenchDate.h"
 #include "shell/Player.h"
+#include "timetable/DateRules.h"
+#include "timetable/WeekRhythm.h"
 
 #include <QAction>
 #include <QApplication>
@@ -36,6 +39,7 @@ constexpr QSize kFirstSize(1280, 720);
 // After this time a start and an action show that they wait.
 constexpr std::chrono::milliseconds kStartPatience{500};
 constexpr std::chrono::milliseconds kActionPatience{300};
+constexpr int kSentenceTime = 8000; // milliseconds that a sentence stays in the status bar
 
 /// The dialogs, with no sign of waiting over them.
 PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
@@ -116,7 +120,11 @@ void PlClasse::buildContent()
     help->setShortcut(Qt::Key_F1);
     help->setToolTip(QStringLiteral("Ouvrir le guide (F1)"));
     connect(help, &QAction::triggered, this, [this] { showHelp(); });
-    column->addWidget(new HeaderBand(m_shell.engine(), m_mirror, help));
+    m_questions = new Questions(
+        m_shell, [this](const std::function<void()>& action) { forward(action); }, this,
+        [this](const QString& sentence) { statusBar()->showMessage(sentence, kSentenceTime); });
+    m_questions->setParent(this);
+    column->addWidget(new HeaderBand(m_shell.engine(), m_mirror, help, m_questions->menu()));
     m_options = new OptionPanels(m_shell.engine(), m_mirror);
     column->addWidget(m_options);
     auto* faults = new FaultBar([this] { readAgain(); });
@@ -128,6 +136,7 @@ void PlClasse::buildContent()
     m_view = new PlanView(
         m_shell, [this](const std::function<void()>& action) { forward(action); },
         [this](int marker) { clickMarker(marker); });
+    m_questions->tieTo(m_view);
     column->addWidget(m_view, 1);
     setCentralWidget(content);
 }
@@ -150,6 +159,8 @@ void PlClasse::buildStatusBar()
     };
     follow(QStringLiteral("MarkedDay"), &PlClasse::markedDay)
         ->setToolTip(QStringLiteral("Date que marquent Maj + clic et Ctrl + clic sur une case"));
+    auto* weekOfDate = follow(QStringLiteral("WeekShown"), &PlClasse::weekShown);
+    weekOfDate->setToolTip(QStringLiteral("Semaine de la date affichée, selon « SemaineA »"));
     // Room names may be long: they are cut before the window grows wider than the screen.
     follow(QStringLiteral("PageInfo"), &PlClasse::roomsShown)->setMinimumWidth(1);
     add(QStringLiteral("PeriodCaption"), QStringLiteral("Période n°"));
@@ -183,6 +194,18 @@ QString PlClasse::roomsShown() const
     }
     return QStringLiteral("Salles affichées : %1, de « %2 » à « %3 »")
         .arg(QString::number(last), page.room(1).name, page.room(last).name);
+}
+
+QString PlClasse::weekShown() const
+{
+    const timetable::WeekRhythm rhythm(m_shell.weekA());
+    const QDate date = m_shell.form().DTPicker1.value();
+    if (!rhythm.isKnown() || !date.isValid()) {
+        return {};
+    }
+    return QStringLiteral("Semaine %1 (du %2)")
+        .arg(rhythm.weekOf(date) == timetable::Week::A ? u'A' : u'B')
+        .arg(timetable::MondayOnOrBefore(date).toString(QStringLiteral("dd/MM")));
 }
 
 QString PlClasse::markedDay() const

@@ -19,6 +19,7 @@ namespace app
 class HelpWindow;
 class OptionPanels;
 class PlanView;
+class Questions;
 
 /// The one window of the program, "Planning des Classes": mirrors the form's controls and passes
 /// the user's actions on to them.
@@ -72,6 +73,8 @@ private:
     void buildContent();
     void buildStatusBar();
     [[nodiscard]] QString roomsShown() const;
+    /// Which week A or B the shown date lies in; empty where nobody knows.
+    [[nodiscard]] QString weekShown() const;
     /// The date that the gestures mark: that of the drawn boxes, not always the picker's.
     [[nodiscard]] QString markedDay() const;
     void syncWidgets();
@@ -98,6 +101,7 @@ private:
     FormMirror m_mirror;
     OptionPanels* m_options = nullptr;
     PlanView* m_view = nullptr;
+    Questions* m_questions = nullptr;
     HelpWindow* m_help = nullptr; ///< null until it is asked for
     int m_focusRequests = 0;
     QString m_fontName;

@@ -54,7 +54,7 @@ const plan::PlanRow& PlanTable::rowOf(const Cell& cell) const
 
 int PlanTable::slotOf(const Cell& cell) const
 {
-    return m_slots.at(static_cast<std::size_t>(cell.column - 1));
+    return cell.column == 0 ? 0 : m_slots.at(static_cast<std::size_t>(cell.column - 1));
 }
 
 const plan::PlanBox* PlanTable::boxOf(const Cell& cell) const
@@ -85,6 +85,18 @@ std::optional<PlanTable::Cell> PlanTable::cellAt(int row, int column) const
     for (const Cell& cell : cellsOf(row)) {
         if (column >= cell.column && column < cell.column + cell.span) {
             return cell;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PlanTable::Cell> PlanTable::cellOf(const QString& room, int slot) const
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        if (rowOf({row, 0, 1}).room == room) {
+            const auto found = std::find(m_slots.begin(), m_slots.end(), slot);
+            return cellAt(
+                row, found == m_slots.end() ? 0 : static_cast<int>(found - m_slots.begin()) + 1);
         }
     }
     return std::nullopt;

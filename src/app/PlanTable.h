@@ -42,6 +42,15 @@ public:
     /// The room whose row is at this height, in the same pixels.
     [[nodiscard]] std::optional<Cell> roomAtHeight(double y) const;
 
+    /// The cell that shows this slot of a room, or the room itself for slot 0 and for one that the
+    /// table does not have; nothing where the room has no row.
+    [[nodiscard]] std::optional<Cell> cellOf(const QString& room, int slot) const;
+    [[nodiscard]] const plan::PlanRow& rowOf(const Cell& cell) const;
+    /// The slot's number, counting from 1; 0 in the rooms' column.
+    [[nodiscard]] int slotOf(const Cell& cell) const;
+    /// Null for a room and for a slot without a box.
+    [[nodiscard]] const plan::PlanBox* boxOf(const Cell& cell) const;
+
     /// What there is to see in the cell: for a room its name and places, else room, time, the box's
     /// text, counter and marks.
     [[nodiscard]] QString nameOf(const Cell& cell) const;
@@ -59,9 +68,6 @@ public:
     [[nodiscard]] QString note() const;
 
 private:
-    [[nodiscard]] const plan::PlanRow& rowOf(const Cell& cell) const;
-    [[nodiscard]] int slotOf(const Cell& cell) const;
-    [[nodiscard]] const plan::PlanBox* boxOf(const Cell& cell) const;
     [[nodiscard]] QString slotTitle(int slot) const;
 
     const plan::PlanState& m_state;

@@ -2,9 +2,9 @@
 
 #include "plan/BoxLines.h"
 #include "plan/BoxWords.h"
+#include "plan/RoomRows.h"
 
 #include <QStringList>
-#include <algorithm>
 
 namespace app
 {
@@ -21,19 +21,14 @@ QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const p
 
 QString roomToolTip(const plan::PlanState& state, double top)
 {
-    const std::vector<form::Label>& rooms = state.form.Salle;
-    const auto room = std::find_if(rooms.begin(), rooms.end(), [top](const form::Label& label) {
-        return label.visible && top >= label.place.top &&
-               top < label.place.top + label.place.height;
-    });
-    if (room == rooms.end()) {
+    const std::optional<int> row = plan::rowAtHeight(state.form, top);
+    if (!row) {
         return {};
     }
-    const QString& name = state.page.room(static_cast<int>(room - rooms.begin())).name;
-    return room != rooms.begin()
-               ? name // the label may be too narrow for it
-               : name + QStringLiteral("\nSalle placée juste avant la première ligne du "
-                                       "plan : ses séances ne sont pas dessinées ici");
+    const QString& name = state.page.room(*row).name;
+    return *row != 0 ? name // the label may be too narrow for it
+                     : name + QStringLiteral("\nSalle placée juste avant la première ligne du "
+                                             "plan : ses séances ne sont pas dessinées ici");
 }
 
 QString totalsToolTip(const plan::PlanState& state)

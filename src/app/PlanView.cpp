@@ -10,7 +10,9 @@
 #include "plan/RoomRows.h"
 #include "shell/Shell.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -28,6 +30,10 @@ namespace
 constexpr QColor kBandEdge(190, 196, 208);
 // Laid over what is out of date: enough of it stays to be read.
 constexpr QColor kVeil(245, 246, 249, 150);
+// What is looked for: seen on every row colour, by the light line around the dark one.
+constexpr QColor kFrameLine(178, 34, 34);
+constexpr QColor kFrameHalo(255, 255, 255);
+constexpr int kFrameWidth = 3;
 
 } // namespace
 
@@ -215,6 +221,7 @@ void PlanView::paintEvent(QPaintEvent* event)
         copy(view.totals, m_picture.totals(), QPoint(view.totals.x() + scrollX, 0));
         painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
     }
+    paintFrame(painter, view);
     if (m_isOutOfDate) {
         painter.fillRect(viewport()->rect(), kVeil);
     }
@@ -233,8 +240,133 @@ void PlanView::scrollContentsBy(int dx, int dy)
     viewport()->update();
 }
 
+void PlanView::frame(const QString& room, int slot)
+{
+    m_frame = Frame{room, slot, m_engine.refreshCount()};
+    bringIntoView(framed());
+    viewport()->update();
+}
+
+void PlanView::unframe()
+{
+    if (m_frame) {
+        m_frame.reset();
+        viewport()->update();
+    }
+}
+
+QRectF PlanView::framed() const
+{
+    if (!m_frame || m_frame->refresh != m_engine.refreshCount()) {
+        return {};
+    }
+    const form::PlanForm& form = m_engine.form();
+    const auto rowAcross = [&](const form::Place& room) {
+        return m_target.toPixels(QRectF(room.left, room.top, axisEnd() - room.left, room.height));
+    };
+    const PlanTable words = table();
+    const auto cell = words.cellOf(m_frame->room, m_frame->slot);
+    if (!cell) {
+        const bool isGreyed =
+            form.Salle.front().visible && m_engine.state().page.room(0).name == m_frame->room;
+        return isGreyed ? rowAcross(form.Salle.front().place) : QRectF();
+    }
+    if (words.boxOf(*cell) != nullptr) {
+        return words.placeOf(*cell);
+    }
+    return rowAcross(form.Salle.at(static_cast<std::size_t>(words.rowOf(*cell).index)).place);
+}
+
+void PlanView::bringIntoView(const QRectF& place)
+{
+    if (place.isEmpty()) {
+        return;
+    }
+    constexpr int margin = 8;
+    const QRect boxes = bands().boxes;
+    const auto scroll = [](QScrollBar* bar, double from, double to, int first, int length) {
+        if (to > bar->value() + first + length) {
+            bar->setValue(static_cast<int>(to) - first - length + margin);
+        }
+        if (from < bar->value() + first) {
+            bar->setValue(static_cast<int>(from) - first - margin);
+        }
+    };
+    scroll(verticalScrollBar(), place.top(), place.bottom(), boxes.top(), boxes.height());
+    if (place.left() >= boxes.left()) { // a whole row begins with its name, which stays in view
+        scroll(horizontalScrollBar(), place.left(), place.right(), boxes.left(), boxes.width());
+    }
+}
+
+void PlanView::paintFrame(QPainter& painter, const Bands& view) const
+{
+    const QRectF place = framed();
+    if (place.isEmpty()) {
+        return;
+    }
+    const bool isRow = place.left() < view.boxes.left();
+    const QPointF corner(isRow ? place.left() : place.left() - horizontalScrollBar()->value(),
+                         place.top() - verticalScrollBar()->value());
+    painter.save();
+    painter.setClipRect(isRow ? view.boxes.united(view.names) : view.boxes);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF line = QRectF(corner, place.size()).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(kFrameHalo, kFrameWidth + 3));
+    painter.drawRoundedRect(line, 3, 3);
+    painter.setPen(QPen(kFrameLine, kFrameWidth));
+    painter.drawRoundedRect(line, 3, 3);
+    painter.restore();
+}
+
+QString PlanView::roomAt(QPoint point) const
+{
+    const Bands view = bands();
+    if (!view.names.contains(point) && !view.places.contains(point)) {
+        return {};
+    }
+    const auto row =
+        plan::rowAtHeight(m_engine.form(), m_target.TargetTwipsPerPixelY * toPlan(point).y());
+    return row ? m_engine.state().page.room(*row).name : QString();
+}
+
+std::optional<PlanView::Spot> PlanView::spotAt(QPoint point) const
+{
+    const QString room = roomAt(point);
+    if (!room.isEmpty()) {
+        return Spot{room, 0, nullptr};
+    }
+    if (!bands().boxes.contains(point)) {
+        return std::nullopt;
+    }
+    const PlanTable words = table();
+    const auto cell = words.cellUnder(toPlan(point));
+    if (!cell) { // beside the slots: the row
+        const auto row = words.roomAtHeight(toPlan(point).y());
+        return row ? std::optional(Spot{words.rowOf(*row).room, 0, nullptr}) : std::nullopt;
+    }
+    return Spot{words.rowOf(*cell).room, words.slotOf(*cell), words.boxOf(*cell)};
+}
+
+void PlanView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const auto spot = spotAt(event->pos());
+    if (spot && m_asking.showMenu && m_shownRefresh == m_engine.refreshCount()) {
+        m_asking.showMenu(*spot, event->globalPos());
+    }
+}
+
+void PlanView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && m_frame) {
+        unframe();
+        return;
+    }
+    QAbstractScrollArea::keyPressEvent(event);
+}
+
 void PlanView::mousePressEvent(QMouseEvent* event)
 {
+    unframe();
     const bool isOfThisPlan = m_shownRefresh == m_engine.refreshCount();
     if (event->button() != Qt::LeftButton || !isOfThisPlan ||
         !bands().boxes.contains(event->position().toPoint())) {
@@ -252,6 +384,11 @@ void PlanView::mousePressEvent(QMouseEvent* event)
 
 void PlanView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    const QString room = roomAt(event->position().toPoint());
+    if (!room.isEmpty() && event->button() == Qt::LeftButton && m_asking.openRoom) {
+        m_asking.openRoom(room);
+        return;
+    }
     mousePressEvent(event); // what comes in the place of a quick second press
 }
 

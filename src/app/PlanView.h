@@ -30,6 +30,28 @@ public:
 
     PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick);
 
+    /// A place of the plan that somebody asks about.
+    struct Spot {
+        QString room;
+        int slot = 0;                       ///< counting from 1; 0 for the room as a whole
+        const plan::PlanBox* box = nullptr; ///< of the last refresh; null where there is none
+    };
+    /// What is done with it; nothing unless somebody says so.
+    struct Asking {
+        std::function<void(const QString& room)> openRoom; ///< a double click on its name
+        std::function<void(const Spot& spot, QPoint screenPoint)> showMenu;
+    };
+    void setAsking(Asking asking) { m_asking = std::move(asking); }
+
+    /// Frames the box of a room's slot, or its row for slot 0 and where no box is, and brings it
+    /// into view. The next drawing, a click or Escape takes the frame away.
+    void frame(const QString& room, int slot);
+    /// Where the frame lies in the plan, in device pixels, unscrolled; empty without one.
+    [[nodiscard]] QRectF framed() const;
+
+    /// Its room; empty without one.
+    [[nodiscard]] QString framedRoom() const { return m_frame ? m_frame->room : QString(); }
+
     /// Fits the plan to the view anew: the rows, their number or the time axis have changed.
     void fit();
     /// A refresh that has taken so long shows its rows as they come; others show all at once.
@@ -70,6 +92,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool viewportEvent(QEvent* event) override;
 
@@ -83,6 +107,19 @@ private:
         QRect totals;
     };
 
+    /// What the user looks for.
+    struct Frame {
+        QString room;
+        int slot = 0;
+        std::uint64_t refresh = 0; ///< of which drawing
+    };
+
+    void unframe();
+    void bringIntoView(const QRectF& place);
+    void paintFrame(QPainter& painter, const Bands& view) const;
+    /// The room whose name or places lie there, the greyed one included; empty elsewhere.
+    [[nodiscard]] QString roomAt(QPoint point) const;
+    [[nodiscard]] std::optional<Spot> spotAt(QPoint point) const;
     /// End of the time axis in twips.
     [[nodiscard]] int axisEnd() const;
     [[nodiscard]] Bands bands() const;
@@ -107,6 +144,8 @@ private:
     int m_lastRowHeight = 0;
     int m_lastRows = 0;
     int m_totalsHeight = 0;
+    Asking m_asking;
+    std::optional<Frame> m_frame;
     bool m_isOutOfDate = false;
     std::uint64_t m_shownRefresh = 0; ///< of which refresh the picture is
     std::size_t m_shownRows = 0;      ///< how many of its rows are in the picture

@@ -1,24 +1,19 @@
 #include "app/Printing.h"
 
 #include "app/PlainTexts.h"
+#include "app/PrinterOutput.h"
 #include "engine/Engine.h"
-#include "files/WholeFile.h"
 #include "plan/FaultWords.h"
 #include "plan/PlanPage.h"
-#include "print/PdfDocument.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
 
-#include <QFile>
 #include <QMessageBox>
-#include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QScreen>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -49,40 +44,9 @@ void keepChosen(std::vector<print::Sheet>& sheets, const QPrinter& printer)
     }
 }
 
-/// Makes the document elsewhere first, so that the file is replaced as a whole or not at all: the
-/// printer itself would begin by emptying it, and say nothing of a disk that is full.
-void printToFile(QPrinter& printer, const std::vector<print::Sheet>& sheets)
+void printSheetsOn(QPrinter& printer, const std::vector<print::Sheet>& sheets)
 {
-    const QString path = printer.outputFileName();
-    const QTemporaryDir folder;
-    printer.setOutputFileName(folder.filePath(QStringLiteral("plan.pdf")));
-    QFile made(printer.outputFileName());
-    {
-        const auto putBack = qScopeGuard([&] { printer.setOutputFileName(path); });
-        print::printSheets(printer, sheets);
-    }
-    const QByteArray document = made.open(QIODevice::ReadOnly) ? made.readAll() : QByteArray();
-    runtime::RunTimeError fault(runtime::ErrorNumber::PrinterError);
-    if (!print::isWholePdf(document)) {
-        throw fault;
-    }
-    try {
-        files::writeWholeFile(path, document);
-    } catch (const files::ExportError& reason) {
-        fault.addActivity(QString::fromUtf8(reason.what()));
-        throw fault;
-    }
-}
-
-/// While a preview shows its pages, the printer draws pictures, whatever its output will be.
-void printOn(QPrinter& printer, const std::vector<print::Sheet>& sheets)
-{
-    if (printer.paintEngine()->type() == QPaintEngine::Pdf &&
-        printer.outputFormat() == QPrinter::PdfFormat) {
-        printToFile(printer, sheets);
-    } else {
-        print::printSheets(printer, sheets);
-    }
+    printOn(printer, [&sheets](QPrinter& target) { print::printSheets(target, sheets); });
 }
 
 bool printIncomplete(QWidget* window, const QString& whatIsMissing)
@@ -201,7 +165,7 @@ void Printing::print(std::vector<print::Sheet> sheets)
                         if (!ready) {
                             throw runtime::RunTimeError(runtime::ErrorNumber::PrinterError);
                         }
-                        printOn(printer, sheets);
+                        printSheetsOn(printer, sheets);
                     });
 }
 
@@ -210,7 +174,7 @@ void Printing::PrintPreview_Click()
     const std::vector<print::Sheet> sheets = shownSheet();
     QPrinter printer(QPrinter::HighResolution);
     static_cast<void>(prepare(printer, sheets));
-    m_dialogs.preview(printer, [&sheets](QPrinter& target) { printOn(target, sheets); });
+    m_dialogs.preview(printer, [&sheets](QPrinter& target) { printSheetsOn(target, sheets); });
 }
 
 } // namespace app

@@ -24,6 +24,9 @@ QMainWindow { background: %1; }
                         padding: 3px 10px; font-weight: bold; }
 #FaultBar QToolButton:hover, #FaultBar QToolButton:focus { background: #c94a4a; }
 #Picture1 { background: #eef1f6; }
+#HeaderBand QToolButton::menu-indicator { image: none; }
+#AnswerStatus { color: #48597a; }
+#AnswerStatus[warning="true"] { color: #a81c1c; font-weight: bold; }
 QLabel[role="strong"] { font-weight: bold; }
 QGroupBox { border: 1px solid #cfd6e2; border-radius: 4px; margin-top: 9px;
             background: #fafbfd; }

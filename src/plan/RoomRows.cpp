@@ -1,5 +1,7 @@
 #include "plan/RoomRows.h"
 
+#include <algorithm>
+
 namespace plan
 {
 namespace
@@ -28,6 +30,17 @@ void PlaceRoomRows(form::PlanForm& form)
 bool isShown(const form::PlanForm& form, const PlanRow& row)
 {
     return form.Salle.at(static_cast<std::size_t>(row.index)).visible;
+}
+
+std::optional<int> rowAtHeight(const form::PlanForm& form, double top)
+{
+    const auto row =
+        std::find_if(form.Salle.begin(), form.Salle.end(), [top](const form::Label& label) {
+            return label.visible && top >= label.place.top &&
+                   top < label.place.top + label.place.height;
+        });
+    return row == form.Salle.end() ? std::nullopt
+                                   : std::optional(static_cast<int>(row - form.Salle.begin()));
 }
 
 int widthWithPlaces(const form::PlanForm& form, int axisEnd)

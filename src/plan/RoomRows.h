@@ -3,6 +3,8 @@
 #include "form/PlanForm.h"
 #include "plan/PlanContent.h"
 
+#include <optional>
+
 namespace plan
 {
 
@@ -18,6 +20,10 @@ void PlaceRoomRows(form::PlanForm& form);
 /// Whether the page has room for a row of its content: a row that it has none for stays out of
 /// sight with its label, wherever the plan is shown.
 [[nodiscard]] bool isShown(const form::PlanForm& form, const PlanRow& row);
+
+/// The row whose label is shown at this height (twips), row 0 included; nothing where there is
+/// none.
+[[nodiscard]] std::optional<int> rowAtHeight(const form::PlanForm& form, double top);
 
 /// Twips that a window is wide which shows a time axis that ends there, and the places behind it.
 [[nodiscard]] int widthWithPlaces(const form::PlanForm& form, int axisEnd);

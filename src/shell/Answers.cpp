@@ -15,11 +15,6 @@ using timetable::Occupancy;
 using timetable::Week;
 using timetable::When;
 
-Week other(Week week)
-{
-    return week == Week::A ? Week::B : week == Week::B ? Week::A : Week::Every;
-}
-
 Week askedWeek(const CommandLine& line)
 {
     return line.week == CommandLine::Week::A   ? Week::A
@@ -41,13 +36,8 @@ std::vector<When> askedDays(const Inquiry& inquiry, const CommandLine& line)
     if (!line.date) {
         throw UsageError(QStringLiteral("--free : demande --day ou --date"));
     }
-    std::vector<When> days;
-    Week week = weekOfDate(inquiry, line, *line.date);
-    for (int number = 0; number < line.answer->weeksRunning; ++number) {
-        days.push_back(When::date(line.date->addDays(number * timetable::kDaysOfWeek), week));
-        week = other(week);
-    }
-    return days;
+    return inquiry.sameDays(*line.date, line.answer->weeksRunning,
+                            line.week ? std::optional(askedWeek(line)) : std::nullopt);
 }
 
 answers::RoomFilter filterOf(const Inquiry& inquiry, const CommandLine& line)

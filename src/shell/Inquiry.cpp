@@ -19,6 +19,12 @@ std::vector<QString> roomNames(const timetable::Timetable& timetable)
     return names;
 }
 
+timetable::Week other(timetable::Week week)
+{
+    using timetable::Week;
+    return week == Week::A ? Week::B : week == Week::B ? Week::A : Week::Every;
+}
+
 /// "mardi, toute semaine", "mardi 24/11/2026 et les 2 semaines suivantes".
 QString daysWords(const std::vector<timetable::When>& days)
 {
@@ -87,6 +93,18 @@ QString Inquiry::whyNoRoom(const answers::RoomFilter& filter) const
                      .arg(*filter.department,
                           filter.zone ? QStringLiteral(" dans cette zone") : QString())
                : QStringLiteral("aucune salle n’est de la zone %1").arg(*filter.zone);
+}
+
+std::vector<timetable::When> Inquiry::sameDays(QDate date, int weeks,
+                                               std::optional<timetable::Week> first) const
+{
+    std::vector<timetable::When> days;
+    timetable::Week week = first.value_or(m_rhythm.weekOf(date));
+    for (int number = 0; number < weeks; ++number) {
+        days.push_back(timetable::When::date(date.addDays(number * timetable::kDaysOfWeek), week));
+        week = other(week);
+    }
+    return days;
 }
 
 files::AnswerDocument Inquiry::document(QString title, QStringList about, files::Answer answer,

@@ -38,6 +38,11 @@ public:
     /// Why no room can meet the filter; empty where one does.
     [[nodiscard]] QString whyNoRoom(const answers::RoomFilter& filter) const;
 
+    /// The date and the same day of the weeks behind it, `weeks` in all. `first` is the week that
+    /// the date lies in, where somebody knows better than the setting.
+    [[nodiscard]] std::vector<timetable::When>
+    sameDays(QDate date, int weeks, std::optional<timetable::Week> first = {}) const;
+
     [[nodiscard]] files::AnswerDocument freeRooms(const answers::FreeRoomsQuestion& question) const;
     /// Of all rooms without a subject.
     [[nodiscard]] files::AnswerDocument weekOf(const std::optional<answers::Subject>& subject,

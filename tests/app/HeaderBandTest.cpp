@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QToolButton>
 
 using namespace test;
@@ -25,9 +26,10 @@ protected:
     [[nodiscard]] const QWidget& band() const { return m_band; }
 
     QAction help{"Aide"};
+    QMenu questions;
 
 private:
-    app::HeaderBand m_band{engine(), mirror, &help};
+    app::HeaderBand m_band{engine(), mirror, &help, &questions};
 };
 
 } // namespace

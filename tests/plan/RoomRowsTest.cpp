@@ -26,6 +26,20 @@ TEST(RoomRows, areShownAsLongAsTheLabelOfTheirRoomIs)
     EXPECT_FALSE(plan::isShown(form, row));
 }
 
+TEST(RoomRows, areFoundByTheirHeight)
+{
+    form::PlanForm form;
+    form.Salle[0].place = {30, 300, 1000, 400};
+    plan::PlaceRoomRows(form); // row 1 begins at 768, 68 twips below the end of row 0
+    form.Salle[2].visible = false;
+    EXPECT_EQ(plan::rowAtHeight(form, 300), 0);
+    EXPECT_EQ(plan::rowAtHeight(form, 699), 0);
+    EXPECT_EQ(plan::rowAtHeight(form, 700), std::nullopt); // between two rows
+    EXPECT_EQ(plan::rowAtHeight(form, 768), 1);
+    EXPECT_EQ(plan::rowAtHeight(form, 1236), std::nullopt); // row 2 is hidden
+    EXPECT_EQ(plan::rowAtHeight(form, 299), std::nullopt);
+}
+
 TEST(RoomRows, endWithTheirPlacesAtTheWindowsEdge)
 {
     form::PlanForm form;

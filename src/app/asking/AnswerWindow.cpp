@@ -1,0 +1,130 @@
+#include "app/asking/AnswerWindow.h"
+
+#include "answers/Words.h"
+#include "app/PlainTexts.h"
+#include "files/WholeFile.h"
+
+#include <QEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QShortcut>
+#include <QStyle>
+#include <QTreeWidget>
+#include <utility>
+
+namespace app
+{
+
+AnswerWindow::AnswerWindow(AnswerDesk& desk, Ties ties, const QString& title, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_desk(desk), m_ties(std::move(ties)), m_status(plainLabel())
+{
+    setWindowTitle(title);
+    m_status->setObjectName(QStringLiteral("AnswerStatus"));
+    m_status->setWordWrap(true);
+    m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* close = new QShortcut(Qt::Key_Escape, this);
+    connect(close, &QShortcut::activated, this, &QWidget::close);
+}
+
+QWidget* AnswerWindow::statusLine() const
+{
+    return m_status;
+}
+
+void AnswerWindow::present()
+{
+    m_isPresented = true;
+    show();
+    raise();
+    activateWindow();
+    answer();
+}
+
+void AnswerWindow::answer()
+{
+    m_desk.ask([this] {
+        const shell::Inquiry* inquiry = m_desk.inquiry();
+        if (inquiry == nullptr) {
+            clearAnswer();
+            tell(m_desk.fault(), true);
+        } else if (!inquiry->hasCourses()) {
+            clearAnswer();
+            tell(QStringLiteral("La période « %1 » n’a aucun cours.").arg(inquiry->period()), true);
+        } else {
+            showAnswer(*inquiry);
+        }
+    });
+}
+
+void AnswerWindow::tell(const QString& sentence, bool isWarning)
+{
+    const shell::Inquiry* inquiry = m_desk.inquiry();
+    QString text = sentence;
+    if (inquiry != nullptr) {
+        text += QStringLiteral("  ·  période %1, lue à %2")
+                    .arg(inquiry->period(), inquiry->readAt().toString(QStringLiteral("HH'h'mm")));
+    }
+    m_status->setText(text);
+    m_status->setAccessibleName(text);
+    m_status->setProperty("warning", isWarning);
+    m_status->style()->unpolish(m_status); // its look depends on the property
+    m_status->style()->polish(m_status);
+}
+
+void AnswerWindow::exportAnswer(files::AnswerKind kind, const files::AnswerDocument& document)
+{
+    QStringList filters;
+    for (const files::AnswerFormat& format : files::answerFormats(kind)) {
+        filters << QStringLiteral("%1 (*.%2)").arg(format.ending.toUpper(), format.ending);
+    }
+    QString chosen;
+    QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Exporter"), QString(),
+                                                filters.join(QStringLiteral(";;")), &chosen);
+    if (path.isEmpty()) {
+        return;
+    }
+    if (files::answerFormatOf(kind, path) == nullptr) { // typed without an ending
+        const auto index = std::max<qsizetype>(filters.indexOf(chosen), 0);
+        path += u'.' + files::answerEndings(kind).at(index);
+    }
+    try {
+        files::writeWholeFile(path, files::answerFormatOf(kind, path)->write(document));
+        tell(QStringLiteral("Enregistré : %1").arg(path));
+    } catch (const files::ExportError& error) {
+        QMessageBox box(QMessageBox::Warning, windowTitle(), QString::fromUtf8(error.what()),
+                        QMessageBox::Ok, this);
+        showPlainly(box);
+        box.exec();
+    }
+}
+
+bool AnswerWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate && m_isPresented && m_desk.isOld()) {
+        answer();
+    }
+    return QWidget::event(event);
+}
+
+QTreeWidget* answerList(const QString& accessibleName, const QStringList& columns)
+{
+    auto* list = new QTreeWidget;
+    list->setAccessibleName(accessibleName);
+    list->setHeaderLabels(columns);
+    list->setRootIsDecorated(false);
+    list->setAllColumnsShowFocus(true);
+    list->setUniformRowHeights(true);
+    list->setAlternatingRowColors(true);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    list->setTextElideMode(Qt::ElideRight);
+    return list;
+}
+
+QString rhythmWords(const timetable::WeekRhythm& rhythm, QDate date)
+{
+    return rhythm.isKnown() ? answers::weekWords(rhythm.weekOf(date))
+                            : QStringLiteral("semaines A et B (« SemaineA » n’est pas réglée)");
+}
+
+} // namespace app
