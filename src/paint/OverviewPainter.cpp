@@ -35,7 +35,7 @@ constexpr double kSmallestStart = 7; ///< likewise, in the lowest rows
 constexpr double kTextOfRow = 0.6;
 // Points that texts in boxes on paper start from, and those of the smallest.
 constexpr int kPaperText = 7;
-constexpr double kLeastPaperText = 5;
+constexpr double kLeastPaperText = 4;
 // The share of the width that the names take at most, and at least.
 constexpr double kMostForNames = 0.14;
 constexpr double kLeastForNames = 0.06;
