@@ -1,0 +1,123 @@
+#include "paint/WeekBoxDrawing.h"
+
+#include "paint/Canvas.h"
+#include "paint/Inks.h"
+#include "paint/Weeks.h"
+#include "support/RuntimeMatchers.h"
+
+using namespace paint;
+using namespace test;
+using timetable::MeetingKind;
+
+namespace
+{
+
+constexpr form::Colour fill = form::Colour::fromRgb(250, 230, 120);
+constexpr QColor yellow(250, 230, 120);
+constexpr QRect place(20, 20, 200, 90);
+
+Canvas drawn(const answers::WeekBox& box, const QRect& where = place, bool isDense = false)
+{
+    Canvas canvas;
+    canvas.draw([&](QPainter& surface) {
+        const Lettering text({}, 13);
+        (isDense ? drawDenseWeekBox : drawWeekBox)(surface, {}, box, where, fill, text, 9);
+    });
+    return canvas;
+}
+
+/// What is written there: whatever is not of the fill's colour.
+QRect written(const Canvas& canvas, const QRect& where = place)
+{
+    return canvas.bounds(yellow, where.adjusted(3, 3, -3, -3));
+}
+
+} // namespace
+
+TEST(ABoxOfAWeek, fillsItsPlace)
+{
+    const Canvas canvas = drawn(boxAt(0, 480, 90));
+    EXPECT_EQ(canvas.touched(), place);
+    EXPECT_TRUE(written(canvas).isEmpty());
+}
+
+TEST(ABoxOfAWeek, hasALineForEachThing)
+{
+    const int one = written(drawn(boxAt(0, 480, 90, {"Hx"}))).height();
+    const QRect three = written(drawn(boxAt(0, 480, 90, {"Hx", "Hx", "Hx"})));
+    EXPECT_GT(three.height(), 3 * one);
+    EXPECT_NEAR(three.center().y(), place.center().y(), 3);
+}
+
+TEST(ABoxOfAWeek, leavesOutTheLastLinesThatFindNoRoom)
+{
+    const QRect low(20, 20, 200, 16);
+    EXPECT_EQ(drawn(boxAt(0, 480, 90, {"Hx", "oo", "oo"}), low).image(),
+              drawn(boxAt(0, 480, 90, {"Hx"}), low).image());
+}
+
+TEST(ABoxOfAWeek, tellsInItsCornerWhichWeekItIsOf)
+{
+    answers::WeekBox box = boxAt(0, 480, 90);
+    box.corner = "A";
+    const QRect corner(200, 20, 20, 15);
+    EXPECT_GT(drawn(box).count(kHeaderInk, corner), 50);
+    EXPECT_EQ(drawn(boxAt(0, 480, 90)).count(kHeaderInk, corner), 0);
+    const QRect narrow(20, 20, 20, 90);
+    EXPECT_EQ(drawn(box, narrow).count(kHeaderInk, narrow), 0);
+}
+
+TEST(ABoxOfAWeek, leavesItsCornerFreeOfText)
+{
+    answers::WeekBox box = boxAt(0, 480, 90, {"Hx", "Hx", "Hx", "Hx", "Hx"});
+    const int top = written(drawn(box)).top();
+    box.corner = "A";
+    const Canvas canvas = drawn(box);
+    EXPECT_GT(canvas.bounds(yellow, QRect(30, 23, 150, 80)).top(), top);
+}
+
+TEST(ABoxOfAWeek, hatchesMakeUpsAndFramesExams)
+{
+    answers::WeekBox box = boxAt(0, 480, 90);
+    box.kind = MeetingKind::MakeUp;
+    EXPECT_FALSE(written(drawn(box)).isEmpty());
+    box.kind = MeetingKind::Exam;
+    const Canvas exam = drawn(box);
+    for (const QPoint point : {QPoint(20, 60), QPoint(22, 60), QPoint(219, 60), QPoint(100, 22),
+                               QPoint(100, 107), QPoint(100, 109)}) {
+        EXPECT_EQ(exam.at(point.x(), point.y()), QColor(20, 20, 20));
+    }
+    EXPECT_EQ(exam.at(23, 60), yellow);
+    EXPECT_GT(exam.count(kHeaderInk, QRect(150, 24, 65, 10)), 100); // its label
+}
+
+TEST(ADenseBox, hasItsShortTextInSeveralLines)
+{
+    answers::WeekBox box = boxAt(0, 480, 90, {"no"});
+    box.shortText = "HHHH HHHH";
+    const QRect narrow(20, 20, 50, 40);
+    const QRect text = written(drawn(box, narrow, true), narrow);
+    EXPECT_GT(text.height(), 16); // two lines
+    EXPECT_LE(text.right(), narrow.right() - 1);
+}
+
+TEST(ADenseBox, leavesOutHowManyMoreWhereThatHelps)
+{
+    answers::WeekBox box = boxAt(0, 480, 90);
+    box.shortText = "HHHH +4";
+    answers::WeekBox first = box;
+    first.shortText = "HHHH";
+    const QRect low(20, 20, 40, 14);
+    EXPECT_EQ(drawn(box, low, true).image(), drawn(first, low, true).image());
+    EXPECT_NE(drawn(box, place, true).image(), drawn(first, place, true).image());
+}
+
+TEST(ADenseBox, hasNoTextThatTellsNothing)
+{
+    answers::WeekBox box = boxAt(0, 480, 90);
+    box.shortText = "HHHHHHHH";
+    const QRect narrow(20, 20, 20, 30);
+    EXPECT_TRUE(written(drawn(box, narrow, true), narrow).isEmpty());
+    const QRect wider(20, 20, 50, 30); // "HHHH…"
+    EXPECT_FALSE(written(drawn(box, wider, true), wider).isEmpty());
+}
