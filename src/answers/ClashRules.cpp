@@ -9,7 +9,6 @@ using timetable::Holding;
 using timetable::RoomId;
 using timetable::RoomNameId;
 
-/// Whether they begin together with the same first teacher and subject.
 bool ClashRules::areOneCourse(const Holding& left, const Holding& right) const
 {
     if (left.time->start != right.time->start) {

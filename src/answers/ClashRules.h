@@ -20,9 +20,12 @@ public:
     [[nodiscard]] bool clashOverClass(const timetable::Holding& left,
                                       const timetable::Holding& right) const;
 
-private:
+    /// Whether they begin together with the same first teacher and subject: one course of several
+    /// classes. Requires: the times of both are known.
     [[nodiscard]] bool areOneCourse(const timetable::Holding& left,
                                     const timetable::Holding& right) const;
+
+private:
     [[nodiscard]] bool shareRoom(const timetable::Holding& left,
                                  const timetable::Holding& right) const;
 

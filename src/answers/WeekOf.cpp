@@ -51,6 +51,11 @@ private:
 
 } // namespace
 
+bool isAbout(const Occupancy& occupancy, const Holding& holding, const Subject& subject)
+{
+    return std::visit(IsAbout(occupancy, holding), subject);
+}
+
 std::vector<timetable::When> AskedWeek::days() const
 {
     constexpr int daysOfWeek = 6;
@@ -89,9 +94,8 @@ std::vector<HoldingId> weekOf(const Occupancy& occupancy, const Subject& subject
                               const AskedWeek& week)
 {
     std::vector<HoldingId> items = weekOfAll(occupancy, week);
-    std::erase_if(items, [&](HoldingId id) {
-        return !std::visit(IsAbout(occupancy, occupancy.holding(id)), subject);
-    });
+    std::erase_if(
+        items, [&](HoldingId id) { return !isAbout(occupancy, occupancy.holding(id), subject); });
     return items;
 }
 
