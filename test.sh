@@ -99,7 +99,8 @@ run_tests() {
 # mariadb-server would bring a system service that starts at once; the tests start servers of their
 # own and need only the programs, which lie in the two core packages.
 packages=("${build_packages[@]}" ccache libbenchmark-dev libgtest-dev libpaper1 libsm-dev lld
-    mariadb-client-core mariadb-server-core openbox poppler-utils xdotool xvfb)
+    mariadb-client-core mariadb-server-core openbox poppler-utils python3-icalendar tzdata
+    xdotool xvfb)
 preset="test"
 if $clang; then
     packages+=(clang)

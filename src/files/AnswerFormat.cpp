@@ -1,5 +1,6 @@
 #include "files/AnswerFormat.h"
 
+#include "files/AnswerIcs.h"
 #include "files/AnswerJson.h"
 #include "files/AnswerWeekHtml.h"
 #include "files/AnswerWeekPdf.h"
@@ -14,8 +15,11 @@ namespace files
 const std::vector<AnswerFormat>& answerFormats(AnswerKind kind)
 {
     static const AnswerFormat json{QStringLiteral("json"), answerAsJson};
-    static const std::vector<AnswerFormat> week{
-        json, {QStringLiteral("html"), weekAsHtml}, {QStringLiteral("pdf"), weekAsPdf}};
+    static const AnswerFormat calendar{QStringLiteral("ics"), answerAsIcs, true};
+    static const std::vector<AnswerFormat> week{json,
+                                                {QStringLiteral("html"), weekAsHtml},
+                                                {QStringLiteral("pdf"), weekAsPdf},
+                                                calendar};
     static const std::vector<AnswerFormat> others{json};
     return kind == AnswerKind::Week ? week : others;
 }

@@ -16,8 +16,10 @@ enum class AnswerKind { FreeRooms, Week, Hits, Clashes, RoomUse };
 /// A form in which an answer becomes a file.
 struct AnswerFormat {
     QString ending; ///< of the file's name, in lower case
-    /// Error: ExportError for an answer that the form cannot hold.
+    /// Error: AnswerRefusal for an answer that the form cannot hold.
     QByteArray (*write)(const AnswerDocument&) = nullptr;
+    /// It tells of dates even where none is asked: make-ups and exams must have been read.
+    bool isDated = false;
 };
 
 /// The forms that an answer to such a question has.
