@@ -2,6 +2,7 @@
 
 #include "answers/Whereabouts.h"
 #include "files/AnswerFormat.h"
+#include "files/AnswerRefusal.h"
 #include "files/WholeFile.h"
 #include "shell/Inquiry.h"
 #include "shell/Player.h"
@@ -110,6 +111,16 @@ files::AnswerDocument answerTo(const Inquiry& inquiry, const CommandLine& line)
     return inquiry.find(request.text, weekAskedFor(inquiry, line));
 }
 
+/// Whoever started the program can mend what the form cannot hold, by asking otherwise.
+QByteArray written(const files::AnswerFormat& format, const files::AnswerDocument& answer)
+{
+    try {
+        return format.write(answer);
+    } catch (const files::AnswerRefusal& refusal) {
+        throw UsageError(QString::fromUtf8(refusal.what()));
+    }
+}
+
 } // namespace
 
 void writeAnswer(Shell& shell, const CommandLine& line)
@@ -117,16 +128,16 @@ void writeAnswer(Shell& shell, const CommandLine& line)
     choosePeriod(shell, line);
     const Inquiry inquiry(shell);
     const AnswerRequest& request = *line.answer;
-    const QString why =
-        inquiry.whyOpen(line.date.has_value(), request.kind == files::AnswerKind::Clashes);
+    const files::AnswerFormat& format = *files::answerFormatOf(request.kind, request.file);
+    const QString why = inquiry.whyOpen(line.date.has_value() || format.isDated,
+                                        request.kind == files::AnswerKind::Clashes);
     if (!why.isEmpty()) {
         throw files::ExportError(why + QStringLiteral(" : le fichier n’est pas écrit."));
     }
     if (!inquiry.hasCourses()) {
         throw UsageError(QStringLiteral("La période « %1 » n’a aucun cours").arg(inquiry.period()));
     }
-    const files::AnswerFormat& format = *files::answerFormatOf(request.kind, request.file);
-    files::writeWholeFile(request.file, format.write(answerTo(inquiry, line)));
+    files::writeWholeFile(request.file, written(format, answerTo(inquiry, line)));
 }
 
 } // namespace shell

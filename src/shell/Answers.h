@@ -9,8 +9,8 @@ namespace shell
 /// Answers the line's question about the timetable and writes the file. The line's period, week,
 /// day or date, zone and department say what it is about. Requires: a question; a program that has
 /// started up. Errors: UsageError for a name that nobody has, rooms or courses that there are none
-/// of, and a date that is missing; files::ExportError for a file that cannot be written and for an
-/// answer that the database has left open; any database error.
+/// of, a date that is missing, and what the file's form cannot hold; files::ExportError for a file
+/// that cannot be written and for an answer that the database has left open; any database error.
 void writeAnswer(Shell& shell, const CommandLine& line);
 
 } // namespace shell

@@ -167,6 +167,55 @@ TEST_P(Answers, tellTheWeekOfSomebody)
               "--teacher : « Personne » n’existe pas");
 }
 
+TEST_P(Answers, areWrittenAsACalendarOfThePeriodOrOfAWeek)
+{
+    const QString calendar = folder.filePath("plan.ics");
+    const auto starts = [&](const QStringList& arguments) {
+        write(QStringList{"--week-of", calendar} + arguments);
+        QStringList found;
+        for (const QString& line : fileText(calendar).split("\r\n")) {
+            if (line.startsWith("DTSTART;TZID=")) {
+                found << line.section(':', 1);
+            }
+        }
+        return found;
+    };
+    // 18 Mondays from 3 February to 2 June, the make-up of 17 March and the exam of 9 June.
+    const QStringList ofDupont = starts({"--teacher", "Dupont"});
+    EXPECT_EQ(ofDupont.size(), 18 + 2);
+    EXPECT_EQ(ofDupont.first(), "20250203T083000");
+    EXPECT_TRUE(ofDupont.contains("20250317T101500"));
+    EXPECT_EQ(ofDupont.mid(18), QStringList({"20250602T083000", "20250609T083000"}));
+    EXPECT_EQ(starts({"--room", "A2", "--date", "2025-03-19"}),
+              QStringList({"20250317T083000", "20250317T101500", "20250318T101500"}));
+    semaineA = "2025-02-03"; // then the Mondays of the weeks B are 10 and 24 February and so on
+    const QStringList ofBlanc = starts({"--teacher", "Blanc"});
+    EXPECT_EQ(ofBlanc.size(), 9);
+    EXPECT_EQ(ofBlanc.mid(0, 2), QStringList({"20250210T083000", "20250224T083000"}));
+}
+
+TEST_P(Answers, areNoCalendarWhereNobodyKnowsWhichWeekIsWhich)
+{
+    const QString calendar = folder.filePath("plan.ics");
+    EXPECT_EQ(refusal({"--week-of", calendar, "--room", "C1"}),
+              "Les dates des semaines A et B ne sont pas connues : indiquez dans le paramètre "
+              "SemaineA le lundi d’une semaine A (AAAA-MM-JJ)");
+    EXPECT_FALSE(QFile::exists(calendar));
+    // Told on the line for one week.
+    write({"--week-of", calendar, "--room", "C1", "--date", "2025-03-17", "--week", "B"});
+    EXPECT_TRUE(fileText(calendar).contains("SUMMARY:Optique – G3\r\n"));
+}
+
+TEST_P(Answers, areNoCalendarWhereMakeUpsOrExamsCannotBeRead)
+{
+    const QString calendar = folder.filePath("plan.ics");
+    database().execute("drop table examen");
+    EXPECT_THROW(write({"--week-of", calendar, "--room", "A2"}), files::ExportError);
+    EXPECT_FALSE(QFile::exists(calendar));
+    // The week of the teaching weeks has none.
+    EXPECT_EQ(each(answer("--week-of", {"--room", "A2"})["items"], "day").size(), 2);
+}
+
 TEST_P(Answers, findNames)
 {
     const QJsonValue hits = answer("--find", {"--text", "DU"})["hits"];
