@@ -76,6 +76,19 @@ TEST(IcsZone, thatNobodyKnowsIsUtc)
         ";TZID=Europe/Paris");
 }
 
+TEST(IcsZone, thatIsARuleStandsInQuotes)
+{
+    const QDate winter(2026, 11, 9);
+    const QByteArray rule = "CET-1CEST,M3.5.0,M10.5.0/3";
+    EXPECT_EQ(IcsZone(QTimeZone(rule), winter, winter).parameter(),
+              ";TZID=\"CET-1CEST,M3.5.0,M10.5.0/3\"");
+    EXPECT_EQ(written(rule, winter, winter),
+              "BEGIN:VTIMEZONE TZID:CET-1CEST\\,M3.5.0\\,M10.5.0/3 "
+              "BEGIN:STANDARD DTSTART:20261025T030000 TZOFFSETFROM:+0200 TZOFFSETTO:+0100 "
+              "TZNAME:CET END:STANDARD "
+              "END:VTIMEZONE");
+}
+
 TEST(IcsZone, leavesTimesAsTheClockShowsThem)
 {
     EXPECT_EQ(clock(QDate(2026, 11, 9), 510, 90), "09 08:30 – 09 10:00");
