@@ -4,6 +4,7 @@
 
 #include <QStringList>
 #include <algorithm>
+#include <array>
 #include <set>
 
 namespace answers
@@ -186,8 +187,26 @@ QString clashSentence(const Occupancy& occupancy, const Clash& clash)
         where += QStringLiteral(", ") + dayWords(clash.day, clash.date) +
                  (clash.time ? fromToWords(*clash.time) : QString()) + inWeekWords(clash.weeks);
     }
-    return where + QStringLiteral(" : ") + faultWords(occupancy, clash) +
-           holdersWords(occupancy, clash) + u'.';
+    return where + QStringLiteral(" : ") + clashFault(occupancy, clash) + u'.';
+}
+
+QString clashFault(const Occupancy& occupancy, const Clash& clash)
+{
+    return faultWords(occupancy, clash) + holdersWords(occupancy, clash);
+}
+
+QString kindWords(ClashKind kind)
+{
+    static const std::array words{QStringLiteral("Salle en double"),
+                                  QStringLiteral("Enseignant en double"),
+                                  QStringLiteral("Classe en double"),
+                                  QStringLiteral("Salle trop petite"),
+                                  QStringLiteral("Rattrapage : salle en double"),
+                                  QStringLiteral("Rattrapage : enseignant en double"),
+                                  QStringLiteral("Rattrapage : classe en double"),
+                                  QStringLiteral("Salle inconnue"),
+                                  QStringLiteral("Heure inconnue")};
+    return words.at(static_cast<std::size_t>(kind));
 }
 
 } // namespace answers

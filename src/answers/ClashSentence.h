@@ -14,4 +14,10 @@ namespace answers
 /// many holders the first five.
 [[nodiscard]] QString clashSentence(const timetable::Occupancy& occupancy, const Clash& clash);
 
+/// The sentence without where and when: "deux séances à la fois (L1 A avec Durand, L2 B)".
+[[nodiscard]] QString clashFault(const timetable::Occupancy& occupancy, const Clash& clash);
+
+/// What is wrong, in a few words: "Salle en double".
+[[nodiscard]] QString kindWords(ClashKind kind);
+
 } // namespace answers

@@ -1,9 +1,54 @@
 #include "answers/HolderWords.h"
 
+#include "answers/Words.h"
+
 #include <QStringList>
+#include <algorithm>
+#include <utility>
 
 namespace answers
 {
+namespace
+{
+
+/// Classes that are in a room together.
+struct Company {
+    timetable::Holder first; ///< without its class
+    QStringList classes;
+};
+
+/// Whether the holders, apart from their classes, are told by the same words.
+bool areTogether(const timetable::Holder& left, const timetable::Holder& right)
+{
+    return left.kind == right.kind && left.date == right.date && left.weeks == right.weeks &&
+           left.teachers == right.teachers && left.subject == right.subject &&
+           left.time->end() == right.time->end();
+}
+
+QString companyWords(const Company& company)
+{
+    const timetable::Holder& holder = company.first;
+    QString kind = kindWords(holder.kind);
+    if (holder.date.isValid()) {
+        kind += QStringLiteral(" du ") + holder.date.toString(QStringLiteral("dd/MM/yyyy"));
+    }
+    QStringList words = company.classes;
+    words << holder.teachers.join(QStringLiteral(" et "));
+    words.removeAll(QString());
+    if (words.isEmpty()) {
+        words << (holder.subject.isEmpty() ? QStringLiteral("séance sans nom") : holder.subject);
+    }
+    if (!kind.isEmpty()) {
+        words.prepend(kind);
+    }
+    if (holder.weeks != timetable::Week::Every) {
+        words << weekWords(holder.weeks);
+    }
+    words << QStringLiteral("jusqu’à ") + clockWords(holder.time->end());
+    return words.join(QStringLiteral(", "));
+}
+
+} // namespace
 
 QString whyUnknown(const timetable::Occupancy& occupancy,
                    const std::vector<timetable::HoldingId>& ids)
@@ -23,6 +68,33 @@ QString whyUnknown(const timetable::Occupancy& occupancy,
     }
     reasons.removeDuplicates();
     return reasons.join(QStringLiteral(" ; "));
+}
+
+QString holdersWords(const timetable::Occupancy& occupancy,
+                     const std::vector<timetable::HoldingId>& ids)
+{
+    std::vector<Company> companies;
+    for (const timetable::HoldingId id : ids) {
+        timetable::Holder holder = occupancy.describe(occupancy.holding(id));
+        const QString className = std::exchange(holder.className, QString());
+        const auto same =
+            std::find_if(companies.begin(), companies.end(), [&holder](const Company& company) {
+                return areTogether(company.first, holder);
+            });
+        if (same == companies.end()) {
+            companies.push_back({std::move(holder), {className}});
+        } else {
+            same->classes << className;
+        }
+    }
+    QStringList words;
+    for (Company& company : companies) {
+        company.classes.removeAll(QString());
+        company.classes.removeDuplicates();
+        words << companyWords(company);
+    }
+    words.removeDuplicates();
+    return words.join(QStringLiteral(" ; "));
 }
 
 } // namespace answers

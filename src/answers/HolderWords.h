@@ -13,4 +13,10 @@ namespace answers
 [[nodiscard]] QString whyUnknown(const timetable::Occupancy& occupancy,
                                  const std::vector<timetable::HoldingId>& ids);
 
+/// What holds a room and until when, in French: "L2 GE A, L2 GE B, Durand, jusqu’à 11h00"; classes
+/// that are there together are told together. What is not of every week says so, what is no course
+/// its kind and date. Requires: their time is known.
+[[nodiscard]] QString holdersWords(const timetable::Occupancy& occupancy,
+                                   const std::vector<timetable::HoldingId>& ids);
+
 } // namespace answers

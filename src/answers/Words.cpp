@@ -96,4 +96,22 @@ QString kindWords(timetable::MeetingKind kind)
                                                   : QString();
 }
 
+QString percentWords(double share)
+{
+    constexpr double hundred = 100;
+    constexpr QChar narrowBlank(0x202f);
+    const int percent = qRound(share * hundred);
+    const QString less = percent == 0 && share > 0 ? QStringLiteral("<") + narrowBlank : QString();
+    return less + QString::number(less.isEmpty() ? percent : 1) + narrowBlank + u'%';
+}
+
+QString numberWords(double number)
+{
+    QString words = QString::number(number, 'f', 1);
+    if (words.endsWith(u".0")) {
+        words.chop(2);
+    }
+    return words.replace(u'.', u',');
+}
+
 } // namespace answers

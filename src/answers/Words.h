@@ -30,5 +30,10 @@ namespace answers
 [[nodiscard]] QString shareWords(double share);
 /// "rattrapage", "examen", or nothing for a course.
 [[nodiscard]] QString kindWords(timetable::MeetingKind kind);
+/// A share from 0 to 1 in whole percent, "62 %" with a narrow no-break space; "< 1 %" for what
+/// would be rounded to nothing.
+[[nodiscard]] QString percentWords(double share);
+/// "2" or "1,5": at most one decimal.
+[[nodiscard]] QString numberWords(double number);
 
 } // namespace answers

@@ -135,3 +135,21 @@ TEST_F(TheSentence, knowsSundaysAndRoomsWithoutAName)
               QStringList("Salle sans nom, dimanche 22/11/2026 de 8h00 à 9h30 : deux "
                           "séances à la fois (rattrapage L1, rattrapage L2 avec Petit)."));
 }
+
+TEST_F(TheSentence, isAlsoToldWithoutWhereAndWhen)
+{
+    school.course({"Lundi1", "Amphi B", "L1 A", "Durand"});
+    school.course({"Lundi1", "Amphi B", "L2 B", "Petit"});
+    const std::vector<Clash> clashes = school.clashes();
+    ASSERT_EQ(clashes.size(), 1U);
+    EXPECT_EQ(clashFault(school.occupancy(), clashes.front()),
+              "deux séances à la fois (L1 A avec Durand, L2 B avec Petit)");
+}
+
+TEST_F(TheSentence, hasAFewWordsForEachKind)
+{
+    EXPECT_EQ(kindWords(ClashKind::Room), "Salle en double");
+    EXPECT_EQ(kindWords(ClashKind::Overfull), "Salle trop petite");
+    EXPECT_EQ(kindWords(ClashKind::MakeupRoom), "Rattrapage : salle en double");
+    EXPECT_EQ(kindWords(ClashKind::NoTime), "Heure inconnue");
+}

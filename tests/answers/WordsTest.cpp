@@ -74,3 +74,20 @@ TEST(Words, nameWhatIsNoCourse)
     EXPECT_EQ(kindWords(timetable::MeetingKind::MakeUp), "rattrapage");
     EXPECT_EQ(kindWords(timetable::MeetingKind::Exam), "examen");
 }
+
+TEST(Words, nameSharesInWholePercent)
+{
+    EXPECT_EQ(percentWords(0), u"0\u202f%");
+    EXPECT_EQ(percentWords(0.004), u"<\u202f1\u202f%");
+    EXPECT_EQ(percentWords(0.006), u"1\u202f%");
+    EXPECT_EQ(percentWords(0.624), u"62\u202f%");
+    EXPECT_EQ(percentWords(1), u"100\u202f%");
+}
+
+TEST(Words, nameNumbersWithADecimalCommaWhereTheyNeedIt)
+{
+    EXPECT_EQ(numberWords(0), "0");
+    EXPECT_EQ(numberWords(12), "12");
+    EXPECT_EQ(numberWords(1.5), "1,5");
+    EXPECT_EQ(numberWords(66.666), "66,7");
+}
