@@ -1,5 +1,6 @@
 #include "files/AnswerFormat.h"
 
+#include "files/AnswerCsv.h"
 #include "files/AnswerIcs.h"
 #include "files/AnswerJson.h"
 #include "files/AnswerWeekHtml.h"
@@ -15,12 +16,14 @@ namespace files
 const std::vector<AnswerFormat>& answerFormats(AnswerKind kind)
 {
     static const AnswerFormat json{QStringLiteral("json"), answerAsJson};
+    static const AnswerFormat csv{QStringLiteral("csv"), answerAsCsv};
     static const AnswerFormat calendar{QStringLiteral("ics"), answerAsIcs, true};
     static const std::vector<AnswerFormat> week{json,
+                                                csv,
                                                 {QStringLiteral("html"), weekAsHtml},
                                                 {QStringLiteral("pdf"), weekAsPdf},
                                                 calendar};
-    static const std::vector<AnswerFormat> others{json};
+    static const std::vector<AnswerFormat> others{json, csv};
     return kind == AnswerKind::Week ? week : others;
 }
 
