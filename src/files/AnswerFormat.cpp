@@ -1,8 +1,10 @@
 #include "files/AnswerFormat.h"
 
 #include "files/AnswerCsv.h"
+#include "files/AnswerHtml.h"
 #include "files/AnswerIcs.h"
 #include "files/AnswerJson.h"
+#include "files/AnswerPdf.h"
 #include "files/AnswerWeekHtml.h"
 #include "files/AnswerWeekPdf.h"
 
@@ -23,7 +25,10 @@ const std::vector<AnswerFormat>& answerFormats(AnswerKind kind)
                                                 {QStringLiteral("html"), weekAsHtml},
                                                 {QStringLiteral("pdf"), weekAsPdf},
                                                 calendar};
-    static const std::vector<AnswerFormat> others{json, csv};
+    static const std::vector<AnswerFormat> others{json,
+                                                  csv,
+                                                  {QStringLiteral("html"), answerAsHtml},
+                                                  {QStringLiteral("pdf"), answerAsPdf}};
     return kind == AnswerKind::Week ? week : others;
 }
 

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPaintDevice>
+#include <QPainter>
+#include <QString>
+#include <QStringList>
+
+namespace files
+{
+
+/// Texts in one font on paper, which must outlive it. All lengths are pixels of the paper.
+class PaperText
+{
+public:
+    PaperText(const QFont& font, QPaintDevice& paper);
+
+    [[nodiscard]] double lineHeight() const { return m_lineHeight; }
+    [[nodiscard]] double width(const QString& text) const;
+    /// The width of its longest word.
+    [[nodiscard]] double longestWord(const QString& text) const;
+    /// The lines that it takes in that width, at least one; words wider than that are broken.
+    [[nodiscard]] QStringList lines(const QString& text, double width) const;
+
+    /// Draws lines below each other from `top` on, each within the width.
+    void draw(QPainter& surface, const QStringList& lines, QPointF topLeft, double width,
+              Qt::Alignment alignment, const QColor& ink) const;
+
+private:
+    QFont m_font;
+    QPaintDevice& m_paper;
+    double m_lineHeight;
+    double m_ascent;
+};
+
+} // namespace files
