@@ -288,3 +288,48 @@ TEST_P(Answers, tellHowMuchTheRoomsAreUsed)
     EXPECT_TRUE(answer("--use", {})["seats_share"].isNull());
     EXPECT_THROW(write({"--clashes", file}), files::ExportError);
 }
+
+TEST_P(Answers, areWrittenInTheFormThatTheFileAsksFor)
+{
+    const std::vector<QStringList> questions{
+        QStringList("--free") + firstSlot, {"--find", "--text", "a"}, {"--clashes"}, {"--use"}};
+    for (const QStringList& question : questions) {
+        const auto bytes = [&](const QString& ending) {
+            const QString path = folder.filePath("answer." + ending);
+            write(QStringList{question.first(), path} + question.mid(1));
+            QFile written(path);
+            EXPECT_TRUE(written.open(QIODevice::ReadOnly));
+            return written.readAll();
+        };
+        SCOPED_TRACE(question.first().toStdString());
+        EXPECT_TRUE(bytes("json").startsWith("{"));
+        EXPECT_TRUE(bytes("csv").startsWith("\xef\xbb\xbf"));
+        EXPECT_TRUE(bytes("html").startsWith("<!DOCTYPE html>"));
+        EXPECT_TRUE(bytes("PDF").startsWith("%PDF-"));
+        EXPECT_EQ(bytes("pdf"), bytes("PDF"));
+    }
+}
+
+TEST_P(Answers, areListsForSpreadsheets)
+{
+    const auto lines = [this](const QStringList& arguments) {
+        const QString path = folder.filePath("answer.csv");
+        write(QStringList{arguments.first(), path} + arguments.mid(1));
+        return fileText(path).split("\r\n");
+    };
+    EXPECT_EQ(lines({"--week-of", "--class", "G2"}).mid(1),
+              QStringList({"Lundi;10h15;11h45;B2;G2;Petit;Physique;toutes;cours",
+                           "Lundi;14h00;17h00;B1;G2;Martin;Analyse;toutes;cours", ""}));
+    // The make-up of Monday, 17 March, holds A2.
+    EXPECT_EQ(
+        lines({"--free", "--date", "2025-03-17", "--from", "10h15", "--to", "11h45", "--zone", "1"})
+            .mid(1),
+        QStringList({"libre;A1;30;1;INFO;8h30;17h15;;",
+                     "occupée;A2;40;;;;;rattrapage du 17/03/2025, G1, Dupont, jusqu’à "
+                     "11h45;",
+                     ""}));
+    // Of 24 slots on six days A2 is held in two, G1's 3 students and G3's 2 in its 40 places.
+    const QStringList use = lines({"--use", "--week", "A", "--zone", "1"});
+    EXPECT_TRUE(use.contains("salle;A2;1;40;2;24;8,3%;0,5%;;;;;")) << use.join('\n').toStdString();
+    EXPECT_TRUE(use.contains("créneau;;;;;;50%;;2;Lundi;1;8h30–10h00;1"));
+}
