@@ -57,6 +57,7 @@ public:
         }
         for (const QString& note : table.notes) {
             text(note, fontOf(8), kQuietInk, 2 * kPaperPoint);
+            m_blocks.back().keepsNext = true;
         }
     }
 

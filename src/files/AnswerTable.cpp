@@ -220,12 +220,12 @@ struct Filling {
     void addWeeks(const HitList& hits)
     {
         for (const answers::Hit& hit : hits) {
-            TableSection section{
-                QStringLiteral("%1 (%2)").arg(hit.name, answers::kindWords(hit.subject).toLower()),
-                {},
-                {},
-                itemColumns(document.date.isValid()),
-                {}};
+            TableSection section{QStringLiteral("%1 (%2)").arg(
+                                     hit.name.trimmed(), answers::kindWords(hit.subject).toLower()),
+                                 {},
+                                 {},
+                                 itemColumns(document.date.isValid()),
+                                 {}};
             for (const HoldingId id : hit.items) {
                 section.rows.push_back(rowOf(itemTexts(occupancy(), id, document.date)));
             }

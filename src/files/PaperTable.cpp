@@ -12,9 +12,9 @@ namespace files
 namespace
 {
 
-constexpr double kAside = 5 * kPaperPoint;   ///< between a cell's text and its neighbours
-constexpr double kAbove = 2.5 * kPaperPoint; ///< and the lines above and below it
-constexpr double kBar = 62 * kPaperPoint;    ///< the longest bar
+constexpr double kAside = 5 * kPaperPoint; ///< between a cell's text and its neighbours
+constexpr double kAbove = 2 * kPaperPoint; ///< and the lines above and below it
+constexpr double kBar = 62 * kPaperPoint;  ///< the longest bar
 constexpr double kBarHeight = 6 * kPaperPoint;
 constexpr double kLine = 0.5 * kPaperPoint;
 constexpr double kGap = 1 * kPaperPoint; ///< around shades

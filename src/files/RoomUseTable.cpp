@@ -2,6 +2,7 @@
 
 #include "answers/Words.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
@@ -31,16 +32,18 @@ TableCell numberCell(double number)
     return textCell(answers::numberWords(number));
 }
 
-/// The slot's times, as far as they are known.
+/// A slot that is reckoned with has a readable start.
+timetable::MinuteOfDay startOf(const Timetable& timetable, const UseOfSlot& use)
+{
+    return timetable.slot(use.day, use.slot)->start.value();
+}
+
 QString timesOf(const Timetable& timetable, const UseOfSlot& use)
 {
-    const timetable::DaySlot* slot = timetable.slot(use.day, use.slot);
-    if (slot == nullptr || !slot->start) {
-        return {};
-    }
-    return slot->end && *slot->end > *slot->start
-               ? answers::spanWords(timetable::between(*slot->start, *slot->end))
-               : answers::clockWords(*slot->start);
+    const auto start = startOf(timetable, use);
+    const auto end = timetable.slot(use.day, use.slot)->end;
+    return end && *end > start ? answers::spanWords(timetable::between(start, *end))
+                               : answers::clockWords(start);
 }
 
 /// Rooms taken together.
@@ -174,34 +177,60 @@ TableSection slotList(const Timetable& timetable, const answers::RoomUse& use)
     return section;
 }
 
-/// The name of a row of the grid: its number, and its times where all days have the same.
-QString gridTitle(const Timetable& timetable, const std::vector<UseOfSlot>& slots, int number)
+/// The times that most days give the slot of that number; of several those of the first day.
+QString usualTimes(const Timetable& timetable, const std::vector<UseOfSlot>& slots, int number)
 {
-    std::set<QString> times;
+    std::vector<std::pair<QString, int>> counts;
     for (const UseOfSlot& slot : slots) {
         if (slot.slot == number) {
-            times.insert(timesOf(timetable, slot));
+            const QString times = timesOf(timetable, slot);
+            const auto known = std::find_if(counts.begin(), counts.end(),
+                                            [&](const auto& each) { return each.first == times; });
+            if (known == counts.end()) {
+                counts.emplace_back(times, 1);
+            } else {
+                ++known->second;
+            }
         }
     }
-    const QString title = QString::number(number);
-    return times.size() == 1 ? title + QStringLiteral(" : ") + *times.begin() : title;
+    const auto most =
+        std::max_element(counts.begin(), counts.end(), [](const auto& left, const auto& right) {
+            return left.second < right.second;
+        });
+    return most == counts.end() ? QString() : most->first;
 }
 
-/// The mean of some slots, nothing where there are none.
+/// A slot of the grid, with its start where its times are not the usual ones; nothing where the day
+/// has none of that number.
+TableCell slotCell(const Timetable& timetable, const std::vector<UseOfSlot>& slots, int day,
+                   int number, const QString& usualTimes)
+{
+    const auto slot = std::find_if(slots.begin(), slots.end(), [&](const UseOfSlot& each) {
+        return each.day == day && each.slot == number;
+    });
+    if (slot == slots.end()) {
+        return {};
+    }
+    TableCell cell = shareCell(slot->share);
+    if (timesOf(timetable, *slot) != usualTimes) {
+        cell.text += QStringLiteral(" à ") + answers::clockWords(startOf(timetable, *slot));
+    }
+    return cell;
+}
+
+/// The mean of some slots, of which there is one at least.
 template <typename Wanted>
 TableCell meanCell(const std::vector<UseOfSlot>& slots, Wanted isWanted)
 {
     double held = 0;
     int rooms = 0;
-    bool isThere = false;
     for (const UseOfSlot& slot : slots) {
         if (isWanted(slot)) {
-            isThere = true;
             held += slot.held;
             rooms += slot.rooms;
         }
     }
-    return isThere ? shareCell(rooms > 0 ? held / rooms : 0) : TableCell();
+    return shareCell(rooms > 0 ? held / rooms : 0);
 }
 
 /// Days across, slots down; at its edges the means.
@@ -222,22 +251,24 @@ TableSection slotGrid(const Timetable& timetable, const answers::RoomUse& use)
         section.columns.push_back({dayTitle(day), ColumnLook::Shade});
     }
     section.columns.push_back({QStringLiteral("Moyenne"), ColumnLook::Shade});
-    const auto addRow = [&](const QString& title, auto isInRow) {
-        TableRow row{textCell(title)};
-        for (const int day : days) {
-            row.push_back(meanCell(use.slots, [&](const UseOfSlot& slot) {
-                return slot.day == day && isInRow(slot);
-            }));
-        }
-        row.push_back(meanCell(use.slots, isInRow));
-        section.rows.push_back(std::move(row));
-    };
     for (const int number : numbers) {
-        addRow(gridTitle(timetable, use.slots, number),
-               [number](const UseOfSlot& slot) { return slot.slot == number; });
+        const QString times = usualTimes(timetable, use.slots, number);
+        TableRow row{textCell(QStringLiteral("%1 : %2").arg(number).arg(times))};
+        for (const int day : days) {
+            row.push_back(slotCell(timetable, use.slots, day, number, times));
+        }
+        row.push_back(
+            meanCell(use.slots, [number](const UseOfSlot& slot) { return slot.slot == number; }));
+        section.rows.push_back(std::move(row));
     }
     if (!numbers.empty()) {
-        addRow(QStringLiteral("Moyenne"), [](const UseOfSlot&) { return true; });
+        TableRow row{textCell(QStringLiteral("Moyenne"))};
+        for (const int day : days) {
+            row.push_back(
+                meanCell(use.slots, [day](const UseOfSlot& slot) { return slot.day == day; }));
+        }
+        row.push_back(meanCell(use.slots, [](const UseOfSlot&) { return true; }));
+        section.rows.push_back(std::move(row));
     }
     return section;
 }
@@ -252,7 +283,8 @@ QStringList notesOf(const answers::RoomUse& use)
                        "sur deux compte pour un demi. Un cours dont l’heure est inconnue n’en "
                        "tient aucun."),
         QStringLiteral("Taux : les créneaux tenus sur tous ceux de la semaine ; par jour et "
-                       "créneau, les salles tenues sur toutes les salles."),
+                       "créneau, les salles tenues sur toutes les salles. Un créneau qui a une "
+                       "autre heure ce jour-là la dit."),
         QStringLiteral("Taux des sièges : les étudiants inscrits dans les classes présentes, "
                        "chaque classe une fois et au plus les places de la salle, sur les places "
                        "de tous les créneaux, tenus ou non. Une salle sans places n’en a pas."),

@@ -87,12 +87,12 @@ TEST_F(TheUseAsTable, isAGridOfDaysAndSlotsOnPages)
                            "Moyenne|25 %|0 %|0 %|0 %|0 %|0 %|4 %"}));     // 1.5 / 6; 1.5 / 36
 }
 
-TEST_F(TheUseAsTable, leavesThePlacesOfMissingSlotsInTheGridEmpty)
+TEST_F(TheUseAsTable, leavesMissingSlotsOfTheGridEmptyAndTellsOtherTimes)
 {
     school.draft().slot("Mardi1", "10h00", "11h30");
     // Tuesday has one slot of its own, at another time than the others'.
     EXPECT_EQ(rowsOf(table(TableUse::Page), "créneau"),
-              QStringList({"1|33 %|0 %|0 %|0 %|0 %|0 %|6 %",
+              QStringList({"1 : 8h00–9h30|33 %|0 % à 10h00|0 %|0 %|0 %|0 %|6 %",
                            "2 : 9h30–11h00|17 %||0 %|0 %|0 %|0 %|3 %", // 0.5 / 15
                            "Moyenne|25 %|0 %|0 %|0 %|0 %|0 %|5 %"}));  // 1.5 / 33
 }
