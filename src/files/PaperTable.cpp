@@ -4,6 +4,7 @@
 #include "paint/CellBox.h"
 #include "paint/Inks.h"
 
+#include <QSet>
 #include <algorithm>
 #include <numeric>
 
@@ -138,9 +139,14 @@ void PaperTable::measure(const TableSection& section, double width)
             longestWord = longest = barTextWidth(m_fonts->plain);
         }
         const PaperText& text = column == 0 ? m_fonts->bold : m_fonts->plain;
+        QSet<QString> measured; // long lists say the same thing again and again
         for (const TableRow& row : section.rows) {
-            longestWord = std::max(longestWord, text.longestWord(row[column].text));
-            longest = std::max(longest, text.width(row[column].text));
+            const QString& words = row[column].text;
+            if (!measured.contains(words)) {
+                measured.insert(words);
+                longestWord = std::max(longestWord, text.longestWord(words));
+                longest = std::max(longest, text.width(words));
+            }
         }
         least.push_back(std::min(longestWord, kLongestWord) + extra);
         wished.push_back(longest + extra);

@@ -1,6 +1,5 @@
 #include "files/PaperText.h"
 
-#include <QFontMetricsF>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -24,16 +23,14 @@ QString onOneLine(QString text)
 
 } // namespace
 
-PaperText::PaperText(const QFont& font, QPaintDevice& paper) : m_font(font), m_paper(paper)
+PaperText::PaperText(const QFont& font, QPaintDevice& paper)
+    : m_font(font), m_paper(paper), m_metrics(font, &paper)
 {
-    const QFontMetricsF metrics(m_font, &m_paper);
-    m_lineHeight = metrics.height();
-    m_ascent = metrics.ascent();
 }
 
 double PaperText::width(const QString& text) const
 {
-    return QFontMetricsF(m_font, &m_paper).horizontalAdvance(onOneLine(text));
+    return m_metrics.horizontalAdvance(onOneLine(text));
 }
 
 double PaperText::longestWord(const QString& text) const
@@ -70,14 +67,13 @@ void PaperText::draw(QPainter& surface, const QStringList& lines, QPointF topLef
 {
     surface.setFont(m_font);
     surface.setPen(ink);
-    double baseline = topLeft.y() + m_ascent;
+    double baseline = topLeft.y() + m_metrics.ascent();
     for (const QString& line : lines) {
-        const double spare = width - this->width(line);
-        const double indent = alignment.testFlag(Qt::AlignRight)     ? spare
-                              : alignment.testFlag(Qt::AlignHCenter) ? spare / 2
-                                                                     : 0;
-        surface.drawText(QPointF(topLeft.x() + indent, baseline), line);
-        baseline += m_lineHeight;
+        const double indent = alignment.testFlag(Qt::AlignLeft) ? 0 : width - this->width(line);
+        const double left =
+            topLeft.x() + (alignment.testFlag(Qt::AlignHCenter) ? indent / 2 : indent);
+        surface.drawText(QPointF(left, baseline), line);
+        baseline += lineHeight();
     }
 }
 

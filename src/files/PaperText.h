@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QString>
@@ -16,7 +17,7 @@ class PaperText
 public:
     PaperText(const QFont& font, QPaintDevice& paper);
 
-    [[nodiscard]] double lineHeight() const { return m_lineHeight; }
+    [[nodiscard]] double lineHeight() const { return m_metrics.height(); }
     [[nodiscard]] double width(const QString& text) const;
     /// The width of its longest word.
     [[nodiscard]] double longestWord(const QString& text) const;
@@ -30,8 +31,7 @@ public:
 private:
     QFont m_font;
     QPaintDevice& m_paper;
-    double m_lineHeight;
-    double m_ascent;
+    QFontMetricsF m_metrics;
 };
 
 } // namespace files
