@@ -25,9 +25,9 @@ using timetable::When;
 namespace
 {
 
-constexpr int kQuestionsOfPeriod = 100;
-constexpr int kShownRooms = 3;       ///< of a question, of which the plan is asked
-constexpr int kQuestionsOfFile = 10; ///< one question of so many is asked on the command line, too
+constexpr int kQuestionsOfPeriod = 250; ///< at most
+constexpr int kShownRooms = 2;          ///< of a question, of which the plan is asked
+constexpr int kQuestionsOfFile = 20;    ///< one of so many is asked on the command line, too
 
 Week weekOf(char week)
 {
@@ -226,14 +226,14 @@ class JudgedFreeRooms : public OnBothDatabases
 {
 protected:
     /// All questions about one period of a database.
-    void judge(TestDatabase& tables, RandomWeek& week, int period, ShellDesk& desk)
+    void judge(TestDatabase& tables, RandomWeek& week, int period, ShellDesk& desk, int wanted)
     {
         const MinuteBook book(tables, period);
         db::Connection connection(tables.connectString());
         const timetable::Occupancy occupancy(std::make_shared<const timetable::Timetable>(
             timetable::readTimetable(connection, period)));
         ShownHours shown(tables, period, book);
-        for (int question = 0; question < kQuestionsOfPeriod && !HasFailure(); ++question) {
+        for (int question = 0; question < wanted && !HasFailure(); ++question) {
             const AskedRooms asked = anyQuestion(week);
             SCOPED_TRACE(words(asked));
             const QStringList expected = book.answer(asked);
@@ -324,6 +324,7 @@ TEST_P(JudgedFreeRooms, areThoseOfEveryMinute)
 {
     constexpr int cellsOfQuestion = 25; // about as many as there are rooms
     const int wanted = judgedCells() / cellsOfQuestion;
+    const int ofPeriod = std::min(wanted / 4, kQuestionsOfPeriod); // at least two databases
     for (unsigned seed = 1; questions < wanted && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         TestDatabase tables(GetParam());
@@ -334,13 +335,13 @@ TEST_P(JudgedFreeRooms, areThoseOfEveryMinute)
         }
         for (int period = 1; period <= 2 && !HasFailure(); ++period) {
             SCOPED_TRACE(testing::Message() << "period " << period);
-            judge(tables, week, period, desk);
+            judge(tables, week, period, desk, ofPeriod);
         }
     }
     // The comparison is worth something only if there is something to compare.
     EXPECT_GT(free, questions);
-    EXPECT_GT(taken, questions);
+    EXPECT_GT(taken, questions / 2);
     EXPECT_GT(unknown, questions / 10);
-    EXPECT_GT(files, questions / kQuestionsOfFile / 2);
-    EXPECT_GT(shownHours, questions / 10);
+    EXPECT_GT(files, questions / kQuestionsOfFile / 4);
+    EXPECT_GT(shownHours, questions / 50);
 }
