@@ -69,7 +69,7 @@ QString EntryWords::summary() const
     QStringList words{first.subject, classes.join(QStringLiteral(", "))};
     words.removeAll(QString());
     const QString what = words.join(QStringLiteral(" – "));
-    const QString kind = kindWord(first.kind);
+    QString kind = kindWord(first.kind);
     if (what.isEmpty()) {
         return kind;
     }
