@@ -40,3 +40,10 @@ TEST(HtmlDocument, isAWholePageAroundABody)
     }
     EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
 }
+
+TEST(HtmlDocument, takesAnyStyleInThePlansPlace)
+{
+    const QString page = htmlDocument("Titre", "<p>Bonjour</p>", "p { margin: 0; }");
+    EXPECT_TRUE(page.contains("<style>p { margin: 0; }</style>"));
+    EXPECT_EQ(page.count("<style>"), 1);
+}

@@ -5,6 +5,7 @@
 #include "support/RuntimeMatchers.h"
 
 #include <QFontInfo>
+#include <QPainter>
 #include <QRegularExpression>
 
 using namespace test;
@@ -189,6 +190,22 @@ TEST(PdfDocument, movesEveryPositionBehindALongerDate)
     EXPECT_TRUE(fixed.contains("startxref\n84\n"));
     EXPECT_EQ(fixed.indexOf("2 0 obj"), 64);
     EXPECT_EQ(fixed.lastIndexOf("\nxref") + 1, 84);
+}
+
+TEST(PdfDocument, isAlsoMadeOfAnyDrawing)
+{
+    const auto draw = [](QPdfWriter& paper) {
+        QPainter surface(&paper);
+        surface.setFont(QFont("Arial", 10));
+        surface.drawText(QPointF(720, 720), "Un texte"); // an inch from the corner
+    };
+    const QByteArray bytes = print::pdfDrawn("Un titre", monday, draw);
+    const Pdf pdf(bytes);
+    EXPECT_EQ(pdf.text(), "Un texte");
+    EXPECT_EQ(pdf.fact("Title"), "Un titre");
+    EXPECT_EQ(pdf.fact("CreationDate"), "2026-10-12T00:00:00Z");
+    EXPECT_TRUE(pdf.fact("Page size").startsWith("595 x 842 pts")); // upright
+    EXPECT_EQ(print::pdfDrawn("Un titre", monday, draw), bytes);
 }
 
 TEST(PdfDocument, isWholeOnlyWithEveryByte)
