@@ -18,8 +18,8 @@ struct PaperBlock {
 };
 
 struct PlacedBlock {
-    const PaperBlock* block; ///< one of those that were laid out, or a header of theirs
-    double top = 0;          ///< pixels from the upper margin
+    const PaperBlock* block = nullptr; ///< one of those that were laid out, or a header of theirs
+    double top = 0;                    ///< pixels from the upper margin
 };
 
 /// Lays blocks below each other onto pages of that height; at least one page. What is kept together
