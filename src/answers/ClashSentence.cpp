@@ -155,31 +155,6 @@ QString faultWords(const Occupancy& occupancy, const Clash& clash)
 
 } // namespace
 
-QString clashWords(ClashKind kind)
-{
-    switch (kind) {
-    case ClashKind::Room:
-        return QStringLiteral("Salle prise deux fois");
-    case ClashKind::Teacher:
-        return QStringLiteral("Enseignant pris deux fois");
-    case ClashKind::Class:
-        return QStringLiteral("Classe prise deux fois");
-    case ClashKind::Overfull:
-        return QStringLiteral("Salle trop petite");
-    case ClashKind::MakeupRoom:
-        return QStringLiteral("Rattrapage : salle prise");
-    case ClashKind::MakeupTeacher:
-        return QStringLiteral("Rattrapage : enseignant pris");
-    case ClashKind::MakeupClass:
-        return QStringLiteral("Rattrapage : classe prise");
-    case ClashKind::UnknownRoom:
-        return QStringLiteral("Salle inconnue");
-    case ClashKind::NoTime:
-        return QStringLiteral("Heure inconnue");
-    }
-    return {};
-}
-
 QString clashSentence(const Occupancy& occupancy, const Clash& clash)
 {
     QString where = nameWords(clash);

@@ -7,9 +7,6 @@
 namespace answers
 {
 
-/// What kind of clash it is, in French: "Salle deux fois prise".
-[[nodiscard]] QString clashWords(ClashKind kind);
-
 /// A clash of this occupancy in one French sentence: where, when, what is wrong, and for whom, of
 /// many holders the first five.
 [[nodiscard]] QString clashSentence(const timetable::Occupancy& occupancy, const Clash& clash);

@@ -84,11 +84,6 @@ QString kindWords(const Subject& subject)
     return words.at(subject.index());
 }
 
-QString shareWords(double share)
-{
-    return QStringLiteral("%1\u202f%").arg(qRound(share * 100));
-}
-
 QString kindWords(timetable::MeetingKind kind)
 {
     return kind == timetable::MeetingKind::MakeUp ? QStringLiteral("rattrapage")

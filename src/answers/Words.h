@@ -26,8 +26,6 @@ namespace answers
 [[nodiscard]] QString nameOf(const timetable::Timetable& timetable, const Subject& subject);
 /// What it is: "Salle", "Enseignant", "Classe" or "Matière".
 [[nodiscard]] QString kindWords(const Subject& subject);
-/// A share of 1 as a whole number of hundredths: "62 %", with a narrow space that does not break.
-[[nodiscard]] QString shareWords(double share);
 /// "rattrapage", "examen", or nothing for a course.
 [[nodiscard]] QString kindWords(timetable::MeetingKind kind);
 /// A share from 0 to 1 in whole percent, "62 %" with a narrow no-break space; "< 1 %" for what

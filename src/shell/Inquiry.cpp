@@ -101,7 +101,8 @@ std::vector<timetable::When> Inquiry::sameDays(QDate date, int weeks,
     std::vector<timetable::When> days;
     timetable::Week week = first.value_or(m_rhythm.weekOf(date));
     for (int number = 0; number < weeks; ++number) {
-        days.push_back(timetable::When::date(date.addDays(number * timetable::kDaysOfWeek), week));
+        days.push_back(
+            timetable::When::date(date.addDays(qint64{number} * timetable::kDaysOfWeek), week));
         week = other(week);
     }
     return days;

@@ -61,13 +61,6 @@ TEST(Words, nameWhoHasAWeek)
     EXPECT_EQ(kindWords(subject) + ' ' + nameOf(known, subject), "Matière Algèbre");
 }
 
-TEST(Words, nameSharesInHundredths)
-{
-    EXPECT_EQ(shareWords(0), u"0\u202f%");
-    EXPECT_EQ(shareWords(0.625), u"63\u202f%");
-    EXPECT_EQ(shareWords(1), u"100\u202f%");
-}
-
 TEST(Words, nameWhatIsNoCourse)
 {
     EXPECT_EQ(kindWords(timetable::MeetingKind::Course), "");

@@ -63,6 +63,18 @@ void Hands::click(QPoint screenPoint) const
     play(QString("mousemove %1 %2 click 1").arg(screenPoint.x()).arg(screenPoint.y()));
 }
 
+void Hands::rightClick(QPoint screenPoint) const
+{
+    play(QString("mousemove %1 %2 click 3").arg(screenPoint.x()).arg(screenPoint.y()));
+}
+
+void Hands::doubleClick(QPoint screenPoint) const
+{
+    play(QString("mousemove %1 %2 click --repeat 2 --delay 20 1")
+             .arg(screenPoint.x())
+             .arg(screenPoint.y()));
+}
+
 void Hands::click(const QWidget* widget) const
 {
     ASSERT_TRUE(widget->isVisible()) << widget->objectName().toStdString();

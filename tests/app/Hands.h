@@ -26,6 +26,8 @@ public:
     void click(QPoint screenPoint) const;
     /// Clicks on the widget: on the indicator of a check box or option button, else in the middle.
     void click(const QWidget* widget) const;
+    void rightClick(QPoint screenPoint) const;
+    void doubleClick(QPoint screenPoint) const;
     void moveTo(QPoint screenPoint) const;
     /// Presses and releases keys, named like "F2", "Return" or "alt+F4".
     void press(const QStringList& keys) const;

@@ -88,8 +88,15 @@ void AnswerWindow::exportAnswer(files::AnswerKind kind, const files::AnswerDocum
         const auto index = std::max<qsizetype>(filters.indexOf(chosen), 0);
         path += u'.' + files::answerEndings(kind).at(index);
     }
+    const files::AnswerFormat& format = *files::answerFormatOf(kind, path);
     try {
-        files::writeWholeFile(path, files::answerFormatOf(kind, path)->write(document));
+        const shell::Inquiry* inquiry = m_desk.inquiry();
+        const QString open =
+            format.isDated && inquiry != nullptr ? inquiry->whyOpen(true) : QString();
+        if (!open.isEmpty()) {
+            throw files::ExportError(open + QStringLiteral(" : le fichier n’est pas écrit."));
+        }
+        files::writeWholeFile(path, format.write(document));
         tell(QStringLiteral("Enregistré : %1").arg(path));
     } catch (const files::ExportError& error) {
         QMessageBox box(QMessageBox::Warning, windowTitle(), QString::fromUtf8(error.what()),

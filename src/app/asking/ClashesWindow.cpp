@@ -104,7 +104,7 @@ void ClashesWindow::showAnswer(const shell::Inquiry& inquiry)
     m_kind->addItem(QStringLiteral("Tous"), -1);
     for (auto kind = counts.cbegin(); kind != counts.cend(); ++kind) {
         m_kind->addItem(QStringLiteral("%1 (%2)")
-                            .arg(answers::clashWords(static_cast<answers::ClashKind>(kind.key())))
+                            .arg(answers::kindWords(static_cast<answers::ClashKind>(kind.key())))
                             .arg(kind.value()),
                         kind.key());
     }
@@ -129,7 +129,7 @@ void ClashesWindow::list(const shell::Inquiry& inquiry)
             continue;
         }
         auto* item =
-            new QTreeWidgetItem(m_list, {answers::clashWords(clash.kind), when(clash),
+            new QTreeWidgetItem(m_list, {answers::kindWords(clash.kind), when(clash),
                                          answers::clashSentence(inquiry.occupancy(), clash)});
         item->setData(0, kClashRole, static_cast<int>(index));
         item->setToolTip(2, plainToolTip(item->text(2)));

@@ -1,6 +1,7 @@
 #include "app/asking/FindWindow.h"
 
 #include "answers/SearchText.h"
+#include "answers/WeekBox.h"
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
 #include "app/asking/ShownDay.h"
@@ -28,10 +29,10 @@ constexpr int kHoldingRole = Qt::UserRole;
 constexpr int kHitRole = Qt::UserRole + 1;
 
 /// Classes, subject and teachers, as far as the name that was found does not say it.
-QString what(const timetable::Holder& holder, const QString& name)
+QString what(const timetable::Holder& holder, const QStringList& classes, const QString& name)
 {
-    QStringList words{answers::kindWords(holder.kind), holder.className, holder.subject};
-    words << holder.teachers;
+    QStringList words{answers::kindWords(holder.kind)};
+    words << classes << holder.subject << holder.teachers;
     words.removeAll(QString());
     words.removeAll(name);
     return words.join(QStringLiteral(", "));
@@ -148,11 +149,22 @@ std::vector<FindWindow::Found> FindWindow::found(const timetable::Occupancy& occ
     const int today = shownDay(desk().shell().form());
     std::vector<Found> all;
     for (std::size_t number = 0; number < hits.size(); ++number) {
-        for (const timetable::HoldingId id : hits[number].items) {
-            all.push_back({number, id, occupancy.holding(id).day == today});
+        const answers::Hit& hit = hits[number];
+        const auto add = [&](std::vector<timetable::HoldingId> holdings) {
+            const bool isToday =
+                !holdings.empty() && occupancy.holding(holdings.front()).day == today;
+            all.push_back({number, std::move(holdings), isToday});
+        };
+        for (const timetable::HoldingId id : hit.items) {
+            if (!occupancy.holding(id).time) {
+                add({id});
+            }
         }
-        if (hits[number].items.empty()) {
-            all.push_back({number, {}, false});
+        for (const answers::WeekBox& box : answers::weekBoxes(occupancy, hit.subject, hit.items)) {
+            add(box.holdings);
+        }
+        if (hit.items.empty()) {
+            add({});
         }
     }
     std::stable_partition(all.begin(), all.end(), [](const Found& row) { return row.isToday; });
@@ -160,18 +172,24 @@ std::vector<FindWindow::Found> FindWindow::found(const timetable::Occupancy& occ
 }
 
 QTreeWidgetItem* FindWindow::addRow(QTreeWidgetItem* under, const timetable::Occupancy& occupancy,
-                                    const answers::Hit& hit, timetable::HoldingId id)
+                                    const answers::Hit& hit,
+                                    const std::vector<timetable::HoldingId>& holdings)
 {
     QStringList texts{answers::kindWords(hit.subject) + u' ' + hit.name};
-    if (id.isNone()) {
+    if (holdings.empty()) {
         texts << QStringLiteral("aucune séance cette semaine");
     } else {
-        const timetable::Holder holder = occupancy.describe(occupancy.holding(id));
-        texts << when(holder) << holder.rooms.join(QStringLiteral(", ")) << what(holder, hit.name);
+        QStringList classes;
+        for (const timetable::HoldingId id : holdings) {
+            classes << occupancy.describe(occupancy.holding(id)).className;
+        }
+        const timetable::Holder holder = occupancy.describe(occupancy.holding(holdings.front()));
+        texts << when(holder) << holder.rooms.join(QStringLiteral(", "))
+              << what(holder, classes, hit.name);
     }
     auto* row = new QTreeWidgetItem(under, texts);
     row->setToolTip(3, plainToolTip(row->text(3)));
-    row->setData(0, kHoldingRole, id.isNone() ? -1 : id.index());
+    row->setData(0, kHoldingRole, holdings.empty() ? -1 : holdings.front().index());
     return row;
 }
 
@@ -189,7 +207,7 @@ void FindWindow::list(const shell::Inquiry& inquiry, const std::vector<answers::
                                               answers::dayWords(shownDay(desk().shell().form()))
                                         : QStringLiteral("Dans la semaine"));
         }
-        addRow(under, inquiry.occupancy(), hits[row.hit], row.holding)
+        addRow(under, inquiry.occupancy(), hits[row.hit], row.holdings)
             ->setData(0, kHitRole, static_cast<int>(row.hit));
     }
     if (QTreeWidgetItem* first = m_list->topLevelItem(0)) {

@@ -26,8 +26,9 @@ protected:
 private:
     /// A row of the list.
     struct Found {
-        std::size_t hit = 0;          ///< its place among all
-        timetable::HoldingId holding; ///< nothing where the hit has none that week
+        std::size_t hit = 0; ///< its place among all
+        /// Several where classes have a course together; none where the hit has nothing that week.
+        std::vector<timetable::HoldingId> holdings;
         bool isToday = false;
     };
 
@@ -36,7 +37,8 @@ private:
                                            const std::vector<answers::Hit>& hits) const;
     void list(const shell::Inquiry& inquiry, const std::vector<answers::Hit>& hits);
     static QTreeWidgetItem* addRow(QTreeWidgetItem* under, const timetable::Occupancy& occupancy,
-                                   const answers::Hit& hit, timetable::HoldingId id);
+                                   const answers::Hit& hit,
+                                   const std::vector<timetable::HoldingId>& holdings);
     void choose(const QTreeWidgetItem* item);
     void openWeek();
 

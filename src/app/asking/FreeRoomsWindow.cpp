@@ -38,40 +38,6 @@ constexpr int kRoomWidth = 190;
 // Data of an item.
 constexpr int kRoomRole = Qt::UserRole;
 
-/// "L2 GE A, Durand, jusqu’à 11h00".
-QString holderSentence(const timetable::Holder& holder)
-{
-    QStringList words;
-    const QString kind = answers::kindWords(holder.kind);
-    if (!kind.isEmpty()) {
-        words << kind;
-    }
-    if (!holder.className.isEmpty()) {
-        words << holder.className;
-    }
-    words << holder.teachers;
-    if (words.isEmpty()) {
-        words << (holder.subject.isEmpty() ? QStringLiteral("séance sans nom") : holder.subject);
-    }
-    if (holder.time) {
-        words << QStringLiteral("jusqu’à ") + answers::clockWords(holder.time->end());
-    }
-    if (holder.weeks != Week::Every) {
-        words << answers::weekWords(holder.weeks);
-    }
-    return words.join(QStringLiteral(", "));
-}
-
-QString whyTaken(const timetable::Occupancy& occupancy, const answers::HeldRoom& room)
-{
-    QStringList sentences;
-    for (const timetable::HoldingId id : room.by) {
-        sentences << holderSentence(occupancy.describe(occupancy.holding(id)));
-    }
-    sentences.removeDuplicates();
-    return sentences.join(QStringLiteral(" ; "));
-}
-
 QComboBox* timeList(const QString& name, const QString& accessibleName)
 {
     auto* list = new QComboBox;
@@ -402,7 +368,8 @@ void FreeRoomsWindow::list(const shell::Inquiry& inquiry, const answers::FreeRoo
     }
     if (m_showsTaken->isChecked()) {
         for (const answers::HeldRoom& held : answer.taken) {
-            add(held.room, QStringLiteral("prise : ") + whyTaken(inquiry.occupancy(), held))
+            add(held.room,
+                QStringLiteral("prise : ") + answers::holdersWords(inquiry.occupancy(), held.by))
                 ->setForeground(2, palette().color(QPalette::PlaceholderText));
         }
     }

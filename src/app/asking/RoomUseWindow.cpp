@@ -154,10 +154,11 @@ void RoomUseWindow::showAnswer(const shell::Inquiry& inquiry)
     const auto& use = std::get<answers::RoomUse>(m_document->answer);
     showSlots(use);
     showRooms(inquiry, use);
-    QString sentence = QStringLiteral("%1 des créneaux tenus").arg(answers::shareWords(use.share));
+    QString sentence =
+        QStringLiteral("%1 des créneaux tenus").arg(answers::percentWords(use.share));
     sentence +=
         use.areSeatsKnown
-            ? QStringLiteral(", %1 des sièges pris").arg(answers::shareWords(use.seatsShare))
+            ? QStringLiteral(", %1 des sièges pris").arg(answers::percentWords(use.seatsShare))
             : QStringLiteral(", sièges inconnus : les étudiants ne se laissent pas lire");
     tell(sentence, !use.areSeatsKnown);
 }
@@ -193,12 +194,12 @@ void RoomUseWindow::showSlots(const answers::RoomUse& use)
     m_slots->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_slots->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     for (const answers::UseOfSlot& slot : use.slots) {
-        auto* cell = new QTableWidgetItem(answers::shareWords(slot.share));
+        auto* cell = new QTableWidgetItem(answers::percentWords(slot.share));
         cell->setTextAlignment(Qt::AlignCenter);
         cell->setBackground(shade(slot.share));
         cell->setForeground(slot.share > 0.45 ? Qt::white : Qt::black);
         cell->setToolTip(plainToolTip(QStringLiteral("%1 salles sur %2")
-                                          .arg(QLocale(QLocale::French).toString(slot.held))
+                                          .arg(answers::numberWords(slot.held))
                                           .arg(slot.rooms)));
         m_slots->setItem(slot.day,
                          static_cast<int>(std::distance(numbers.begin(), numbers.find(slot.slot))),
@@ -211,15 +212,14 @@ void RoomUseWindow::showRooms(const shell::Inquiry& inquiry, const answers::Room
     m_list->setSortingEnabled(false); // else each row is sorted in by itself
     m_list->clear();
     for (const answers::UseOfRoom& room : use.rooms) {
-        const QString held = QStringLiteral("%1 sur %2")
-                                 .arg(QLocale(QLocale::French).toString(room.held))
-                                 .arg(room.slots);
+        const QString held =
+            QStringLiteral("%1 sur %2").arg(answers::numberWords(room.held)).arg(room.slots);
         const QString seats = !use.areSeatsKnown ? QStringLiteral("inconnu")
                               : room.places == 0 ? QStringLiteral("–")
-                                                 : answers::shareWords(room.seatsShare);
+                                                 : answers::percentWords(room.seatsShare);
         auto* item = new RoomItem(m_list, QStringList{inquiry.timetable().room(room.room).name,
                                                       QString::number(room.places), held,
-                                                      answers::shareWords(room.share), seats});
+                                                      answers::percentWords(room.share), seats});
         item->setData(1, kShareRole, static_cast<double>(room.places));
         item->setData(2, kShareRole, room.held);
         item->setData(3, kShareRole, room.share);
