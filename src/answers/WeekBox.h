@@ -22,6 +22,9 @@ struct WeekBox {
     /// What to write, most important first and none empty, without whose week it is: classes,
     /// subject, teachers, rooms.
     QStringList lines;
+    /// Whether it begins or ends elsewhere than the slots of its day do, so that nobody can read
+    /// its time off the hours beside it. Set by whoever knows the slots: `weekGrid`.
+    bool isOffSlots = false;
     /// What to write where there is room for hardly anything: the first class with the number of
     /// the others, "L1 INFO A +4", or else the first line; empty without lines.
     QString shortText;

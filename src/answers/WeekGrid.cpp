@@ -32,6 +32,19 @@ std::vector<UnknownHour> unknownHours(const timetable::Occupancy& occupancy, con
     return unknown;
 }
 
+/// Whether some slot begins when the box does, and some ends when it does.
+bool isOnSlots(const WeekBox& box, const std::vector<timetable::TimeSpan>& slotTimes)
+{
+    const auto begins = [&box](const timetable::TimeSpan& slot) {
+        return slot.start == box.time.start;
+    };
+    const auto ends = [&box](const timetable::TimeSpan& slot) {
+        return slot.end() == box.time.end();
+    };
+    return std::any_of(slotTimes.begin(), slotTimes.end(), begins) &&
+           std::any_of(slotTimes.begin(), slotTimes.end(), ends);
+}
+
 } // namespace
 
 WeekGrid weekGrid(const timetable::Occupancy& occupancy, const std::optional<Subject>& subject,
@@ -44,6 +57,9 @@ WeekGrid weekGrid(const timetable::Occupancy& occupancy, const std::optional<Sub
         times.at(static_cast<std::size_t>(box.day)).push_back(box.time);
     }
     grid.days = weekDays(occupancy.timetable(), week, times);
+    for (WeekBox& box : grid.boxes) {
+        box.isOffSlots = !isOnSlots(box, grid.days.at(static_cast<std::size_t>(box.day)).slotTimes);
+    }
     grid.axis = commonAxis(grid.days);
     grid.unplaced = unknownHours(occupancy, grid.days, items);
     return grid;

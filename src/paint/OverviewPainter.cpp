@@ -72,9 +72,9 @@ OverviewPainter::OverviewPainter(const answers::RoomWeeks& weeks,
                                  const DrawingTarget& target, const QRectF& area)
     : m_weeks(weeks), m_roomColors(roomColors), m_target(target), m_area(area),
       m_top(area.top() + headingHeight(target)),
-      m_rowHeight(std::min((area.bottom() - thinLine(target) - m_top) /
-                               static_cast<double>(std::max<std::size_t>(1, weeks.rows.size())),
-                           static_cast<double>(pixelsOf(target, kMostRow)))),
+      m_rowHeight(std::clamp((area.bottom() - thinLine(target) - m_top) /
+                                 static_cast<double>(std::max<std::size_t>(1, weeks.rows.size())),
+                             1.0, static_cast<double>(pixelsOf(target, kMostRow)))),
       m_text(target, std::clamp(nearestInteger(kTextOfRow * m_rowHeight),
                                 pixelsOf(target, kSmallestStart), pixelsOf(target, kLargestText))),
       m_title(target, pixelsOf(target, kLargestText), true),
@@ -121,8 +121,11 @@ QRect OverviewPainter::placeOf(const WeekBox& box, std::size_t row) const
     const int right = nearestInteger(xOf(box.day, box.time.end()));
     const int top = nearestInteger(from);
     const int bottom = nearestInteger(from + height);
+    // What is short stays visible, and at the end of the day within it.
     const int least = nearestInteger(2 * line);
-    return {left, top, std::max(least, right - left), std::max(least, bottom - top)};
+    const int width = std::max(least, right - left);
+    const double end = m_dayEdges.at(static_cast<std::size_t>(box.day) + 1);
+    return {std::min(left, nearestInteger(end) - width), top, width, std::max(least, bottom - top)};
 }
 
 void OverviewPainter::paint(QPainter& surface) const

@@ -1,5 +1,6 @@
 #include "paint/WeekBoxDrawing.h"
 
+#include "answers/Words.h"
 #include "paint/CellBox.h"
 #include "paint/MeasuredWords.h"
 #include "paint/WeekInks.h"
@@ -123,17 +124,21 @@ QString tellingText(const QString& text, const QRectF& area, const TextRuler& ru
 void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
                  const QRect& place, form::Colour fill, const Lettering& text, int leastPixels)
 {
+    QStringList lines = box.lines;
+    if (box.isOffSlots) {
+        lines << answers::spanWords(box.time);
+    }
     const QString tag = tagText(box);
     const QRectF corner = tagPlace(tag, place, text);
     const double line = text.height() * leastPixels / text.ruler().font().pixelSize();
     const bool isAbove =
-        place.height() - corner.height() >= line * static_cast<double>(box.lines.size());
+        place.height() - corner.height() >= line * static_cast<double>(lines.size());
     BoxStyle style = styleOf(box, fill, text);
     style.reserved = isAbove ? QMarginsF(0, corner.height(), 0, 0)
                              : QMarginsF(corner.width(), 0, corner.width(), 0);
     const double height = place.height() - style.reserved.top();
     surface.save();
-    drawKind(surface, target, box, style, place, fittingLines(box.lines, height, line));
+    drawKind(surface, target, box, style, place, fittingLines(lines, height, line));
     if (!corner.isEmpty()) {
         surface.fillRect(corner, kHeaderInk);
         surface.setPen(kWeekGround);

@@ -12,9 +12,10 @@
 namespace paint
 {
 
-/// Draws one box of a week in a box of the plan's: what is in it, as many of its lines as find
-/// room in the smallest size, `leastPixels`; a make-up hatched, an exam in a thick frame; in the
-/// corner a label for week A or B and for an exam, where there is room for one.
+/// Draws one box of a week in a box of the plan's: what is in it, with its time where the
+/// hours beside it do not tell it, as many lines as find room in the smallest size, `leastPixels`;
+/// a make-up hatched, an exam in a thick frame; in the corner a label for week A or B and for an
+/// exam, where there is room for one.
 void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
                  const QRect& place, form::Colour fill, const Lettering& text, int leastPixels);
 

@@ -108,7 +108,10 @@ QRect WeekPainter::placeOf(const WeekBox& box) const
     const int to = nearestInteger(left + width * (box.lane + 1));
     const int top = nearestInteger(yOf(box.time.start));
     const int bottom = nearestInteger(yOf(box.time.end()));
-    return {from, top, std::max(1, to - from), std::max(nearestInteger(2 * gap), bottom - top)};
+    // What is short stays visible, and at the end of the day within it.
+    const int height = std::max(nearestInteger(2 * gap), bottom - top);
+    const int last = nearestInteger(m_body.bottom()) - height;
+    return {from, std::min(top, last), std::max(1, to - from), height};
 }
 
 void WeekPainter::paint(QPainter& surface) const

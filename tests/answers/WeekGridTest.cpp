@@ -46,6 +46,19 @@ TEST_F(TheGrid, hasOneAxisForAllDays)
     EXPECT_FALSE(week.isEmpty());
 }
 
+TEST_F(TheGrid, knowsWhichBoxesAreOffTheSlots)
+{
+    school.course({"Lundi1", "R1", "L1"});
+    school.course({"Mardi1", "R1", "L1", {}, {}, "8h00", "180"}); // both slots
+    school.course({"Mercredi1", "R1", "L1", {}, {}, "8h00", "60"});
+    school.course({"Jeudi1", "R1", "L1", {}, {}, "8h30", "60"});
+    const WeekGrid week = grid();
+    EXPECT_FALSE(week.boxes.at(0).isOffSlots);
+    EXPECT_FALSE(week.boxes.at(1).isOffSlots);
+    EXPECT_TRUE(week.boxes.at(2).isOffSlots);
+    EXPECT_TRUE(week.boxes.at(3).isOffSlots);
+}
+
 TEST_F(TheGrid, tellsOnceWhatHasNoKnownTime)
 {
     ClashRow row{"Lundi9", "R1", "L1"};

@@ -28,8 +28,8 @@ QString pageOf(const files::AnswerDocument& document)
     return page;
 }
 
-/// The rows of the page's table without their tags, cells with a "|" before each, boxes with a "/"
-/// behind each thing.
+/// The rows of the page's table without their tags, cells with a "|" before each, and with a "/"
+/// where a line, a box or all boxes of a cell end.
 QStringList rowsOf(const QString& page)
 {
     static const QRegularExpression tag("<[^>]*>");
@@ -64,9 +64,9 @@ TEST(AWeekAsHtml, isATableOfSlotsAndDays)
     const QStringList rows = rowsOf(pageOf(weekDocument(firstRoom())));
     ASSERT_EQ(rows.size(), 4);
     EXPECT_EQ(rows[0], "|Séance|Lundi|Mardi|Mercredi|Jeudi|Vendredi|Samedi");
-    EXPECT_EQ(rows[1], "|8h00–9h30|L1 &amp; co, L2/Algèbre/Durand//|||8h00–11h00/L3//||");
-    EXPECT_EQ(rows[2], "|9h30–11h00|||L1 &amp; co/Petit/Semaine A//|8h00–11h00/L3//||");
-    EXPECT_EQ(rows[3], "|18h00–19h00|||||L3//|"); // outside the slots
+    EXPECT_EQ(rows[1], "|8h00–9h30|L1 &amp; co, L2/Algèbre/Durand///|||8h00–11h00/L3///||");
+    EXPECT_EQ(rows[2], "|9h30–11h00|||L1 &amp; co/Petit/Semaine A///|8h00–11h00/L3///||");
+    EXPECT_EQ(rows[3], "|18h00–19h00|||||L3///|"); // outside the slots
 }
 
 TEST(AWeekAsHtml, namesItsRowsAndColumns)
@@ -99,7 +99,7 @@ TEST(AWeekAsHtml, ofAllRoomsIsATableOfRoomsAndDays)
     const QStringList rows = rowsOf(page);
     ASSERT_EQ(rows.size(), 3);
     EXPECT_EQ(rows[0], "|Salle|Lundi|Mardi|Mercredi|Jeudi|Vendredi|Samedi");
-    EXPECT_TRUE(rows[1].startsWith("|R130 places/|8h00–9h30/L1 &amp; co, L2/Algèbre/Durand//||"))
+    EXPECT_TRUE(rows[1].startsWith("|R130 places/|8h00–9h30/L1 &amp; co, L2/Algèbre/Durand///||"))
         << rows[1].toStdString();
     EXPECT_TRUE(rows[1].contains("|? heure inconnue : L4 (Samedi9)"));
     EXPECT_EQ(rows[2], "|R2 &lt;&amp;&gt;||||||");

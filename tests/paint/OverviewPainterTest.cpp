@@ -153,6 +153,23 @@ TEST(TheOverview, saysThatThereIsNothing)
     EXPECT_GT(drawn(weeks).lightness(middle).first, 100);
 }
 
+TEST(TheOverview, keepsAShortBoxAtTheEndOfTheDayWithinIt)
+{
+    RoomWeeks weeks = plainRooms(1);
+    weeks.rows[0].boxes = {boxAt(2, 719, 1)};
+    const OverviewPainter painter(weeks, colors, {}, area);
+    EXPECT_GE(painter.boxRectangle({0, 0}).width(), 2);
+    EXPECT_NEAR(painter.boxRectangle({0, 0}).right(), painter.dayRectangle(2).right(), 1);
+}
+
+TEST(TheOverview, isDrawnWhereThereIsNoRoomForIt)
+{
+    RoomWeeks weeks = plainRooms(10);
+    weeks.rows[3].boxes = {boxAt(5, 480, 90, {"L1"})};
+    const Canvas canvas = drawn(weeks, QRectF(20, 10, 30, 20));
+    EXPECT_TRUE(canvas.isTouched(25, 15));
+}
+
 TEST(TheOverview, drawsNothingBesideItsArea)
 {
     RoomWeeks weeks = plainRooms(10);

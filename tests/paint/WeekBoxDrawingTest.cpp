@@ -56,6 +56,13 @@ TEST(ABoxOfAWeek, leavesOutTheLastLinesThatFindNoRoom)
               drawn(boxAt(0, 480, 90, {"Hx"}), low).image());
 }
 
+TEST(ABoxOfAWeek, tellsItsTimeWhereTheHoursDoNot)
+{
+    answers::WeekBox box = boxAt(0, 500, 90, {"Hx"});
+    box.isOffSlots = true;
+    EXPECT_EQ(drawn(box).image(), drawn(boxAt(0, 500, 90, {"Hx", "8h20–9h50"})).image());
+}
+
 TEST(ABoxOfAWeek, tellsInItsCornerWhichWeekItIsOf)
 {
     answers::WeekBox box = boxAt(0, 480, 90);

@@ -77,6 +77,23 @@ TEST(AWeek, hasBoxesAtTheirTimes)
     EXPECT_GT(first.width(), 0.95 * day.width());
 }
 
+TEST(AWeek, keepsAShortBoxAtTheEndOfTheDayWithinIt)
+{
+    WeekGrid grid = plainGrid();
+    grid.boxes = {boxAt(1, 719, 1)};
+    const WeekPainter painter = painterOf(grid);
+    EXPECT_GE(painter.boxRectangle(0).height(), 2);
+    EXPECT_NEAR(painter.boxRectangle(0).bottom(), painter.dayRectangle(1).bottom(), 1);
+}
+
+TEST(AWeek, isDrawnWhereThereIsNoRoomForIt)
+{
+    WeekGrid grid = plainGrid();
+    grid.boxes = {boxAt(1, 480, 90, {"L1"})};
+    grid.unplaced = {{timetable::HoldingId(0), 0, "Lundi : L1"}};
+    EXPECT_TRUE(drawn(grid, QRect(5, 5, 20, 10)).isTouched(10, 10));
+}
+
 TEST(AWeek, dividesTheWidthAmongLanes)
 {
     WeekGrid grid = plainGrid();
