@@ -23,6 +23,10 @@ constexpr double kTagHeight = 0.9;
 constexpr double kLeastOfLine = 0.8;
 // Times a thin line that the frame of an exam is thick.
 constexpr int kExamLines = 3;
+// The share of a box's width or height that it takes at most.
+constexpr int kExamShare = 6;
+// The share of a box's width that a label may take from both sides of its text.
+constexpr double kSideShare = 0.3;
 
 QString tagText(const answers::WeekBox& box)
 {
@@ -41,6 +45,28 @@ QRectF tagPlace(const QString& tag, const QRect& place, const Lettering& text)
     return {place.x() + place.width() - width, static_cast<double>(place.y()), width, height};
 }
 
+/// The label of a box, and what it takes from the text.
+struct Corner {
+    QRectF label; ///< empty where there is none
+    QMarginsF reserved;
+};
+
+/// The label stands above the text, or beside it where that costs a line and hardly any width. One
+/// that would leave no room for any text stands back: the frame tells an exam as well.
+Corner cornerOf(const QString& tag, const QRect& place, const Lettering& text, double line,
+                qsizetype lines)
+{
+    const QRectF label = tagPlace(tag, place, text);
+    const QMarginsF above(0, label.height(), 0, 0);
+    const QMarginsF beside(label.width(), 0, label.width(), 0);
+    const double below = place.height() - label.height();
+    const bool isSlim = 2 * label.width() <= kSideShare * place.width();
+    if (below >= line * static_cast<double>(lines) || (!isSlim && below >= line)) {
+        return {label, above};
+    }
+    return isSlim || tag.size() == 1 ? Corner{label, beside} : Corner{};
+}
+
 QStringList fittingLines(const QStringList& lines, double height, double linePixels)
 {
     if (height < kLeastOfLine * linePixels) {
@@ -49,17 +75,23 @@ QStringList fittingLines(const QStringList& lines, double height, double linePix
     return lines.mid(0, std::max(1, static_cast<int>(std::floor(height / linePixels))));
 }
 
-void drawExamFrame(QPainter& surface, const DrawingTarget& target, const QRect& place)
+/// Device pixels that the frame of an exam is thick; low boxes keep some of their colour.
+int examFrame(const DrawingTarget& target, const QRect& place)
 {
-    const int thick = std::max(1, static_cast<int>(std::lround(kExamLines * thinLine(target))));
-    const int width = std::min(thick, place.width());
-    const int height = std::min(thick, place.height());
-    surface.fillRect(QRect(place.x(), place.y(), place.width(), height), kExamFrame);
-    surface.fillRect(QRect(place.x(), place.bottom() + 1 - height, place.width(), height),
-                     kExamFrame);
-    surface.fillRect(QRect(place.x(), place.y(), width, place.height()), kExamFrame);
-    surface.fillRect(QRect(place.right() + 1 - width, place.y(), width, place.height()),
-                     kExamFrame);
+    const int thick = static_cast<int>(std::lround(kExamLines * thinLine(target)));
+    return std::clamp(std::min(place.width(), place.height()) / kExamShare, 1, thick);
+}
+
+void drawExamFrame(QPainter& surface, const QRect& place, int thick)
+{
+    const QRect inside = place.adjusted(thick, thick, -thick, -thick);
+    for (const QRect& side :
+         {QRect(place.topLeft(), QPoint(place.right(), inside.top() - 1)),
+          QRect(QPoint(place.left(), inside.bottom() + 1), place.bottomRight()),
+          QRect(place.topLeft(), QPoint(inside.left() - 1, place.bottom())),
+          QRect(QPoint(inside.right() + 1, place.top()), place.bottomRight())}) {
+        surface.fillRect(side, kExamFrame);
+    }
 }
 
 BoxStyle styleOf(const answers::WeekBox& box, form::Colour fill, const Lettering& text)
@@ -90,8 +122,15 @@ void drawKind(QPainter& surface, const DrawingTarget& target, const answers::Wee
     surface.setFont(style.ruler->font());
     drawBox(surface, target, style, place, written.join(u'\n'));
     if (box.kind == timetable::MeetingKind::Exam) {
-        drawExamFrame(surface, target, place);
+        drawExamFrame(surface, place, examFrame(target, place));
     }
+}
+
+/// Whether the area is as high as so many lines, the white above the first and below the last
+/// aside.
+bool holdsLines(int lines, const QRectF& area, const TextRuler& ruler, double scale)
+{
+    return (lines - 1 + kLeastOfLine) * ruler.height() <= (area.height() + 1) * scale;
 }
 
 /// Whether the text, broken between words, fits the area in that size.
@@ -99,8 +138,7 @@ bool fits(const QString& text, const QRectF& area, const TextRuler& ruler, doubl
 {
     const QStringList lines(text);
     const MeasuredWords::Extent set = MeasuredWords(ruler, lines).extent(area.width() * scale);
-    return set.width <= area.width() * scale &&
-           set.lines * ruler.height() <= (area.height() + 1) * scale;
+    return set.width <= area.width() * scale && holdsLines(set.lines, area, ruler, scale);
 }
 
 /// What of the text is worth writing in the smallest size.
@@ -114,9 +152,7 @@ QString tellingText(const QString& text, const QRectF& area, const TextRuler& ru
         }
     }
     const QString cut = ruler.elided(first, area.width() * scale);
-    const bool tells =
-        cut.size() > kTellingCharacters && ruler.height() <= (area.height() + 1) * scale;
-    return tells ? cut : QString();
+    return cut.size() > kTellingCharacters && holdsLines(1, area, ruler, scale) ? cut : QString();
 }
 
 } // namespace
@@ -129,20 +165,17 @@ void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::
         lines << answers::spanWords(box.time);
     }
     const QString tag = tagText(box);
-    const QRectF corner = tagPlace(tag, place, text);
     const double line = text.height() * leastPixels / text.ruler().font().pixelSize();
-    const bool isAbove =
-        place.height() - corner.height() >= line * static_cast<double>(lines.size());
+    const auto [label, reserved] = cornerOf(tag, place, text, line, lines.size());
     BoxStyle style = styleOf(box, fill, text);
-    style.reserved = isAbove ? QMarginsF(0, corner.height(), 0, 0)
-                             : QMarginsF(corner.width(), 0, corner.width(), 0);
-    const double height = place.height() - style.reserved.top();
+    style.reserved = reserved;
+    const double height = place.height() - reserved.top();
     surface.save();
     drawKind(surface, target, box, style, place, fittingLines(lines, height, line));
-    if (!corner.isEmpty()) {
-        surface.fillRect(corner, kHeaderInk);
+    if (!label.isEmpty()) {
+        surface.fillRect(label, kHeaderInk);
         surface.setPen(kWeekGround);
-        text.draw(surface, corner, tag, Qt::AlignHCenter);
+        text.draw(surface, label, tag, Qt::AlignHCenter);
     }
     surface.restore();
 }

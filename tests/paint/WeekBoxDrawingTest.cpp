@@ -83,6 +83,25 @@ TEST(ABoxOfAWeek, leavesItsCornerFreeOfText)
     EXPECT_GT(canvas.bounds(yellow, QRect(30, 23, 150, 80)).top(), top);
 }
 
+TEST(ABoxOfAWeek, givesItsTextTheRoomOfALabelWhereThereIsLittle)
+{
+    answers::WeekBox box = boxAt(0, 480, 45, {"Hx", "Hx", "Hx"});
+    box.kind = MeetingKind::Exam;
+    const QRect low(20, 20, 90, 24); // half of it for the label would leave no line
+    EXPECT_EQ(drawn(box, low).count(kHeaderInk, low), 0);
+    const QRect high(20, 20, 90, 40);
+    EXPECT_GT(drawn(box, high).count(kHeaderInk, high), 100);
+    EXPECT_GT(drawn(box, high).bounds(yellow, QRect(24, 36, 82, 20)).height(), 5);
+}
+
+TEST(ABoxOfAWeek, keepsItsColourInTheFrameOfALowExam)
+{
+    answers::WeekBox box = boxAt(0, 480, 90);
+    box.kind = MeetingKind::Exam;
+    const QRect low(20, 20, 40, 6);
+    EXPECT_EQ(drawn(box, low, true).count(yellow, low), 38 * 4); // a frame of one pixel
+}
+
 TEST(ABoxOfAWeek, hatchesMakeUpsAndFramesExams)
 {
     answers::WeekBox box = boxAt(0, 480, 90);
