@@ -51,17 +51,16 @@ struct Corner {
     QMarginsF reserved;
 };
 
-/// The label stands above the text, or beside it where that costs a line and hardly any width. One
-/// that would leave no room for any text stands back: the frame tells an exam as well.
-Corner cornerOf(const QString& tag, const QRect& place, const Lettering& text, double line,
-                qsizetype lines)
+/// The label stands beside the text where that costs hardly any width, or else above it. One that
+/// would leave no room for any text stands back: the frame tells an exam as well.
+Corner cornerOf(const QString& tag, const QRect& place, const Lettering& text, double line)
 {
     const QRectF label = tagPlace(tag, place, text);
     const QMarginsF above(0, label.height(), 0, 0);
     const QMarginsF beside(label.width(), 0, label.width(), 0);
     const double below = place.height() - label.height();
     const bool isSlim = 2 * label.width() <= kSideShare * place.width();
-    if (below >= line * static_cast<double>(lines) || (!isSlim && below >= line)) {
+    if (!isSlim && below >= line) {
         return {label, above};
     }
     return isSlim || tag.size() == 1 ? Corner{label, beside} : Corner{};
@@ -166,7 +165,7 @@ void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::
     }
     const QString tag = tagText(box);
     const double line = text.height() * leastPixels / text.ruler().font().pixelSize();
-    const auto [label, reserved] = cornerOf(tag, place, text, line, lines.size());
+    const auto [label, reserved] = cornerOf(tag, place, text, line);
     BoxStyle style = styleOf(box, fill, text);
     style.reserved = reserved;
     const double height = place.height() - reserved.top();

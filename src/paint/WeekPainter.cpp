@@ -80,7 +80,7 @@ WeekPainter::WeekPainter(const answers::WeekGrid& grid, const std::vector<form::
         kNoteHeight * size * static_cast<double>(std::min(kNotes, grid.unplaced.size()));
     m_notes = QRectF(area.left(), area.bottom() - notes, area.width(), notes);
     m_body = area.adjusted(hours, kTitleHeight * size, -thinLine(target),
-                           -std::max(notes, size * kNoteHeight / 2));
+                           -notes - size * kNoteHeight / 2);
     m_places.reserve(grid.boxes.size());
     for (const WeekBox& box : grid.boxes) {
         m_places.push_back(placeOf(box));

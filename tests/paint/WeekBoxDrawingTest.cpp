@@ -76,11 +76,16 @@ TEST(ABoxOfAWeek, tellsInItsCornerWhichWeekItIsOf)
 
 TEST(ABoxOfAWeek, leavesItsCornerFreeOfText)
 {
-    answers::WeekBox box = boxAt(0, 480, 90, {"Hx", "Hx", "Hx", "Hx", "Hx"});
-    const int top = written(drawn(box)).top();
+    answers::WeekBox box = boxAt(0, 480, 90, {"HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH"});
+    box.lines << box.lines << box.lines << box.lines;
+    const QRect narrow(20, 20, 80, 90);
+    const QRect wholeNarrow = written(drawn(box, narrow), narrow);
+    const QRect whole = written(drawn(box));
     box.corner = "A";
-    const Canvas canvas = drawn(box);
-    EXPECT_GT(canvas.bounds(yellow, QRect(30, 23, 150, 80)).top(), top);
+    const QRect left(20, 20, 40, 90); // away from the label
+    EXPECT_GT(written(drawn(box, narrow), left).top(), wholeNarrow.top() + 5);
+    const QRect half(20, 20, 100, 90);
+    EXPECT_GT(written(drawn(box), half).left(), whole.left() + 5); // beside it, in a wide box
 }
 
 TEST(ABoxOfAWeek, givesItsTextTheRoomOfALabelWhereThereIsLittle)
