@@ -132,21 +132,26 @@ bool holdsLines(int lines, const QRectF& area, const TextRuler& ruler, double sc
     return (lines - 1 + kLeastOfLine) * ruler.height() <= (area.height() + 1) * scale;
 }
 
-/// Whether the text, broken between words, fits the area in that size.
-bool fits(const QString& text, const QRectF& area, const TextRuler& ruler, double scale)
+/// Whether the lines, broken between words, fit the area in that size.
+bool fits(const QStringList& lines, const QRectF& area, const TextRuler& ruler, double scale)
 {
-    const QStringList lines(text);
     const MeasuredWords::Extent set = MeasuredWords(ruler, lines).extent(area.width() * scale);
     return set.width <= area.width() * scale && holdsLines(set.lines, area, ruler, scale);
 }
 
-/// What of the text is worth writing in the smallest size.
-QString tellingText(const QString& text, const QRectF& area, const TextRuler& ruler, int pixels)
+/// The short text with the subject below it where neither need shrink; else what of the short text
+/// is worth writing in the smallest size.
+QString tellingText(const answers::WeekBox& box, const QRectF& area, const TextRuler& ruler,
+                    int pixels)
 {
+    const QStringList both{box.shortText, box.lines.value(1)};
+    if (!both.contains(QString()) && fits(both, area, ruler, 1)) {
+        return both.join(u'\n');
+    }
     const double scale = static_cast<double>(ruler.font().pixelSize()) / pixels;
-    const QString first = text.section(QStringLiteral(" +"), 0, 0);
-    for (const QString& each : {text, first}) {
-        if (fits(each, area, ruler, scale)) {
+    const QString first = box.shortText.section(QStringLiteral(" +"), 0, 0);
+    for (const QString& each : {box.shortText, first}) {
+        if (fits({each}, area, ruler, scale)) {
             return each;
         }
     }
@@ -187,7 +192,7 @@ void drawDenseWeekBox(QPainter& surface, const DrawingTarget& target, const answ
     const QRectF area = textRectangle(target, style, place);
     surface.save();
     drawKind(surface, target, box, style, place,
-             QStringList(tellingText(box.shortText, area, text.ruler(), leastPixels)));
+             QStringList(tellingText(box, area, text.ruler(), leastPixels)));
     surface.restore();
 }
 

@@ -19,8 +19,8 @@ namespace paint
 void drawWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
                  const QRect& place, form::Colour fill, const Lettering& text, int leastPixels);
 
-/// The same for boxes that have hardly any room: their short text, or as much of it as still tells
-/// something, or nothing; and no label.
+/// The same for boxes that have hardly any room: their short text, with the subject where there is
+/// ample room, or as much of it as still tells something, or nothing; and no label.
 void drawDenseWeekBox(QPainter& surface, const DrawingTarget& target, const answers::WeekBox& box,
                       const QRect& place, form::Colour fill, const Lettering& text,
                       int leastPixels);

@@ -143,6 +143,18 @@ TEST(ADenseBox, leavesOutHowManyMoreWhereThatHelps)
     EXPECT_NE(drawn(box, place, true).image(), drawn(first, place, true).image());
 }
 
+TEST(ADenseBox, hasTheSubjectWhereThereIsAmpleRoom)
+{
+    const answers::WeekBox box = boxAt(0, 480, 90, {"HHHH", "HHHH"});
+    answers::WeekBox alone = box;
+    alone.lines.removeLast();
+    const QRect ample(20, 20, 70, 40); // two lines of 13 pixels
+    EXPECT_GT(written(drawn(box, ample, true), ample).height(),
+              2 * written(drawn(alone, ample, true), ample).height());
+    const QRect low(20, 20, 70, 24);
+    EXPECT_EQ(drawn(box, low, true).image(), drawn(alone, low, true).image());
+}
+
 TEST(ADenseBox, hasNoTextThatTellsNothing)
 {
     answers::WeekBox box = boxAt(0, 480, 90);
