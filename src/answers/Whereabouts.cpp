@@ -3,7 +3,7 @@
 #include "answers/SearchText.h"
 
 #include <algorithm>
-#include <map>
+#include <array>
 #include <set>
 #include <utility>
 
@@ -36,68 +36,112 @@ void forEachName(const timetable::Names<NameId>& names, Visit visit)
 }
 
 /// Collects those whose name is looked for, each once.
-class Hits
+class Search
 {
 public:
-    explicit Hits(const QString& text) : m_wanted(searchForm(text)) {}
+    explicit Search(const QString& text) : m_wanted(searchForm(text)) {}
 
     template <typename Id>
     void add(Id id, const QString& spelling, const QString& name)
     {
-        const bool isWanted = !spelling.isEmpty() && searchForm(spelling).contains(m_wanted);
-        if (isWanted && m_known.insert(id).second) {
-            m_hits.push_back({id, name, {}});
+        const QString form = searchForm(spelling);
+        if (form.contains(m_wanted) && !spelling.isEmpty() && m_known.insert(id).second) {
+            m_found.push_back({spelling == name ? form : searchForm(name), {id, name, {}}});
         }
     }
     /// Puts those that have come since the last call into the order of their names.
     void sortLatest()
     {
-        std::stable_sort(m_hits.begin() + m_sorted, m_hits.end(),
-                         [](const Hit& left, const Hit& right) {
-                             return searchForm(left.name) < searchForm(right.name);
-                         });
-        m_sorted = static_cast<std::ptrdiff_t>(m_hits.size());
+        std::stable_sort(
+            m_found.begin() + m_sorted, m_found.end(),
+            [](const Found& left, const Found& right) { return left.form < right.form; });
+        m_sorted = static_cast<std::ptrdiff_t>(m_found.size());
     }
-    [[nodiscard]] std::vector<Hit> take() { return std::move(m_hits); }
+    [[nodiscard]] std::vector<Hit> take()
+    {
+        std::vector<Hit> hits;
+        hits.reserve(m_found.size());
+        for (Found& found : m_found) {
+            hits.push_back(std::move(found.hit));
+        }
+        return hits;
+    }
 
 private:
+    struct Found {
+        QString form; ///< of the name
+        Hit hit;
+    };
+
     QString m_wanted;
-    std::vector<Hit> m_hits;
+    std::vector<Found> m_found;
     std::set<Subject> m_known; ///< theirs
     std::ptrdiff_t m_sorted = 0;
 };
 
-/// Whose week a holding belongs to, names by the first of their spellings.
-std::set<Subject> subjectsOf(const Occupancy& occupancy, timetable::HoldingId id)
+/// Finds the hit of a subject at once: a whole week is handed out while somebody types.
+class HitTable
 {
-    const timetable::Timetable& timetable = occupancy.timetable();
-    const timetable::Holding& holding = occupancy.holding(id);
-    const timetable::Meeting& meeting = occupancy.meetingOf(holding);
-    const timetable::MeetingPart& part = meeting.part(holding.part);
-    std::set<Subject> subjects{timetable.classes().group(meeting.className),
-                               timetable.subjects().group(part.subject)};
-    for (const timetable::TeacherId teacher : part.teachers) {
-        subjects.insert(timetable.teachers().group(teacher));
+public:
+    explicit HitTable(std::vector<Hit>& hits)
+    {
+        for (Hit& hit : hits) {
+            const auto place = static_cast<std::size_t>(
+                std::visit([](auto id) { return id.index(); }, hit.subject));
+            std::vector<Hit*>& kind = m_hits.at(hit.subject.index());
+            kind.resize(std::max(kind.size(), place + 1));
+            kind[place] = &hit;
+        }
     }
-    for (const RoomId room : occupancy.roomsOf(holding)) {
-        subjects.insert(room);
-    }
-    return subjects;
-}
 
-/// Gives each hit its week, in one walk through all of it.
+    /// Gives the subject a holding, unless nobody looks for it or it has the holding already. Those
+    /// of one holding must follow each other.
+    template <typename Id>
+    void give(Id subject, timetable::HoldingId holding)
+    {
+        if (subject.isNone()) {
+            return;
+        }
+        const std::vector<Hit*>& kind = m_hits.at(Subject(subject).index());
+        const auto place = static_cast<std::size_t>(subject.index());
+        if (place >= kind.size() || kind[place] == nullptr) {
+            return;
+        }
+        std::vector<timetable::HoldingId>& items = kind[place]->items;
+        if (items.empty() || items.back() != holding) {
+            items.push_back(holding);
+        }
+    }
+
+private:
+    std::array<std::vector<Hit*>, std::variant_size_v<Subject>> m_hits; ///< by kind and id
+};
+
+/// Gives each hit its week, in one walk through all of it. Names are known by the first of their
+/// spellings.
 void addItems(const Occupancy& occupancy, const AskedWeek& week, std::vector<Hit>& hits)
 {
-    std::map<Subject, Hit*> bySubject;
-    for (Hit& hit : hits) {
-        bySubject.emplace(hit.subject, &hit);
+    if (hits.empty()) {
+        return;
     }
+    HitTable table(hits);
+    const timetable::Timetable& timetable = occupancy.timetable();
     for (const timetable::HoldingId id : weekOfAll(occupancy, week)) {
-        for (const Subject& subject : subjectsOf(occupancy, id)) {
-            if (const auto found = bySubject.find(subject); found != bySubject.end()) {
-                found->second->items.push_back(id);
+        const timetable::Holding& holding = occupancy.holding(id);
+        const timetable::Meeting& meeting = occupancy.meetingOf(holding);
+        const timetable::MeetingPart& part = meeting.part(holding.part);
+        for (const timetable::RoomNameId name : holding.rooms) {
+            if (!name.isNone()) {
+                for (const RoomId room : timetable.roomName(name).rooms) {
+                    table.give(room, id);
+                }
             }
         }
+        for (const timetable::TeacherId teacher : part.teachers) {
+            table.give(timetable.teachers().group(teacher), id);
+        }
+        table.give(timetable.classes().group(meeting.className), id);
+        table.give(timetable.subjects().group(part.subject), id);
     }
 }
 
@@ -127,19 +171,19 @@ std::vector<Hit> whereabouts(const Occupancy& occupancy, const QString& text, co
         return {};
     }
     const timetable::Timetable& timetable = occupancy.timetable();
-    Hits hits(text);
-    forEachRoom(occupancy, [&](RoomId id, const QString& name) { hits.add(id, name, name); });
-    hits.sortLatest();
-    const auto addNames = [&hits](const auto& names) {
+    Search search(text);
+    forEachRoom(occupancy, [&](RoomId id, const QString& name) { search.add(id, name, name); });
+    search.sortLatest();
+    const auto addNames = [&search](const auto& names) {
         forEachName(names, [&](auto id, const QString& spelling) {
-            hits.add(id, spelling, names.text(id));
+            search.add(id, spelling, names.text(id));
         });
-        hits.sortLatest();
+        search.sortLatest();
     };
     addNames(timetable.teachers());
     addNames(timetable.classes());
     addNames(timetable.subjects());
-    std::vector<Hit> found = hits.take();
+    std::vector<Hit> found = search.take();
     addItems(occupancy, week, found);
     return found;
 }

@@ -59,7 +59,7 @@ TEST_F(TheFreeRooms, tellOnDemandWhyOthersAreTaken)
     expectRows("FreeRooms", {"B1|100|8h30–14h00|2|INFO"});
     hands.click(control<QCheckBox>("ShowTaken"));
     expectRows("FreeRooms", {"B1|100|8h30–14h00|2|INFO",
-                             "A2|40|prise : G1, Dupont, Durand, jusqu’à 10h00|1|MATH"});
+                             "A2|40|prise : G1, Dupont et Durand, jusqu’à 10h00|1|MATH"});
 }
 
 TEST_F(TheFreeRooms, countMakeUpsWhereADateIsAsked)
