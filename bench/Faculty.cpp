@@ -1,11 +1,13 @@
 #include "bench/Faculty.h"
 
 #include "demo/Output.h"
+#include "demo/Schema.h"
 #include "shell/Settings.h"
 #include "support/MariaDbServer.h"
 
 #include <QFile>
 #include <QRegularExpression>
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -35,6 +37,20 @@ QString read(const QString& path)
     return QString::fromUtf8(file.readAll());
 }
 
+/// All but the key.
+QStringList columnsOfCourses()
+{
+    const auto& tables = demo::tables();
+    const auto emplois = std::find_if(tables.begin(), tables.end(), [](const demo::Table& each) {
+        return each.name == u"emplois";
+    });
+    QStringList columns;
+    for (const demo::Column& column : emplois->columns) {
+        columns << u'`' + column.name + u'`';
+    }
+    return columns;
+}
+
 } // namespace
 
 Faculty::Faculty(const demo::FacultyOptions& options, test::DatabaseKind kind) : m_database(kind)
@@ -48,6 +64,39 @@ Faculty::Faculty(const demo::FacultyOptions& options, test::DatabaseKind kind) :
         test::MariaDbServer::shared().runScript(QString(kUsualBuffer), m_database.baseName());
         QFile::remove(script);
         m_database.writePhpFile(m_folder.path());
+    }
+}
+
+void Faculty::putIntoOnePeriod(int rows)
+{
+    const QString list = columnsOfCourses().join(u',');
+    const int present =
+        m_database.read(QStringLiteral("select count(*) from emplois")).first().first().toInt();
+    m_database.execute(
+        {QStringLiteral("update emplois set Tranche=1"),
+         QStringLiteral("insert into emplois (%1) select %1 from emplois order by Num limit %2")
+             .arg(list)
+             .arg(std::max(rows - present, 0))});
+}
+
+void Faculty::addCommonCourses(int rows)
+{
+    const QString first = QStringLiteral(" from emplois where Tranche=1");
+    const QStringList columns = columnsOfCourses();
+    const auto count = [&] {
+        return m_database.read(QStringLiteral("select count(*)") + first).first().first().toInt();
+    };
+    const int once = count();
+    for (int more = 1; count() < rows; ++more) {
+        QStringList values = columns;
+        values.replaceInStrings(QRegularExpression(QStringLiteral("^`Classe`$")),
+                                (m_database.usesMySql() ? QStringLiteral("concat(Classe, '/%1')")
+                                                        : QStringLiteral("Classe || '/%1'"))
+                                    .arg(more));
+        m_database.execute(QStringLiteral("insert into emplois (") + columns.join(u',') +
+                           QStringLiteral(") select ") + values.join(u',') + first +
+                           QStringLiteral(" order by Num limit ") +
+                           QString::number(std::min(once, rows - count())));
     }
 }
 

@@ -29,6 +29,13 @@ public:
     };
     [[nodiscard]] Start start(bool plain = false) const;
 
+    /// Puts all courses into the first period, and repeats some of them until there are so many.
+    void putIntoOnePeriod(int rows);
+
+    /// Repeats the courses of the first period with other classes, until it has so many rows: each
+    /// course becomes one of more classes, and the rooms are held as they were.
+    void addCommonCourses(int rows);
+
     /// The database itself.
     [[nodiscard]] test::TestDatabase& database() { return m_database; }
 

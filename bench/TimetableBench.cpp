@@ -6,7 +6,6 @@
 
 #include "bench/DelayProxy.h"
 #include "bench/Faculty.h"
-#include "demo/Schema.h"
 #include "support/MariaDbServer.h"
 #include "timetable/Occupancy.h"
 #include "timetable/TimetableReader.h"
@@ -78,32 +77,11 @@ void report(const char* faculty, const char* where, const QString& connectString
     std::fflush(stdout);
 }
 
-/// Puts all courses into one period, and repeats some of them until there are so many.
-void putIntoOnePeriod(test::TestDatabase& database, int rows)
-{
-    const auto& tables = demo::tables();
-    const auto emplois = std::find_if(tables.begin(), tables.end(), [](const demo::Table& each) {
-        return each.name == u"emplois";
-    });
-    QStringList columns;
-    for (const demo::Column& column : emplois->columns) {
-        columns << u'`' + column.name + u'`';
-    }
-    const QString list = columns.join(u',');
-    const int present =
-        database.read(QStringLiteral("select count(*) from emplois")).first().first().toInt();
-    database.execute(
-        {QStringLiteral("update emplois set Tranche=%1").arg(kPeriod),
-         QStringLiteral("insert into emplois (%1) select %1 from emplois order by Num limit %2")
-             .arg(list)
-             .arg(std::max(rows - present, 0))});
-}
-
 void measure(const char* name, test::DatabaseKind kind, int rowsInOnePeriod, bool onlyNear)
 {
     bench::Faculty faculty(demo::middleFaculty(QDate::currentDate()), kind);
     if (rowsInOnePeriod > 0) {
-        putIntoOnePeriod(faculty.database(), rowsInOnePeriod);
+        faculty.putIntoOnePeriod(rowsInOnePeriod);
     }
     const QString near = faculty.database().connectString();
     if (kind == test::DatabaseKind::Sqlite) {

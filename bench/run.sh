@@ -5,7 +5,7 @@
 #   bench/run.sh --near [small|middle|large]...  without the servers behind a delay, which take most
 #
 # Statements and time per refresh, plain and ahead; a whole click in the window; reading a whole period;
-# time to lay out and paint a page; first plan from process start; peak memory; every page of the rooms to PDF. Leave the
+# what it is asked then; time to lay out and paint a page; first plan from process start; peak memory; every page of the rooms to PDF. Leave the
 # machine alone meanwhile.
 set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
@@ -31,7 +31,7 @@ ensure_packages "${build_packages[@]}" hyperfine libbenchmark-dev libgtest-dev l
     mariadb-client-core mariadb-server-core xauth xvfb
 configure "$folder" bench
 build "$folder" tempora tempora-demo refresh_bench click_bench timetable_bench \
-    drawing_bench first_plan
+    answers_bench drawing_bench first_plan
 mkdir -p "$work"
 use_private_folders "$work/home"
 mkdir -p "$XDG_CONFIG_HOME"
@@ -84,6 +84,8 @@ printf '\n'
 (unset ODBCINI ODBCSYSINI && under_x "$bin/click_bench" 2>/dev/null)
 printf '\n'
 (unset ODBCINI ODBCSYSINI && "$bin/timetable_bench" "${near[@]}")
+printf '\n'
+(unset ODBCINI ODBCSYSINI && "$bin/answers_bench")
 printf '\n```\n'
 "$bin/drawing_bench" 2>/dev/null
 printf '```\n'
