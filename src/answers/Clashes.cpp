@@ -92,7 +92,7 @@ public:
 
 private:
     template <typename NameId>
-    void searchNames(const Names<NameId>& names, std::vector<std::vector<HoldingId>> lists,
+    void searchNames(const Names<NameId>& names, const std::vector<std::vector<HoldingId>>& lists,
                      const Kinds& kinds, const PairRule& rule);
     void searchDiary(const QString& name, const std::vector<DiaryDay>& diary, const Kinds& kinds,
                      const PairRule& rule);
@@ -189,12 +189,13 @@ void Search::searchRooms()
 }
 
 template <typename NameId>
-void Search::searchNames(const Names<NameId>& names, std::vector<std::vector<HoldingId>> lists,
-                         const Kinds& kinds, const PairRule& rule)
+void Search::searchNames(const Names<NameId>& names,
+                         const std::vector<std::vector<HoldingId>>& lists, const Kinds& kinds,
+                         const PairRule& rule)
 {
     for (std::size_t index = 0; index < lists.size(); ++index) {
-        searchDiary(names.text(NameId(static_cast<int>(index))),
-                    diaryOf(m_occupancy, std::move(lists[index])), kinds, rule);
+        searchDiary(names.text(NameId(static_cast<int>(index))), diaryOf(m_occupancy, lists[index]),
+                    kinds, rule);
     }
 }
 
@@ -217,7 +218,7 @@ void Search::searchTeachers()
             }
         }
     }
-    searchNames(teachers, std::move(lists), {ClashKind::Teacher, ClashKind::MakeupTeacher},
+    searchNames(teachers, lists, {ClashKind::Teacher, ClashKind::MakeupTeacher},
                 [this](const Holding& left, const Holding& right) {
                     return m_rules.clashOverTeacher(left, right);
                 });
@@ -235,7 +236,7 @@ void Search::searchClasses()
                 HoldingId(static_cast<int>(index)));
         }
     }
-    searchNames(classes, std::move(lists), {ClashKind::Class, ClashKind::MakeupClass},
+    searchNames(classes, lists, {ClashKind::Class, ClashKind::MakeupClass},
                 [this](const Holding& left, const Holding& right) {
                     return m_rules.clashOverClass(left, right);
                 });

@@ -1,8 +1,9 @@
 #include "answers/Diary.h"
 
 #include <algorithm>
+#include <compare>
 #include <iterator>
-#include <tuple>
+#include <optional>
 
 namespace answers
 {
@@ -19,6 +20,22 @@ qint64 dayKey(const Holding& holding)
 {
     constexpr qint64 dates = qint64(1) << 40; // more than any date's distance from day 0
     return holding.date.isValid() ? dates + holding.date.toJulianDay() : holding.day;
+}
+
+/// Where a holding stands in a diary. Worked out once for each: all clashes come from sorted
+/// diaries.
+struct Entry {
+    qint64 day = 0;
+    std::optional<timetable::TimeSpan> time;
+    HoldingId id;
+
+    friend auto operator<=>(const Entry&, const Entry&) = default;
+};
+
+Entry entryOf(const Occupancy& occupancy, HoldingId id)
+{
+    const Holding& holding = occupancy.holding(id);
+    return {dayKey(holding), holding.time, id};
 }
 
 std::vector<HoldingId>& listOf(DiaryDay& day, MeetingKind kind)
@@ -49,27 +66,30 @@ void addCourses(const Occupancy& occupancy, std::vector<DiaryDay>& diary)
 
 bool comesBefore(const Occupancy& occupancy, HoldingId left, HoldingId right)
 {
-    const Holding& one = occupancy.holding(left);
-    const Holding& other = occupancy.holding(right);
-    return std::tuple(dayKey(one), one.time, left) < std::tuple(dayKey(other), other.time, right);
+    return entryOf(occupancy, left) < entryOf(occupancy, right);
 }
 
-std::vector<DiaryDay> diaryOf(const Occupancy& occupancy, std::vector<HoldingId> holdings)
+std::vector<DiaryDay> diaryOf(const Occupancy& occupancy, const std::vector<HoldingId>& holdings)
 {
-    std::erase_if(holdings, [&](HoldingId id) { return !occupancy.holding(id).time; });
-    std::sort(holdings.begin(), holdings.end(),
-              [&](HoldingId left, HoldingId right) { return comesBefore(occupancy, left, right); });
+    std::vector<Entry> entries;
+    entries.reserve(holdings.size());
+    for (const HoldingId id : holdings) {
+        if (occupancy.holding(id).time) {
+            entries.push_back(entryOf(occupancy, id));
+        }
+    }
+    std::sort(entries.begin(), entries.end());
     std::vector<DiaryDay> diary;
     qint64 latest = -1;
-    for (const HoldingId id : holdings) {
-        const Holding& holding = occupancy.holding(id);
-        if (dayKey(holding) != latest) {
-            latest = dayKey(holding);
+    for (const Entry& entry : entries) {
+        const Holding& holding = occupancy.holding(entry.id);
+        if (entry.day != latest) {
+            latest = entry.day;
             const bool isDate = holding.date.isValid();
             diary.push_back(
                 {isDate ? timetable::dayOf(holding.date) : holding.day, holding.date, {}, {}, {}});
         }
-        listOf(diary.back(), occupancy.meetingOf(holding).kind).push_back(id);
+        listOf(diary.back(), occupancy.meetingOf(holding).kind).push_back(entry.id);
     }
     addCourses(occupancy, diary);
     return diary;

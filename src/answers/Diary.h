@@ -20,7 +20,7 @@ struct DiaryDay {
 /// Sorts holdings into days: those of the teaching weeks, then the dates of make-ups and exams.
 /// Days without anything are left out, as is what has no known time. Requires: each holding once.
 [[nodiscard]] std::vector<DiaryDay> diaryOf(const timetable::Occupancy& occupancy,
-                                            std::vector<timetable::HoldingId> holdings);
+                                            const std::vector<timetable::HoldingId>& holdings);
 
 /// The order of a diary: the teaching weeks by day, then dates; by start; as they were read.
 [[nodiscard]] bool comesBefore(const timetable::Occupancy& occupancy, timetable::HoldingId left,
