@@ -5,8 +5,8 @@
 #   bench/run.sh --near [small|middle|large]...  without the servers behind a delay, which take most
 #
 # Statements and time per refresh, plain and ahead; a whole click in the window; reading a whole period;
-# what it is asked then; time to lay out and paint a page; first plan from process start; peak memory; every page of the rooms to PDF. Leave the
-# machine alone meanwhile.
+# what it is asked then; time to lay out and paint a page; first plan from process start; peak memory;
+# every page of the rooms to PDF. Leave the machine alone meanwhile.
 set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 # shellcheck source=scripts/common.sh
