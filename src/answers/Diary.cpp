@@ -29,7 +29,8 @@ struct Entry {
     std::optional<timetable::TimeSpan> time;
     HoldingId id;
 
-    friend auto operator<=>(const Entry&, const Entry&) = default;
+    friend auto operator<=>(const Entry&,
+                            const Entry&) = default; // NOLINT(modernize-use-nullptr)
 };
 
 Entry entryOf(const Occupancy& occupancy, HoldingId id)

@@ -118,7 +118,8 @@ struct Place {
     int room = 0;
     HoldingId id;
 
-    friend auto operator<=>(const Place&, const Place&) = default;
+    friend auto operator<=>(const Place&,
+                            const Place&) = default; // NOLINT(modernize-use-nullptr)
 };
 
 /// Sorts holdings by day, start and room; those that have all in common stay as they were read.

@@ -89,7 +89,7 @@ void RandomWeek::addCalendar(TestDatabase& database)
         }
         QStringList weeks;
         for (const char* column : {"Semaine1", "Semaine2", "Controle"}) {
-            const QDate monday = RandomTimetable::date().addDays(7 * m_random.pick(3));
+            const QDate monday = RandomTimetable::date().addDays(qint64(7) * m_random.pick(3));
             weeks << QLatin1String(column) + QStringLiteral(" = ") + dateLiteral(monday);
         }
         statements << QStringLiteral("update dat_exam set ") + weeks.join(QStringLiteral(", ")) +
