@@ -23,7 +23,7 @@ public:
 
     /// The text of a box that stands in the room at that time, or at nobody knows what time of the
     /// day; empty where there is none. With a date its make-ups and exams count as well. Empty,
-    /// too, for a room that a plain statement cannot ask about.
+    /// too, for a room without a name and for one that a plain statement cannot ask about.
     [[nodiscard]] QString textAt(const QString& room, const AskedDay& day, int from, int to);
 
     /// How many boxes were found.
