@@ -204,7 +204,7 @@ QString PlClasse::weekShown() const
         return {};
     }
     return QStringLiteral("Semaine %1 (du %2)")
-        .arg(rhythm.weekOf(date) == timetable::Week::A ? u'A' : u'B')
+        .arg(rhythm.weekOf(date) == timetable::Week::A ? QChar(u'A') : QChar(u'B'))
         .arg(timetable::MondayOnOrBefore(date).toString(QStringLiteral("dd/MM")));
 }
 
