@@ -70,8 +70,8 @@ void Hands::rightClick(QPoint screenPoint) const
 
 void Hands::doubleClick(QPoint screenPoint) const
 {
-    // Two presses of one millisecond are none of a hand's: the toolkit takes them for two clicks.
-    play(QString("mousemove %1 %2 click 1 sleep 0.02 click 1")
+    // Two presses of the same millisecond are two clicks.
+    play(QString("mousemove %1 %2 click 1 sleep 0.01 click 1")
              .arg(screenPoint.x())
              .arg(screenPoint.y()));
 }

@@ -27,6 +27,8 @@ public:
     /// Clicks on the widget: on the indicator of a check box or option button, else in the middle.
     void click(const QWidget* widget) const;
     void rightClick(QPoint screenPoint) const;
+    /// The test sees to it that the toolkit takes it for one, however slow the machine is
+    /// (QApplication::setDoubleClickInterval).
     void doubleClick(QPoint screenPoint) const;
     void moveTo(QPoint screenPoint) const;
     /// Presses and releases keys, named like "F2", "Return" or "alt+F4".

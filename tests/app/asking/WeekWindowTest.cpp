@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 using namespace test;
@@ -64,6 +65,10 @@ TEST_F(TheWeeks, openByADoubleClickOnARoomsName)
     open();
     const auto cell = view()->table().cellOf("A2", 0);
     ASSERT_TRUE(cell);
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(60000); // milliseconds: longer than any machine is slow
+    const auto putBack =
+        qScopeGuard([interval] { QApplication::setDoubleClickInterval(interval); });
     hands.doubleClick(view()->onScreen(*cell).center());
     ASSERT_TRUE(until([&] { return window().findChild<QWidget*>("WeekWindow") != nullptr; }));
     expectBoxes(weekOfA2);
