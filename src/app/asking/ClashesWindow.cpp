@@ -41,8 +41,15 @@ ClashesWindow::ClashesWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     : AnswerWindow(desk, std::move(ties), QStringLiteral("Conflits"), parent),
       m_kind(new QComboBox), m_list(answerList(QStringLiteral("Conflits"),
                                                {QStringLiteral("Conflit"), QStringLiteral("Quand"),
-                                                QStringLiteral("Ce qui ne va pas")}))
+                                                QStringLiteral("Ce qui ne va pas")})),
+      m_sentence(plainLabel())
 {
+    m_sentence->setObjectName(QStringLiteral("ClashSentence"));
+    m_sentence->setWordWrap(true);
+    m_sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    connect(m_list, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
+        m_sentence->setText(item == nullptr ? QString() : item->text(2));
+    });
     setObjectName(QStringLiteral("ClashesWindow"));
     m_kind->setObjectName(QStringLiteral("ClashKind"));
     m_kind->setAccessibleName(QStringLiteral("Conflits montrés"));
@@ -58,6 +65,7 @@ ClashesWindow::ClashesWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     fields->addStretch();
     column->addLayout(fields);
     column->addWidget(m_list, 1);
+    column->addWidget(m_sentence);
     column->addWidget(statusLine());
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();

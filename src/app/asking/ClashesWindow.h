@@ -26,6 +26,7 @@ private:
 
     QComboBox* m_kind;
     QTreeWidget* m_list;
+    QLabel* m_sentence;                              ///< of the chosen one, whole
     std::optional<files::AnswerDocument> m_document; ///< what is shown
 };
 

@@ -385,9 +385,8 @@ void FreeRoomsWindow::list(const shell::Inquiry& inquiry, const answers::FreeRoo
     QString sentence = count == 0   ? QStringLiteral("Aucune salle libre")
                        : count == 1 ? QStringLiteral("1 salle libre")
                                     : QStringLiteral("%1 salles libres").arg(count);
-    sentence += answer.taken.size() == 1
-                    ? QStringLiteral(", 1 prise")
-                    : QStringLiteral(", %1 prises").arg(answer.taken.size());
+    sentence += answer.taken.size() == 1 ? QStringLiteral(", 1 prise")
+                                         : QStringLiteral(", %1 prises").arg(answer.taken.size());
     if (!answer.unknown.empty()) {
         sentence += QStringLiteral(", %1 dont on ne sait rien").arg(answer.unknown.size());
     }

@@ -4,8 +4,9 @@
 #include "app/PlainTexts.h"
 #include "app/asking/RoomChoice.h"
 #include "app/asking/ShareBar.h"
-#include "app/asking/ShownDay.h"
-#include "runtime/FrenchDate.h"
+#include "files/ShareShade.h"
+#include "paint/CellBox.h"
+#include "paint/Inks.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -13,21 +14,22 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include <cmath>
-#include <set>
 
 namespace app
 {
 namespace
 {
 
-constexpr QSize kSize(900, 640);
+constexpr QSize kSize(900, 690);
+constexpr int kGridHeight = 250;
+constexpr int kBarWidth = 170;
 
-/// Sorted by its number, not its text.
-class RoomItem : public QTreeWidgetItem
+/// Sorted by what its cell means: numbers and shares by their size.
+class UseItem : public QTreeWidgetItem
 {
 public:
     using QTreeWidgetItem::QTreeWidgetItem;
@@ -41,32 +43,17 @@ public:
     }
 };
 
-/// The darker, the more is held; texts stay readable on every shade.
-QColor shade(double share)
+bool isShade(const files::TableColumn& column)
 {
-    constexpr QColor none(255, 255, 255);
-    constexpr QColor all(31, 58, 95);
-    const auto between = [share](int from, int to) {
-        return static_cast<int>(std::lround(from + (to - from) * share));
-    };
-    return {between(none.red(), all.red()), between(none.green(), all.green()),
-            between(none.blue(), all.blue())};
+    return column.look == files::ColumnLook::Shade;
 }
 
 } // namespace
 
 RoomUseWindow::RoomUseWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     : AnswerWindow(desk, std::move(ties), QStringLiteral("Occupation des salles"), parent),
-      m_week(new QComboBox), m_rooms(new RoomChoice([this] {
-          if (!m_isFilling && isVisible()) {
-              answer();
-          }
-      })),
-      m_slots(new QTableWidget),
-      m_list(answerList(QStringLiteral("Occupation par salle"),
-                        {QStringLiteral("Salle"), QStringLiteral("Places"),
-                         QStringLiteral("Séances tenues"), QStringLiteral("Occupation"),
-                         QStringLiteral("Sièges pris")}))
+      m_week(new QComboBox), m_rooms(new RoomChoice([this] { changed(); })),
+      m_slots(new QTableWidget), m_lists(new QTabWidget), m_notes(plainLabel())
 {
     setObjectName(QStringLiteral("RoomUseWindow"));
     m_week->setObjectName(QStringLiteral("UseWeek"));
@@ -74,38 +61,20 @@ RoomUseWindow::RoomUseWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     m_week->addItems({QStringLiteral("Toute semaine"), QStringLiteral("Semaine A"),
                       QStringLiteral("Semaine B")});
     m_slots->setObjectName(QStringLiteral("UseBySlot"));
-    m_slots->setAccessibleName(QStringLiteral("Occupation par jour et par séance"));
+    m_slots->setAccessibleName(QStringLiteral("Occupation par jour et par créneau"));
     m_slots->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_slots->setMaximumHeight(215);
-    m_list->setObjectName(QStringLiteral("UseByRoom"));
-    m_list->setSortingEnabled(true);
-    m_list->sortByColumn(0, Qt::AscendingOrder);
-    m_list->header()->resizeSection(0, 200);
-    m_list->header()->resizeSection(2, 120);
-    m_list->header()->resizeSection(3, 200);
-    for (const int column : {3, 4}) {
-        m_list->setItemDelegateForColumn(column, new ShareBar(m_list));
-    }
-    auto* notes = plainLabel(
-        QStringLiteral("Une séance tient les créneaux dont elle touche une minute ; les cours de "
-                       "la période comptent, sans rattrapages ni examens. Occupation : créneaux "
-                       "tenus sur les créneaux des six jours. Sièges pris : étudiants inscrits "
-                       "dans les classes présentes, au plus les places, sur les places de tous "
-                       "les créneaux. « Toute semaine » est la moyenne des semaines A et B."));
-    notes->setWordWrap(true);
-    notes->setObjectName(QStringLiteral("UseNotes"));
+    m_slots->setMaximumHeight(kGridHeight);
+    m_lists->setObjectName(QStringLiteral("UseLists"));
+    m_notes->setWordWrap(true);
+    m_notes->setObjectName(QStringLiteral("UseNotes"));
     auto* column = new QVBoxLayout(this);
     column->addLayout(fieldRow());
     column->addWidget(m_slots);
-    column->addWidget(m_list, 1);
-    column->addWidget(notes);
+    column->addWidget(m_lists, 1);
+    column->addWidget(m_notes);
     column->addWidget(statusLine());
     column->addLayout(buttonRow());
-    connect(m_week, &QComboBox::currentIndexChanged, this, [this] {
-        if (!m_isFilling && isVisible()) {
-            answer();
-        }
-    });
+    connect(m_week, &QComboBox::currentIndexChanged, this, [this] { changed(); });
     resize(kSize);
 }
 
@@ -136,6 +105,13 @@ QLayout* RoomUseWindow::buttonRow()
     return row;
 }
 
+void RoomUseWindow::changed()
+{
+    if (!m_isFilling && isVisible()) {
+        answer();
+    }
+}
+
 void RoomUseWindow::showAnswer(const shell::Inquiry& inquiry)
 {
     {
@@ -150,16 +126,24 @@ void RoomUseWindow::showAnswer(const shell::Inquiry& inquiry)
         tell(why + u'.', true);
         return;
     }
+    const int shown = m_lists->currentIndex();
+    clearAnswer();
     m_document = inquiry.roomUse(static_cast<timetable::Week>(m_week->currentIndex()), filter);
+    const files::AnswerTable table = files::answerTable(*m_document, files::TableUse::Page);
+    for (auto section = table.sections.rbegin(); section != table.sections.rend(); ++section) {
+        if (std::any_of(section->columns.begin(), section->columns.end(), isShade)) {
+            showGrid(*section);
+        } else {
+            addList(*section);
+        }
+    }
+    m_lists->setCurrentIndex(std::max(shown, 0));
+    m_notes->setText(table.notes.join(u' '));
     const auto& use = std::get<answers::RoomUse>(m_document->answer);
-    showSlots(use);
-    showRooms(inquiry, use);
-    QString sentence =
-        QStringLiteral("%1 des créneaux tenus").arg(answers::percentWords(use.share));
-    sentence +=
-        use.areSeatsKnown
-            ? QStringLiteral(", %1 des sièges pris").arg(answers::percentWords(use.seatsShare))
-            : QStringLiteral(", sièges inconnus : les étudiants ne se laissent pas lire");
+    QString sentence = answers::percentWords(use.share) + QStringLiteral(" des créneaux tenus, ");
+    sentence += use.areSeatsKnown
+                    ? answers::percentWords(use.seatsShare) + QStringLiteral(" des sièges pris")
+                    : QStringLiteral("sièges inconnus");
     tell(sentence, !use.areSeatsKnown);
 }
 
@@ -168,65 +152,76 @@ void RoomUseWindow::clearAnswer()
     m_slots->clear();
     m_slots->setRowCount(0);
     m_slots->setColumnCount(0);
-    m_list->clear();
+    while (m_lists->count() > 0) {
+        const std::unique_ptr<QWidget> list(m_lists->widget(0));
+        m_lists->removeTab(0);
+    }
+    m_notes->clear();
     m_document.reset();
 }
 
-void RoomUseWindow::showSlots(const answers::RoomUse& use)
+void RoomUseWindow::showGrid(const files::TableSection& section)
 {
-    std::set<int> numbers;
-    for (const answers::UseOfSlot& slot : use.slots) {
-        numbers.insert(slot.slot);
+    m_slots->setRowCount(static_cast<int>(section.rows.size()));
+    m_slots->setColumnCount(static_cast<int>(section.columns.size()) - 1);
+    for (std::size_t column = 1; column < section.columns.size(); ++column) {
+        m_slots->setHorizontalHeaderItem(static_cast<int>(column) - 1,
+                                         new QTableWidgetItem(section.columns[column].title));
     }
-    QStringList columns;
-    for (const int number : numbers) {
-        columns << QStringLiteral("Séance %1").arg(number);
+    for (std::size_t row = 0; row < section.rows.size(); ++row) {
+        const files::TableRow& cells = section.rows[row];
+        m_slots->setVerticalHeaderItem(static_cast<int>(row),
+                                       new QTableWidgetItem(cells.front().text));
+        for (std::size_t column = 1; column < cells.size(); ++column) {
+            auto* item = new QTableWidgetItem(cells[column].text);
+            item->setTextAlignment(Qt::AlignCenter);
+            if (cells[column].share) {
+                const form::Colour ground = files::shadeOf(*cells[column].share);
+                item->setBackground(paint::toColor(ground));
+                item->setForeground(paint::toColor(paint::readableOn(ground)));
+            }
+            m_slots->setItem(static_cast<int>(row), static_cast<int>(column) - 1, item);
+        }
     }
-    QStringList days;
-    for (const QString& name : runtime::frenchDayNames()) {
-        days << name;
-    }
-    m_slots->clear();
-    m_slots->setRowCount(static_cast<int>(days.size()));
-    m_slots->setColumnCount(static_cast<int>(columns.size()));
-    m_slots->setVerticalHeaderLabels(days);
-    m_slots->setHorizontalHeaderLabels(columns);
     m_slots->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_slots->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    for (const answers::UseOfSlot& slot : use.slots) {
-        auto* cell = new QTableWidgetItem(answers::percentWords(slot.share));
-        cell->setTextAlignment(Qt::AlignCenter);
-        cell->setBackground(shade(slot.share));
-        cell->setForeground(slot.share > 0.45 ? Qt::white : Qt::black);
-        cell->setToolTip(plainToolTip(QStringLiteral("%1 salles sur %2")
-                                          .arg(answers::numberWords(slot.held))
-                                          .arg(slot.rooms)));
-        m_slots->setItem(slot.day,
-                         static_cast<int>(std::distance(numbers.begin(), numbers.find(slot.slot))),
-                         cell);
-    }
 }
 
-void RoomUseWindow::showRooms(const shell::Inquiry& inquiry, const answers::RoomUse& use)
+void RoomUseWindow::addList(const files::TableSection& section)
 {
-    m_list->setSortingEnabled(false); // else each row is sorted in by itself
-    m_list->clear();
-    for (const answers::UseOfRoom& room : use.rooms) {
-        const QString held =
-            QStringLiteral("%1 sur %2").arg(answers::numberWords(room.held)).arg(room.slots);
-        const QString seats = !use.areSeatsKnown ? QStringLiteral("inconnu")
-                              : room.places == 0 ? QStringLiteral("–")
-                                                 : answers::percentWords(room.seatsShare);
-        auto* item = new RoomItem(m_list, QStringList{inquiry.timetable().room(room.room).name,
-                                                      QString::number(room.places), held,
-                                                      answers::percentWords(room.share), seats});
-        item->setData(1, kShareRole, static_cast<double>(room.places));
-        item->setData(2, kShareRole, room.held);
-        item->setData(3, kShareRole, room.share);
-        item->setData(4, kShareRole, use.areSeatsKnown ? room.seatsShare : 0.0);
-        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    QStringList titles;
+    for (const files::TableColumn& column : section.columns) {
+        titles << column.title;
     }
-    m_list->setSortingEnabled(true);
+    QTreeWidget* list = answerList(section.heading, titles);
+    list->setObjectName(QStringLiteral("Use_") + section.label);
+    for (const files::TableRow& row : section.rows) {
+        auto* item = new UseItem(list);
+        for (std::size_t index = 0; index < row.size(); ++index) {
+            const auto column = static_cast<int>(index);
+            const files::ColumnLook look = section.columns[index].look;
+            item->setText(column, row[index].text);
+            if (look == files::ColumnLook::Bar) {
+                item->setData(column, kShareRole, row[index].share.value_or(-1));
+            } else if (look == files::ColumnLook::Number) {
+                item->setData(column, kShareRole,
+                              QLocale(QLocale::French).toDouble(row[index].text));
+                item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+            }
+        }
+    }
+    for (std::size_t index = 0; index < section.columns.size(); ++index) {
+        const auto column = static_cast<int>(index);
+        if (section.columns[index].look == files::ColumnLook::Bar) {
+            list->setItemDelegateForColumn(column, new ShareBar(list));
+            list->setColumnWidth(column, kBarWidth);
+        } else {
+            list->resizeColumnToContents(column);
+        }
+    }
+    list->sortByColumn(0, Qt::AscendingOrder);
+    list->setSortingEnabled(true);
+    m_lists->addTab(list, section.heading);
 }
 
 } // namespace app

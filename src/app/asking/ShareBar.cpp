@@ -22,7 +22,7 @@ void ShareBar::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QStyledItemDelegate::paint(painter, text, index);
     const QRect whole = option.rect.adjusted(kTextWidth + kMargin, kMargin, -kMargin, -kMargin);
     const QVariant share = index.data(kShareRole);
-    if (!share.isValid() || whole.width() <= 0) {
+    if (!share.isValid() || share.toDouble() < 0 || whole.width() <= 0) {
         return;
     }
     QRect bar = whole;

@@ -9,6 +9,7 @@
 #include "app/asking/ShownDay.h"
 #include "app/asking/WeekView.h"
 #include "files/AnswerWeekPdf.h"
+#include "paint/WeekLegend.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
 
@@ -83,9 +84,12 @@ WeekWindow::WeekWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
 {
     setObjectName(QStringLiteral("WeekWindow"));
     buildFields();
+    m_legend = plainLabel();
+    m_legend->setObjectName(QStringLiteral("WeekLegend"));
     auto* column = new QVBoxLayout(this);
     column->addLayout(fieldRow());
     column->addWidget(buildPages(), 1);
+    column->addWidget(m_legend);
     column->addWidget(statusLine());
     column->addLayout(buttonRow());
     const auto key = [this](QKeyCombination keys, auto act) {
@@ -356,12 +360,14 @@ void WeekWindow::draw(const shell::Inquiry& inquiry, const files::WeekAnswer& an
     if (isOfAllRooms()) {
         m_overview->show(answers::roomWeeks(inquiry.occupancy(), answer.week, answer.items),
                          m_document->roomColors);
+        m_legend->setText(paint::weekLegend(m_overview->weeks()));
         m_pages->setCurrentWidget(m_overview);
     } else {
         m_view->show(
             answers::weekGrid(inquiry.occupancy(), answer.subject, answer.week, answer.items),
             m_document->roomColors);
         m_view->setAccessibleName(QStringLiteral("Semaine, ") + m_document->title);
+        m_legend->setText(paint::weekLegend(m_view->grid()));
         m_pages->setCurrentWidget(m_view);
     }
 }
@@ -390,6 +396,7 @@ void WeekWindow::list(const shell::Inquiry& inquiry, const files::WeekAnswer& an
         m_list->resizeColumnToContents(column);
     }
     m_list->setCurrentItem(m_list->topLevelItem(0));
+    m_legend->clear();
     m_pages->setCurrentWidget(m_list);
 }
 

@@ -61,7 +61,8 @@ private:
     WeekView* m_view = nullptr;
     OverviewView* m_overview = nullptr;
     QTreeWidget* m_list = nullptr;
-    QString m_wanted; ///< the name to be shown once the names are known
+    QLabel* m_legend = nullptr; ///< what hatching and marks mean
+    QString m_wanted;           ///< the name to be shown once the names are known
     std::optional<files::AnswerDocument> m_document; ///< what is shown
     bool m_isFilling = false; ///< the program, not the user, changes the fields
 };

@@ -71,12 +71,16 @@ TEST_F(TheClashes, standBesideTheUseOfRooms)
     ASSERT_TRUE(until([&] { return status(*answers).startsWith("5 % des créneaux tenus"); }))
         << status(*answers).toStdString();
     // Seats: A2 5 of 24 times 40, B1 4 of 2400, C1 2 of 288.
-    EXPECT_EQ(rows("UseByRoom"), QStringList({"A1|30|0 sur 24|0 %|0 %", "A2|40|2 sur 24|8 %|1 %",
-                                              "B1|100|2 sur 24|8 %|< 1 %", "B2|20|1 sur 24|4 %|0 %",
-                                              "C1|12|1 sur 24|4 %|1 %"}));
-    const auto* slots = control<QTableWidget>("UseBySlot");
-    EXPECT_EQ(slots->item(0, 0)->text(), "40 %"); // Monday's first: two rooms of five
-    EXPECT_EQ(slots->item(5, 3)->text(), "0 %");
+    EXPECT_EQ(rows("Use_salle"), QStringList({"A1|1|30|0|24|0 %|0 %", "A2|1|40|2|24|8 %|1 %",
+                                              "B1|2|100|2|24|8 %|< 1 %", "B2|2|20|1|24|4 %|0 %",
+                                              "C1|3|12|1|24|4 %|1 %"}));
+    // Zone 1: two of 48 slots, five of 24 times 70 seats.
+    EXPECT_EQ(rows("Use_zone").front(), "1|2|70|2|48|4 %|< 1 %");
+    const auto* grid = control<QTableWidget>("UseBySlot");
+    EXPECT_EQ(grid->verticalHeaderItem(0)->text(), "1 : 8h30–10h00");
+    EXPECT_EQ(grid->item(0, 0)->text(), "40 %"); // Monday's first: two rooms of five
+    EXPECT_EQ(grid->item(3, 5)->text(), "0 %");  // Saturday's last
+    EXPECT_TRUE(control<QLabel>("UseNotes")->text().contains("ni rattrapages, ni examens"));
 }
 
 TEST_F(TheClashes, leaveTheWeekOfTheDateInTheStatusBar)
