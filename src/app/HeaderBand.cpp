@@ -1,7 +1,7 @@
 #include "app/HeaderBand.h"
 
+#include "app/ElidedLabel.h"
 #include "app/FormMirror.h"
-#include "app/PlainTexts.h"
 #include "engine/Engine.h"
 #include "print/Heading.h"
 
@@ -17,7 +17,7 @@ namespace
 
 QLabel* label(const QString& name, const QString& role)
 {
-    auto* label = plainLabel();
+    auto* label = new ElidedLabel; // the window may be narrower than its texts
     label->setObjectName(name);
     label->setProperty("role", role);
     return label;

@@ -3,6 +3,7 @@
 #include "app/DateField.h"
 #include "app/FormMirror.h"
 #include "app/PlainTexts.h"
+#include "app/WrappingBand.h"
 #include "engine/Engine.h"
 
 #include <QAbstractItemView>
@@ -89,7 +90,7 @@ private:
 };
 
 /// A titled panel whose rows are filled from the top.
-QGridLayout* addPanel(QHBoxLayout* band, const QString& title, int stretch = 0)
+QGridLayout* addPanel(QLayout* band, const QString& title)
 {
     auto* panel = new QGroupBox(title);
     auto* grid = new QGridLayout(panel);
@@ -100,7 +101,7 @@ QGridLayout* addPanel(QHBoxLayout* band, const QString& title, int stretch = 0)
         grid->setRowMinimumHeight(row, kRowPixels);
     }
     grid->setRowStretch(kPanelRows, 1);
-    band->addWidget(panel, stretch);
+    band->addWidget(panel);
     return grid;
 }
 
@@ -114,7 +115,7 @@ Widget* keepPlace(Widget* widget)
     return widget;
 }
 
-void addPeriodPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+void addPeriodPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Période"));
     grid->addWidget(
@@ -143,7 +144,7 @@ void nameCalendarParts(QCalendarWidget& calendar)
     name("qt_calendar_calendarview", QStringLiteral("Jours du mois"));
 }
 
-void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+void addDayPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Jour"));
     grid->addWidget(make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 8), 0, 0);
@@ -162,7 +163,7 @@ void addDayPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     grid->addWidget(keepPlace(picker), 2, 0);
 }
 
-void addWeekPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+void addWeekPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Semaine"));
     grid->addWidget(
@@ -171,7 +172,7 @@ void addWeekPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     grid->addWidget(make.radio("OptB", form.OptB()), 2, 0);
 }
 
-void addBoxPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+void addBoxPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Dans les cases"));
     grid->addWidget(make.check("XOpCl", form.XOpCl), 0, 0);
@@ -184,9 +185,9 @@ void addBoxPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     grid->setColumnMinimumWidth(0, 92);
 }
 
-void addRoomPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+void addRoomPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
-    QGridLayout* grid = addPanel(band, QStringLiteral("Salles"), 1);
+    QGridLayout* grid = addPanel(band, QStringLiteral("Salles"));
     auto* caption = plainLabel(QStringLiteral("Zone"));
     auto* zone = make.list("cb_Locaux", form.cb_Locaux,
                            QStringLiteral("Zone des salles ; 0 pour toutes"), 3);
@@ -203,7 +204,7 @@ void addRoomPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
     grid->setColumnStretch(1, 1);
 }
 
-void addPagePanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+void addPagePanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Page"));
     auto* caption = plainLabel(QStringLiteral("Lignes/Page : "));
@@ -222,7 +223,7 @@ void addPagePanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
                     0, 1, 2);
 }
 
-QCheckBox* addViewPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& form)
+QCheckBox* addViewPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Affichage"));
     auto* colorer = make.check("Colorer", form.Colorer, QStringLiteral("Une couleur par salle"));
@@ -241,11 +242,10 @@ QCheckBox* addViewPanel(QHBoxLayout* band, PanelBuilder& make, form::PlanForm& f
     return colorer;
 }
 
-void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror,
-                     engine::Engine& engine)
+void addSubjectPanel(QLayout* band, PanelBuilder& make, FormMirror& mirror, engine::Engine& engine)
 {
     form::PlanForm& form = engine.form();
-    QGridLayout* grid = addPanel(band, QStringLiteral("Matière et couleurs"), 2);
+    QGridLayout* grid = addPanel(band, QStringLiteral("Matière et couleurs"));
     grid->addWidget(make.check("Check1", form.Check1,
                                QStringLiteral("Ne montrer que les séances d’une matière")),
                     0, 0, 1, 2);
@@ -270,7 +270,7 @@ void addSubjectPanel(QHBoxLayout* band, PanelBuilder& make, FormMirror& mirror,
     grid->addWidget(frame, 1, 0, 2, 2);
 }
 
-void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, engine::Engine& engine)
+void addPrintPanel(QLayout* band, PanelBuilder& make, engine::Engine& engine)
 {
     form::PlanForm& form = engine.form();
     QGridLayout* grid = addPanel(band, QStringLiteral("Impression"));
@@ -294,7 +294,7 @@ void addPrintPanel(QHBoxLayout* band, PanelBuilder& make, engine::Engine& engine
 OptionPanels::OptionPanels(engine::Engine& engine, FormMirror& mirror)
 {
     setObjectName(QStringLiteral("Picture1"));
-    auto* band = new QHBoxLayout(this);
+    auto* band = new WrappingBand(this);
     band->setContentsMargins(6, 2, 6, 4);
     band->setSpacing(5);
     PanelBuilder make(mirror);

@@ -224,8 +224,8 @@ int PlClasse::run(const shell::CommandLine& line)
     if (!load()) {
         return kFailed;
     }
-    resize(kFirstSize);
-    showMaximized();
+    place();
+    show();
     m_isStarting = true;
     activate();
     play(line);
@@ -236,6 +236,23 @@ int PlClasse::run(const shell::CommandLine& line)
     // The first redraws serve events, too: by now the user may have closed the window.
     const int code = hasEnded() ? kDone : QApplication::exec();
     return m_failed ? kFailed : code;
+}
+
+/// As it lay last time; at first it fills the screen.
+void PlClasse::place()
+{
+    resize(kFirstSize);
+    m_placementAtStart =
+        WindowPlacement::fromText(m_shell.windowPlacement()).value_or(WindowPlacement());
+    m_placementAtStart->apply(*this);
+}
+
+void PlClasse::keepPlacement()
+{
+    const WindowPlacement now = WindowPlacement::of(*this);
+    if (m_placementAtStart && !now.looksLike(*m_placementAtStart) && !isMinimized()) {
+        m_shell.saveWindowPlacement(now.toText());
+    }
 }
 
 bool PlClasse::load()
@@ -438,6 +455,7 @@ void PlClasse::closeEvent(QCloseEvent* event)
         } catch (...) { // settings that cannot be saved; the window closes all the same
             fail(runtime::faultInFlight());
         }
+        keepPlacement();
         m_closed = true;
     }
     QMainWindow::closeEvent(event);

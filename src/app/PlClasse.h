@@ -5,6 +5,7 @@
 #include "app/Printing.h"
 #include "app/StartWindow.h"
 #include "app/Waiting.h"
+#include "app/WindowPlacement.h"
 #include "shell/CommandLine.h"
 #include "shell/Shell.h"
 
@@ -85,6 +86,8 @@ private:
     void run(const std::function<void()>& action);
     void runPutOff();
     [[nodiscard]] bool hasEnded() const { return m_failed || m_closed; }
+    void place();
+    void keepPlacement();
     void clickMarker(int marker);
     void readAgain();
     void showHelp();
@@ -105,6 +108,7 @@ private:
     HelpWindow* m_help = nullptr; ///< null until it is asked for
     int m_focusRequests = 0;
     QString m_fontName;
+    std::optional<WindowPlacement> m_placementAtStart; ///< nothing until `run` has placed it
     bool m_isStarting = false; ///< the choices of the command line are still being played
     bool m_leavesOnceStarted = false;
     bool m_failed = false;

@@ -212,6 +212,11 @@ void PlanView::paintEvent(QPaintEvent* event)
     copy(view.boxes, plan, view.boxes.topLeft() + QPoint(scrollX, scrollY));
     copy(view.names, plan, view.names.topLeft() + QPoint(0, scrollY));
     copy(view.places, plan, view.places.topLeft() + QPoint(0, scrollY));
+    // Where the plan is wider than the view, boxes lie behind the places and go on beside them.
+    const form::Place& labels = m_engine.form().Cap.front().place;
+    const int placesEnd = static_cast<int>(m_target.toPixelsX(labels.left + labels.width)) + 1;
+    painter.fillRect(view.places.adjusted(placesEnd - view.places.left(), 0, 0, 0),
+                     PlanPicture::kBandFill);
     const QRect ticks = view.ticks.adjusted(0, 0, view.places.width(), 0);
     copy(ticks, plan, ticks.topLeft() + QPoint(scrollX, 0));
     painter.setPen(kBandEdge);

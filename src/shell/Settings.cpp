@@ -31,9 +31,11 @@ std::unique_ptr<QSettings> openPerUser()
 }
 #endif
 
-QString path(const QString& key)
+QString path(Settings::Section section, const QString& key)
 {
-    return QStringLiteral("Settings/") + key;
+    return (section == Settings::Section::Window ? QStringLiteral("Window/")
+                                                 : QStringLiteral("Settings/")) +
+           key;
 }
 
 /// Makes the file where there is none, for its owner alone: the store would make one that all may
@@ -83,21 +85,21 @@ Settings Settings::fromFile(const QString& path)
     return Settings(std::make_unique<QSettings>(path, QSettings::IniFormat));
 }
 
-QString Settings::get(const QString& key, const QString& fallback) const
+QString Settings::get(const QString& key, const QString& fallback, Section section) const
 {
     // An unquoted comma in a hand-written file makes a list of the value.
-    const QVariant value = m_store->value(path(key), fallback);
+    const QVariant value = m_store->value(path(section, key), fallback);
     return value.typeId() == QMetaType::QStringList
                ? value.toStringList().join(QStringLiteral(", "))
                : value.toString();
 }
 
-void Settings::save(const QString& key, const QString& value)
+void Settings::save(const QString& key, const QString& value, Section section)
 {
     if (m_store->format() == QSettings::IniFormat) {
         makeForOwnerAlone(m_store->fileName());
     }
-    m_store->setValue(path(key), value);
+    m_store->setValue(path(section, key), value);
     m_store->sync();
     check(QStringLiteral("Enregistrement des paramètres"));
 }

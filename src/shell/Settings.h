@@ -23,10 +23,17 @@ public:
     Settings(Settings&&) noexcept;
     Settings& operator=(Settings&&) noexcept;
 
-    [[nodiscard]] QString get(const QString& key, const QString& fallback) const;
+    /// Which part of the store.
+    enum class Section {
+        Settings, ///< [Settings]: what the program is told
+        Window,   ///< [Window]: where its window lay
+    };
+
+    [[nodiscard]] QString get(const QString& key, const QString& fallback,
+                              Section section = Section::Settings) const;
     /// A file that is not there yet is made for its owner alone; another one keeps its rights.
     /// Error: PathFileAccess when the store cannot be written.
-    void save(const QString& key, const QString& value);
+    void save(const QString& key, const QString& value, Section section = Section::Settings);
 
 private:
     explicit Settings(std::unique_ptr<QSettings> store);

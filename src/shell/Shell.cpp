@@ -14,6 +14,11 @@ namespace
 // Twips between the totals line and the window's inner bottom once the window is active.
 constexpr int kTotalsMargin = 470;
 
+QString placementKey()
+{
+    return QStringLiteral("Place");
+}
+
 } // namespace
 
 Shell::Shell(Settings settings, engine::Surroundings surroundings)
@@ -73,6 +78,17 @@ void Shell::saveOptions()
     if (m_loaded) {
         writeOptions();
     }
+}
+
+QString Shell::windowPlacement() const
+{
+    return m_settings.get(placementKey(), QString(), Settings::Section::Window);
+}
+
+void Shell::saveWindowPlacement(const QString& placement)
+{
+    runtime::skipOnError(
+        [&] { m_settings.save(placementKey(), placement, Settings::Section::Window); });
 }
 
 void Shell::writeOptions()

@@ -41,6 +41,11 @@ public:
     /// Writes back the settings that changed, and goes on; before start-up has read them and once
     /// all is closed there are none. Error: PathFileAccess.
     void saveOptions();
+    /// Where the window lay when it was closed last, as `saveWindowPlacement` was told; empty where
+    /// nobody has told it.
+    [[nodiscard]] QString windowPlacement() const;
+    /// Keeps it for the next session. What cannot be saved is not worth a word.
+    void saveWindowPlacement(const QString& placement);
     /// Gives every control the font of `Label20` and redraws.
     void Label20_Click();
     /// Asks for the focus to go to `Colorer`. The backgrounds of the option controls need no

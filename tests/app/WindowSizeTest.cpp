@@ -61,3 +61,31 @@ TEST_F(TheWindow, shows29RowsAtOnceOnASmallScreen)
     EXPECT_EQ(view()->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(view()->horizontalScrollBar()->maximum(), 0);
 }
+
+TEST_F(TheWindow, isUsableFrom900By600PixelsOn)
+{
+    open({900, 600});
+    ASSERT_TRUE(test::until([this] { return window().size() == QSize(900, 600); }));
+    EXPECT_LE(window().minimumSizeHint().width(), 900);
+    EXPECT_LE(window().minimumSizeHint().height(), 600);
+    for (const char* name : {"CbTranche", "Command1", "Aide", "Questions", "Colorer"}) {
+        const auto* widget = control<QWidget>(name);
+        const QRect place(widget->mapTo(&window(), QPoint(0, 0)), widget->size());
+        EXPECT_TRUE(window().rect().contains(place)) << name;
+    }
+    EXPECT_GE(view()->viewport()->height(), 160);
+}
+
+TEST_F(TheWindow, wrapsItsGroupsOnlyWhereItMust)
+{
+    open({1366, 740});
+    const auto top = [this](const char* name) {
+        return control<QWidget>(name)->mapTo(&window(), QPoint(0, 0)).y();
+    };
+    ASSERT_TRUE(test::until([this] { return window().width() == 1366; }));
+    EXPECT_EQ(top("CbTranche"), top("CbJour"));
+    EXPECT_LT(top("Command1") - top("CbTranche"), 30); // in one row with it
+    window().resize(1200, 740);
+    EXPECT_TRUE(test::until([&] { return top("Command1") - top("CbTranche") > 80; }));
+    EXPECT_LE(control<QPushButton>("Command4")->width(), 260); // does not stretch
+}
