@@ -105,7 +105,9 @@ void PlanView::updateScrollBars()
     verticalScrollBar()->setPageStep(view.boxes.height());
     verticalScrollBar()->setSingleStep(
         static_cast<int>(m_target.toPixelsY(m_lastRowHeight + plan::kRowGap)));
-    horizontalScrollBar()->setRange(0, std::max(0, end - (view.boxes.x() + view.boxes.width())));
+    // Both edges are rounded: a pixel between them is none of the plan's.
+    const int beyond = end - (view.boxes.x() + view.boxes.width());
+    horizontalScrollBar()->setRange(0, beyond > 1 ? beyond : 0);
     horizontalScrollBar()->setPageStep(view.boxes.width());
 }
 

@@ -73,7 +73,10 @@ void writeWithoutWindow(const shell::CommandLine& line)
     shell::Shell shell(openSettings(line), surroundingsFor(line));
     shell.Form_Load();
     if (line.answer) {
-        shell::writeAnswer(shell, line);
+        const QString told = shell::writeAnswer(shell, line);
+        if (!told.isEmpty()) {
+            app::writeError(told);
+        }
         return;
     }
     shell.fitPicture();

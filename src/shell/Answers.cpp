@@ -92,6 +92,21 @@ answers::Subject subjectOf(const Occupancy& occupancy, const AnswerRequest& requ
     return *subject;
 }
 
+/// What the line wants to see of an answer; of clashes those of its week and date.
+answers::Narrowing narrowingOf(const Inquiry& inquiry, const CommandLine& line, bool isOfClashes)
+{
+    answers::Narrowing narrowing;
+    if (line.zone.value_or(0) != 0 || line.department) {
+        narrowing.rooms = filterOf(inquiry, line);
+    }
+    narrowing.day = line.day;
+    if (isOfClashes) {
+        narrowing.weeks = line.date ? weekOfDate(inquiry, line, *line.date) : askedWeek(line);
+        narrowing.date = line.date.value_or(QDate());
+    }
+    return narrowing;
+}
+
 files::AnswerDocument answerTo(const Inquiry& inquiry, const CommandLine& line)
 {
     const AnswerRequest& request = *line.answer;
@@ -100,15 +115,29 @@ files::AnswerDocument answerTo(const Inquiry& inquiry, const CommandLine& line)
         return inquiry.freeRooms(
             {askedDays(inquiry, line), request.span, request.places, filterOf(inquiry, line)});
     case files::AnswerKind::Week:
-        return inquiry.weekOf(subjectOf(inquiry.occupancy(), request), weekAskedFor(inquiry, line));
+        return inquiry.weekOf(subjectOf(inquiry.occupancy(), request), weekAskedFor(inquiry, line),
+                              narrowingOf(inquiry, line, false));
     case files::AnswerKind::Clashes:
-        return inquiry.clashes();
+        return inquiry.clashes(narrowingOf(inquiry, line, true));
     case files::AnswerKind::RoomUse:
-        return inquiry.roomUse(askedWeek(line), filterOf(inquiry, line));
+        return inquiry.roomUse(weekAskedFor(inquiry, line).week, filterOf(inquiry, line));
     case files::AnswerKind::Hits:
         break;
     }
-    return inquiry.find(request.text, weekAskedFor(inquiry, line));
+    return inquiry.find(request.text, weekAskedFor(inquiry, line),
+                        narrowingOf(inquiry, line, false));
+}
+
+/// A calendar is of all that somebody has.
+void requireWhole(const CommandLine& line)
+{
+    const QString option = line.day          ? QStringLiteral("day")
+                           : line.department ? QStringLiteral("department")
+                           : line.zone       ? QStringLiteral("zone")
+                                             : QString();
+    if (!option.isEmpty()) {
+        throw UsageError(QStringLiteral("--%1 : ne va pas avec un calendrier (.ics)").arg(option));
+    }
 }
 
 /// Whoever started the program can mend what the form cannot hold, by asking otherwise.
@@ -123,12 +152,15 @@ QByteArray written(const files::AnswerFormat& format, const files::AnswerDocumen
 
 } // namespace
 
-void writeAnswer(Shell& shell, const CommandLine& line)
+QString writeAnswer(Shell& shell, const CommandLine& line)
 {
-    choosePeriod(shell, line);
-    const Inquiry inquiry(shell);
     const AnswerRequest& request = *line.answer;
     const files::AnswerFormat& format = *files::answerFormatOf(request.kind, request.file);
+    if (format.isDated) {
+        requireWhole(line);
+    }
+    choosePeriod(shell, line);
+    const Inquiry inquiry(shell);
     const QString why = inquiry.whyOpen(line.date.has_value() || format.isDated,
                                         request.kind == files::AnswerKind::Clashes);
     if (!why.isEmpty()) {
@@ -138,6 +170,7 @@ void writeAnswer(Shell& shell, const CommandLine& line)
         throw UsageError(QStringLiteral("La période « %1 » n’a aucun cours").arg(inquiry.period()));
     }
     files::writeWholeFile(request.file, written(format, answerTo(inquiry, line)));
+    return line.date ? inquiry.whyOutside(*line.date) : QString();
 }
 
 } // namespace shell

@@ -11,6 +11,7 @@ namespace shell
 /// started up. Errors: UsageError for a name that nobody has, rooms or courses that there are none
 /// of, a date that is missing, and what the file's form cannot hold; files::ExportError for a file
 /// that cannot be written and for an answer that the database has left open; any database error.
-void writeAnswer(Shell& shell, const CommandLine& line);
+/// Returns what the user should know of the file, in French; empty as a rule.
+QString writeAnswer(Shell& shell, const CommandLine& line);
 
 } // namespace shell

@@ -342,6 +342,18 @@ void readWeekOf(const Reader& reader, AnswerRequest& request)
     }
 }
 
+/// What says how the plan is shown says nothing of the timetable.
+void refusePlanOptions(const Reader& reader, const char* question)
+{
+    for (const char* option : {"mode", "exam-week", "makeup", "neutral", "rooms-per-page", "page",
+                               "show", "subject", "counting"}) {
+        if (reader.has(option)) {
+            fail(QString::fromLatin1(option),
+                 QStringLiteral("ne va pas avec --") + QString::fromLatin1(question));
+        }
+    }
+}
+
 void readAnswer(const Reader& reader, CommandLine& line)
 {
     using Kind = files::AnswerKind;
@@ -371,13 +383,17 @@ void readAnswer(const Reader& reader, CommandLine& line)
     if (!line.answer) {
         return;
     }
+    refusePlanOptions(reader, first);
+    if (line.answer->kind == Kind::RoomUse && reader.has("day")) {
+        fail(QStringLiteral("day"), QStringLiteral("ne va pas avec --use"));
+    }
     if (line.answer->kind == Kind::FreeRooms) {
         readFreeRooms(reader, *line.answer);
     } else if (line.answer->kind == Kind::Week) {
         readWeekOf(reader, *line.answer);
     } else if (line.answer->kind == Kind::Hits) {
         line.answer->text = reader.text("text");
-        if (line.answer->text.isEmpty()) {
+        if (line.answer->text.trimmed().isEmpty()) {
             fail(QStringLiteral("find"), QStringLiteral("demande --text"));
         }
     }

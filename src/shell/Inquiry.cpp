@@ -41,6 +41,23 @@ QString daysWords(const std::vector<timetable::When>& days)
                : day + QStringLiteral(" et les %1 semaines suivantes").arg(days.size() - 1);
 }
 
+/// "mardi, semaine A, zone 3"; empty where all is wanted.
+QString narrowingWords(const answers::Narrowing& narrowing)
+{
+    QStringList words;
+    if (narrowing.date.isValid()) {
+        words << answers::dayWords(timetable::kNoDay, narrowing.date);
+    } else if (narrowing.day) {
+        words << answers::dayWords(*narrowing.day);
+    }
+    if (narrowing.weeks != timetable::Week::Every) {
+        words << answers::weekWords(narrowing.weeks);
+    }
+    words << answers::filterWords(narrowing.rooms);
+    words.removeAll(QString());
+    return words.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 Inquiry::Inquiry(Shell& shell)
@@ -74,6 +91,16 @@ QString Inquiry::whyOpen(bool isDated, bool isClashes) const
         }
     }
     return {};
+}
+
+QString Inquiry::whyOutside(QDate date) const
+{
+    const auto& period = timetable().period();
+    if (!period || period->holds(date)) {
+        return {};
+    }
+    return QStringLiteral("Le %1 est hors de la période « %2 » : aucun cours ne compte ce jour-là.")
+        .arg(date.toString(QStringLiteral("dd/MM/yyyy")), m_period);
 }
 
 QString Inquiry::whyNoRoom(const answers::RoomFilter& filter) const
@@ -134,26 +161,37 @@ files::AnswerDocument Inquiry::freeRooms(const answers::FreeRoomsQuestion& quest
 }
 
 files::AnswerDocument Inquiry::weekOf(const std::optional<answers::Subject>& subject,
-                                      const answers::AskedWeek& week) const
+                                      const answers::AskedWeek& week,
+                                      const answers::Narrowing& narrowing) const
 {
     files::WeekAnswer answer{subject, week,
                              subject ? answers::weekOf(*m_occupancy, *subject, week)
                                      : answers::weekOfAll(*m_occupancy, week)};
+    narrowing.apply(*m_occupancy, answer.items);
     const QString title =
         subject ? answers::kindWords(*subject) + u' ' + answers::nameOf(timetable(), *subject)
                 : QStringLiteral("Toutes les salles");
-    return document(title, {answers::weekWords(week)}, std::move(answer), week.date);
+    return document(title, {answers::weekWords(week), narrowingWords(narrowing)}, std::move(answer),
+                    week.date);
 }
 
-files::AnswerDocument Inquiry::find(const QString& text, const answers::AskedWeek& week) const
+files::AnswerDocument Inquiry::find(const QString& text, const answers::AskedWeek& week,
+                                    const answers::Narrowing& narrowing) const
 {
-    return document(QStringLiteral("Recherche de « %1 »").arg(text), {answers::weekWords(week)},
-                    answers::whereabouts(*m_occupancy, text, week), week.date);
+    files::HitList hits = answers::whereabouts(*m_occupancy, text, week);
+    for (answers::Hit& hit : hits) {
+        narrowing.apply(*m_occupancy, hit.items);
+    }
+    return document(QStringLiteral("Recherche de « %1 »").arg(text),
+                    {answers::weekWords(week), narrowingWords(narrowing)}, std::move(hits),
+                    week.date);
 }
 
-files::AnswerDocument Inquiry::clashes() const
+files::AnswerDocument Inquiry::clashes(const answers::Narrowing& narrowing) const
 {
-    return document(QStringLiteral("Conflits"), {}, answers::clashes(*m_occupancy));
+    files::ClashList clashes = answers::clashes(*m_occupancy);
+    narrowing.apply(*m_occupancy, clashes);
+    return document(QStringLiteral("Conflits"), {narrowingWords(narrowing)}, std::move(clashes));
 }
 
 files::AnswerDocument Inquiry::roomUse(timetable::Week week,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "answers/Narrowing.h"
 #include "files/AnswerDocument.h"
 #include "shell/Shell.h"
 
@@ -35,6 +36,9 @@ public:
     /// Make-ups and exams play a part on dates and in clashes, students in clashes; the use of
     /// seats says itself where it lacks them.
     [[nodiscard]] QString whyOpen(bool isDated, bool isClashes = false) const;
+    /// That a date lies outside the period, whose courses then do not count, as a sentence; empty
+    /// where it does not.
+    [[nodiscard]] QString whyOutside(QDate date) const;
     /// Why no room can meet the filter; empty where one does.
     [[nodiscard]] QString whyNoRoom(const answers::RoomFilter& filter) const;
 
@@ -46,10 +50,11 @@ public:
     [[nodiscard]] files::AnswerDocument freeRooms(const answers::FreeRoomsQuestion& question) const;
     /// Of all rooms without a subject.
     [[nodiscard]] files::AnswerDocument weekOf(const std::optional<answers::Subject>& subject,
-                                               const answers::AskedWeek& week) const;
-    [[nodiscard]] files::AnswerDocument find(const QString& text,
-                                             const answers::AskedWeek& week) const;
-    [[nodiscard]] files::AnswerDocument clashes() const;
+                                               const answers::AskedWeek& week,
+                                               const answers::Narrowing& narrowing = {}) const;
+    [[nodiscard]] files::AnswerDocument find(const QString& text, const answers::AskedWeek& week,
+                                             const answers::Narrowing& narrowing = {}) const;
+    [[nodiscard]] files::AnswerDocument clashes(const answers::Narrowing& narrowing = {}) const;
     [[nodiscard]] files::AnswerDocument roomUse(timetable::Week week,
                                                 const answers::RoomFilter& filter) const;
 

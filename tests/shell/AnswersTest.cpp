@@ -289,6 +289,51 @@ TEST_P(Answers, tellHowMuchTheRoomsAreUsed)
     EXPECT_THROW(write({"--clashes", file}), files::ExportError);
 }
 
+TEST_P(Answers, areNarrowedToZoneDayAndDate)
+{
+    const auto names = [this](const QStringList& arguments) {
+        QStringList rooms;
+        for (const QJsonValue item : answer("--week-of", arguments)["items"].toArray()) {
+            rooms << item.toObject()["rooms"].toArray()[0].toString();
+        }
+        return rooms;
+    };
+    // G3 is in C1 on Monday (two courses), in B1 on Monday, in A2 on Tuesday.
+    EXPECT_EQ(names({"--class", "G3"}), QStringList({"C1", "C1", "B1", "A2"}));
+    EXPECT_EQ(names({"--class", "G3", "--zone", "2"}), QStringList({"B1"}));
+    EXPECT_EQ(names({"--class", "G3", "--day", "1"}), QStringList({"A2"}));
+    database().execute(
+        "insert into emplois (Tranche, Seance, Salle, Classe, Enseignant1, newnature, "
+        "Debut) values (1, 'Lundi1', 'A2', 'G2', 'Petit', '00', '8h30')");
+    const auto clashes = [this](const QStringList& arguments) {
+        return answer("--clashes", arguments)["clashes"].toArray().size();
+    };
+    EXPECT_EQ(clashes({}), 1);
+    EXPECT_EQ(clashes({"--zone", "1", "--day", "0"}), 1);
+    EXPECT_EQ(clashes({"--zone", "2"}), 0);
+    EXPECT_EQ(clashes({"--day", "1"}), 0);
+    EXPECT_EQ(clashes({"--date", "2025-03-17"}), 1); // a Monday of the period
+    EXPECT_EQ(clashes({"--date", "2025-03-18"}), 0);
+    EXPECT_TRUE(refusal({"--clashes", file, "--zone", "7"}).startsWith("--zone : "));
+    EXPECT_TRUE(refusal({"--week-of", folder.filePath("a.ics"), "--class", "G3", "--zone", "1"})
+                    .startsWith("--zone : ne va pas avec un calendrier"));
+}
+
+TEST_P(Answers, tellWhereADateIsOutsideThePeriod)
+{
+    ShellDesk desk(database());
+    desk.load();
+    const auto told = [&](const QString& date) {
+        return shell::writeAnswer(
+            desk.shell(), shell::CommandLine::parse({"tempora", "--free", file, "--from", "8h30",
+                                                     "--to", "10h", "--date", date}));
+    };
+    EXPECT_EQ(told("2025-06-06"), ""); // its last day
+    EXPECT_EQ(told("2025-06-07"),
+              "Le 07/06/2025 est hors de la période « Printemps » : aucun cours "
+              "ne compte ce jour-là.");
+}
+
 TEST_P(Answers, areWrittenInTheFormThatTheFileAsksFor)
 {
     const std::vector<QStringList> questions{

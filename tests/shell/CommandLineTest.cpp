@@ -327,6 +327,10 @@ TEST(CommandLine, readsQuestionsAboutTheTimetable)
 TEST(CommandLine, refusesQuestionsThatCannotBeAnswered)
 {
     const QStringList nine{"--from", "9h30", "--to", "11h00"};
+    EXPECT_THROW(parse({"--find", "f.json", "--text", "  "}), shell::UsageError);
+    EXPECT_THROW(parse({"--use", "u.json", "--day", "1"}), shell::UsageError);
+    EXPECT_THROW(parse({"--clashes", "c.json", "--mode", "exam"}), shell::UsageError);
+    EXPECT_THROW(parse({"--clashes", "c.json", "--page", "2"}), shell::UsageError);
     for (const QStringList& arguments : {
              QStringList{"--free", "l.json", "--day", "1"},
              QStringList{"--free", "l.json"} + nine,

@@ -75,18 +75,21 @@ void AnswerWindow::tell(const QString& sentence, bool isWarning)
 void AnswerWindow::exportAnswer(files::AnswerKind kind, const files::AnswerDocument& document)
 {
     QStringList filters;
-    for (const files::AnswerFormat& format : files::answerFormats(kind)) {
-        filters << QStringLiteral("%1 (*.%2)").arg(format.ending.toUpper(), format.ending);
+    QStringList endings = files::answerEndings(kind);
+    endings.move(0, endings.size() - 1); // JSON, for other programs, comes last
+    for (const QString& ending : endings) {
+        filters << QStringLiteral("%1 (*.%2)").arg(ending.toUpper(), ending);
     }
     QString chosen;
-    QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Exporter"), QString(),
+    const QString name = QString(document.title).replace(u'/', u'-');
+    QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Exporter"), name,
                                                 filters.join(QStringLiteral(";;")), &chosen);
     if (path.isEmpty()) {
         return;
     }
     if (files::answerFormatOf(kind, path) == nullptr) { // typed without an ending
         const auto index = std::max<qsizetype>(filters.indexOf(chosen), 0);
-        path += u'.' + files::answerEndings(kind).at(index);
+        path += u'.' + endings.at(index);
     }
     const files::AnswerFormat& format = *files::answerFormatOf(kind, path);
     try {

@@ -128,6 +128,7 @@ void ClashesWindow::clearAnswer()
 
 void ClashesWindow::list(const shell::Inquiry& inquiry)
 {
+    const int before = m_list->indexOfTopLevelItem(m_list->currentItem());
     m_list->clear();
     const int wanted = m_kind->currentData().toInt();
     const auto& clashes = std::get<files::ClashList>(m_document->answer);
@@ -142,11 +143,16 @@ void ClashesWindow::list(const shell::Inquiry& inquiry)
         item->setData(0, kClashRole, static_cast<int>(index));
         item->setToolTip(2, plainToolTip(item->text(2)));
     }
-    m_list->setCurrentItem(m_list->topLevelItem(0));
-    const auto count = clashes.size();
-    tell(count == 0   ? QStringLiteral("Aucun conflit")
-         : count == 1 ? QStringLiteral("1 conflit")
-                      : QStringLiteral("%1 conflits").arg(count));
+    m_list->setCurrentItem(
+        m_list->topLevelItem(std::clamp(before, 0, std::max(0, m_list->topLevelItemCount() - 1))));
+    const auto count = static_cast<std::size_t>(m_list->topLevelItemCount());
+    QString sentence = count == 0   ? QStringLiteral("Aucun conflit")
+                       : count == 1 ? QStringLiteral("1 conflit")
+                                    : QStringLiteral("%1 conflits").arg(count);
+    if (count != clashes.size()) {
+        sentence += QStringLiteral(" sur %1").arg(clashes.size());
+    }
+    tell(sentence);
 }
 
 void ClashesWindow::go(const QTreeWidgetItem* item)
@@ -162,6 +168,7 @@ void ClashesWindow::go(const QTreeWidgetItem* item)
         tell(QStringLiteral("Rien de cela n’a de place sur le plan"), true);
         return;
     }
+    hide(); // the plan is to be seen; the list keeps its place
     ties().go(shell::Destination::of(inquiry->occupancy(), clash.holders.front()));
 }
 

@@ -189,30 +189,56 @@ void FreeRoomsWindow::buildList()
 
 void FreeRoomsWindow::presentFor(const Prefill& prefill)
 {
+    Fields fields;
+    fields.day = prefill.day;
+    fields.isDated = prefill.date.isValid();
+    fields.date = fields.isDated ? prefill.date : QDate::currentDate();
+    fields.from = prefill.span ? answers::clockWords(prefill.span->start) : m_from->currentText();
+    fields.to = prefill.span ? answers::clockWords(prefill.span->end()) : m_to->currentText();
+    fields.week = static_cast<int>(prefill.week);
     {
         const QScopedValueRollback<bool> filling(m_isFilling, true);
         m_line->clear();
-        m_day->setCurrentIndex(prefill.day);
-        m_isDated->setChecked(prefill.date.isValid());
-        m_date->setDate(prefill.date.isValid() ? prefill.date : QDate::currentDate());
-        m_week->setCurrentIndex(static_cast<int>(prefill.week));
         m_weeksRunning->setValue(1);
-        if (prefill.span) {
-            m_from->setEditText(answers::clockWords(prefill.span->start));
-            m_to->setEditText(answers::clockWords(prefill.span->end()));
-        }
     }
+    m_isZoneUnknown = false;
+    fillIn(fields);
+    m_ownFields = fields;
     present();
+    m_ownFields = this->fields(); // with the times that were offered
     m_line->setFocus();
+}
+
+FreeRoomsWindow::Fields FreeRoomsWindow::fields() const
+{
+    return {m_day->currentIndex(),  m_isDated->isChecked(),
+            m_date->date(),         m_from->currentText(),
+            m_to->currentText(),    m_places->value(),
+            m_week->currentIndex(), m_rooms->filter().zone.value_or(0)};
+}
+
+void FreeRoomsWindow::fillIn(const Fields& fields)
+{
+    const QScopedValueRollback<bool> filling(m_isFilling, true);
+    m_day->setCurrentIndex(fields.day);
+    m_isDated->setChecked(fields.isDated);
+    m_date->setDate(fields.date);
+    m_from->setEditText(fields.from);
+    m_to->setEditText(fields.to);
+    m_places->setValue(fields.places);
+    m_week->setCurrentIndex(fields.week);
+    m_isZoneUnknown = !m_rooms->chooseZone(fields.zone);
 }
 
 void FreeRoomsWindow::changed()
 {
     if (!m_isFilling && isVisible()) {
+        m_ownFields = fields();
         answer();
     }
 }
 
+/// An hour begins as a number: what the line said of places before it went on is taken back.
 void FreeRoomsWindow::readLine()
 {
     if (m_isFilling) {
@@ -220,31 +246,28 @@ void FreeRoomsWindow::readLine()
     }
     const answers::QuickQuestion asked =
         answers::quickQuestion(m_line->text(), QDate::currentDate());
-    {
-        const QScopedValueRollback<bool> filling(m_isFilling, true);
-        if (asked.day) {
-            m_isDated->setChecked(false);
-            m_day->setCurrentIndex(*asked.day);
-        }
-        if (asked.date.isValid()) {
-            m_isDated->setChecked(true);
-            m_date->setDate(asked.date);
-        }
-        if (asked.from) {
-            m_from->setEditText(answers::clockWords(*asked.from));
-            m_to->setEditText(asked.to ? answers::clockWords(*asked.to) : QString());
-        }
-        if (asked.places) {
-            m_places->setValue(*asked.places);
-        }
-        if (asked.week) {
-            m_week->setCurrentIndex(static_cast<int>(*asked.week));
-        }
-        if (asked.zone) {
-            m_rooms->chooseZone(*asked.zone);
-        }
+    Fields said = m_ownFields;
+    if (asked.day) {
+        said.isDated = false;
+        said.day = *asked.day;
     }
-    changed();
+    if (asked.date.isValid()) {
+        said.isDated = true;
+        said.date = asked.date;
+    }
+    if (asked.from) {
+        said.from = answers::clockWords(*asked.from);
+        said.to = asked.to ? answers::clockWords(*asked.to) : QString();
+    }
+    said.places = asked.places.value_or(said.places);
+    said.zone = asked.zone.value_or(said.zone);
+    if (asked.week) {
+        said.week = static_cast<int>(*asked.week);
+    }
+    fillIn(said);
+    if (isVisible()) {
+        answer();
+    }
 }
 
 /// The slots' own times, for whoever would rather choose than type.
@@ -272,6 +295,9 @@ void FreeRoomsWindow::offerTimes(const timetable::Timetable& timetable)
             list->addItems(times);
             list->setEditText(text.isEmpty() ? times.value(0) : text);
         }
+    }
+    if (m_from->currentText().isEmpty()) {
+        m_from->setEditText(starts.value(0));
     }
     const auto from = timetable::readTime(m_from->currentText());
     if (from && m_to->currentText().isEmpty()) {
@@ -309,6 +335,10 @@ std::optional<answers::FreeRoomsQuestion> FreeRoomsWindow::question(const shell:
     if (*to <= *from) {
         why = QStringLiteral("La fin, %1, n’est pas après le début, %2.")
                   .arg(answers::clockWords(*to), answers::clockWords(*from));
+        return std::nullopt;
+    }
+    if (m_isZoneUnknown) {
+        why = QStringLiteral("Aucune salle n’est de la zone que vous avez écrite.");
         return std::nullopt;
     }
     const answers::RoomFilter filter = m_rooms->filter();
@@ -397,7 +427,11 @@ void FreeRoomsWindow::list(const shell::Inquiry& inquiry, const answers::FreeRoo
     if (!unread.isEmpty()) {
         sentence += QStringLiteral("  ·  pas compris : « %1 »").arg(unread);
     }
-    tell(sentence, count == 0);
+    const QString outside = m_isDated->isChecked() ? inquiry.whyOutside(m_date->date()) : QString();
+    if (!outside.isEmpty()) {
+        sentence = outside + QStringLiteral(" ") + sentence;
+    }
+    tell(sentence, count == 0 || !unread.isEmpty() || !outside.isEmpty());
 }
 
 void FreeRoomsWindow::goToChosen()

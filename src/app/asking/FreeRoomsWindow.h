@@ -42,6 +42,19 @@ private:
     [[nodiscard]] QLayout* fieldRows();
     /// Takes over what the line of words says.
     void readLine();
+    /// What the fields say, to be put back where the line says no more of it.
+    struct Fields {
+        int day = timetable::kMonday;
+        bool isDated = false;
+        QDate date;
+        QString from;
+        QString to;
+        int places = 0;
+        int week = 0;
+        int zone = 0; ///< 0 for all
+    };
+    [[nodiscard]] Fields fields() const;
+    void fillIn(const Fields& fields);
     void offerTimes(const timetable::Timetable& timetable);
     /// What the fields ask; nothing, and a sentence in `why`, where they ask nothing.
     [[nodiscard]] std::optional<answers::FreeRoomsQuestion> question(const shell::Inquiry& inquiry,
@@ -65,6 +78,8 @@ private:
     QCheckBox* m_showsTaken = nullptr;
     QTreeWidget* m_list = nullptr;
     std::optional<files::AnswerDocument> m_document; ///< what is shown
+    Fields m_ownFields;                              ///< what they say without the line of words
+    bool m_isZoneUnknown = false;                    ///< the line names one that no room has
     bool m_isFilling = false; ///< the program, not the user, changes the fields
 };
 

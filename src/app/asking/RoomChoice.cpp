@@ -79,9 +79,11 @@ void RoomChoice::offer(const timetable::Timetable& timetable)
     fill(m_department, QStringList(departments.begin(), departments.end()));
 }
 
-void RoomChoice::chooseZone(int zone)
+bool RoomChoice::chooseZone(int zone)
 {
-    m_zone->setCurrentIndex(std::max(0, m_zone->findText(QString::number(zone))));
+    const int index = zone == 0 ? 0 : m_zone->findText(QString::number(zone));
+    m_zone->setCurrentIndex(std::max(0, index));
+    return index >= 0;
 }
 
 answers::RoomFilter RoomChoice::filter() const

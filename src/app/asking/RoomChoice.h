@@ -20,7 +20,8 @@ public:
 
     /// Offers the zones and departments that rooms have; what was chosen stays where it can.
     void offer(const timetable::Timetable& timetable);
-    void chooseZone(int zone);
+    /// 0 for all. False where no room has that zone: then all are chosen.
+    bool chooseZone(int zone);
     [[nodiscard]] answers::RoomFilter filter() const;
 
 private:

@@ -339,7 +339,8 @@ void WeekWindow::showAnswer(const shell::Inquiry& inquiry)
     if (m_isDated->isChecked() && !inquiry.rhythm().isKnown()) {
         sentence += QStringLiteral(", ") + rhythmWords(inquiry.rhythm(), m_date->date());
     }
-    tell(sentence);
+    const QString outside = m_isDated->isChecked() ? inquiry.whyOutside(m_date->date()) : QString();
+    tell(outside.isEmpty() ? sentence : outside, !outside.isEmpty());
     if (m_isList->isChecked()) {
         list(inquiry, answer);
     } else {
@@ -428,6 +429,7 @@ void WeekWindow::open(const answers::WeekBox& box)
             m_date->date().addDays(timetable::kMonday - timetable::dayOf(m_date->date()));
         destination.date = monday.addDays(destination.day);
     }
+    hide(); // the plan is to be seen
     ties().go(destination);
 }
 

@@ -51,6 +51,34 @@ TEST_F(TheFreeRooms, beginWithTheFirstSlotOfTheShownDay)
                 "A2|40|8h30–10h15|1|MATH", "B1|100|8h30–17h15|2|INFO"});
 }
 
+TEST_F(TheFreeRooms, takeNoHourForPlaces)
+{
+    open();
+    ASSERT_NE(asked(), nullptr);
+    hands.type("17/3,14h-16h,zone,2");
+    EXPECT_TRUE(until([this] { return control<QComboBox>("AskedTo")->currentText() == "16h00"; }));
+    EXPECT_TRUE(until([this] { return control<QComboBox>("AskedZone")->currentText() == "2"; }));
+    EXPECT_EQ(control<QSpinBox>("AskedPlaces")->value(), 0);
+    hands.replaceText(control<QLineEdit>("QuickQuestion"), "lundi");
+    EXPECT_TRUE(
+        until([this] { return control<QComboBox>("AskedZone")->currentText() == "Toutes"; }));
+    EXPECT_FALSE(control<QCheckBox>("AskedByDate")->isChecked());
+}
+
+TEST_F(TheFreeRooms, sayThatAZoneOrADateIsNone)
+{
+    open();
+    const app::FreeRoomsWindow* answers = asked();
+    hands.type("zone,7");
+    EXPECT_TRUE(until([&] { return status(*answers).contains("Aucune salle n’est de la zone"); }))
+        << status(*answers).toStdString();
+    EXPECT_EQ(rows("FreeRooms"), QStringList());
+    hands.replaceText(control<QLineEdit>("QuickQuestion"), "7/6/2025,9h");
+    EXPECT_TRUE(until([&] {
+        return status(*answers).contains("hors de la période « Printemps »");
+    })) << status(*answers).toStdString();
+}
+
 TEST_F(TheFreeRooms, tellOnDemandWhyOthersAreTaken)
 {
     open();
