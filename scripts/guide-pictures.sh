@@ -12,6 +12,7 @@ images=$project/docs/images
 bin=$project/build/bin
 day=2026-11-17 # a Tuesday; the demo faculty lives around it
 makeup_day=2026-11-24
+week_a=2026-09-07 # so that the day is of week A
 day_options=(--date "$day" --week A)
 
 # The window's parts at 1366x768, as width x height + left + top.
@@ -43,8 +44,8 @@ prepare() {
 shot() {
     local name=$1 palette=$2 lines=$3 number screen manager program
     shift 3
-    printf '[Settings]\nPalette=%s\nTotal_L_P=%s\n' "$bin/Styles/$palette.mpl" "$lines" \
-        >"$work/settings.ini"
+    printf '[Settings]\nPalette=%s\nTotal_L_P=%s\nSemaineA=%s\n' "$bin/Styles/$palette.mpl" \
+        "$lines" "$week_a" >"$work/settings.ini"
     rm -f "$work/display"
     mkfifo "$work/display"
     Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
@@ -100,6 +101,14 @@ larger() {
     echo "$part"
 }
 
+# window NAME: the shot of a window, as wide as the guide, with an edge.
+window() {
+    local part
+    part=$(new_part)
+    convert "$work/$1.png" -filter Lanczos -resize '768x>' -bordercolor '#888888' -border 1x1 "$part"
+    echo "$part"
+}
+
 # words SIZE TEXT: a label on white.
 words() {
     local part
@@ -131,6 +140,34 @@ press() { # the key $1, with a click where the mouse is
     sleep 0.2
     xdotool keyup "$1"
     sleep 0.3
+}
+
+# opened TITLE SIZE: waits for the window of that title, makes it as large as that, prints its number.
+opened() {
+    local window
+    window=$(xdotool search --sync --onlyvisible --name "$1")
+    xdotool windowsize --sync "$window" "${2%x*}" "${2#*x}"
+    sleep 1
+    echo "$window"
+}
+
+# What the windows of the questions answer, each as a picture of its own.
+ask() {
+    local window
+    xdotool key ctrl+l
+    window=$(opened '^Salle libre$' 770x330)
+    xdotool type --delay 30 'mardi 9h30 40 places'
+    xdotool key alt+r # those that are taken, too
+    sleep 0.7
+    import -window "$window" "$work/free.png"
+    xdotool key Escape
+    sleep 0.5
+    xdotool mousemove 60 545 click --repeat 2 --delay 60 1 # the name of "Atelier 1"
+    window=$(opened '^Semaine' 1000x600)
+    import -window "$window" "$work/week.png"
+    xdotool key ctrl+shift+w
+    window=$(opened '^Semaine' 1000x640)
+    import -window "$window" "$work/overview.png"
 }
 
 take_shots() {
@@ -168,6 +205,8 @@ take_shots() {
         xdotool mousemove 700 740
     }
     shot students-absent Pastel 14 "${day_options[@]}"
+    act() { ask; }
+    shot asked Pastel 14 "${day_options[@]}"
 }
 
 # The window with numbers on its parts.
@@ -237,6 +276,9 @@ make_pictures() {
     keep impression "$(cut plan "$panel_print")"
     keep feuille "$(printed_sheet)"
     keep palettes "$(palette_samples)"
+    keep libre "$(window free)"
+    keep semaine "$(window week)"
+    keep toutes "$(window overview)"
     keep absences "$(larger "$(below "$(gesture Maj class-absent)" "$(gesture Ctrl students-absent)")")"
 }
 
