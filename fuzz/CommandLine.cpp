@@ -119,6 +119,7 @@ QStringList argumentsOf(const CommandLine& line)
     writer.add("department", line.department);
     writer.add("neutral", line.neutral);
     writer.add("rooms-per-page", line.roomsPerPage);
+    writer.add("every-room", line.everyRoom);
     writer.add("show", shownWords(line));
     writer.add("subject", line.subject);
     writer.add("makeup", line.makeup);

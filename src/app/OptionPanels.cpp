@@ -217,9 +217,13 @@ void addPagePanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
     caption->setBuddy(lines);
     grid->addWidget(caption, 0, 0);
     grid->addWidget(lines, 0, 1);
-    grid->addWidget(make.button("Command3", form.Command3, QStringLiteral("Salles suivantes")), 1,
+    grid->addWidget(make.check("EveryRoom", form.EveryRoom,
+                               QStringLiteral("Des pages qui ne laissent aucune salle de côté, "
+                                              "sans la première ligne grisée")),
+                    1, 0, 1, 2);
+    grid->addWidget(make.button("Command3", form.Command3, QStringLiteral("Salles suivantes")), 2,
                     0, 1, 2);
-    grid->addWidget(make.button("Command2", form.Command2, QStringLiteral("Salles précédentes")), 2,
+    grid->addWidget(make.button("Command2", form.Command2, QStringLiteral("Salles précédentes")), 3,
                     0, 1, 2);
 }
 

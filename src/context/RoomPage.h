@@ -28,6 +28,8 @@ struct RoomPage {
     std::int32_t PageStart = 0;
     /// Rooms counted at start-up: the paging bound. Not recounted when the room filter changes.
     std::int32_t RoomTotal = 0;
+    /// Rooms of the list that the page is of, as it was read for the page.
+    int listed = 0;
 
     /// Puts a room's name, or its places, into a row and its label.
     void setName(form::PlanForm& form, int row, const QString& name);

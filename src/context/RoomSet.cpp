@@ -1,5 +1,6 @@
 #include "context/RoomSet.h"
 
+#include "context/PageRule.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 #include "timetable/SchoolColumns.h"
@@ -85,27 +86,33 @@ void RoomSet::FillRoomPage(std::optional<db::Recordset> all)
     if (!all || m_form.cb_Locaux.text() != u"0" || m_form.ElemDep.isChecked()) {
         all = readRooms();
     }
-    fillRows(*all);
-    showRows();
+    m_page.listed = static_cast<int>(all->recordCount());
+    if (m_form.EveryRoom.isChecked()) {
+        fillEveryRow(*all);
+        showEveryRow();
+    } else {
+        fillRows(*all);
+        showRows();
+    }
+}
+
+bool RoomSet::fillRow(int row, const db::Row& room)
+{
+    return runtime::skipOnError([&] {
+        m_page.setName(m_form, row, room.field(timetable::column::kNom).toJoinedText());
+        m_page.setPlaces(m_form, row, room.field(timetable::column::kPlaces).toJoinedText());
+    });
 }
 
 void RoomSet::fillRows(const db::Recordset& rooms)
 {
     const double lines = linesPerPage(m_form);
-    // Later pages skip one room more than their start says: it is the page buttons' extra step
-    // (0, P, 2P + 1, ...) that they make up for.
-    // A start before the list, which a negative number of lines leads to, skips nothing.
-    const qsizetype skipped = m_page.PageOffset != 0 ? std::max(m_page.PageOffset + 1, 0) : 0;
+    const int first = PageRule(m_form).positionOf(m_page.PageOffset, 0);
     int filled = 0;
     // Row 0 is filled too: it holds the room just before the first drawn one.
     while (filled <= lines && filled < form::PlanForm::kRows &&
-           skipped + filled < rooms.recordCount()) {
-        const db::Row& room = rooms.rows()[static_cast<std::size_t>(skipped + filled)];
-        const bool read = runtime::skipOnError([&] {
-            m_page.setName(m_form, filled, room.field(timetable::column::kNom).toJoinedText());
-            m_page.setPlaces(m_form, filled, room.field(timetable::column::kPlaces).toJoinedText());
-        });
-        if (!read) {
+           first + filled < rooms.recordCount()) {
+        if (!fillRow(filled, rooms.rows()[static_cast<std::size_t>(first + filled)])) {
             break;
         }
         ++filled;
@@ -114,6 +121,33 @@ void RoomSet::fillRows(const db::Recordset& rooms)
     if (lines < m_page.RowsShown) {
         m_page.RowsShown = runtime::toInt16(m_form.Total_L_P.text());
     }
+}
+
+/// Row 0 holds nothing; the rows are the rooms one after the other.
+void RoomSet::fillEveryRow(const db::Recordset& rooms)
+{
+    const PageRule rule(m_form);
+    m_page.setName(m_form, 0, QString());
+    m_page.setPlaces(m_form, 0, QString());
+    int row = 0;
+    while (row < rule.rows()) {
+        const int position = rule.positionOf(m_page.PageOffset, row + 1);
+        if (position >= rooms.recordCount() ||
+            !fillRow(row + 1, rooms.rows()[static_cast<std::size_t>(position)])) {
+            break;
+        }
+        ++row;
+    }
+    m_page.RowsShown = static_cast<std::int16_t>(row);
+}
+
+void RoomSet::showEveryRow()
+{
+    for (int row = 0; row < form::PlanForm::kRows; ++row) {
+        setVisible(m_form, row, row >= 1 && row <= m_page.RowsShown);
+    }
+    m_form.Command2.enabled = m_page.PageOffset > 0;
+    m_form.Command3.enabled = m_page.PageOffset + PageRule(m_form).rows() < m_page.listed;
 }
 
 void RoomSet::showRows()
@@ -135,6 +169,14 @@ void RoomSet::showRows()
 
 void RoomSet::cb_Locaux_Click()
 {
+    if (m_form.EveryRoom.isChecked()) {
+        m_page.PageOffset = 0; // of another list no page but the first one is sure to be there
+        m_page.PageStart = 0;
+        m_plan.PlaceRoomRows();
+        FillRoomPage();
+        m_plan.RefreshPlan();
+        return;
+    }
     if (m_page.PageOffset > m_page.RoomTotal) {
         m_page.PageOffset = m_page.RoomTotal - 1;
         m_page.PageStart = m_page.RoomTotal - 1;

@@ -27,9 +27,10 @@ public:
     [[nodiscard]] std::optional<int> positionOf(const QString& room) const;
 
     /// Writes the rooms of the current page into `Salle` and `Cap` and sets `RowsShown` and the
-    /// rows' visibility. Reaching the end of the rooms ends the page early.
-    /// `all`: all rooms by name, where they have just been read; a choice of some asks for these.
-    /// Error: any database error of the query itself.
+    /// rows' visibility. Reaching the end of the rooms ends the page early. With "Toutes les
+    /// salles" it also enables the page buttons that lead to a room. `all`: all rooms by name,
+    /// where they have just been read; a choice of some asks for these. Error: any database error
+    /// of the query itself.
     void FillRoomPage(std::optional<db::Recordset> all = std::nullopt);
 
     void cb_Locaux_Click();
@@ -43,7 +44,10 @@ private:
     [[nodiscard]] QString filterInWords() const;
     [[nodiscard]] db::Recordset readRooms() const;
     void fillRows(const db::Recordset& rooms);
+    void fillEveryRow(const db::Recordset& rooms);
+    [[nodiscard]] bool fillRow(int row, const db::Row& room);
     void showRows();
+    void showEveryRow();
 
     form::PlanForm& m_form;
     db::Database& m_database;

@@ -154,7 +154,8 @@ Engine::RoomLine Engine::showRoom(const QString& room)
         return RoomLine::None;
     }
     m_paging.showPageOf(*position);
-    return m_state.page.room(0).name == room ? RoomLine::Greyed : RoomLine::Drawn;
+    const bool isGreyed = !m_state.form.EveryRoom.isChecked() && m_state.page.room(0).name == room;
+    return isGreyed ? RoomLine::Greyed : RoomLine::Drawn;
 }
 
 void Engine::clickMarker(int marker, absences::AsyncKeyState& keys)

@@ -101,6 +101,8 @@ public:
     void abandonRefresh() { m_refresh.abandon(); }
     /// Goes to the first page of the room set, whatever the buttons' state.
     void showFirstPage() { m_paging.showFirstPage(); }
+    /// Goes to the last page that draws a room.
+    void showLastPage() { m_paging.showLastPage(); }
     /// How the page that holds a room shows it.
     enum class RoomLine {
         Drawn,  ///< as a row
@@ -130,7 +132,7 @@ public:
     /// that of the row which they have where pages hold all rooms.
     [[nodiscard]] std::vector<form::Colour> roomColors(const std::vector<QString>& rooms) const;
     /// The page as it is shown, with what the last refresh worked out.
-    [[nodiscard]] plan::PlanPage drawnPage() const { return {m_state, content()}; }
+    [[nodiscard]] plan::PlanPage drawnPage() const { return {m_state, content(), 0, 0, leftOut()}; }
 
 private:
     /// Works on a copy of the other's state and on the same database. No event is tied: the copy's
@@ -157,6 +159,7 @@ private:
     void tieOptions();
     [[nodiscard]] plan::PlanPage lookedUpAgain();
     [[nodiscard]] bool showNextPage();
+    [[nodiscard]] QStringList leftOut() const;
 
     // In the order in which they build on one another.
     Surroundings m_surroundings;

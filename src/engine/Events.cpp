@@ -17,6 +17,7 @@ void Engine::tiePages()
 {
     form::PlanForm& form = m_state.form;
     form.Total_L_P.change = [this] { m_paging.Total_L_P_Change(); };
+    form.EveryRoom.click = [this] { m_paging.EveryRoom_Click(); };
     form.Command2.click = [this] { m_paging.Command2_Click(); };
     form.Command3.click = [this] { m_paging.Command3_Click(); };
 }

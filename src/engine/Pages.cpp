@@ -4,6 +4,8 @@
 
 #include "engine/Engine.h"
 
+#include "context/PageRule.h"
+
 #include <QHash>
 #include <algorithm>
 #include <utility>
@@ -27,6 +29,8 @@ std::vector<plan::PlanPage> Engine::allPages() const
     while (walk.showNextPage()) {
         if (walk.state().page.RowsShown >= 1) {
             pages.push_back(walk.drawnPage());
+        } else {
+            pages.back().leftOut += walk.leftOut(); // of the page that follows none is made
         }
     }
     for (std::size_t index = 0; index < pages.size(); ++index) {
@@ -50,6 +54,15 @@ plan::PlanPage Engine::lookedUpAgain()
     return page;
 }
 
+/// The room of row 0.
+QStringList Engine::leftOut() const
+{
+    const bool hasRowZero = !m_state.form.EveryRoom.isChecked() && m_state.page.RowsShown >= 0;
+    QStringList rooms{hasRowZero ? m_state.page.room(0).name : QString()};
+    rooms.removeAll(QString());
+    return rooms;
+}
+
 /// "Page Suivante"; false on the last page.
 bool Engine::showNextPage()
 {
@@ -65,18 +78,14 @@ std::vector<form::Colour> Engine::roomColors(const std::vector<QString>& rooms) 
     for (const plan::PlanRow& row : content().rows) {
         shown.insert(row.room, row.color);
     }
-    // Row 0 of a page holds a room, too.
-    const auto rowsOfPage =
-        static_cast<std::size_t>(std::clamp(context::linesPerPage(m_state.form), 0.0,
-                                            static_cast<double>(form::PlanForm::kMostRooms))) +
-        1;
+    const context::PageRule rule(m_state.form);
     std::vector<form::Colour> colors;
     colors.reserve(rooms.size());
     for (std::size_t index = 0; index < rooms.size(); ++index) {
         const auto found = shown.constFind(rooms[index]);
         colors.push_back(found != shown.cend()
                              ? *found
-                             : m_refresh.tabledColor(static_cast<int>(index % rowsOfPage)));
+                             : m_refresh.tabledColor(rule.rowOf(static_cast<int>(index))));
     }
     return colors;
 }

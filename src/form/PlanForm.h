@@ -80,6 +80,7 @@ public:
     List Combo1;
     CheckBox Chk_Neutre;
     TextBox Total_L_P;
+    CheckBox EveryRoom; ///< pages without a row 0: no room is left out
     Button Command2;
     Button Command3;
 

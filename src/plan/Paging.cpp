@@ -1,5 +1,6 @@
 #include "plan/Paging.h"
 
+#include "context/PageRule.h"
 #include "plan/RoomRows.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
@@ -40,7 +41,14 @@ void Paging::Total_L_P_Change()
 void Paging::recomputePages()
 {
     PlaceRoomRows(m_state.form);
-    if (m_state.form.visible) { // before that there are neither rooms nor pages
+    if (m_state.form.visible && m_state.form.EveryRoom.isChecked()) {
+        // The page that holds the room which stood first.
+        const context::PageRule rule(m_state.form);
+        const int page = rule.pageOf(std::max(m_state.page.PageOffset, 0));
+        m_state.page.PageOffset = rule.startOf(page);
+        m_state.page.PageStart = m_state.page.PageOffset;
+        showPage(PlanRefresh::TotalsStart::Zero);
+    } else if (m_state.form.visible) { // before that there are neither rooms nor pages
         // One step forward and one step back. What comes in between, such as the next digit typed,
         // would find the page of the first step and take it for the one to stay on.
         m_refresh.withoutYielding([this] { Command3_Click(); });
@@ -50,6 +58,10 @@ void Paging::recomputePages()
 
 void Paging::Command3_Click()
 {
+    if (m_state.form.EveryRoom.isChecked()) {
+        showNextOfEvery();
+        return;
+    }
     const double lines = context::linesPerPage(m_state.form);
     if (lines + m_state.page.PageStart >= m_state.page.RoomTotal) {
         stopAtLastPage();
@@ -65,10 +77,17 @@ void Paging::Command3_Click()
     // Before the redraw: a press of the other button in the middle of it knows better.
     m_state.form.Command2.enabled = true;
     showPage(PlanRefresh::TotalsStart::PreviousPages);
-    if (m_state.page.PageStart + context::linesPerPage(m_state.form) + 1 >=
-        m_state.page.RoomTotal) {
+    if (isLastPage()) {
         stopAtLastPage();
     }
+}
+
+bool Paging::isLastPage() const
+{
+    const context::RoomPage& page = m_state.page;
+    return m_state.form.EveryRoom.isChecked()
+               ? page.PageStart + context::PageRule(m_state.form).rows() >= page.listed
+               : page.PageStart + context::linesPerPage(m_state.form) + 1 >= page.RoomTotal;
 }
 
 void Paging::stopAtLastPage()
@@ -78,8 +97,41 @@ void Paging::stopAtLastPage()
     m_state.form.Command3.enabled = false;
 }
 
+void Paging::showNextOfEvery()
+{
+    if (isLastPage()) {
+        stopAtLastPage();
+        return;
+    }
+    m_refresh.finishRows(); // their totals count on the next page
+    m_refresh.ClearPlanOverlays();
+    m_state.page.PageOffset += context::PageRule(m_state.form).rows();
+    m_state.page.PageStart = m_state.page.PageOffset;
+    showPage(PlanRefresh::TotalsStart::PreviousPages);
+    if (isLastPage()) {
+        stopAtLastPage();
+    }
+}
+
+void Paging::showPreviousOfEvery()
+{
+    if (m_state.page.PageOffset <= 0) {
+        m_state.form.Command2.enabled = false;
+        return;
+    }
+    m_refresh.ClearPlanOverlays();
+    m_state.page.PageOffset =
+        std::max(m_state.page.PageOffset - context::PageRule(m_state.form).rows(), 0);
+    m_state.page.PageStart = m_state.page.PageOffset;
+    showPage(PlanRefresh::TotalsStart::Zero);
+}
+
 void Paging::Command2_Click()
 {
+    if (m_state.form.EveryRoom.isChecked()) {
+        showPreviousOfEvery();
+        return;
+    }
     const double lines = context::linesPerPage(m_state.form);
     if (m_state.page.PageOffset - lines >= 0) {
         m_refresh.ClearPlanOverlays();
@@ -107,7 +159,7 @@ void Paging::showFirstPage()
     m_state.page.PageOffset = 0;
     m_state.page.PageStart = 0;
     m_state.form.Command2.enabled = false;
-    m_state.form.Command3.enabled = true;
+    m_state.form.Command3.enabled = context::linesPerPage(m_state.form) < m_state.page.RoomTotal;
     context::ResetTotals(m_state.form, m_state.totals);
     showPage(PlanRefresh::TotalsStart::Zero);
 }
@@ -115,23 +167,48 @@ void Paging::showFirstPage()
 void Paging::showPageOf(int position)
 {
     const auto lines = static_cast<int>(context::linesPerPage(m_state.form));
-    const int start = m_state.page.PageOffset;
-    const int first = start == 0 ? 0 : start + 1; // the room of row 0
-    if (position >= first && position <= first + lines) {
+    const context::PageRule rule(m_state.form);
+    const std::int32_t start = m_state.page.PageOffset;
+    if (position >= rule.positionOf(start, rule.firstRow()) &&
+        position <= rule.positionOf(start, lines)) {
         return;
     }
     if (lines < 1) { // no page of such a size holds anything
         showFirstPage();
         return;
     }
-    const int page = position / (lines + 1);
+    goTo(rule.startOf(rule.pageOf(position)));
+}
+
+void Paging::showLastPage()
+{
+    const context::PageRule rule(m_state.form);
+    context::ResetTotals(m_state.form, m_state.totals);
+    goTo(rule.startOf(rule.pageCount(m_state.page.listed) - 1));
+}
+
+void Paging::EveryRoom_Click()
+{
+    PlaceRoomRows(m_state.form);
+    if (!m_state.form.visible) { // there are no rooms yet
+        return;
+    }
+    const context::PageRule rule(m_state.form);
+    const context::PageRule before(rule.rows(), !m_state.form.EveryRoom.isChecked());
+    const int first = before.positionOf(m_state.page.PageOffset, before.firstRow());
+    context::ResetTotals(m_state.form, m_state.totals);
+    goTo(rule.startOf(rule.pageOf(first)));
+}
+
+void Paging::goTo(std::int32_t start)
+{
     m_refresh.ClearPlanOverlays();
-    m_state.page.PageOffset = page == 0 ? 0 : page * (lines + 1) - 1;
-    m_state.page.PageStart = m_state.page.PageOffset;
-    m_state.form.Command2.enabled = page > 0;
+    m_state.page.PageOffset = start;
+    m_state.page.PageStart = start;
+    m_state.form.Command2.enabled = start > 0;
     m_state.form.Command3.enabled = true;
     showPage(PlanRefresh::TotalsStart::Zero);
-    if (m_state.page.PageStart + lines + 1 >= m_state.page.RoomTotal) {
+    if (isLastPage()) {
         stopAtLastPage();
     }
 }

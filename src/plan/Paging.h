@@ -30,10 +30,21 @@ public:
     /// would from the first page on; a page that holds it already stays. Counting begins with that
     /// page, as after a step back. Error: any database error.
     void showPageOf(int position);
+    /// Goes to the last page that draws a room, as the buttons would from the first page on, and
+    /// counts that page alone. Error: any database error.
+    void showLastPage();
+    /// "Toutes les salles" was ticked or not: goes to the page that holds the room which stood
+    /// first, and counts from there. Error: any database error.
+    void EveryRoom_Click();
     /// Brings the page boundaries into agreement with the rooms per page.
     void recomputePages();
 
 private:
+    /// Page Suivante and Page Précédente where every room has a row.
+    void showNextOfEvery();
+    void showPreviousOfEvery();
+    void goTo(std::int32_t start);
+    [[nodiscard]] bool isLastPage() const;
     void stopAtLastPage();
     void showPage(PlanRefresh::TotalsStart totals);
 

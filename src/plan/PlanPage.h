@@ -3,6 +3,8 @@
 #include "plan/PlanContent.h"
 #include "plan/PlanState.h"
 
+#include <QStringList>
+
 namespace plan
 {
 
@@ -14,6 +16,9 @@ struct PlanPage {
     PlanContent content;
     int number = 0; ///< of `count` pages of the room set; 0 for a page on its own
     int count = 0;
+    /// Rooms that have no row: the greyed one; on the last of all pages also the one behind it
+    /// that would be greyed on a page without a row.
+    QStringList leftOut;
 };
 
 } // namespace plan

@@ -233,8 +233,17 @@ void PlanRefresh::countSlot(const PlanRow& planRow, int slot, const lookup::Room
             slot, cellNumber("de la durée", durationBefore, nearestInteger));
     }
     if (isHeld) {
-        totals.SlotSeats.at(entry) = m_state.places.at(planRow.index + m_state.page.PageOffset);
+        totals.SlotSeats.at(entry) = seatsOf(planRow);
     }
+}
+
+/// Places are counted by the row's number from the page's start, which on later pages is the room
+/// before; where every room has a row, they are the room's own.
+std::int16_t PlanRefresh::seatsOf(const PlanRow& row) const
+{
+    return m_state.form.EveryRoom.isChecked()
+               ? cellNumber("des places", row.places, runtime::nearestInt16)
+               : m_state.places.at(row.index + m_state.page.PageOffset);
 }
 
 void PlanRefresh::drawSlot(PlanRow& planRow, int slot, lookup::RoomCell cell, bool makeUp)

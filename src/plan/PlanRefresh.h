@@ -83,6 +83,7 @@ private:
     void drawSlot(PlanRow& planRow, int slot, lookup::RoomCell cell, bool makeUp);
     void countSlot(const PlanRow& planRow, int slot, const lookup::RoomCell& cell,
                    const QString& durationBefore);
+    [[nodiscard]] std::int16_t seatsOf(const PlanRow& row) const;
     void testAbsences(PlanBox& box);
     [[nodiscard]] bool teachersOnly() const;
 

@@ -1,5 +1,7 @@
 #include "plan/RoomRows.h"
 
+#include "context/PageRule.h"
+
 #include <algorithm>
 
 namespace plan
@@ -15,9 +17,11 @@ constexpr int kPlacesMargin = 250;
 void PlaceRoomRows(form::PlanForm& form)
 {
     const form::Place model = form.Salle.front().place;
+    const int first = context::PageRule(form).firstRow();
     for (std::size_t row = 0; row < form.Salle.size(); ++row) {
         form::Place& room = form.Salle[row].place;
-        room.top = model.top + static_cast<int>(row) * (model.height + kRowGap);
+        const int above = std::max(static_cast<int>(row) - first, 0);
+        room.top = model.top + above * (model.height + kRowGap);
         room.left = model.left;
         room.height = model.height;
         form::Place& places = form.Cap[row].place;

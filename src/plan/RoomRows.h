@@ -14,7 +14,8 @@ constexpr int kRowGap = 68;
 constexpr int kAfterAxis = 60;
 
 /// Puts the labels `Salle` and `Cap` of every row into their places: one row below the other from
-/// `Salle`(0) down, the places at the window's right edge.
+/// `Salle`(0) down, the places at the window's right edge. Where there is no row 0, row 1 takes its
+/// place.
 void PlaceRoomRows(form::PlanForm& form);
 
 /// Whether the page has room for a row of its content: a row that it has none for stays out of

@@ -218,13 +218,20 @@ bool hasMakeUps(const plan::PlanContent& content)
     });
 }
 
-/// What the page lacks, and what hatching and greyed totals mean, where it has any.
+/// What the page lacks, which rooms it leaves out, and what hatching and greyed totals mean, where
+/// it has any.
 QStringList legendOf(const plan::PlanPage& page)
 {
     QStringList legend;
     const QString faults = plan::faultSentence(page.content);
     if (!faults.isEmpty()) {
         legend << faults;
+    }
+    if (!page.leftOut.isEmpty()) {
+        legend << (page.leftOut.size() > 1
+                       ? QStringLiteral("Salles sans ligne sur cette feuille : ")
+                       : QStringLiteral("Salle sans ligne sur cette feuille : ")) +
+                      page.leftOut.join(QStringLiteral(", "));
     }
     if (hasMakeUps(page.content)) {
         legend << QStringLiteral("Case hachurée : rattrapage");

@@ -20,7 +20,8 @@ void PrintHeader(QPainter& surface, const paint::DrawingTarget& target, const Sh
 /// Prints the grid and row by row the room, its places and the boxes.
 void PrintPlanBody(QPainter& surface, const paint::DrawingTarget& target, const Sheet& sheet);
 
-/// Prints what the hatching means, and the number of the page when it is one of a whole room set.
+/// Prints which rooms the sheet leaves out, what the hatching means, and the number of the page
+/// when it is one of a whole room set.
 void printFooter(QPainter& surface, const paint::DrawingTarget& target, const Sheet& sheet);
 
 } // namespace print

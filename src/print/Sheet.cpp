@@ -1,5 +1,6 @@
 #include "print/Sheet.h"
 
+#include "context/PageRule.h"
 #include "context/TimeAxis.h"
 #include "plan/RoomRows.h"
 #include "runtime/Numbers.h"
@@ -113,7 +114,9 @@ void placeRows(form::PlanForm& form, int rowsShown, int end, int width)
 {
     form::Place& model = form.Salle.front().place;
     model.height = rowHeight(form, rowsShown, width);
-    model.top -= model.height + plan::kRowGap;
+    if (context::PageRule(form).firstRow() == 0) {
+        model.top -= model.height + plan::kRowGap;
+    }
     form.scaleWidth = 0;
     plan::PlaceRoomRows(form);
     // The places stand at the window's edge; paper is as wide as its axis needs.

@@ -88,6 +88,9 @@ const std::vector<OptionText>& optionTexts()
         {"neutral", {}, QStringLiteral("ajoute les salles sans département (avec --department)")},
         {"rooms-per-page", QStringLiteral("1..%1").arg(form::PlanForm::kMostRooms),
          QStringLiteral("salles par page")},
+        {"every-room",
+         {},
+         QStringLiteral("coche « Toutes les salles » : aucune n’est laissée de côté")},
         {"show", QStringLiteral("class,teacher,subject,type,invigilator"),
          QStringLiteral("ce que montrent les cases, exactement")},
         {"subject", QStringLiteral("NOM"), QStringLiteral("ne montre que cette matière")},
@@ -444,6 +447,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         fail(QStringLiteral("neutral"), QStringLiteral("demande --department"));
     }
     line.roomsPerPage = reader.number("rooms-per-page", 1, form::PlanForm::kMostRooms);
+    line.everyRoom = reader.has("every-room");
     line.show = readShown(reader);
     line.subject = reader.optionalText("subject");
     line.makeup = reader.has("makeup");

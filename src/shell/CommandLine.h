@@ -54,6 +54,7 @@ struct CommandLine {
     std::optional<QString> department;
     bool neutral = false;
     std::optional<int> roomsPerPage;
+    bool everyRoom = false; ///< pages that leave no room out
     std::optional<Shown> show;
     std::optional<QString> subject;
     bool makeup = false;

@@ -59,6 +59,9 @@ void playDisplay(form::PlanForm& form, const CommandLine& line)
 
 void playRooms(form::PlanForm& form, const CommandLine& line)
 {
+    if (line.everyRoom) {
+        form.EveryRoom.setChecked(true);
+    }
     if (line.roomsPerPage) {
         form.Total_L_P.setText(QString::number(*line.roomsPerPage));
     }

@@ -102,6 +102,11 @@ void Shell::writeOptions()
         m_settings.save(QStringLiteral("Total_L_P"), form().Total_L_P.text());
         m_RoomsPerPage = runtime::nearestInt16(context::linesPerPage(form()));
     }
+    if (form().EveryRoom.isChecked() != m_EveryRoomAtStart) {
+        m_EveryRoomAtStart = form().EveryRoom.isChecked();
+        m_settings.save(QStringLiteral("Toutes_Salles"),
+                        m_EveryRoomAtStart ? QStringLiteral("True") : QStringLiteral("False"));
+    }
     saveOption({QStringLiteral("ChkEnseignant"), form().XOpEns, m_ShowTeacherAtStart});
     saveOption({QStringLiteral("ChkClasse"), form().XOpCl, m_ShowClassAtStart});
     saveOption({QStringLiteral("ChkMatiere"), form().XpMat, m_ShowSubjectAtStart});

@@ -84,7 +84,10 @@ private:
     void loadPalette();
     void readDisplayOptions();
     [[nodiscard]] bool readOption(const QString& key) const;
+    /// A setting that is off unless it is turned on.
+    [[nodiscard]] bool isOn(const QString& key) const;
     void readRoomsPerPage();
+    void readEveryRoom();
     void writeOptions();
     void saveOption(SavedOption option);
     [[nodiscard]] QString setting(const QString& key, const QString& fallback) const;
@@ -101,6 +104,7 @@ private:
     bool m_ShowTeacherAtStart = true;
     bool m_ShowClassAtStart = true;
     bool m_ShowSubjectAtStart = true;
+    bool m_EveryRoomAtStart = false;
     std::int16_t m_RoomsPerPage = 0;
     bool m_dateAskedFor = false;
     bool m_loaded = false;

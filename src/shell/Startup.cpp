@@ -30,15 +30,14 @@ QString Shell::setting(const QString& key, const QString& fallback) const
 void Shell::Form_Load()
 {
     chooseDatabase();
-    m_SkinOn =
-        converted(QStringLiteral("SKin"), setting(QStringLiteral("SKin"), QStringLiteral("False")),
-                  runtime::toBoolean); // no skin is attached: the platform's look serves
+    m_SkinOn = isOn(QStringLiteral("SKin")); // no skin is attached: the platform's look serves
     listExamWeeks();
     m_engine.startAppearance();
     form().Lab_Ver.caption = QStringLiteral(TEMPORA_VERSION);
     loadPalette();
     readDisplayOptions();
     readRoomsPerPage();
+    readEveryRoom();
     m_engine.loadEstablishment({m_choice.nameInMessages(), m_choice.strings.ConnectString,
                                 setting(QStringLiteral("Tranche"), QStringLiteral("1"))});
     m_engine.loadSlots();
@@ -57,12 +56,8 @@ void Shell::Form_Load()
 
 void Shell::chooseDatabase()
 {
-    const bool useMySql =
-        converted(QStringLiteral("Mysql"),
-                  setting(QStringLiteral("Mysql"), QStringLiteral("False")), runtime::toBoolean);
-    const bool doublesQuotes = converted(
-        QStringLiteral("Apostrophes"),
-        setting(QStringLiteral("Apostrophes"), QStringLiteral("False")), runtime::toBoolean);
+    const bool useMySql = isOn(QStringLiteral("Mysql"));
+    const bool doublesQuotes = isOn(QStringLiteral("Apostrophes"));
     m_engine.chooseDatabase(useMySql, doublesQuotes);
     m_choice = shell::chooseDatabase(m_settings, useMySql, m_applicationFolder);
 }
@@ -101,6 +96,17 @@ void Shell::loadPalette()
 bool Shell::readOption(const QString& key) const
 {
     return converted(key, setting(key, QStringLiteral("1")), runtime::toInt16) == 1;
+}
+
+bool Shell::isOn(const QString& key) const
+{
+    return converted(key, setting(key, QStringLiteral("False")), runtime::toBoolean);
+}
+
+void Shell::readEveryRoom()
+{
+    m_EveryRoomAtStart = isOn(QStringLiteral("Toutes_Salles"));
+    form().EveryRoom.setChecked(m_EveryRoomAtStart);
 }
 
 void Shell::readDisplayOptions()

@@ -133,3 +133,39 @@ TEST_F(ThePages, doNotHoldARoomThatTheChoiceLeavesOut)
     EXPECT_EQ(desk().engine.showRoom("C1"), engine::Engine::RoomLine::None);
     EXPECT_EQ(desk().drawn(), drawn);
 }
+
+TEST_F(ThePages, nameTheRoomsThatTheyLeaveOut)
+{
+    desk().form.Total_L_P.setText("2"); // A2 and B1, then C1
+    const std::vector<plan::PlanPage> pages = desk().engine.allPages();
+    ASSERT_EQ(pages.size(), 2U);
+    EXPECT_EQ(pages[0].leftOut, QStringList("A1"));
+    EXPECT_EQ(pages[1].leftOut, QStringList("B2"));
+    EXPECT_EQ(desk().engine.shownPage().leftOut, QStringList("A1"));
+}
+
+TEST_F(ThePages, nameTheRoomBehindThemThatNoPageDraws)
+{
+    desk().form.Total_L_P.setText("3"); // A2 to B2; C1 would be a page's row 0
+    const std::vector<plan::PlanPage> pages = desk().engine.allPages();
+    ASSERT_EQ(pages.size(), 1U);
+    EXPECT_EQ(pages[0].leftOut, QStringList({"A1", "C1"}));
+}
+
+TEST_F(ThePages, leaveNoRoomOutWhereEveryOneHasARow)
+{
+    desk().form.Total_L_P.setText("3");
+    desk().form.EveryRoom.setChecked(true);
+    const std::vector<plan::PlanPage> pages = desk().engine.allPages();
+    ASSERT_EQ(pages.size(), 2U);
+    EXPECT_EQ(roomsOf(pages[0]), QStringList({"A1", "A2", "B1"}));
+    EXPECT_EQ(roomsOf(pages[1]), QStringList({"B2", "C1"}));
+    EXPECT_EQ(pages[0].leftOut, QStringList());
+    EXPECT_EQ(desk().engine.shownPage().leftOut, QStringList());
+}
+
+TEST_F(ThePages, leaveNothingOutWithoutRooms)
+{
+    desk().form.cb_Locaux.setListIndex(9);
+    EXPECT_EQ(desk().engine.allPages()[0].leftOut, QStringList());
+}

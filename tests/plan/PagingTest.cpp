@@ -322,3 +322,43 @@ TEST_F(Pages, stayWhereTheRoomIsShownAlready)
     EXPECT_EQ(redraws([&] { go("R22"); }), 1U);
     EXPECT_EQ(start(), 21);
 }
+
+TEST_F(Pages, haveALastOneThatCanBeGoneToAtOnce)
+{
+    EXPECT_EQ(redraws([&] { desk.engine.showLastPage(); }), 1U);
+    EXPECT_EQ(start(), 32);
+    EXPECT_FALSE(form.Command3.enabled);
+    EXPECT_TRUE(form.Command2.enabled);
+    previous();
+    EXPECT_EQ(start(), 21);
+}
+
+TEST_F(Pages, endWithTheOneThatDrawsARoom)
+{
+    PlanDesk twelve(12); // R11 would stand alone in the second page's row 0
+    twelve.draw();
+    twelve.engine.showLastPage();
+    EXPECT_EQ(twelve.page.PageOffset, 0);
+    EXPECT_EQ(twelve.drawnRooms().last(), "R10");
+}
+
+TEST_F(Pages, goBackToTheFirstOneFromWhereTheButtonsDoNotLead)
+{
+    next();
+    form.Total_L_P.setText("15");
+    previous(); // from 10 there is no step of 15 back
+    ASSERT_EQ(start(), 10);
+    ASSERT_FALSE(form.Command2.enabled);
+    EXPECT_EQ(redraws([&] { desk.engine.showFirstPage(); }), 1U);
+    EXPECT_EQ(start(), 0);
+    EXPECT_TRUE(form.Command3.enabled);
+    EXPECT_EQ(desk.drawnRooms().first(), "R01");
+}
+
+TEST_F(Pages, offerNoPageBehindAFirstOneThatIsTheOnlyOne)
+{
+    PlanDesk small(9);
+    small.draw();
+    small.engine.showFirstPage();
+    EXPECT_FALSE(small.form.Command3.enabled);
+}

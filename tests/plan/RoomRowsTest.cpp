@@ -14,6 +14,17 @@ TEST(RoomRows, standOneBelowTheOtherWithAFixedGap)
     EXPECT_EQ(form.Salle[29].place.height, 400);
 }
 
+TEST(RoomRows, beginWithTheFirstDrawnOneWhereThereIsNoRowZero)
+{
+    form::PlanForm form;
+    form.EveryRoom.design(true);
+    form.Salle[0].place = {30, 345, 1500, 400};
+    plan::PlaceRoomRows(form);
+    EXPECT_EQ(form.Salle[1].place.top, 345);
+    EXPECT_EQ(form.Salle[2].place.top, 345 + 468);
+    EXPECT_EQ(form.Cap[2].place.top, 345 + 468);
+}
+
 TEST(RoomRows, areShownAsLongAsTheLabelOfTheirRoomIs)
 {
     form::PlanForm form;
@@ -31,6 +42,8 @@ TEST(RoomRows, areFoundByTheirHeight)
     form::PlanForm form;
     form.Salle[0].place = {30, 300, 1000, 400};
     plan::PlaceRoomRows(form); // row 1 begins at 768, 68 twips below the end of row 0
+    form.Salle[0].visible = true;
+    form.Salle[1].visible = true;
     form.Salle[2].visible = false;
     EXPECT_EQ(plan::rowAtHeight(form, 300), 0);
     EXPECT_EQ(plan::rowAtHeight(form, 699), 0);

@@ -57,7 +57,7 @@ TEST(PdfDocument, holdsTheTextsOfTheSheet)
           "R02", "R03", "30", "GC1", "Lefèvre", "Béton armé", "GC2"}) {
         EXPECT_TRUE(text.contains(expected)) << expected << "\n" << text.toStdString();
     }
-    EXPECT_FALSE(text.contains("R00")); // the room before the first drawn one
+    EXPECT_EQ(text.count("R00"), 1); // the room before the first drawn one, in the footer
 }
 
 TEST(PdfDocument, numbersItsPages)
@@ -89,6 +89,22 @@ TEST(PdfDocument, saysWhatTheHatchingMeansWhereThereIsSome)
     desk.draw();
     EXPECT_TRUE(
         Pdf(print::pdfOf(documentOf(desk), monday)).text().contains("Case hachurée : rattrapage"));
+}
+
+TEST(PdfDocument, namesTheRoomsThatItsSheetLeavesOut)
+{
+    PlanDesk desk(12); // R11 would stand alone above a second page
+    desk.draw();
+    EXPECT_TRUE(Pdf(print::pdfOf(documentOf(desk), monday))
+                    .text()
+                    .contains("Salle sans ligne sur cette feuille : R00"));
+    EXPECT_TRUE(Pdf(print::pdfOf(print::makeSheets(desk.engine.allPages()), monday))
+                    .text()
+                    .contains("Salles sans ligne sur cette feuille : R00, R11"));
+    desk.form.EveryRoom.setChecked(true);
+    const QString text = Pdf(print::pdfOf(documentOf(desk), monday)).text();
+    EXPECT_FALSE(text.contains("sans ligne"));
+    EXPECT_EQ(text.count("R00"), 1); // its row
 }
 
 TEST(PdfDocument, embedsItsFonts)

@@ -104,3 +104,15 @@ TEST_P(AllPages, areOneWhereAllRoomsFit)
     desk.play({"--rooms-per-page", "29"});
     EXPECT_EQ(desk.shell().engine().allPages().size(), 2); // 29, and from room 31 on
 }
+
+TEST_P(AllPages, holdEveryRoomOnceWhereNoneIsLeftOut)
+{
+    desk.play({"--rooms-per-page", "10", "--day", "0", "--every-room", "--counting"});
+    const auto pages = desk.shell().engine().allPages();
+    QStringList first;
+    for (const plan::PlanPage& page : pages) {
+        first << roomsOf(page).constFirst();
+    }
+    EXPECT_EQ(first, QStringList({"R00", "R10", "R20", "R30"}));
+    EXPECT_EQ(pages[3].state.form.Tot[0].caption, "350"); // ten places in each of 35 rooms
+}

@@ -50,7 +50,7 @@ TEST(CommandLine, withoutOptionsAsksForNothing)
 {
     const CommandLine line = parse({});
     EXPECT_FALSE(line.help || line.version || line.neutral || line.makeup || line.counting);
-    EXPECT_FALSE(line.plain);
+    EXPECT_FALSE(line.plain || line.everyRoom);
     EXPECT_EQ(line.exportFile, "");
     EXPECT_EQ(line.settingsFile, "");
     EXPECT_FALSE(line.seed || line.tranche || line.mode || line.examWeek || line.week);
@@ -61,40 +61,27 @@ TEST(CommandLine, withoutOptionsAsksForNothing)
 
 TEST(CommandLine, readsEveryOption)
 {
-    const CommandLine line = parse({"--export",
-                                    "plan.json",
-                                    "--tranche",
-                                    "Semestre 2",
-                                    "--mode",
-                                    "exam",
-                                    "--week",
-                                    "B",
-                                    "--exam-week",
-                                    "3",
-                                    "--zone",
-                                    "9",
-                                    "--neutral",
-                                    "--makeup",
-                                    "--rooms-per-page",
-                                    "29",
-                                    "--department",
-                                    "Génie civil",
-                                    "--counting",
-                                    "--day",
-                                    "5",
-                                    "--page",
-                                    "4",
-                                    "--subject",
-                                    "Algèbre",
-                                    "--seed",
-                                    "2147483647"});
+    const CommandLine line = parse({"--export",    "plan.json",
+                                    "--tranche",   "Semestre 2",
+                                    "--mode",      "exam",
+                                    "--week",      "B",
+                                    "--exam-week", "3",
+                                    "--zone",      "9",
+                                    "--neutral",   "--every-room",
+                                    "--makeup",    "--rooms-per-page",
+                                    "29",          "--department",
+                                    "Génie civil", "--counting",
+                                    "--day",       "5",
+                                    "--page",      "4",
+                                    "--subject",   "Algèbre",
+                                    "--seed",      "2147483647"});
     EXPECT_EQ(line.exportFile, "plan.json");
     EXPECT_EQ(line.tranche, "Semestre 2");
     EXPECT_EQ(line.mode, CommandLine::Mode::Exam);
     EXPECT_EQ(line.week, CommandLine::Week::B);
     EXPECT_EQ(line.examWeek, 3);
     EXPECT_EQ(line.zone, 9);
-    EXPECT_TRUE(line.neutral && line.makeup && line.counting);
+    EXPECT_TRUE(line.neutral && line.makeup && line.counting && line.everyRoom);
     EXPECT_EQ(line.roomsPerPage, 29);
     EXPECT_EQ(line.department, "Génie civil");
     EXPECT_EQ(line.day, 5);
@@ -163,9 +150,10 @@ TEST(CommandLine, namesEveryOptionInItsHelp)
 {
     const QString help = CommandLine::helpText();
     for (const char* option :
-         {"export",   "all-pages",  "settings", "tranche",        "mode", "exam-week", "week",
-          "zone",     "department", "neutral",  "rooms-per-page", "show", "subject",   "makeup",
-          "counting", "day",        "date",     "page",           "seed", "help",      "version"}) {
+         {"export",  "all-pages", "settings",   "tranche",   "mode",           "exam-week",
+          "week",    "zone",      "department", "neutral",   "rooms-per-page", "show",
+          "subject", "makeup",    "counting",   "day",       "date",           "page",
+          "seed",    "help",      "version",    "every-room"}) {
         EXPECT_TRUE(help.contains("  --" + QString(option) + ' ')) << option;
     }
 }
@@ -212,6 +200,7 @@ INSTANTIATE_TEST_SUITE_P(
                 {"--zone", "--day", "2"},
                 "--zone : il manque une valeur ; valeurs acceptées : 0..9"},
         Mistake{"switchWithValue", {"--neutral=1"}, "--neutral : n’accepte pas de valeur"},
+        Mistake{"everyRoomWithValue", {"--every-room=1"}, "--every-room : n’accepte pas de valeur"},
         Mistake{"exportEnding",
                 {"--export", "plan.doc"},
                 "--export : valeur « plan.doc » refusée ; valeurs acceptées : "

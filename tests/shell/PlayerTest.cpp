@@ -242,6 +242,18 @@ TEST_P(Player, showsNoDayOnASunday)
     }
 }
 
+TEST_P(Player, countsTheSeatsOfTheVeryRoomsWhereEachHasARow)
+{
+    // On Monday A2 (40 places) is held in slot 1, B2 (20) in slot 2, B1 (100) in slot 3 and, for
+    // 180 minutes, in slot 4, C1 (12) in slot 1.
+    desk.play({"--every-room", "--rooms-per-page", "2", "--counting", "--page", "2"});
+    EXPECT_EQ(shownRooms(desk.plan()), QStringList({"B1", "B2"}));
+    EXPECT_EQ(totals(desk.plan()).mid(0, 4), QStringList({"40", "20", "100", "100"}));
+    desk.form().Command3.press();
+    EXPECT_EQ(shownRooms(desk.plan()), QStringList({"C1"}));
+    EXPECT_EQ(totals(desk.plan()).mid(0, 4), QStringList({"52", "20", "100", "100"}));
+}
+
 TEST_P(Player, namesThePeriodsThereAre)
 {
     EXPECT_EQ(refusal({"--tranche", "Hiver"}),

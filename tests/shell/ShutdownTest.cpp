@@ -223,3 +223,19 @@ TEST_P(Shutdown, leavesARoomsPerPageThatTheBoxCannotShowAloneUntilItChanges)
         EXPECT_EQ(writtenAtClosing(), QStringList({"Total_L_P=3"})) << set;
     }
 }
+
+TEST_P(Shutdown, writesWhetherEveryRoomHasARowOnceThatWasChanged)
+{
+    desk.form().EveryRoom.setChecked(true);
+    EXPECT_EQ(writtenAtClosing(), QStringList({"Toutes_Salles=True"}));
+    desk.start();
+    desk.form().EveryRoom.setChecked(false);
+    EXPECT_EQ(writtenAtClosing(), QStringList({"Toutes_Salles=False"}));
+}
+
+TEST_P(Shutdown, leavesOtherWordsForEveryRoomAsTheyAre)
+{
+    desk.setup.set("Toutes_Salles", "Vrai");
+    desk.start();
+    EXPECT_EQ(writtenAtClosing(), QStringList());
+}

@@ -58,6 +58,7 @@ TEST_P(Startup, leavesTheOptionsAsTheWindowsDesignHasThem)
     EXPECT_FALSE(form.xOpExam.isChecked());
     EXPECT_FALSE(form.Check1.isChecked());
     EXPECT_FALSE(form.Check2.isChecked());
+    EXPECT_FALSE(form.EveryRoom.isChecked());
     EXPECT_FALSE(form.Chk_Compt.isChecked());
     EXPECT_TRUE(form.Colorer.isChecked());
     EXPECT_TRUE(form.Check3.isChecked());
@@ -350,4 +351,27 @@ TEST(StartupChoice, ofMySqlReadsTheFileOfTheBaseSaKalo)
     EXPECT_EQ(error.number(), ErrorNumber::FileNotFound);
     EXPECT_TRUE(error.activity().contains("SaKalo")) << error.activity().toStdString();
     EXPECT_TRUE(desk.form().ImgSql.visible);
+}
+
+TEST_P(Startup, leavesNoRoomOutWhereTheSettingsSaySo)
+{
+    desk.setup.set("Toutes_Salles", "True");
+    desk.setup.set("Total_L_P", "2");
+    desk.start();
+    EXPECT_TRUE(desk.form().EveryRoom.isChecked());
+    EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A1", "A2"}));
+    EXPECT_TRUE(desk.form().Command3.enabled);
+    EXPECT_FALSE(desk.form().Command2.enabled);
+    desk.form().Command3.press();
+    EXPECT_EQ(shownRooms(desk.plan()), QStringList({"B1", "B2"}));
+    desk.form().Command3.press();
+    EXPECT_EQ(shownRooms(desk.plan()), QStringList({"C1"}));
+    EXPECT_FALSE(desk.form().Command3.enabled);
+}
+
+TEST_P(Startup, leavesARoomOutWithoutTheSetting)
+{
+    desk.start();
+    EXPECT_FALSE(desk.form().EveryRoom.isChecked());
+    EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
 }
