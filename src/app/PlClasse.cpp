@@ -6,6 +6,7 @@
 #include "app/HeaderBand.h"
 #include "app/HelpWindow.h"
 #include "app/OptionPanels.h"
+#include "app/PageFooter.h"
 #include "app/PlainTexts.h"
 #include "app/PlanView.h"
 #include "app/WindowStyle.h"
@@ -161,8 +162,9 @@ void PlClasse::buildStatusBar()
         ->setToolTip(QStringLiteral("Date que marquent Maj + clic et Ctrl + clic sur une case"));
     auto* weekOfDate = follow(QStringLiteral("WeekShown"), &PlClasse::weekShown);
     weekOfDate->setToolTip(QStringLiteral("Semaine de la date affichée, selon « SemaineA »"));
-    // Room names may be long: they are cut before the window grows wider than the screen.
-    follow(QStringLiteral("PageInfo"), &PlClasse::roomsShown)->setMinimumWidth(1);
+    statusBar()->addWidget(
+        new PageFooter(m_shell.engine(), m_mirror,
+                       [this](const std::function<void()>& action) { forward(action); }));
     add(QStringLiteral("PeriodCaption"), QStringLiteral("Période n°"));
     m_mirror.bind(add(QStringLiteral("Label11"), QString()), form.Label11);
     auto* week = add(QStringLiteral("Semn"), QString());
@@ -183,17 +185,6 @@ void PlClasse::buildStatusBar()
             [this] { forward([this] { m_shell.Label20_Click(); }); });
     statusBar()->addPermanentWidget(font);
     m_mirror.bind(add(QStringLiteral("Lab_Ver"), QString()), form.Lab_Ver);
-}
-
-QString PlClasse::roomsShown() const
-{
-    const context::RoomPage& page = m_shell.engine().state().page;
-    const int last = page.RowsShown;
-    if (last < 1 || last >= form::PlanForm::kRows) {
-        return QStringLiteral("Aucune salle affichée");
-    }
-    return QStringLiteral("Salles affichées : %1, de « %2 » à « %3 »")
-        .arg(QString::number(last), page.room(1).name, page.room(last).name);
 }
 
 QString PlClasse::weekShown() const

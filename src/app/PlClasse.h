@@ -73,7 +73,6 @@ private:
     [[nodiscard]] engine::Surroundings tieToWindow(engine::Surroundings surroundings);
     void buildContent();
     void buildStatusBar();
-    [[nodiscard]] QString roomsShown() const;
     /// Which week A or B the shown date lies in; empty where nobody knows.
     [[nodiscard]] QString weekShown() const;
     /// The date that the gestures mark: that of the drawn boxes, not always the picker's.

@@ -28,7 +28,8 @@ QString roomToolTip(const plan::PlanState& state, double top)
     const QString& name = state.page.room(*row).name;
     return *row != 0 ? name // the label may be too narrow for it
                      : name + QStringLiteral("\nSalle placée juste avant la première ligne du "
-                                             "plan : ses séances ne sont pas dessinées ici");
+                                             "plan : ses séances ne sont pas dessinées ici.\n"
+                                             "Un clic montre sa journée.");
 }
 
 QString totalsToolTip(const plan::PlanState& state)

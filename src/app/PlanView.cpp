@@ -7,6 +7,7 @@
 #include "app/PlanToolTips.h"
 #include "app/ViewScale.h"
 #include "context/AxisLabels.h"
+#include "context/PageRule.h"
 #include "plan/RoomRows.h"
 #include "shell/Shell.h"
 
@@ -30,10 +31,6 @@ namespace
 constexpr QColor kBandEdge(190, 196, 208);
 // Laid over what is out of date: enough of it stays to be read.
 constexpr QColor kVeil(245, 246, 249, 150);
-// What is looked for: seen on every row colour, by the light line around the dark one.
-constexpr QColor kFrameLine(178, 34, 34);
-constexpr QColor kFrameHalo(255, 255, 255);
-constexpr int kFrameWidth = 3;
 
 } // namespace
 
@@ -83,7 +80,7 @@ void PlanView::fit()
 {
     const form::PlanForm& form = m_engine.form();
     m_lastRowHeight = form.Salle.front().place.height;
-    m_lastRows = std::max<int>(m_engine.state().page.RowsShown, 0) + 1;
+    m_lastRows = rowsWanted();
     m_totalsHeight = totalsHeight();
     const QSize room(viewport()->width(), viewport()->height() - m_totalsHeight);
     m_target = fitPlan(form, axisEnd(), m_lastRows, room);
@@ -156,13 +153,21 @@ void PlanView::showAll()
 
 void PlanView::drawAll()
 {
-    const int rows = std::max<int>(m_engine.state().page.RowsShown, 0) + 1;
-    if (rows != m_lastRows || m_engine.form().Salle.front().place.height != m_lastRowHeight ||
+    openAtTop();
+    if (rowsWanted() != m_lastRows ||
+        m_engine.form().Salle.front().place.height != m_lastRowHeight ||
         totalsHeight() != m_totalsHeight) {
         fit();
     } else {
         drawPicture();
     }
+}
+
+/// Rows that the view has to find room for, the greyed one included.
+int PlanView::rowsWanted() const
+{
+    const int first = context::PageRule(m_engine.form()).firstRow();
+    return std::max(m_engine.state().page.RowsShown + 1 - first, 1);
 }
 
 QPointF PlanView::toViewport(QPointF planPoint) const
@@ -247,84 +252,6 @@ void PlanView::scrollContentsBy(int dx, int dy)
     viewport()->update();
 }
 
-void PlanView::frame(const QString& room, int slot)
-{
-    m_frame = Frame{room, slot, m_engine.refreshCount()};
-    bringIntoView(framed());
-    viewport()->update();
-}
-
-void PlanView::unframe()
-{
-    if (m_frame) {
-        m_frame.reset();
-        viewport()->update();
-    }
-}
-
-QRectF PlanView::framed() const
-{
-    if (!m_frame || m_frame->refresh != m_engine.refreshCount()) {
-        return {};
-    }
-    const form::PlanForm& form = m_engine.form();
-    const auto rowAcross = [&](const form::Place& room) {
-        return m_target.toPixels(QRectF(room.left, room.top, axisEnd() - room.left, room.height));
-    };
-    const PlanTable words = table();
-    const auto cell = words.cellOf(m_frame->room, m_frame->slot);
-    if (!cell) {
-        const bool isGreyed =
-            form.Salle.front().visible && m_engine.state().page.room(0).name == m_frame->room;
-        return isGreyed ? rowAcross(form.Salle.front().place) : QRectF();
-    }
-    if (words.boxOf(*cell) != nullptr) {
-        return words.placeOf(*cell);
-    }
-    return rowAcross(form.Salle.at(static_cast<std::size_t>(words.rowOf(*cell).index)).place);
-}
-
-void PlanView::bringIntoView(const QRectF& place)
-{
-    if (place.isEmpty()) {
-        return;
-    }
-    constexpr int margin = 8;
-    const QRect boxes = bands().boxes;
-    const auto scroll = [](QScrollBar* bar, double from, double to, int first, int length) {
-        if (to > bar->value() + first + length) {
-            bar->setValue(static_cast<int>(to) - first - length + margin);
-        }
-        if (from < bar->value() + first) {
-            bar->setValue(static_cast<int>(from) - first - margin);
-        }
-    };
-    scroll(verticalScrollBar(), place.top(), place.bottom(), boxes.top(), boxes.height());
-    if (place.left() >= boxes.left()) { // a whole row begins with its name, which stays in view
-        scroll(horizontalScrollBar(), place.left(), place.right(), boxes.left(), boxes.width());
-    }
-}
-
-void PlanView::paintFrame(QPainter& painter, const Bands& view) const
-{
-    const QRectF place = framed();
-    if (place.isEmpty()) {
-        return;
-    }
-    const bool isRow = place.left() < view.boxes.left();
-    const QPointF corner(isRow ? place.left() : place.left() - horizontalScrollBar()->value(),
-                         place.top() - verticalScrollBar()->value());
-    painter.save();
-    painter.setClipRect(isRow ? view.boxes.united(view.names) : view.boxes);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF line = QRectF(corner, place.size()).adjusted(1, 1, -1, -1);
-    painter.setPen(QPen(kFrameHalo, kFrameWidth + 3));
-    painter.drawRoundedRect(line, 3, 3);
-    painter.setPen(QPen(kFrameLine, kFrameWidth));
-    painter.drawRoundedRect(line, 3, 3);
-    painter.restore();
-}
-
 QString PlanView::roomAt(QPoint point) const
 {
     const Bands view = bands();
@@ -334,6 +261,16 @@ QString PlanView::roomAt(QPoint point) const
     const auto row =
         plan::rowAtHeight(m_engine.form(), m_target.TargetTwipsPerPixelY * toPlan(point).y());
     return row ? m_engine.state().page.room(*row).name : QString();
+}
+
+QString PlanView::greyedRoomAt(QPoint point) const
+{
+    const Bands view = bands();
+    const form::Label& greyed = m_engine.form().Salle.front();
+    const double top = m_target.TargetTwipsPerPixelY * toPlan(point).y();
+    const bool isThere = (view.names.contains(point) || view.places.contains(point)) &&
+                         greyed.visible && plan::rowAtHeight(m_engine.form(), top) == 0;
+    return isThere ? m_engine.state().page.room(0).name : QString();
 }
 
 std::optional<PlanView::Spot> PlanView::spotAt(QPoint point) const
@@ -368,13 +305,32 @@ void PlanView::keyPressEvent(QKeyEvent* event)
         unframe();
         return;
     }
+    if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Home) {
+        goToPage(&engine::Engine::showFirstPage);
+        return;
+    }
+    if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_End) {
+        goToPage(&engine::Engine::showLastPage);
+        return;
+    }
     QAbstractScrollArea::keyPressEvent(event);
+}
+
+void PlanView::goToPage(void (engine::Engine::*page)())
+{
+    m_forward([this, page] { (m_engine.*page)(); });
 }
 
 void PlanView::mousePressEvent(QMouseEvent* event)
 {
     unframe();
     const bool isOfThisPlan = m_shownRefresh == m_engine.refreshCount();
+    const QString greyed = greyedRoomAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && isOfThisPlan && !greyed.isEmpty() &&
+        m_asking.openGreyed) {
+        m_asking.openGreyed(greyed);
+        return;
+    }
     if (event->button() != Qt::LeftButton || !isOfThisPlan ||
         !bands().boxes.contains(event->position().toPoint())) {
         return;

@@ -39,6 +39,8 @@ public:
     /// What is done with it; nothing unless somebody says so.
     struct Asking {
         std::function<void(const QString& room)> openRoom; ///< a double click on its name
+        /// A click on the name of the greyed room, whose boxes are not drawn.
+        std::function<void(const QString& room)> openGreyed;
         std::function<void(const Spot& spot, QPoint screenPoint)> showMenu;
     };
     void setAsking(Asking asking) { m_asking = std::move(asking); }
@@ -114,9 +116,22 @@ private:
         std::uint64_t refresh = 0; ///< of which drawing
     };
 
+    /// The page as `openAtTop` tells one from another.
+    struct PageShown {
+        std::int32_t start = 0;
+        QString firstRoom;
+
+        friend bool operator==(const PageShown&, const PageShown&) = default;
+    };
+
+    [[nodiscard]] int rowsWanted() const;
+    void openAtTop();
+    void goToPage(void (engine::Engine::*page)());
     void unframe();
     void bringIntoView(const QRectF& place);
     void paintFrame(QPainter& painter, const Bands& view) const;
+    /// The greyed room, where its name or places lie there; empty elsewhere.
+    [[nodiscard]] QString greyedRoomAt(QPoint point) const;
     /// The room whose name or places lie there, the greyed one included; empty elsewhere.
     [[nodiscard]] QString roomAt(QPoint point) const;
     [[nodiscard]] std::optional<Spot> spotAt(QPoint point) const;
@@ -143,6 +158,7 @@ private:
     PlanPicture m_picture;
     int m_lastRowHeight = 0;
     int m_lastRows = 0;
+    PageShown m_page;
     int m_totalsHeight = 0;
     Asking m_asking;
     std::optional<Frame> m_frame;

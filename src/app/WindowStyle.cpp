@@ -34,6 +34,8 @@ QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; lef
                    padding: 0 3px; color: #48597a; background: #fafbfd; }
 QStatusBar { background: #eef1f6; color: #48597a; }
 QStatusBar QLabel { color: #48597a; padding: 0 6px; }
+#FirstPage { color: #1d5fa8; border: none; text-decoration: underline; }
+#FirstPage:focus { border: 1px solid #1d5fa8; border-radius: 3px; }
 QStatusBar::item { border: none; }
 QToolTip { font-size: 12px; }
 )")

@@ -68,8 +68,9 @@ TEST_F(HeadingsForNames, areNoHeadingsInAnyLabel)
     EXPECT_EQ(control<QLabel>("Label5")->text(), kFileName);
     EXPECT_EQ(control<QLabel>("Label4_4")->text(), kName);
     EXPECT_EQ(control<QLabel>("PeriodName")->text(), kName);
-    EXPECT_EQ(control<QLabel>("PageInfo")->text(),
-              "Salles affichées : 4, de « A2 » à « C" + kName + " »");
+    EXPECT_EQ(control<QLabel>("PageInfo")->text(), "Salles 2–5 sur 5, page 1/1");
+    EXPECT_EQ(control<QLabel>("PageInfo")->toolTip(),
+              app::plainToolTip("De « A2 » à « C" + kName + " »"));
 }
 
 TEST_F(HeadingsForNames, haveTheHeightOfALineOnTheScreen)

@@ -103,7 +103,7 @@ TEST_F(ThePlansToolTips, tellTheRoomOfARow)
     EXPECT_EQ(at(1), "A2");
     EXPECT_EQ(at(4), "C1");
     EXPECT_EQ(at(0), "A1\nSalle placée juste avant la première ligne du plan : ses séances ne sont "
-                     "pas dessinées ici");
+                     "pas dessinées ici.\nUn clic montre sa journée.");
     EXPECT_EQ(at(5), ""); // no such room
 }
 

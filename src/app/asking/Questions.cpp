@@ -76,6 +76,7 @@ void Questions::tieTo(PlanView* view)
 {
     m_view = view;
     view->setAsking({[this](const QString& room) { openWeekOfRoom(room); },
+                     [this](const QString& room) { weeks().presentRoomDay(room); },
                      [this](const PlanView::Spot& spot, QPoint point) { showMenu(spot, point); }});
 }
 

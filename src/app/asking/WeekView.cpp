@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 #include <utility>
 
 namespace app
@@ -37,6 +38,17 @@ void WeekView::show(answers::WeekGrid grid, std::vector<form::Colour> roomColors
         setCursorBox(0);
     }
     update();
+}
+
+bool WeekView::goToDay(int day)
+{
+    const auto box = std::find_if(m_grid.boxes.begin(), m_grid.boxes.end(),
+                                  [day](const answers::WeekBox& any) { return any.day == day; });
+    if (box == m_grid.boxes.end()) {
+        return false;
+    }
+    setCursorBox(static_cast<std::size_t>(box - m_grid.boxes.begin()));
+    return true;
 }
 
 paint::WeekPainter WeekView::painter() const

@@ -21,6 +21,8 @@ public:
     WeekView();
 
     void show(answers::WeekGrid grid, std::vector<form::Colour> roomColors);
+    /// Puts the cursor on the first box of a day, 0 to 5. False where the day has none.
+    bool goToDay(int day);
     [[nodiscard]] const answers::WeekGrid& grid() const { return m_grid; }
     /// The box with the cursor, of WeekGrid::boxes; nothing in an empty week.
     [[nodiscard]] std::optional<std::size_t> cursor() const { return m_cursor; }

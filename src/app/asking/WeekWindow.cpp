@@ -27,6 +27,7 @@
 #include <QStackedWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace app
 {
@@ -248,18 +249,42 @@ void WeekWindow::presentKind(int kind, const QString& name)
         const QScopedValueRollback<bool> filling(m_isFilling, true);
         m_kind->setCurrentIndex(kind);
         m_wanted = name;
-        if (!isVisible()) { // the week that the plan shows, at first
-            const form::PlanForm& form = desk().shell().form();
-            m_week->setCurrentIndex(static_cast<int>(shownWeeks(form)));
-            const QDate date = shownDate(form);
-            m_isDated->setChecked(date.isValid());
-            if (date.isValid()) {
-                m_date->setDate(date);
-            }
+        if (!isVisible() || m_wantedDay) { // the week that the plan shows, at first
+            chooseShownWeek();
         }
     }
     present();
     m_pages->currentWidget()->setFocus();
+}
+
+void WeekWindow::presentRoomDay(const QString& name)
+{
+    m_wantedDay = shownDay(desk().shell().form());
+    presentKind(kRooms, name);
+}
+
+void WeekWindow::chooseShownWeek()
+{
+    const form::PlanForm& form = desk().shell().form();
+    m_week->setCurrentIndex(static_cast<int>(shownWeeks(form)));
+    const QDate date = shownDate(form);
+    m_isDated->setChecked(date.isValid());
+    if (date.isValid()) {
+        m_date->setDate(date);
+    }
+    if (m_wantedDay) { // a cursor stands in the drawn week alone
+        m_isList->setChecked(false);
+    }
+}
+
+void WeekWindow::goToWantedDay()
+{
+    const int day = *std::exchange(m_wantedDay, std::nullopt);
+    if (!m_view->goToDay(day)) {
+        tell(QStringLiteral("%1 : rien dans la salle %2")
+                 .arg(m_view->grid().days.at(static_cast<std::size_t>(day)).title,
+                      m_name->currentText()));
+    }
 }
 
 bool WeekWindow::isOfAllRooms() const
@@ -370,6 +395,9 @@ void WeekWindow::draw(const shell::Inquiry& inquiry, const files::WeekAnswer& an
         m_view->setAccessibleName(QStringLiteral("Semaine, ") + m_document->title);
         m_legend->setText(paint::weekLegend(m_view->grid()));
         m_pages->setCurrentWidget(m_view);
+        if (m_wantedDay) {
+            goToWantedDay();
+        }
     }
 }
 

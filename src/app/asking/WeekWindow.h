@@ -27,6 +27,8 @@ public:
     void presentFor(const std::optional<answers::Subject>& subject);
     /// The same of a room, by its name; the first room where there is none of that name.
     void presentRoom(const QString& name);
+    /// The same with the cursor on the day that the plan shows, in the plan's week.
+    void presentRoomDay(const QString& name);
 
 protected:
     void showAnswer(const shell::Inquiry& inquiry) override;
@@ -34,6 +36,10 @@ protected:
 
 private:
     void presentKind(int kind, const QString& name);
+    /// The week that the plan shows.
+    void chooseShownWeek();
+    /// Puts the cursor on the day that is asked for, or says that it is free.
+    void goToWantedDay();
     void buildFields();
     [[nodiscard]] QWidget* buildPages();
     [[nodiscard]] QLayout* fieldRow();
@@ -61,8 +67,9 @@ private:
     WeekView* m_view = nullptr;
     OverviewView* m_overview = nullptr;
     QTreeWidget* m_list = nullptr;
-    QLabel* m_legend = nullptr; ///< what hatching and marks mean
-    QString m_wanted;           ///< the name to be shown once the names are known
+    QLabel* m_legend = nullptr;     ///< what hatching and marks mean
+    std::optional<int> m_wantedDay; ///< the day to be shown once the week is known
+    QString m_wanted;               ///< the name to be shown once the names are known
     std::optional<files::AnswerDocument> m_document; ///< what is shown
     bool m_isFilling = false; ///< the program, not the user, changes the fields
 };
