@@ -19,6 +19,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace app
@@ -144,10 +145,33 @@ void nameCalendarParts(QCalendarWidget& calendar)
     name("qt_calendar_calendarview", QStringLiteral("Jours du mois"));
 }
 
-void addDayPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
+/// The list of days between the buttons that lead to the day before and behind.
+QLayout* dayRow(PanelBuilder& make, FormMirror& mirror, engine::Engine& engine)
 {
+    form::PlanForm& form = engine.form();
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2);
+    const auto arrow = [&](const char* name, form::Button& control, const QString& help,
+                           const QString& keys, int step) {
+        auto* button = make.add<QToolButton>(name, control, help + keys);
+        button->setAccessibleName(help);
+        button->setFocusPolicy(Qt::StrongFocus);
+        mirror.follow([button, &engine, step] { button->setEnabled(engine.hasDayBeside(step)); });
+        return button;
+    };
+    row->addWidget(arrow("DayBefore", form.DayBefore, QStringLiteral("Jour précédent"),
+                         QStringLiteral(" (Alt+←)"), -1));
+    row->addWidget(make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 8), 1);
+    row->addWidget(arrow("DayAfter", form.DayAfter, QStringLiteral("Jour suivant"),
+                         QStringLiteral(" (Alt+→)"), 1));
+    return row;
+}
+
+void addDayPanel(QLayout* band, PanelBuilder& make, FormMirror& mirror, engine::Engine& engine)
+{
+    form::PlanForm& form = engine.form();
     QGridLayout* grid = addPanel(band, QStringLiteral("Jour"));
-    grid->addWidget(make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 8), 0, 0);
+    grid->addLayout(dayRow(make, mirror, engine), 0, 0);
     grid->addWidget(make.check("Check2", form.Check2,
                                QStringLiteral("Choisir une date et montrer ses rattrapages, "
                                               "hachurés")),
@@ -161,6 +185,8 @@ void addDayPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
     picker->setCalendarPopup(true);
     nameCalendarParts(*picker->calendarWidget());
     grid->addWidget(keepPlace(picker), 2, 0);
+    grid->addWidget(
+        make.button("Today", form.Today, QStringLiteral("Montrer aujourd’hui (Ctrl+T)")), 3, 0);
 }
 
 void addWeekPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
@@ -304,7 +330,7 @@ OptionPanels::OptionPanels(engine::Engine& engine, FormMirror& mirror)
     PanelBuilder make(mirror);
     form::PlanForm& form = engine.form();
     addPeriodPanel(band, make, form);
-    addDayPanel(band, make, form);
+    addDayPanel(band, make, mirror, engine);
     addWeekPanel(band, make, form);
     addBoxPanel(band, make, form);
     addRoomPanel(band, make, form);

@@ -83,6 +83,7 @@ PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
     setStyleSheet(windowStyleSheet());
     buildContent();
     buildStatusBar();
+    addKeysOfDays();
 }
 
 PlClasse::~PlClasse()
@@ -185,6 +186,22 @@ void PlClasse::buildStatusBar()
             [this] { forward([this] { m_shell.Label20_Click(); }); });
     statusBar()->addPermanentWidget(font);
     m_mirror.bind(add(QStringLiteral("Lab_Ver"), QString()), form.Lab_Ver);
+}
+
+/// The buttons beside the day, from wherever the focus is.
+void PlClasse::addKeysOfDays()
+{
+    form::PlanForm& form = m_shell.form();
+    const auto add = [this](QKeyCombination keys, const form::Button& button) {
+        auto* action = new QAction(this);
+        action->setShortcut(keys);
+        connect(action, &QAction::triggered, this,
+                [this, &button] { forward([&button] { button.press(); }); });
+        addAction(action);
+    };
+    add(Qt::CTRL | Qt::Key_T, form.Today);
+    add(Qt::ALT | Qt::Key_Left, form.DayBefore);
+    add(Qt::ALT | Qt::Key_Right, form.DayAfter);
 }
 
 QString PlClasse::weekShown() const

@@ -9,6 +9,9 @@ void tieEvents(form::PlanForm& form, Periods& periods, RoomSet& rooms)
 {
     form.CbTranche.click = [&periods] { periods.CbTranche_Click(); };
     form.CbJour.click = [&periods] { periods.CbJour_Click(); };
+    form.Today.click = [&periods] { periods.Today_Click(); };
+    form.DayBefore.click = [&periods] { periods.DayBefore_Click(); };
+    form.DayAfter.click = [&periods] { periods.DayAfter_Click(); };
     form.DTPicker1.change = [&periods] { periods.DTPicker1_Change(); };
     form.Check2.click = [&periods] { periods.Check2_Click(); };
     form.Combo10.click = [&periods] { periods.Combo10_Click(); };

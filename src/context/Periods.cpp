@@ -5,6 +5,7 @@
 #include "timetable/DateRules.h"
 #include "timetable/SchoolColumns.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace context
@@ -183,6 +184,85 @@ void Periods::Check2_Click()
     m_form.DTPicker1.visible = m_form.Check2.isChecked();
 }
 
+/// Today, unless that is a Sunday, which the list of days does not hold.
+QDate Periods::dayToOpenOn() const
+{
+    const QDate today = m_today();
+    return today.dayOfWeek() == Qt::Sunday ? today.addDays(1) : today;
+}
+
+void Periods::openOnToday()
+{
+    pickDate(m_form, dayToOpenOn());
+}
+
+void Periods::Today_Click()
+{
+    const QDate day = dayToOpenOn();
+    if (m_form.OpExam().isSelected() && showExamsOf(day)) {
+        return;
+    }
+    m_form.OpEns().select();
+    if (m_form.visible) { // else it was closed in the middle of a redraw
+        pickDate(m_form, day);
+    }
+}
+
+/// False, with nothing changed, where no exam week of the period holds the day.
+bool Periods::showExamsOf(QDate day)
+{
+    const auto& weeks = m_viewed.examWeeks.firstDays;
+    const auto week = std::find_if(weeks.begin(), weeks.end(), [day](QDate first) {
+        return first.isValid() &&
+               timetable::MondayOnOrBefore(first) == timetable::MondayOnOrBefore(day);
+    });
+    if (week == weeks.end()) {
+        return false;
+    }
+    m_form.Combo10.setListIndex(static_cast<int>(week - weeks.begin()));
+    if (m_form.visible) {
+        m_form.CbJour.setListIndex(dayListIndex(day));
+    }
+    return true;
+}
+
+QDate Periods::dayBeside(int step) const
+{
+    const QDate day = m_viewed.shownDate(m_form).addDays(step);
+    return day.dayOfWeek() == Qt::Sunday ? day.addDays(step) : day;
+}
+
+bool Periods::hasDayBeside(int step) const
+{
+    if (m_form.OpEns().isSelected()) {
+        return dayBeside(step).isValid();
+    }
+    const int index = m_form.CbJour.listIndex() + step;
+    return index >= 0 && index < m_form.CbJour.items().size();
+}
+
+void Periods::step(int days)
+{
+    if (!hasDayBeside(days)) {
+        return;
+    }
+    if (m_form.OpEns().isSelected()) {
+        pickDate(m_form, dayBeside(days));
+    } else { // an exam week has its own days
+        m_form.CbJour.setListIndex(m_form.CbJour.listIndex() + days);
+    }
+}
+
+void Periods::DayBefore_Click()
+{
+    step(-1);
+}
+
+void Periods::DayAfter_Click()
+{
+    step(1);
+}
+
 void Periods::Combo10_Click()
 {
     if (!m_form.Combo10.visible) {
@@ -223,6 +303,16 @@ void Periods::OpExam_Click()
     LoadExamWeeks();
     Afficher_Dates();
     m_plan.RefreshPlan();
+}
+
+void pickDate(form::PlanForm& form, QDate date)
+{
+    const bool picks = form.DTPicker1.visible && form.DTPicker1.value() != date;
+    form.DTPicker1.setValue(date);
+    if (!picks) {
+        form.CbJour.setListIndex(dayListIndex(date));
+        form.DTPicker1.setValue(date); // the list does not hold Sunday
+    }
 }
 
 } // namespace context

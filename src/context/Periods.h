@@ -28,6 +28,11 @@ public:
     void chooseByIdent(std::int32_t ident);
     /// At start-up: this week's Monday.
     void showCurrentWeek();
+    /// At start-up, behind that: today; the Monday to come on a Sunday, which has no plan.
+    void openOnToday();
+    /// Whether there is a day before (-1) or behind (1) to be shown: an exam week ends with its
+    /// Saturday.
+    [[nodiscard]] bool hasDayBeside(int step) const;
 
     /// Finds the first days of the three exam weeks of the period whose number the label shows; of
     /// the chosen one where the database names none. Without either they stay as they are.
@@ -43,6 +48,11 @@ public:
     void CbJour_Click();
     void DTPicker1_Change();
     void Check2_Click();
+    /// Shows today, or on a Sunday the Monday to come. In exam mode it chooses the exam week that
+    /// holds the day; where none does, the plan returns to teaching.
+    void Today_Click();
+    void DayBefore_Click();
+    void DayAfter_Click();
     void Combo10_Click();
     void OpEns_Click();
     void OpExam_Click();
@@ -53,6 +63,10 @@ private:
     void reckonExamDates(const db::Row& row);
     void setTrancheIdent(const db::Value& ident);
     [[nodiscard]] db::Recordset periodRow();
+    [[nodiscard]] QDate dayToOpenOn() const;
+    [[nodiscard]] bool showExamsOf(QDate day);
+    [[nodiscard]] QDate dayBeside(int step) const;
+    void step(int days);
 
     form::PlanForm& m_form;
     ViewedPeriod& m_viewed;
@@ -64,5 +78,9 @@ private:
     bool m_DayChangeBusy = false;    ///< the day list is writing into the date picker
     bool m_PickerChangeBusy = false; ///< the date picker is writing into the day list
 };
+
+/// Chooses a date as the user picks it. The picker changes the week and the day; while it is
+/// hidden, or shows the date already and so has no change to tell, the day is chosen from the list.
+void pickDate(form::PlanForm& form, QDate date);
 
 } // namespace context

@@ -87,11 +87,14 @@ public:
     void fillRoomPage() { m_rooms.FillRoomPage(m_reads.takeAllRooms()); }
     /// This week's Monday.
     void showCurrentWeek() { m_periods.showCurrentWeek(); }
+    void openOnToday() { m_periods.openOnToday(); }
     void readSeanceTypes();
     void listDepartments();
 
     // While the program runs.
 
+    /// Whether "◀" (-1) or "▶" (1) leads to a day.
+    [[nodiscard]] bool hasDayBeside(int step) const { return m_periods.hasDayBeside(step); }
     void refreshPlan() { m_refresh.RefreshPlan(); }
     /// Row colours become pale, or full again; redraws.
     void togglePaleColors();

@@ -83,7 +83,8 @@ void designPlan(PlanForm& form)
 
 PlanForm::PlanForm()
     : caption(QStringLiteral("Planning des Classes")), backColor(Colour::fromRgb(240, 240, 240)),
-      Check2(QStringLiteral("Date")),
+      Today(QStringLiteral("Aujourd’hui")), DayBefore(QStringLiteral("◀")),
+      DayAfter(QStringLiteral("▶")), Check2(QStringLiteral("Date")),
       mode({QStringLiteral("Enseignement"), QStringLiteral("Examen")}),
       week({QStringLiteral("Toute Semaine"), QStringLiteral("Semaine A"),
             QStringLiteral("Semaine B")}),

@@ -48,6 +48,9 @@ public:
     // Period, mode, day
     List CbTranche;
     List CbJour;
+    Button Today;
+    Button DayBefore;
+    Button DayAfter;
     DatePicker DTPicker1;
     CheckBox Check2;
     OptionGroup mode;

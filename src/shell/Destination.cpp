@@ -1,7 +1,6 @@
 #include "shell/Destination.h"
 
-#include "context/ViewedPeriod.h"
-#include "shell/Player.h"
+#include "context/Periods.h"
 
 namespace shell
 {
@@ -50,7 +49,7 @@ void chooseDay(Shell& shell, const Destination& destination, bool again)
     if (!shows) {
         form.Check2.setChecked(true);
         shell.keepDate();
-        pickDate(form, destination.date);
+        context::pickDate(form, destination.date);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "shell/Player.h"
 
-#include "context/ViewedPeriod.h"
+#include "context/Periods.h"
 
 namespace shell
 {
@@ -85,7 +85,7 @@ void playDay(Shell& shell, const CommandLine& line)
         form.CbJour.setListIndex(*line.day);
     } else if (line.date) {
         shell.keepDate();
-        pickDate(form, *line.date);
+        context::pickDate(form, *line.date);
     } else if (line.makeup || line.counting) {
         // Neither option redraws by itself; choosing the day again shows both.
         form.CbJour.setListIndex(form.CbJour.listIndex());
@@ -93,16 +93,6 @@ void playDay(Shell& shell, const CommandLine& line)
 }
 
 } // namespace
-
-void pickDate(form::PlanForm& form, QDate date)
-{
-    const bool picks = form.DTPicker1.visible && form.DTPicker1.value() != date;
-    form.DTPicker1.setValue(date);
-    if (!picks) {
-        form.CbJour.setListIndex(context::dayListIndex(date));
-        form.DTPicker1.setValue(date); // the list does not hold Sunday
-    }
-}
 
 void choosePeriod(Shell& shell, const CommandLine& line)
 {

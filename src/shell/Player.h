@@ -10,10 +10,6 @@ namespace shell
 /// have.
 void choosePeriod(Shell& shell, const CommandLine& line);
 
-/// Chooses a date as the user picks it. The picker changes the week and the day; while it is
-/// hidden, or shows the date already and so has no change to tell, the day is chosen from the list.
-void pickDate(form::PlanForm& form, QDate date);
-
 /// Plays on the started program the events of a user who makes the choices of the command line:
 /// period, mode, exam week, display options, week kind, make-up, subject filter, rooms per page,
 /// room filter, counting, day or date, pages. The day is chosen again when make-up or counting

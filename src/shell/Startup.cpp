@@ -49,6 +49,9 @@ void Shell::Form_Load()
     }
     m_engine.fillRoomPage();
     m_engine.showCurrentWeek();
+    if (isOn(QStringLiteral("Ouvrir_Aujourdhui"))) {
+        m_engine.openOnToday();
+    }
     m_engine.readSeanceTypes();
     m_engine.listDepartments();
     m_loaded = true;

@@ -385,8 +385,8 @@ TEST_F(TheWindow, hasEveryControlUnderItsName)
           "Chk_Neutre", "Total_L_P", "Command2",  "Command3", "Colorer",   "ChkGrille", "Check3",
           "Chk_Compt",  "Frame1",    "Command4",  "Label5",   "Command1",  "Opt_Cap",   "XSalle",
           "Label11",    "Lab_Ver",   "Label20",   "ImgSql",   "ImgAccess", "Picture1",  "Label4_0",
-          "Label4_1",   "Label4_2",  "Label4_3",  "Label4_4", "EveryRoom", "PageInfo",
-          "FirstPage"}) {
+          "Label4_1",   "Label4_2",  "Label4_3",  "Label4_4", "EveryRoom", "PageInfo",  "FirstPage",
+          "Today",      "DayBefore", "DayAfter"}) {
         EXPECT_EQ(window().findChildren<QWidget*>(name).size(), 1) << name;
     }
 }
@@ -409,6 +409,7 @@ TEST_F(TheWindow, hasTheCaptionsOfItsControls)
                                              {"ElemDep", "Eléments du département"},
                                              {"Chk_Neutre", "+ Eléments Neutres"},
                                              {"EveryRoom", "Toutes les salles"},
+                                             {"Today", "Aujourd’hui"},
                                              {"Command2", "Page Précédente"},
                                              {"Command3", "Page Suivante"},
                                              {"Colorer", "Colorer"},

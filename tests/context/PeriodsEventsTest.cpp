@@ -304,3 +304,119 @@ TEST_F(PeriodEvents, serveADayChosenDuringTheRedrawOfAPickedDate)
     EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 23)); // Friday of the picked week
     EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 19));
 }
+
+TEST_F(PeriodEvents, goToTodayWithOneRedraw)
+{
+    form().CbJour.setListIndex(5);
+    QStringList& shown = shownAtRedraws();
+    form().Today.press();
+    EXPECT_EQ(shown, QStringList({"Mercredi 2026-10-14 2026-10-12"}));
+    EXPECT_FALSE(form().DTPicker1.visible);
+}
+
+TEST_F(PeriodEvents, goToTodayFromAnotherWeekOfThePicker)
+{
+    showPicker();
+    form().DTPicker1.setValue(QDate(2026, 11, 24));
+    QStringList& shown = shownAtRedraws();
+    form().Today.press();
+    EXPECT_EQ(shown, QStringList({"Mercredi 2026-10-14 2026-10-12"}));
+}
+
+TEST_F(PeriodEvents, goToTheMondayToComeOnASunday)
+{
+    desk->today = QDate(2026, 10, 18);
+    form().Today.press();
+    EXPECT_EQ(form().CbJour.text(), "Lundi");
+    EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 19));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 19));
+}
+
+TEST_F(PeriodEvents, goToTheDaysBesideWithOneRedrawEach)
+{
+    form().CbJour.setListIndex(1);
+    QStringList& shown = shownAtRedraws();
+    form().DayAfter.press();
+    form().DayBefore.press();
+    form().DayBefore.press();
+    EXPECT_EQ(shown, QStringList({"Mercredi 2026-10-14 2026-10-12", "Mardi 2026-10-13 2026-10-12",
+                                  "Lundi 2026-10-12 2026-10-12"}));
+}
+
+TEST_F(PeriodEvents, stepOverSundays)
+{
+    form().CbJour.setListIndex(5);
+    QStringList& shown = shownAtRedraws();
+    form().DayAfter.press();
+    form().DayBefore.press();
+    EXPECT_EQ(shown, QStringList({"Lundi 2026-10-19 2026-10-19", "Samedi 2026-10-17 2026-10-12"}));
+}
+
+TEST_F(PeriodEvents, moveThePickedDateWhenTheyStep)
+{
+    showPicker();
+    form().DTPicker1.setValue(QDate(2026, 11, 21)); // a Saturday
+    QStringList& shown = shownAtRedraws();
+    form().DayAfter.press();
+    EXPECT_EQ(shown, QStringList({"Lundi 2026-11-23 2026-11-23"}));
+}
+
+TEST_F(PeriodEvents, leadFromAPickedSundayToTheDaysBesideIt)
+{
+    showPicker();
+    form().DTPicker1.setValue(QDate(2026, 11, 22));
+    ASSERT_EQ(form().CbJour.listIndex(), -1);
+    form().DayBefore.press();
+    EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 11, 21));
+    form().DTPicker1.setValue(QDate(2026, 11, 22));
+    form().DayAfter.press();
+    EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 11, 23));
+    EXPECT_EQ(form().CbJour.text(), "Lundi");
+}
+
+TEST_F(PeriodEvents, stepWithinTheExamWeekOnly)
+{
+    form().OpExam().select();
+    form().CbJour.setListIndex(0);
+    EXPECT_FALSE(periods().hasDayBeside(-1));
+    EXPECT_TRUE(periods().hasDayBeside(1));
+    const qsizetype before = redraws();
+    form().DayBefore.press();
+    EXPECT_EQ(redraws(), before);
+    form().DayAfter.press();
+    EXPECT_EQ(form().CbJour.text(), "Mardi");
+    EXPECT_EQ(form().DTPicker1.value(), QDate(2027, 2, 2));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2027, 2, 1));
+    form().CbJour.setListIndex(5);
+    EXPECT_FALSE(periods().hasDayBeside(1));
+}
+
+TEST_F(PeriodEvents, chooseTheExamWeekThatHoldsToday)
+{
+    form().OpExam().select();
+    form().Today.press(); // of the control week, 12 October 2026
+    EXPECT_TRUE(form().OpExam().isSelected());
+    EXPECT_EQ(desk->viewed.examWeek, 3);
+    EXPECT_EQ(form().CbJour.text(), "Mercredi");
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 12));
+    EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 14));
+}
+
+TEST_F(PeriodEvents, returnToTeachingWhereNoExamWeekHoldsToday)
+{
+    desk->today = QDate(2026, 11, 26); // a Thursday
+    form().OpExam().select();
+    form().Today.press();
+    EXPECT_TRUE(form().OpEns().isSelected());
+    EXPECT_EQ(form().CbJour.text(), "Jeudi");
+    EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 11, 26));
+}
+
+TEST_F(PeriodEvents, openOnTodayBeforeTheWindowIsVisible)
+{
+    form().visible = false;
+    periods().openOnToday();
+    EXPECT_EQ(form().CbJour.text(), "Mercredi");
+    EXPECT_EQ(form().DTPicker1.value(), QDate(2026, 10, 14));
+    EXPECT_EQ(desk->viewed.CurrentDate, QDate(2026, 10, 12));
+}

@@ -375,3 +375,24 @@ TEST_P(Startup, leavesARoomOutWithoutTheSetting)
     EXPECT_FALSE(desk.form().EveryRoom.isChecked());
     EXPECT_EQ(shownRooms(desk.plan()), QStringList({"A2", "B1", "B2", "C1"}));
 }
+
+TEST_P(Startup, opensOnTodayWhereTheSettingsSaySo)
+{
+    desk.setup.set("Ouvrir_Aujourdhui", "True");
+    desk.start();
+    EXPECT_EQ(desk.form().CbJour.text(), "Mercredi");
+    EXPECT_EQ(desk.form().DTPicker1.value(), QDate(2025, 3, 19));
+    EXPECT_EQ(desk.shell().engine().state().period.CurrentDate, QDate(2025, 3, 17));
+    EXPECT_FALSE(desk.form().DTPicker1.visible);
+    EXPECT_FALSE(desk.shell().fileDate().isValid());
+    EXPECT_EQ(desk.shell().engine().refreshCount(), 1U);
+}
+
+TEST_P(Startup, opensOnTheMondayToComeOnASunday)
+{
+    desk.today = QDate(2025, 3, 23);
+    desk.setup.set("Ouvrir_Aujourdhui", "1");
+    desk.start();
+    EXPECT_EQ(desk.form().CbJour.text(), "Lundi");
+    EXPECT_EQ(desk.form().DTPicker1.value(), QDate(2025, 3, 24));
+}
