@@ -30,6 +30,7 @@ namespace
 constexpr int kPanelRows = 4;
 constexpr int kRowPixels = 22;
 constexpr int kWidestList = 260;
+constexpr int kArrowPixels = 18; // all groups are to find room beside one another on 1366 pixels
 
 /// Makes the widgets of the panels: each has its control's name and is bound to it.
 class PanelBuilder
@@ -150,12 +151,13 @@ QLayout* dayRow(PanelBuilder& make, FormMirror& mirror, engine::Engine& engine)
 {
     form::PlanForm& form = engine.form();
     auto* row = new QHBoxLayout;
-    row->setSpacing(2);
+    row->setSpacing(1);
     const auto arrow = [&](const char* name, form::Button& control, const QString& help,
                            const QString& keys, int step) {
         auto* button = make.add<QToolButton>(name, control, help + keys);
         button->setAccessibleName(help);
         button->setFocusPolicy(Qt::StrongFocus);
+        button->setFixedWidth(kArrowPixels);
         mirror.follow([button, &engine, step] { button->setEnabled(engine.hasDayBeside(step)); });
         return button;
     };

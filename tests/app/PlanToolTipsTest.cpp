@@ -68,7 +68,7 @@ TEST(RoomToolTip, saysThatTheGreyedRowIsNotDrawn)
 {
     EXPECT_EQ(roomToolTip(threeRows(), 345),
               "S0\nSalle placée juste avant la première ligne du plan : ses séances ne sont pas "
-              "dessinées ici");
+              "dessinées ici.\nUn clic montre sa journée.");
 }
 
 TEST(RoomToolTip, isEmptyWhereNoRowIsShown)
