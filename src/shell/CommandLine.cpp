@@ -348,8 +348,8 @@ void readWeekOf(const Reader& reader, AnswerRequest& request)
 /// What says how the plan is shown says nothing of the timetable.
 void refusePlanOptions(const Reader& reader, const char* question)
 {
-    for (const char* option : {"mode", "exam-week", "makeup", "neutral", "rooms-per-page", "page",
-                               "show", "subject", "counting"}) {
+    for (const char* option : {"mode", "exam-week", "makeup", "neutral", "rooms-per-page",
+                               "every-room", "page", "show", "subject", "counting"}) {
         if (reader.has(option)) {
             fail(QString::fromLatin1(option),
                  QStringLiteral("ne va pas avec --") + QString::fromLatin1(question));
