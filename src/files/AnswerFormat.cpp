@@ -25,10 +25,8 @@ const std::vector<AnswerFormat>& answerFormats(AnswerKind kind)
                                                 {QStringLiteral("html"), weekAsHtml},
                                                 {QStringLiteral("pdf"), weekAsPdf},
                                                 calendar};
-    static const std::vector<AnswerFormat> others{json,
-                                                  csv,
-                                                  {QStringLiteral("html"), answerAsHtml},
-                                                  {QStringLiteral("pdf"), answerAsPdf}};
+    static const std::vector<AnswerFormat> others{
+        json, csv, {QStringLiteral("html"), answerAsHtml}, {QStringLiteral("pdf"), answerAsPdf}};
     return kind == AnswerKind::Week ? week : others;
 }
 
