@@ -80,12 +80,17 @@ void Questions::tieTo(PlanView* view)
                      [this](const PlanView::Spot& spot, QPoint point) { showMenu(spot, point); }});
 }
 
-void Questions::askFreeRooms()
+FreeRoomsWindow& Questions::freeRooms()
 {
     if (m_freeRooms == nullptr) {
         m_freeRooms = new FreeRoomsWindow(m_desk, ties(), m_window);
     }
-    m_freeRooms->presentFor(shownNow(m_shell.form()));
+    return *m_freeRooms;
+}
+
+void Questions::askFreeRooms()
+{
+    freeRooms().presentFor(shownNow(m_shell.form()));
 }
 
 void Questions::find()
@@ -148,10 +153,9 @@ AnswerWindow::Ties Questions::ties()
 
 void Questions::askFreeRoomAt(const PlanView::Spot& spot)
 {
-    askFreeRooms();
     FreeRoomsWindow::Prefill prefill = shownNow(m_shell.form());
     prefill.span = spanOf(m_shell.engine().state().slots, spot.slot);
-    m_freeRooms->presentFor(prefill);
+    freeRooms().presentFor(prefill);
 }
 
 void Questions::showMenu(const PlanView::Spot& spot, QPoint screenPoint)

@@ -36,6 +36,7 @@ public:
 private:
     QAction* add(const QString& text, const QString& name, const QKeySequence& key,
                  void (Questions::*ask)());
+    [[nodiscard]] FreeRoomsWindow& freeRooms();
     void askFreeRooms();
     void find();
     /// Of the room that is framed or was asked about last.
