@@ -110,6 +110,12 @@ QStringList argumentsOf(const CommandLine& line)
     writer.add("export", unlessEmpty(line.exportFile));
     writer.add("all-pages", line.allPages);
     writer.add("allow-incomplete", line.allowIncomplete);
+    writer.add("refresh", line.refresh);
+    writer.add("display", line.display.has_value());
+    if (line.display) {
+        writer.add("display-seconds", std::optional(line.display->secondsAPage));
+        writer.add("display-refresh", std::optional(line.display->secondsARefresh));
+    }
     writer.add("settings", unlessEmpty(line.settingsFile));
     writer.add("tranche", line.tranche);
     writer.add("mode", line.mode, std::array{"teaching", "exam"});
@@ -126,7 +132,7 @@ QStringList argumentsOf(const CommandLine& line)
     writer.add("counting", line.counting);
     writer.add("day", line.day);
     writer.add("date", line.date ? std::optional(line.date->toString(Qt::ISODate)) : std::nullopt);
-    writer.add("page", std::optional(line.page));
+    writer.add("page", line.display ? std::nullopt : std::optional(line.page));
     writer.add("seed", line.seed ? std::optional(static_cast<int>(*line.seed)) : std::nullopt);
     writer.add("plain", line.plain);
     writer.add("help", line.help);
@@ -151,6 +157,15 @@ void checkUnderstood(const CommandLine& line, const QStringList& arguments)
                 (line.answer->span.length.value > 0 && line.answer->weeksRunning > 0),
             "a free room is asked for some time", shown);
     require(!(line.answer && !line.exportFile.isEmpty()), "one file is written", shown);
+    require(!(line.display && (line.writesFile() || line.date || line.day)),
+            "the screen in the hall shows the clock's day and writes nothing", shown);
+    require(!line.display || (isWithin(line.display->secondsAPage, 5, 86400) &&
+                              isWithin(line.display->secondsARefresh, 5, 86400)),
+            "the screen in the hall moves as somebody can read", shown);
+    require(!line.refresh ||
+                (isWithin(line.refresh, 5, 86400) &&
+                 line.exportFile.endsWith(QLatin1String(".html"), Qt::CaseInsensitive)),
+            "only a web page loads itself again", shown);
     require(!(line.date && line.day), "a date and a day do not go together", shown);
     const QStringList written = argumentsOf(line);
     const QStringList again = argumentsOf(CommandLine::parse(written));

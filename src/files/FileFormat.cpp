@@ -14,11 +14,12 @@ namespace files
 
 const std::vector<FileFormat>& fileFormats()
 {
-    static const std::vector<FileFormat> formats = {{QStringLiteral("json"), false, planAsJson},
-                                                    {QStringLiteral("png"), false, planAsPng},
-                                                    {QStringLiteral("pdf"), true, planAsPdf},
-                                                    {QStringLiteral("csv"), true, planAsCsv},
-                                                    {QStringLiteral("html"), true, planAsHtml}};
+    static const std::vector<FileFormat> formats = {
+        {QStringLiteral("json"), false, false, planAsJson},
+        {QStringLiteral("png"), false, false, planAsPng},
+        {QStringLiteral("pdf"), true, false, planAsPdf},
+        {QStringLiteral("csv"), true, false, planAsCsv},
+        {QStringLiteral("html"), true, true, planAsHtml}};
     return formats;
 }
 

@@ -17,6 +17,8 @@ struct FileFormat {
     /// Made from pages that are looked up anew, as paper is, and of as many as there are; else from
     /// the one page as it is drawn.
     bool holdsPages = false;
+    /// Can load itself again (PlanDocument::SelfRefresh).
+    bool refreshes = false;
     QByteArray (*write)(const PlanDocument&) = nullptr;
 };
 

@@ -160,19 +160,31 @@ QString faultsHtml(const PlanDocument& document)
     return html;
 }
 
+QString writtenAtHtml(const QDateTime& time)
+{
+    return QStringLiteral("<footer><p class=\"note\">Page écrite le <time datetime=\"") +
+           time.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")) + QStringLiteral("\">") +
+           time.toString(QStringLiteral("dd/MM/yyyy à HH:mm")) +
+           QStringLiteral("</time></p></footer>\n");
+}
+
 } // namespace
 
 QByteArray planAsHtml(const PlanDocument& document)
 {
     const print::Heading heading = print::headingOf(document.state());
-    const QString body =
+    QString body =
         QStringLiteral("<header>\n<h1>") + escaped(heading.title) + QStringLiteral("</h1>\n") +
         line(QStringLiteral("name"), {heading.establishment, heading.universityAndYear()}) +
         line(QStringLiteral("context"),
              {heading.day, heading.periodAndWeek(), heading.dates, heading.choice}) +
         QStringLiteral("</header>\n<main>\n") + tableHtml(document, heading.title) +
         faultsHtml(document) + QStringLiteral("</main>\n");
-    return htmlDocument(heading.title, body).toUtf8();
+    if (!document.refresh) {
+        return htmlDocument(heading.title, body).toUtf8();
+    }
+    body += writtenAtHtml(document.refresh->writtenAt);
+    return refreshingHtmlDocument(heading.title, body, document.refresh->seconds).toUtf8();
 }
 
 } // namespace files

@@ -44,6 +44,19 @@ tfoot th, tfoot td { border-top: 2px solid #1f3a5f; font-weight: bold; }
 )");
 }
 
+QString documentWith(const QString& metas, const QString& title, const QString& body,
+                     const QString& style)
+{
+    return QStringLiteral("<!DOCTYPE html>\n<html lang=\"fr\">\n<head>\n"
+                          "<meta charset=\"utf-8\"/>\n"
+                          "<meta name=\"viewport\" content=\"width=device-width, "
+                          "initial-scale=1\"/>\n") +
+           metas + QStringLiteral("<title>") + escaped(title) +
+           QStringLiteral("</title>\n<style>") + style +
+           QStringLiteral("</style>\n</head>\n<body>\n") + body +
+           QStringLiteral("</body>\n</html>\n");
+}
+
 } // namespace
 
 QString escaped(const QString& text)
@@ -70,15 +83,16 @@ QString htmlDocument(const QString& title, const QString& body)
     return htmlDocument(title, body, styleSheet());
 }
 
+QString refreshingHtmlDocument(const QString& title, const QString& body, int seconds)
+{
+    return documentWith(
+        QStringLiteral("<meta http-equiv=\"refresh\" content=\"%1\"/>\n").arg(seconds), title, body,
+        styleSheet());
+}
+
 QString htmlDocument(const QString& title, const QString& body, const QString& style)
 {
-    return QStringLiteral("<!DOCTYPE html>\n<html lang=\"fr\">\n<head>\n"
-                          "<meta charset=\"utf-8\"/>\n"
-                          "<meta name=\"viewport\" content=\"width=device-width, "
-                          "initial-scale=1\"/>\n<title>") +
-           escaped(title) + QStringLiteral("</title>\n<style>") + style +
-           QStringLiteral("</style>\n</head>\n<body>\n") + body +
-           QStringLiteral("</body>\n</html>\n");
+    return documentWith({}, title, body, style);
 }
 
 } // namespace files

@@ -17,6 +17,10 @@ namespace files
 /// A whole page in French around a body, with the style of the plan. It is well-formed XML, too.
 [[nodiscard]] QString htmlDocument(const QString& title, const QString& body);
 
+/// The same as a page that loads itself again after so many seconds.
+[[nodiscard]] QString refreshingHtmlDocument(const QString& title, const QString& body,
+                                             int seconds);
+
 /// The same with another style in the plan's place. Requires: none of the characters that are
 /// escaped.
 [[nodiscard]] QString htmlDocument(const QString& title, const QString& body, const QString& style);

@@ -2,9 +2,9 @@
 
 #include "files/FileFormat.h"
 #include "form/PlanForm.h"
+#include "shell/OptionReader.h"
 #include "timetable/ReadTimes.h"
 
-#include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -30,17 +30,19 @@ QString endingsOfPages()
     return endings.join(QStringLiteral(", ")) + QStringLiteral(" ou ") + last;
 }
 
-/// One option as the parser and --help know it.
-struct OptionText {
-    const char* name;
-    QString value;   ///< what it accepts; null for a switch
-    QString meaning; ///< in French
-};
-
 /// "FICHIER.json|.csv".
 QString answerFile(files::AnswerKind kind)
 {
     return QStringLiteral("FICHIER.") + files::answerEndings(kind).join(QStringLiteral("|."));
+}
+
+// Of what repeats itself: no quicker than somebody can read, once a day at least.
+constexpr int kFewestSeconds = 5;
+constexpr int kMostSeconds = 86400;
+
+QString secondsAccepted()
+{
+    return QStringLiteral("%1..%2").arg(kFewestSeconds).arg(kMostSeconds);
 }
 
 const std::vector<OptionText>& optionTexts()
@@ -54,6 +56,13 @@ const std::vector<OptionText>& optionTexts()
         {"allow-incomplete",
          {},
          QStringLiteral("écrit le fichier même si la base n’a pas tout dit (avec --export)")},
+        {"refresh", secondsAccepted(),
+         QStringLiteral("la page se recharge toutes les N secondes (avec --export en .html)")},
+        {"display", {}, QStringLiteral("montre le plan du jour en plein écran, pour un hall")},
+        {"display-seconds", secondsAccepted(),
+         QStringLiteral("secondes par page, 20 sinon (avec --display)")},
+        {"display-refresh", secondsAccepted(),
+         QStringLiteral("relit la base toutes les N secondes, 60 sinon (avec --display)")},
         {"free", answerFile(files::AnswerKind::FreeRooms),
          QStringLiteral("écrit les salles libres (avec --from, --to et --day ou --date)")},
         {"from", QStringLiteral("HEURE"), QStringLiteral("début, par exemple 9h30 (avec --free)")},
@@ -108,125 +117,7 @@ const std::vector<OptionText>& optionTexts()
     return texts;
 }
 
-[[noreturn]] void fail(const QString& option, const QString& problem)
-{
-    for (const OptionText& text : optionTexts()) {
-        if (!text.value.isNull() && option == QLatin1String(text.name)) {
-            throw UsageError(QStringLiteral("--%1 : %2 ; valeurs acceptées : %3")
-                                 .arg(option, problem, text.value));
-        }
-    }
-    throw UsageError(QStringLiteral("--%1 : %2").arg(option, problem));
-}
-
-bool takesValue(const QString& option)
-{
-    const auto& texts = optionTexts();
-    return std::any_of(texts.begin(), texts.end(), [&](const OptionText& text) {
-        return !text.value.isNull() && option == QLatin1String(text.name);
-    });
-}
-
-/// The parser's own complaint in one line that names the option and what it accepts.
-[[noreturn]] void failToParse(const QCommandLineParser& parser, const QStringList& arguments)
-{
-    if (!parser.unknownOptionNames().isEmpty()) {
-        throw UsageError(QStringLiteral("Option inconnue : --%1 ; options acceptées : voir --help")
-                             .arg(parser.unknownOptionNames().constFirst()));
-    }
-    for (const QString& argument : arguments) {
-        const QString switched = argument.section(u'=', 0, 0).mid(2);
-        if (argument.startsWith(u"--") && argument.contains(u'=') && !takesValue(switched)) {
-            fail(switched, QStringLiteral("n’accepte pas de valeur"));
-        }
-    }
-    static const QRegularExpression dashes(QStringLiteral("^-+"));
-    QString last = arguments.constLast();
-    fail(last.remove(dashes), QStringLiteral("il manque une valeur"));
-}
-
-class Reader
-{
-public:
-    explicit Reader(const QStringList& arguments)
-    {
-        m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-        for (const OptionText& text : optionTexts()) {
-            QCommandLineOption option(QString::fromLatin1(text.name));
-            if (!text.value.isNull()) {
-                option.setValueName(text.value);
-            }
-            m_parser.addOption(option);
-        }
-        // Qt's own choice of platform plugin, for machines where the environment cannot make it.
-        m_parser.addOption(
-            QCommandLineOption(QStringLiteral("platform"), {}, {QStringLiteral("p")}));
-        if (!m_parser.parse(arguments)) {
-            failToParse(m_parser, arguments);
-        }
-        refuseOptionsAsValues();
-        if (!m_parser.positionalArguments().isEmpty()) {
-            throw UsageError(QStringLiteral("Argument inattendu : « %1 » ; voir --help")
-                                 .arg(m_parser.positionalArguments().constFirst()));
-        }
-    }
-
-    [[nodiscard]] bool has(const char* name) const
-    {
-        return m_parser.isSet(QString::fromLatin1(name));
-    }
-    [[nodiscard]] QString text(const char* name) const
-    {
-        return m_parser.value(QString::fromLatin1(name));
-    }
-    [[nodiscard]] std::optional<QString> optionalText(const char* name) const
-    {
-        return has(name) ? std::optional(text(name)) : std::nullopt;
-    }
-    [[nodiscard]] std::optional<int> number(const char* name, int least, int most) const
-    {
-        if (!has(name)) {
-            return std::nullopt;
-        }
-        bool ok = false;
-        const int value = text(name).toInt(&ok);
-        if (!ok || value < least || value > most) {
-            failWithValue(name);
-        }
-        return value;
-    }
-    /// Position of the value in the list of words that the option accepts.
-    [[nodiscard]] std::optional<int> word(const char* name, const QStringList& words) const
-    {
-        if (!has(name)) {
-            return std::nullopt;
-        }
-        const auto index = static_cast<int>(words.indexOf(text(name)));
-        if (index < 0) {
-            failWithValue(name);
-        }
-        return index;
-    }
-    [[noreturn]] void failWithValue(const char* name) const
-    {
-        fail(QString::fromLatin1(name), QStringLiteral("valeur « %1 » refusée").arg(text(name)));
-    }
-
-private:
-    /// The parser takes whatever follows an option for its value, the next option included.
-    void refuseOptionsAsValues() const
-    {
-        for (const OptionText& option : optionTexts()) {
-            if (text(option.name).startsWith(u"--")) {
-                fail(QString::fromLatin1(option.name), QStringLiteral("il manque une valeur"));
-            }
-        }
-    }
-
-    QCommandLineParser m_parser;
-};
-
-std::optional<CommandLine::Shown> readShown(const Reader& reader)
+std::optional<CommandLine::Shown> readShown(const OptionReader& reader)
 {
     if (!reader.has("show")) {
         return std::nullopt;
@@ -250,7 +141,7 @@ std::optional<CommandLine::Shown> readShown(const Reader& reader)
     return shown;
 }
 
-void readFiles(const Reader& reader, CommandLine& line)
+void readFiles(const OptionReader& reader, CommandLine& line)
 {
     line.exportFile = reader.text("export");
     if (reader.has("export")) {
@@ -261,44 +152,34 @@ void readFiles(const Reader& reader, CommandLine& line)
     line.allPages = reader.has("all-pages");
     const files::FileFormat* format = files::formatOf(line.exportFile);
     if (line.allPages && (format == nullptr || !format->holdsPages)) {
-        fail(QStringLiteral("all-pages"),
-             QStringLiteral("demande --export en ") + endingsOfPages());
+        reader.fail("all-pages", QStringLiteral("demande --export en ") + endingsOfPages());
     }
     line.allowIncomplete = reader.has("allow-incomplete");
     if (line.allowIncomplete && !reader.has("export")) {
-        fail(QStringLiteral("allow-incomplete"), QStringLiteral("demande --export"));
+        reader.fail("allow-incomplete", QStringLiteral("demande --export"));
+    }
+    line.refresh = reader.number("refresh", kFewestSeconds, kMostSeconds);
+    if (line.refresh && (format == nullptr || !format->refreshes)) {
+        reader.fail("refresh", QStringLiteral("demande --export en .html"));
     }
     line.settingsFile = reader.text("settings");
     if (!reader.has("settings")) {
         return;
     }
     if (!QFileInfo(line.settingsFile).isFile()) {
-        fail(QStringLiteral("settings"),
-             QStringLiteral("le fichier « %1 » n’existe pas").arg(line.settingsFile));
+        reader.fail("settings",
+                    QStringLiteral("le fichier « %1 » n’existe pas").arg(line.settingsFile));
     }
     if (QFile file(line.settingsFile); !file.open(QIODevice::ReadOnly)) {
-        fail(QStringLiteral("settings"),
-             QStringLiteral("le fichier « %1 » ne peut pas être lu (%2)")
-                 .arg(line.settingsFile, file.errorString()));
+        reader.fail("settings", QStringLiteral("le fichier « %1 » ne peut pas être lu (%2)")
+                                    .arg(line.settingsFile, file.errorString()));
     }
 }
 
-/// Refuses options that go with another one alone.
-void requireOption(const Reader& reader, const char* needed,
-                   const std::vector<const char*>& options)
-{
-    for (const char* option : options) {
-        if (reader.has(option) && !reader.has(needed)) {
-            fail(QString::fromLatin1(option),
-                 QStringLiteral("demande --") + QString::fromLatin1(needed));
-        }
-    }
-}
-
-timetable::MinuteOfDay readTime(const Reader& reader, const char* name)
+timetable::MinuteOfDay readTime(const OptionReader& reader, const char* name)
 {
     if (!reader.has(name)) {
-        fail(QString::fromLatin1(name), QStringLiteral("manque (avec --free)"));
+        reader.fail(name, QStringLiteral("manque (avec --free)"));
     }
     const auto time = timetable::readTime(reader.text(name));
     if (!time) {
@@ -307,25 +188,25 @@ timetable::MinuteOfDay readTime(const Reader& reader, const char* name)
     return *time;
 }
 
-void readFreeRooms(const Reader& reader, AnswerRequest& request)
+void readFreeRooms(const OptionReader& reader, AnswerRequest& request)
 {
     const timetable::MinuteOfDay from = readTime(reader, "from");
     const timetable::MinuteOfDay to = readTime(reader, "to");
     if (to <= from) {
-        fail(QStringLiteral("to"), QStringLiteral("n’est pas après --from"));
+        reader.fail("to", QStringLiteral("n’est pas après --from"));
     }
     request.span = timetable::between(from, to);
     request.places = reader.number("places", 0, 99999).value_or(0);
     request.weeksRunning = reader.number("weeks-running", 1, 60).value_or(1);
     if (reader.has("weeks-running") && !reader.has("date")) {
-        fail(QStringLiteral("weeks-running"), QStringLiteral("demande --date"));
+        reader.fail("weeks-running", QStringLiteral("demande --date"));
     }
     if (!reader.has("day") && !reader.has("date")) {
-        fail(QStringLiteral("free"), QStringLiteral("demande --day ou --date"));
+        reader.fail("free", QStringLiteral("demande --day ou --date"));
     }
 }
 
-void readWeekOf(const Reader& reader, AnswerRequest& request)
+void readWeekOf(const OptionReader& reader, AnswerRequest& request)
 {
     using Who = AnswerRequest::Who;
     int names = 0;
@@ -339,25 +220,22 @@ void readWeekOf(const Reader& reader, AnswerRequest& request)
         }
     }
     if (names != 1) {
-        fail(QStringLiteral("week-of"),
-             QStringLiteral(
-                 "demande --room, --teacher, --class ou --matter, et un seul d’entre eux"));
+        reader.fail("week-of",
+                    QStringLiteral(
+                        "demande --room, --teacher, --class ou --matter, et un seul d’entre eux"));
     }
 }
 
 /// What says how the plan is shown says nothing of the timetable.
-void refusePlanOptions(const Reader& reader, const char* question)
+void refusePlanOptions(const OptionReader& reader, const char* question)
 {
     for (const char* option : {"mode", "exam-week", "makeup", "neutral", "rooms-per-page",
                                "every-room", "page", "show", "subject", "counting"}) {
-        if (reader.has(option)) {
-            fail(QString::fromLatin1(option),
-                 QStringLiteral("ne va pas avec --") + QString::fromLatin1(question));
-        }
+        reader.exclude(option, {question});
     }
 }
 
-void readAnswer(const Reader& reader, CommandLine& line)
+void readAnswer(const OptionReader& reader, CommandLine& line)
 {
     using Kind = files::AnswerKind;
     const char* first = reader.has("export") ? "export" : nullptr;
@@ -369,8 +247,7 @@ void readAnswer(const Reader& reader, CommandLine& line)
             continue;
         }
         if (first != nullptr) {
-            fail(QString::fromLatin1(option),
-                 QStringLiteral("ne va pas avec --") + QString::fromLatin1(first));
+            reader.fail(option, QStringLiteral("ne va pas avec --") + QString::fromLatin1(first));
         }
         first = option;
         line.answer.emplace();
@@ -380,16 +257,14 @@ void readAnswer(const Reader& reader, CommandLine& line)
             reader.failWithValue(option);
         }
     }
-    requireOption(reader, "free", {"from", "to", "places", "weeks-running"});
-    requireOption(reader, "week-of", {"room", "teacher", "class", "matter"});
-    requireOption(reader, "find", {"text"});
+    reader.require("free", {"from", "to", "places", "weeks-running"});
+    reader.require("week-of", {"room", "teacher", "class", "matter"});
+    reader.require("find", {"text"});
     if (!line.answer) {
         return;
     }
     refusePlanOptions(reader, first);
-    if (line.answer->kind == Kind::RoomUse && reader.has("day")) {
-        fail(QStringLiteral("day"), QStringLiteral("ne va pas avec --use"));
-    }
+    reader.exclude("day", {"use"});
     if (line.answer->kind == Kind::FreeRooms) {
         readFreeRooms(reader, *line.answer);
     } else if (line.answer->kind == Kind::Week) {
@@ -397,12 +272,12 @@ void readAnswer(const Reader& reader, CommandLine& line)
     } else if (line.answer->kind == Kind::Hits) {
         line.answer->text = reader.text("text");
         if (line.answer->text.trimmed().isEmpty()) {
-            fail(QStringLiteral("find"), QStringLiteral("demande --text"));
+            reader.fail("find", QStringLiteral("demande --text"));
         }
     }
 }
 
-void readDay(const Reader& reader, CommandLine& line)
+void readDay(const OptionReader& reader, CommandLine& line)
 {
     line.day = reader.number("day", 0, 5);
     if (reader.has("date")) {
@@ -412,8 +287,24 @@ void readDay(const Reader& reader, CommandLine& line)
             reader.failWithValue("date");
         }
         if (line.day) {
-            fail(QStringLiteral("date"), QStringLiteral("ne va pas avec --day"));
+            reader.fail("date", QStringLiteral("ne va pas avec --day"));
         }
+    }
+}
+
+/// The screen in the hall shows the clock's day, and turns its pages by itself.
+void readDisplay(const OptionReader& reader, CommandLine& line)
+{
+    reader.require("display", {"display-seconds", "display-refresh"});
+    reader.exclude("display", {"export", "free", "week-of", "find", "clashes", "use", "day", "date",
+                               "page", "counting"});
+    if (reader.has("display")) {
+        DisplayRequest display;
+        display.secondsAPage = reader.number("display-seconds", kFewestSeconds, kMostSeconds)
+                                   .value_or(display.secondsAPage);
+        display.secondsARefresh = reader.number("display-refresh", kFewestSeconds, kMostSeconds)
+                                      .value_or(display.secondsARefresh);
+        line.display = display;
     }
 }
 
@@ -421,7 +312,7 @@ void readDay(const Reader& reader, CommandLine& line)
 
 CommandLine CommandLine::parse(const QStringList& arguments)
 {
-    const Reader reader(arguments);
+    const OptionReader reader(arguments, optionTexts());
     CommandLine line;
     line.help = reader.has("help");
     line.version = reader.has("version");
@@ -434,7 +325,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     }
     line.examWeek = reader.number("exam-week", 1, 3);
     if (line.examWeek && line.mode != Mode::Exam) {
-        fail(QStringLiteral("exam-week"), QStringLiteral("demande --mode exam"));
+        reader.fail("exam-week", QStringLiteral("demande --mode exam"));
     }
     if (const auto week = reader.word(
             "week", {QStringLiteral("all"), QStringLiteral("A"), QStringLiteral("B")})) {
@@ -444,7 +335,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.department = reader.optionalText("department");
     line.neutral = reader.has("neutral");
     if (line.neutral && !line.department) {
-        fail(QStringLiteral("neutral"), QStringLiteral("demande --department"));
+        reader.fail("neutral", QStringLiteral("demande --department"));
     }
     line.roomsPerPage = reader.number("rooms-per-page", 1, form::PlanForm::kMostRooms);
     line.everyRoom = reader.has("every-room");
@@ -454,6 +345,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.counting = reader.has("counting");
     readDay(reader, line);
     readAnswer(reader, line);
+    readDisplay(reader, line);
     line.page = reader.number("page", 1, 9999).value_or(1);
     if (const auto seed = reader.number("seed", 0, std::numeric_limits<int>::max())) {
         line.seed = static_cast<std::uint32_t>(*seed);

@@ -23,6 +23,12 @@ public:
     }
 };
 
+/// How the screen in the hall moves.
+struct DisplayRequest {
+    int secondsAPage = 20;
+    int secondsARefresh = 60; ///< from one reading of the database to the next
+};
+
 /// What the command line asks for. An option that was not given is nothing and plays no event.
 struct CommandLine {
     enum class Mode { Teaching, Exam };
@@ -43,6 +49,8 @@ struct CommandLine {
     std::optional<AnswerRequest> answer;
     bool allPages = false;        ///< the export holds every page of the room set
     bool allowIncomplete = false; ///< the export is written although the database has failed
+    std::optional<int> refresh;   ///< seconds after which the web page loads itself again
+    std::optional<DisplayRequest> display; ///< full screen, in the window's place
     QString settingsFile;
     std::optional<std::uint32_t> seed;
     bool plain = false; ///< one statement per question

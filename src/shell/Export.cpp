@@ -43,7 +43,10 @@ plan::PlanContent gapsOf(const std::vector<plan::PlanPage>& pages)
 QString exportPlan(const Shell& shell, const QString& path, ExportChoice choice)
 {
     const files::FileFormat& format = *files::formatOf(path);
-    const files::PlanDocument document{pagesFor(shell, format, choice.allPages), shell.fileDate()};
+    files::PlanDocument document{pagesFor(shell, format, choice.allPages), shell.fileDate()};
+    if (choice.refresh) {
+        document.refresh = {*choice.refresh, QDateTime::currentDateTime()};
+    }
     const plan::PlanContent gaps = gapsOf(document.pages);
     QString told = plan::faultSentence(gaps, static_cast<qsizetype>(gaps.faults.size()));
     if (lookup::isIncomplete(gaps.faults)) {

@@ -3,6 +3,7 @@
 #include "shell/Shell.h"
 
 #include <QString>
+#include <optional>
 
 namespace shell
 {
@@ -11,6 +12,8 @@ namespace shell
 struct ExportChoice {
     bool allPages = false;        ///< every page of the room set, where the form can hold several
     bool allowIncomplete = false; ///< written although the database has failed
+    /// Seconds after which the page loads itself again, where the form can.
+    std::optional<int> refresh = std::nullopt;
 };
 
 /// Writes the plan as it stands into a file, in the form that the file's ending names. The file is

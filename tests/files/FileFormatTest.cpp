@@ -41,6 +41,14 @@ TEST(FileFormat, holdsPagesWherePaperWould)
     }
 }
 
+TEST(FileFormat, loadsItselfAgainAsAWebPageAlone)
+{
+    EXPECT_TRUE(formatOf("hall.html")->refreshes);
+    for (const char* name : {"plan.pdf", "plan.csv", "plan.json", "plan.png"}) {
+        EXPECT_FALSE(formatOf(name)->refreshes) << name;
+    }
+}
+
 TEST(FileFormat, hasOneEndingEach)
 {
     EXPECT_EQ(fileEndings(), QStringList({"json", "png", "pdf", "csv", "html"}));

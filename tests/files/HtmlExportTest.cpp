@@ -141,6 +141,21 @@ TEST_P(HtmlExport, saysThatThereIsNoRoom)
     EXPECT_TRUE(page.contains("Aucune salle à montrer."));
 }
 
+TEST_P(HtmlExport, loadsItselfAgainWhenAskedToAndTellsItsTime)
+{
+    const QString still = pageAfter({"--day", "0"});
+    files::PlanDocument document = desk.document();
+    document.refresh = {60, QDateTime(QDate(2025, 3, 19), QTime(10, 5, 59))};
+    QString page = QString::fromUtf8(files::planAsHtml(document));
+    expectWellFormed(page);
+    EXPECT_TRUE(page.contains("<meta http-equiv=\"refresh\" content=\"60\"/>"));
+    EXPECT_TRUE(wordsOf(page).contains("Page écrite le 19/03/2025 à 10:05"));
+    // All else is the page that stands still.
+    EXPECT_FALSE(still.contains("refresh"));
+    static const QRegularExpression added("<meta http-equiv=[^>]*>\n|<footer>.*</footer>\n");
+    EXPECT_EQ(page.remove(added), still);
+}
+
 TEST_P(HtmlExport, escapesEveryText)
 {
     const QString evil = "<script>alert(\"x\")</script>&'";

@@ -291,6 +291,55 @@ TEST(CommandLine, takesTheLastOfARepeatedOption)
     EXPECT_EQ(parse({"--zone", "1", "--zone", "2"}).zone, 2);
 }
 
+TEST(CommandLine, readsTheScreenInTheHall)
+{
+    EXPECT_FALSE(parse({}).display);
+    const auto usual = parse({"--display", "--zone", "2"}).display;
+    ASSERT_TRUE(usual);
+    EXPECT_EQ(usual->secondsAPage, 20);
+    EXPECT_EQ(usual->secondsARefresh, 60);
+    const auto quick = parse({"--display-refresh", "86400", "--display", "--display-seconds", "5"});
+    EXPECT_EQ(quick.display->secondsAPage, 5);
+    EXPECT_EQ(quick.display->secondsARefresh, 86400);
+    EXPECT_FALSE(quick.writesFile());
+}
+
+TEST(CommandLine, readsAfterHowManySecondsAPageLoadsItselfAgain)
+{
+    EXPECT_FALSE(parse({"--export", "hall.html"}).refresh);
+    EXPECT_EQ(parse({"--refresh", "60", "--export", "Hall.HTML"}).refresh, 60);
+}
+
+TEST(CommandLine, refusesWhatDoesNotGoWithAScreenInTheHall)
+{
+    EXPECT_EQ(refusal({"--display-seconds", "20"}),
+              "--display-seconds : demande --display ; valeurs acceptées : 5..86400");
+    EXPECT_EQ(refusal({"--display-refresh", "60"}),
+              "--display-refresh : demande --display ; valeurs acceptées : 5..86400");
+    EXPECT_EQ(refusal({"--display", "--display-seconds", "4"}),
+              "--display-seconds : valeur « 4 » refusée ; valeurs acceptées : 5..86400");
+    EXPECT_EQ(refusal({"--display", "--display-refresh", "86401"}),
+              "--display-refresh : valeur « 86401 » refusée ; valeurs acceptées : 5..86400");
+    EXPECT_EQ(refusal({"--display", "--export", "p.pdf"}), "--display : ne va pas avec --export");
+    EXPECT_EQ(refusal({"--date", "2025-03-17", "--display"}), "--display : ne va pas avec --date");
+    for (const QStringList& others :
+         {QStringList{"--day", "0"}, QStringList{"--page", "2"}, QStringList{"--counting"},
+          QStringList{"--clashes", "c.json"}, QStringList{"--use", "u.json"}}) {
+        EXPECT_TRUE(refusal(QStringList{"--display"} + others)
+                        .startsWith("--display : ne va pas avec " + others.first()));
+    }
+}
+
+TEST(CommandLine, refusesToRefreshWhatIsNoWebPage)
+{
+    const QString answer = "--refresh : demande --export en .html ; valeurs acceptées : 5..86400";
+    EXPECT_EQ(refusal({"--refresh", "60"}), answer);
+    EXPECT_EQ(refusal({"--refresh", "60", "--export", "plan.pdf"}), answer);
+    EXPECT_EQ(refusal({"--refresh", "60", "--use", "u.html"}), answer);
+    EXPECT_EQ(refusal({"--refresh", "4", "--export", "plan.html"}),
+              "--refresh : valeur « 4 » refusée ; valeurs acceptées : 5..86400");
+}
+
 TEST(CommandLine, readsQuestionsAboutTheTimetable)
 {
     using Who = shell::AnswerRequest::Who;

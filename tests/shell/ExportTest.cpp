@@ -93,6 +93,21 @@ TEST_P(Export, writesTheSameBytesInEveryWeek)
     }
 }
 
+TEST_P(Export, writesAPageThatLoadsItselfAgainWithItsTime)
+{
+    const QString path = emptyFolder() + "/hall.html";
+    const QDateTime before = QDateTime::currentDateTime();
+    shell::exportPlan(desk.shell(), path, {true, false, 60});
+    const QDateTime after = QDateTime::currentDateTime();
+    const QString page = QString::fromUtf8(bytesOf(path));
+    EXPECT_TRUE(page.contains("http-equiv=\"refresh\" content=\"60\""));
+    const QString word = "<time datetime=\"";
+    const QDateTime told =
+        QDateTime::fromString(page.mid(page.indexOf(word) + word.size(), 19), Qt::ISODate);
+    EXPECT_GE(told, before.addSecs(-1)); // told to the second
+    EXPECT_LE(told, after);
+}
+
 TEST_P(Export, replacesWhatWasThere)
 {
     const QString path = emptyFolder() + "/plan.json";
