@@ -129,6 +129,11 @@ public:
     /// Every page of the room set from the first one on, as "Page Suivante" would show them. Pages
     /// without a room are left out, unless there are no others.
     [[nodiscard]] std::vector<plan::PlanPage> allPages() const;
+    /// Every room that the filter chooses, `most` of them on a page (1 to 29) and as evenly spread
+    /// as can be: no room stands greyed before the first row, and none is left out. The rooms are
+    /// read anew. Nothing is counted; rows keep their colours from one call to the next. Empty
+    /// without rooms.
+    [[nodiscard]] std::vector<plan::PlanPage> pagesOfEveryRoom(int most) const;
     /// Everything that the database says about the chosen period (see TimetableReader.h).
     [[nodiscard]] timetable::Timetable readTimetable();
     /// The colours of all rooms, given in their order: of one that is shown its row's, of others
@@ -163,6 +168,7 @@ private:
     [[nodiscard]] plan::PlanPage lookedUpAgain();
     [[nodiscard]] bool showNextPage();
     [[nodiscard]] QStringList leftOut() const;
+    [[nodiscard]] std::vector<plan::PlanPage> walkedPages();
 
     // In the order in which they build on one another.
     Surroundings m_surroundings;

@@ -22,15 +22,42 @@ std::vector<plan::PlanPage> Engine::allPages() const
 {
     runtime::skipOnError([this] { m_database->revive(); }); // the walk's reads say what failed
     Engine walk(*this, OnCopy());
+    return walk.walkedPages();
+}
+
+std::vector<plan::PlanPage> Engine::pagesOfEveryRoom(int most) const
+{
+    runtime::skipOnError([this] { m_database->revive(); }); // the walk's reads say what failed
+    Engine walk(*this, OnCopy());
+    form::PlanForm& form = walk.m_state.form;
+    form.EveryRoom.design(true);
+    form.Chk_Compt.design(false);
+    walk.m_state.totals.CountingOn = false;
+    walk.m_state.colors.RedrawMode = true; // the colours that the rows have had
+    walk.fillRoomPage();
+    const int rooms = walk.m_state.page.listed;
+    if (rooms < 1) {
+        return {};
+    }
+    const int limit = std::clamp(most, 1, form::PlanForm::kMostRooms);
+    const int count = (rooms + limit - 1) / limit;
+    form.Total_L_P.setText(QString::number((rooms + count - 1) / count));
+    walk.adaptCells();
+    return walk.walkedPages();
+}
+
+/// From the first page on.
+std::vector<plan::PlanPage> Engine::walkedPages()
+{
     std::vector<plan::PlanPage> pages;
-    walk.showFirstPage();
-    pages.push_back(walk.drawnPage());
+    showFirstPage();
+    pages.push_back(drawnPage());
     // The rooms were counted at start-up, so a smaller room set ends with pages that hold none.
-    while (walk.showNextPage()) {
-        if (walk.state().page.RowsShown >= 1) {
-            pages.push_back(walk.drawnPage());
+    while (showNextPage()) {
+        if (m_state.page.RowsShown >= 1) {
+            pages.push_back(drawnPage());
         } else {
-            pages.back().leftOut += walk.leftOut(); // of the page that follows none is made
+            pages.back().leftOut += leftOut(); // of the page that follows none is made
         }
     }
     for (std::size_t index = 0; index < pages.size(); ++index) {

@@ -116,6 +116,59 @@ TEST_F(ThePages, giveEveryRoomTheColourOfItsRow)
               desk().engine.content().rows.front().color);
 }
 
+TEST_F(ThePages, holdEveryRoomOnceWhereNoneIsToBeLeftOut)
+{
+    const std::vector<plan::PlanPage> pages = desk().engine.pagesOfEveryRoom(2);
+    ASSERT_EQ(pages.size(), 3U);
+    EXPECT_EQ(roomsOf(pages[0]), QStringList({"A1", "A2"}));
+    EXPECT_EQ(roomsOf(pages[1]), QStringList({"B1", "B2"}));
+    EXPECT_EQ(roomsOf(pages[2]), QStringList({"C1"}));
+    EXPECT_EQ(pages[0].content.rows[1].boxes.size(), 1U); // A2 on Monday
+    EXPECT_EQ(pages[2].content.rows[0].boxes.size(), 1U);
+    EXPECT_EQ(pages[2].number, 3);
+    EXPECT_EQ(pages[2].count, 3);
+    for (const plan::PlanPage& page : pages) {
+        EXPECT_FALSE(page.state.form.Salle[0].visible);
+        EXPECT_EQ(page.state.form.Salle[0].caption, "");
+    }
+    EXPECT_TRUE(pages[2].state.form.Salle[1].visible);
+    EXPECT_FALSE(pages[2].state.form.Salle[2].visible);
+}
+
+TEST_F(ThePages, ofEveryRoomAreAsFullAsEachOther)
+{
+    // Five rooms, four at most on a page: three and two.
+    const std::vector<plan::PlanPage> pages = desk().engine.pagesOfEveryRoom(4);
+    ASSERT_EQ(pages.size(), 2U);
+    EXPECT_EQ(roomsOf(pages[0]), QStringList({"A1", "A2", "B1"}));
+    EXPECT_EQ(roomsOf(pages[1]), QStringList({"B2", "C1"}));
+    EXPECT_EQ(desk().engine.pagesOfEveryRoom(29).size(), 1U);
+}
+
+TEST_F(ThePages, ofEveryRoomLeaveTheWindowAsItIs)
+{
+    desk().form.Total_L_P.setText("2");
+    desk().form.Command3.press();
+    const plan::PlanPage before = desk().engine.drawnPage();
+    EXPECT_EQ(desk().engine.pagesOfEveryRoom(3).size(), 2U);
+    EXPECT_EQ(desk().engine.drawnPage().state.form, before.state.form);
+    EXPECT_EQ(desk().engine.drawnPage().content.rows, before.content.rows);
+}
+
+TEST_F(ThePages, ofEveryRoomKeepTheirColours)
+{
+    const auto first = desk().engine.pagesOfEveryRoom(5);
+    const auto second = desk().engine.pagesOfEveryRoom(5);
+    ASSERT_EQ(first.front().content.rows.size(), 5U);
+    EXPECT_EQ(second.front().content.rows, first.front().content.rows);
+}
+
+TEST_F(ThePages, ofEveryRoomAreNoneWithoutRooms)
+{
+    desk().form.cb_Locaux.setListIndex(9);
+    EXPECT_TRUE(desk().engine.pagesOfEveryRoom(5).empty());
+}
+
 TEST_F(ThePages, areFoundByTheirRooms)
 {
     desk().form.Total_L_P.setText("2"); // A1, A2 and B1; B2 and C1
