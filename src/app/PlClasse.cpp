@@ -11,6 +11,7 @@
 #include "app/PlanView.h"
 #include "app/WindowStyle.h"
 #include "app/asking/Questions.h"
+#include "app/hall/WindowHall.h"
 #include "plan/FaultWords.h"
 #include "runtime/FrenchDate.h"
 #include "shell/Player.h"
@@ -73,6 +74,7 @@ PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
 
 PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
     : m_guide(surroundings.applicationFolder + QStringLiteral("/docs/guide.md")),
+      m_hall(std::make_unique<WindowHall>(m_shell, surroundings, this)),
       m_startWindow([] { leaveAtOnce(kDone); }),
       m_shell(std::move(settings), tieToWindow(std::move(surroundings))), m_keys(makeKeyState()),
       m_printing(m_shell.engine(), pausing(platformPrintDialogs(this), m_waiting)),
@@ -90,6 +92,7 @@ PlClasse::~PlClasse()
 {
     // While a widget goes, a screen reader may still be told of it: the plan must be there to ask.
     m_closed = true;
+    m_hall.reset();
     const std::unique_ptr<QWidget> content(takeCentralWidget());
 }
 
@@ -412,6 +415,10 @@ void PlClasse::showHelp()
 
 void PlClasse::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_F11) {
+        forward([this] { m_hall->show(); });
+        return;
+    }
     if (event->key() == Qt::Key_F2) {
         forward([this] { m_shell.Form_KeyDown(shell::Shell::kKeyF2); });
         return;
@@ -465,6 +472,7 @@ void PlClasse::closeEvent(QCloseEvent* event)
         }
         keepPlacement();
         m_closed = true;
+        m_hall->leave();
     }
     QMainWindow::closeEvent(event);
 }

@@ -21,6 +21,7 @@ class HelpWindow;
 class OptionPanels;
 class PlanView;
 class Questions;
+class WindowHall;
 
 /// The one window of the program, "Planning des Classes": mirrors the form's controls and passes
 /// the user's actions on to them.
@@ -93,6 +94,7 @@ private:
     void showHelp();
 
     QString m_guide; ///< path of the guide
+    std::unique_ptr<WindowHall> m_hall;
     Waiting m_waiting;
     StartWindow m_startWindow;
     const Waiting::Sign m_startSign = startSign();

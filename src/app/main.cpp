@@ -4,6 +4,7 @@
 #include "app/ExitCode.h"
 #include "app/PlClasse.h"
 #include "app/PlatformTexts.h"
+#include "app/hall/HallDisplay.h"
 #include "files/WholeFile.h"
 #include "shell/Answers.h"
 #include "shell/CommandLine.h"
@@ -13,7 +14,10 @@
 #include <QScopeGuard>
 #include <QStyleFactory>
 #include <QTranslator>
+#include <algorithm>
+#include <cstdlib>
 #include <optional>
+#include <vector>
 
 namespace
 {
@@ -82,8 +86,8 @@ void writeWithoutWindow(const shell::CommandLine& line)
     shell.fitPicture();
     shell.Form_Activate();
     shell::play(shell, line);
-    const QString told =
-        shell::exportPlan(shell, line.exportFile, {line.allPages, line.allowIncomplete});
+    const QString told = shell::exportPlan(shell, line.exportFile,
+                                           {line.allPages, line.allowIncomplete, line.refresh});
     if (!told.isEmpty()) {
         app::writeError(told);
     }
@@ -104,6 +108,33 @@ int runWindow(app::Application& application, app::EndSignal& signal, const shell
     return window.run(line);
 }
 
+/// Error: what keeps the screen in the hall from showing anything, such as shell::UsageError.
+int runDisplay(app::EndSignal& signal, const shell::CommandLine& line)
+{
+    std::exception_ptr fault;
+    app::HallDisplay::Ties ties;
+    ties.left = [] { QCoreApplication::exit(kDone); };
+    ties.failed = [&fault](const std::exception_ptr& raised) {
+        fault = raised;
+        QCoreApplication::exit(kFailed);
+    };
+    const auto open = [line] {
+        return std::make_unique<shell::Shell>(openSettings(line), surroundingsFor(line));
+    };
+    app::HallDisplay display(app::HallReader(open, line), *line.display, ties);
+    signal.serve([&display] { display.leave(); });
+    const auto serveNoMore = qScopeGuard([&signal] { signal.stop(); });
+    display.open();
+    const int code = QApplication::exec();
+    if (fault) {
+        std::rethrow_exception(fault);
+    }
+    if (display.isReading()) {
+        std::quick_exit(code); // the driver may be waiting for minutes; there is nothing to save
+    }
+    return code;
+}
+
 /// The toolkit as the program needs it: in French.
 class Toolkit
 {
@@ -121,6 +152,19 @@ private:
     app::Application m_application;
     QTranslator m_french;
 };
+
+/// The arguments for the toolkit, and the null behind them. On X it has an option "--display" of
+/// its own, and would take the next argument for the screen that it is to draw on.
+std::vector<char*> withoutDisplay(int argc, char** argv)
+{
+    std::vector<char*> arguments(argv, argv + argc);
+    const auto isDisplay = [](const char* argument) {
+        return qstrcmp(argument, "--display") == 0 || qstrcmp(argument, "-display") == 0;
+    };
+    arguments.erase(std::remove_if(arguments.begin(), arguments.end(), isDisplay), arguments.end());
+    arguments.push_back(nullptr);
+    return arguments;
+}
 
 /// One run of the program, from its arguments to its exit code.
 class Program
@@ -140,6 +184,9 @@ private:
 
     int& m_argc;
     char** m_argv;
+    // What the toolkit is given; it refers to them as long as it lives.
+    std::vector<char*> m_toolkitArguments;
+    int m_toolkitCount = 0;
     std::optional<Toolkit> m_toolkit;
     bool m_exports = false;
 };
@@ -189,6 +236,9 @@ int Program::serve()
     }
     app::EndSignal signal; // before the toolkit starts threads of its own
     startToolkit();
+    if (line.display) {
+        return runDisplay(signal, line);
+    }
     return runWindow(m_toolkit->application(), signal, line);
 }
 
@@ -234,7 +284,9 @@ bool Program::canShow()
 void Program::startToolkit()
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    m_toolkit.emplace(m_argc, m_argv);
+    m_toolkitArguments = withoutDisplay(m_argc, m_argv);
+    m_toolkitCount = static_cast<int>(m_toolkitArguments.size()) - 1;
+    m_toolkit.emplace(m_toolkitCount, m_toolkitArguments.data());
 }
 
 } // namespace

@@ -85,6 +85,13 @@ Settings Settings::fromFile(const QString& path)
     return Settings(std::make_unique<QSettings>(path, QSettings::IniFormat));
 }
 
+Settings Settings::again() const
+{
+    return m_store->organizationName().isEmpty()
+               ? Settings(std::make_unique<QSettings>(m_store->fileName(), m_store->format()))
+               : perUser();
+}
+
 QString Settings::get(const QString& key, const QString& fallback, Section section) const
 {
     // An unquoted comma in a hand-written file makes a list of the value.

@@ -23,6 +23,9 @@ public:
     Settings(Settings&&) noexcept;
     Settings& operator=(Settings&&) noexcept;
 
+    /// The same store, opened anew: for a second program beside this one. Errors: the same.
+    [[nodiscard]] Settings again() const;
+
     /// Which part of the store.
     enum class Section {
         Settings, ///< [Settings]: what the program is told
