@@ -47,6 +47,8 @@ HallDisplay::HallDisplay(HallReader reader, shell::DisplayRequest pace, Ties tie
     setContextMenuPolicy(Qt::PreventContextMenu);
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_clock.setInterval(kLook);
+    m_ended.setSingleShot(true);
+    connect(&m_ended, &QTimer::timeout, this, [this] { takeRead(); });
     connect(&m_clock, &QTimer::timeout, this, [this] { followClock(); });
 }
 
@@ -99,12 +101,12 @@ void HallDisplay::startReading(const QDateTime& now)
     m_isReading = true;
     m_call = [this, now, rooms = hallRoomsFor(size())] { m_read = m_reader.read(now, rooms); };
     m_background.start(m_call);
-    const auto told = [this] {
+    const bool isUnderWay = m_background.whenEnded([this] {
         QMetaObject::invokeMethod(
             this, [this] { takeRead(); }, Qt::QueuedConnection);
-    };
-    if (!m_background.whenEnded(told)) {
-        told();
+    });
+    if (!isUnderWay) {
+        m_ended.start();
     }
 }
 

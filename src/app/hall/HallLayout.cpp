@@ -24,6 +24,13 @@ constexpr double kUsualHeight = 720;
 constexpr int kMostRooms = 18; ///< with more of them, boxes have a single line
 constexpr double kAround = kHeaderHeight + kHoursHeight + kMargin;
 
+/// How much a layout that wants this height can be enlarged. Less than once would swallow lines of
+/// one pixel.
+double scaleFor(QSize screen, double height)
+{
+    return std::max(1.0, std::min(screen.height() / height, screen.width() / kNarrowest));
+}
+
 class Extent
 {
 public:
@@ -56,11 +63,7 @@ void takeSlots(const plan::PlanState& state, Extent& extent)
 
 int hallRoomsFor(QSize screen)
 {
-    const double scale = std::min(screen.height() / kUsualHeight, screen.width() / kNarrowest);
-    if (scale <= 0) {
-        return 1;
-    }
-    const double rows = (screen.height() / scale - kAround) / kUsualRow;
+    const double rows = (screen.height() / scaleFor(screen, kUsualHeight) - kAround) / kUsualRow;
     return std::clamp(static_cast<int>(rows), 1, kMostRooms);
 }
 
@@ -88,7 +91,7 @@ HallLayout::HallLayout(QSize screen, int rows, bool hasRemark)
 {
     const double around = kAround + (hasRemark ? kRemarkHeight : 0);
     const double wanted = around + kUsualRow * std::max(1, rows);
-    scale = std::max(0.01, std::min(screen.height() / wanted, screen.width() / kNarrowest));
+    scale = scaleFor(screen, wanted);
     const QSizeF size = QSizeF(screen) / scale;
     header = {0, 0, size.width(), kHeaderHeight};
     double top = header.height();

@@ -58,7 +58,7 @@ QString dayWords(QDate day)
 QString clockWords(int minute)
 {
     return QStringLiteral("%1:%2")
-        .arg(minute / kMinutesPerHour)
+        .arg(minute / kMinutesPerHour, 2, 10, QLatin1Char('0'))
         .arg(minute % kMinutesPerHour, 2, 10, QLatin1Char('0'));
 }
 

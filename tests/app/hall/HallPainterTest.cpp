@@ -145,6 +145,7 @@ TEST(HallLayout, holdsAsManyRoomsAsCanBeReadFromAfar)
     EXPECT_EQ(app::hallRoomsFor({1920, 1080}), 13);
     EXPECT_EQ(app::hallRoomsFor({1366, 768}), 13);
     EXPECT_EQ(app::hallRoomsFor({1080, 1920}), 18); // upright
+    EXPECT_EQ(app::hallRoomsFor({900, 600}), 10);   // 500 pixels of rows
     EXPECT_EQ(app::hallRoomsFor({0, 0}), 1);
 }
 
@@ -159,4 +160,8 @@ TEST(HallLayout, fillsTheScreen)
     const HallLayout few({1920, 1080}, 2, false);
     EXPECT_DOUBLE_EQ(few.scale, 1920.0 / 1100);
     EXPECT_DOUBLE_EQ(few.rowHeight, 72);
+    // More rows than the screen has room for get smaller, not their lines.
+    const HallLayout crowded({1366, 768}, 18, true);
+    EXPECT_DOUBLE_EQ(crowded.scale, 1);
+    EXPECT_DOUBLE_EQ(crowded.rowHeight, (768.0 - 100 - 28) / 18);
 }
