@@ -101,10 +101,8 @@ void HallDisplay::startReading(const QDateTime& now)
     m_isReading = true;
     m_call = [this, now, rooms = hallRoomsFor(size())] { m_read = m_reader.read(now, rooms); };
     m_background.start(m_call);
-    const bool isUnderWay = m_background.whenEnded([this] {
-        QMetaObject::invokeMethod(
-            this, [this] { takeRead(); }, Qt::QueuedConnection);
-    });
+    const bool isUnderWay = m_background.whenEnded(
+        [this] { QMetaObject::invokeMethod(&m_ended, "start", Qt::QueuedConnection); });
     if (!isUnderWay) {
         m_ended.start();
     }

@@ -78,7 +78,7 @@ private:
     std::optional<Outage> m_outage;
     QDateTime m_asked; ///< when the last reading began; not valid before the first
     QTimer m_clock;
-    QTimer m_ended; ///< of a reading that was over before anybody could wait for it
+    QTimer m_ended; ///< runs out at once when a reading has ended
 
     // What the background call reads and writes while it is under way.
     std::function<void()> m_call;
