@@ -239,7 +239,7 @@ form::PlanForm HallPainter::placedForm(const plan::PlanPage& page) const
     const int pitch = static_cast<int>(m_layout.rowHeight * kTwips);
     form::Place& model = form.Salle.front().place;
     model.height = pitch - plan::kRowGap;
-    model.top = plan::kRowGap / 2 - pitch;
+    model.top = plan::kRowGap / 2;
     plan::PlaceRoomRows(form);
     return form;
 }
