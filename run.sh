@@ -29,7 +29,8 @@ for option in "$@"; do
             writes_or_tells=true
             options+=("$option")
             ;;
-        --export | --export=* | --version | -v)
+        --export | --export=* | --free | --free=* | --week-of | --week-of=* | --find | --find=* | \
+            --clashes | --clashes=* | --use | --use=* | --version | -v)
             writes_or_tells=true
             options+=("$option")
             ;;
