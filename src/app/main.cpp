@@ -4,6 +4,7 @@
 #include "app/ExitCode.h"
 #include "app/PlClasse.h"
 #include "app/PlatformTexts.h"
+#include "app/SystemFolder.h"
 #include "app/hall/HallDisplay.h"
 #include "files/WholeFile.h"
 #include "shell/Answers.h"
@@ -66,6 +67,7 @@ engine::Surroundings surroundingsFor(const shell::CommandLine& line)
 {
     engine::Surroundings surroundings;
     surroundings.applicationFolder = QCoreApplication::applicationDirPath();
+    surroundings.systemFolder = app::systemFolder();
     surroundings.seed = line.seed;
     surroundings.plain = line.plain;
     return surroundings;

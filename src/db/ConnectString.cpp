@@ -4,6 +4,7 @@
 #include "runtime/RunTimeError.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <array>
@@ -93,16 +94,21 @@ PhpConfiguration readPhpConfiguration(const QString& path)
 }
 
 ConnectStrings BuildConnectString(const QString& baseName, bool useMySql,
-                                  const QString& applicationFolder)
+                                  const ConfigurationFolders& folders)
 {
     const QString dsn = QStringLiteral("DSN=") + runtime::trimBlanks(baseName);
     if (!useMySql) {
         return {dsn, dsn};
     }
     // The name is taken as it stands in the path, blanks included.
-    const QString path =
-        applicationFolder + QStringLiteral("/app_data/") + baseName + QStringLiteral(".php");
-    return {mySqlConnectString(readPhpConfiguration(path)), dsn};
+    const auto fileIn = [&baseName](const QString& folder) {
+        return folder + QStringLiteral("/app_data/") + baseName + QStringLiteral(".php");
+    };
+    const QString own = fileIn(folders.application);
+    const bool isSystems = !folders.system.isEmpty() && !QFileInfo::exists(own) &&
+                           QFileInfo::exists(fileIn(folders.system));
+    return {mySqlConnectString(readPhpConfiguration(isSystems ? fileIn(folders.system) : own)),
+            dsn};
 }
 
 } // namespace db

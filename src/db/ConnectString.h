@@ -28,10 +28,16 @@ struct ConnectStrings {
     QString DsnString;     ///< "DSN=" and the trimmed base name, kept for both kinds
 };
 
-/// Access: the data source named `baseName`. MySQL: the server named in
-/// `applicationFolder`/app_data/`baseName`.php.
-/// Errors: those of `readPhpConfiguration`.
+/// Where the file `baseName`.php is looked for, in a folder app_data.
+struct ConfigurationFolders {
+    QString application; ///< the program's own; its file counts where both have one
+    QString system;      ///< the machine's, where programs are not written to; empty without one
+};
+
+/// Access: the data source named `baseName`. MySQL: the server that its file describes.
+/// Errors: those of `readPhpConfiguration`; where no folder has the file they name that of the
+/// program's own.
 [[nodiscard]] ConnectStrings BuildConnectString(const QString& baseName, bool useMySql,
-                                                const QString& applicationFolder);
+                                                const ConfigurationFolders& folders);
 
 } // namespace db

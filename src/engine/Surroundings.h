@@ -16,6 +16,9 @@ namespace engine
 struct Surroundings {
     /// Folder that holds the executable, `app_data` and `Styles`.
     QString applicationFolder;
+    /// Folder whose `app_data` serves where that beside the program has no such file; empty
+    /// without one.
+    QString systemFolder;
     std::function<QDate()> today = [] { return QDate::currentDate(); };
     /// Fixes the random row colours.
     std::optional<std::uint32_t> seed;

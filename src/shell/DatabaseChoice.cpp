@@ -11,7 +11,7 @@ QString DatabaseChoice::nameInMessages() const
 }
 
 DatabaseChoice chooseDatabase(const Settings& settings, bool useMySql,
-                              const QString& applicationFolder)
+                              const db::ConfigurationFolders& folders)
 {
     DatabaseChoice choice;
     if (useMySql) {
@@ -19,12 +19,12 @@ DatabaseChoice chooseDatabase(const Settings& settings, bool useMySql,
         choice.DbPath = choice.BaseName;
     } else {
         choice.BaseName = settings.get(QStringLiteral("Base"), QStringLiteral("MonKalo"));
-        choice.DbPath =
-            settings.get(QStringLiteral("Path"), applicationFolder + QStringLiteral("\\Kalo.mdb"));
+        choice.DbPath = settings.get(QStringLiteral("Path"),
+                                     folders.application + QStringLiteral("\\Kalo.mdb"));
     }
     choice.strings = runtime::during(
         QStringLiteral("Préparation de la connexion à la base « %1 »").arg(choice.nameInMessages()),
-        [&] { return db::BuildConnectString(choice.BaseName, useMySql, applicationFolder); });
+        [&] { return db::BuildConnectString(choice.BaseName, useMySql, folders); });
     return choice;
 }
 

@@ -22,9 +22,9 @@ struct DatabaseChoice {
     [[nodiscard]] QString nameInMessages() const;
 };
 
-/// Reads the settings that choose a database of that kind. `applicationFolder` holds `app_data`.
+/// Reads the settings that choose a database of that kind. The folders hold `app_data`.
 /// Errors: those of db::BuildConnectString.
 [[nodiscard]] DatabaseChoice chooseDatabase(const Settings& settings, bool useMySql,
-                                            const QString& applicationFolder);
+                                            const db::ConfigurationFolders& folders);
 
 } // namespace shell

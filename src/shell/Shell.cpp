@@ -22,7 +22,8 @@ QString placementKey()
 } // namespace
 
 Shell::Shell(Settings settings, engine::Surroundings surroundings)
-    : m_settings(std::move(settings)), m_applicationFolder(surroundings.applicationFolder),
+    : m_settings(std::move(settings)), m_folders{surroundings.applicationFolder,
+                                                 surroundings.systemFolder},
       m_engine(std::move(surroundings))
 {
 }

@@ -96,7 +96,7 @@ private:
     [[nodiscard]] QString setting(const QString& key, const QString& fallback) const;
 
     Settings m_settings;
-    QString m_applicationFolder;
+    db::ConfigurationFolders m_folders;
     engine::Engine m_engine;
 
     DatabaseChoice m_choice;

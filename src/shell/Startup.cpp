@@ -62,7 +62,7 @@ void Shell::chooseDatabase()
     const bool useMySql = isOn(QStringLiteral("Mysql"));
     const bool doublesQuotes = isOn(QStringLiteral("Apostrophes"));
     m_engine.chooseDatabase(useMySql, doublesQuotes);
-    m_choice = shell::chooseDatabase(m_settings, useMySql, m_applicationFolder);
+    m_choice = shell::chooseDatabase(m_settings, useMySql, m_folders);
 }
 
 QDate Shell::weekA() const

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 using namespace db;
@@ -23,7 +24,7 @@ protected:
 
     void writeBytes(const QByteArray& bytes, const QString& baseName = QStringLiteral("SaKalo"))
     {
-        QDir(folder()).mkpath(QStringLiteral("app_data"));
+        QDir().mkpath(QFileInfo(file(baseName)).path());
         QFile php(file(baseName));
         ASSERT_TRUE(php.open(QIODevice::WriteOnly));
         php.write(bytes);
@@ -44,7 +45,7 @@ private:
 TEST_F(ConnectString, namesTheTrimmedDataSourceAndReadsNoFile)
 {
     const ConnectStrings strings =
-        BuildConnectString(QStringLiteral("  MonKalo "), false, QStringLiteral("/nowhere"));
+        BuildConnectString(QStringLiteral("  MonKalo "), false, {QStringLiteral("/nowhere"), {}});
     EXPECT_EQ(strings.ConnectString, QStringLiteral("DSN=MonKalo"));
     EXPECT_EQ(strings.DsnString, QStringLiteral("DSN=MonKalo"));
 }
@@ -53,7 +54,8 @@ TEST_F(ConnectString, takesServerAccountAndPortFromThePhpFile)
 {
     writeBytes("<?php\n$host=\"db1\";\n$login=\"kalo\";\n$mot_de_passe=\"se;cr\"et\";\n"
                "$Base=\"sa\";\n$port=\"3310\";\n?>\n");
-    const ConnectStrings strings = BuildConnectString(QStringLiteral("SaKalo"), true, folder());
+    const ConnectStrings strings =
+        BuildConnectString(QStringLiteral("SaKalo"), true, {folder(), {}});
     EXPECT_EQ(strings.ConnectString,
               QStringLiteral("DRIVER={MySQL ODBC 3.51 Driver};SERVER=db1;DATABASE=sa;USER=kalo;"
                              "PASSWORD=se;cr\"et;port=3310OPTION=35"));
@@ -63,7 +65,7 @@ TEST_F(ConnectString, takesServerAccountAndPortFromThePhpFile)
 TEST_F(ConnectString, hasPort3306AndEmptyValuesWhereTheFileSaysNothing)
 {
     writeBytes("$host=\"db1\";\n");
-    EXPECT_EQ(BuildConnectString(QStringLiteral("SaKalo"), true, folder()).ConnectString,
+    EXPECT_EQ(BuildConnectString(QStringLiteral("SaKalo"), true, {folder(), {}}).ConnectString,
               QStringLiteral("DRIVER={MySQL ODBC 3.51 Driver};SERVER=db1;DATABASE=;USER=;"
                              "PASSWORD=;port=3306OPTION=35"));
 }
@@ -72,18 +74,41 @@ TEST_F(ConnectString, takesTheBaseNameUntrimmedInThePath)
 {
     writeBytes("$host=\"trimmed\";\n", QStringLiteral("Sa"));
     writeBytes("$host=\"blank\";\n", QStringLiteral(" Sa"));
-    const ConnectStrings strings = BuildConnectString(QStringLiteral(" Sa"), true, folder());
+    const ConnectStrings strings = BuildConnectString(QStringLiteral(" Sa"), true, {folder(), {}});
     EXPECT_TRUE(strings.ConnectString.contains(QStringLiteral("SERVER=blank;")));
     EXPECT_EQ(strings.DsnString, QStringLiteral("DSN=Sa"));
 }
 
 TEST_F(ConnectString, raisesFileNotFoundAndNamesTheMissingFile)
 {
-    const auto error = test::errorOf(
-        [this] { return BuildConnectString(QStringLiteral("Absent"), true, folder()); });
+    const auto error = test::errorOf([this] {
+        return BuildConnectString(QStringLiteral("Absent"), true, {folder(), {}});
+    });
     EXPECT_EQ(error.number(), ErrorNumber::FileNotFound);
     EXPECT_EQ(error.text(), QStringLiteral("File not found"));
     EXPECT_TRUE(error.activity().contains(QStringLiteral("Absent.php")));
+}
+
+TEST_F(ConnectString, takesTheSystemsFileWhereTheProgramHasNone)
+{
+    const QString system = folder() + QStringLiteral("/system");
+    const auto server = [&] {
+        return BuildConnectString(QStringLiteral("SaKalo"), true, {folder(), system}).ConnectString;
+    };
+    QDir(folder()).mkpath(QStringLiteral("app_data")); // empty
+    writeBytes("$host=\"systems\";\n", QStringLiteral("../system/app_data/SaKalo"));
+    EXPECT_TRUE(server().contains(QStringLiteral("SERVER=systems;")));
+    writeBytes("$host=\"own\";\n");
+    EXPECT_TRUE(server().contains(QStringLiteral("SERVER=own;")));
+}
+
+TEST_F(ConnectString, namesTheProgramsOwnFileWhereThereIsNone)
+{
+    const auto error = test::errorOf([this] {
+        return BuildConnectString(QStringLiteral("Absent"), true,
+                                  {folder(), QStringLiteral("/nowhere")});
+    });
+    EXPECT_TRUE(error.activity().contains(folder() + QStringLiteral("/app_data/Absent.php")));
 }
 
 TEST_F(ConnectString, cutsByPositionOnly)

@@ -23,7 +23,7 @@ shell::Settings settingsOf(const QString& lines)
 
 TEST(DatabaseChoice, withoutSettingsIsTheDataSourceMonKalo)
 {
-    const DatabaseChoice choice = chooseDatabase(settingsOf(""), false, "C:\\Tempora");
+    const DatabaseChoice choice = chooseDatabase(settingsOf(""), false, {"C:\\Tempora", {}});
     EXPECT_EQ(choice.BaseName, "MonKalo");
     EXPECT_EQ(choice.strings.ConnectString, "DSN=MonKalo");
     EXPECT_EQ(choice.strings.DsnString, "DSN=MonKalo");
@@ -32,8 +32,8 @@ TEST(DatabaseChoice, withoutSettingsIsTheDataSourceMonKalo)
 
 TEST(DatabaseChoice, takesDataSourceAndPathFromTheSettings)
 {
-    const DatabaseChoice choice =
-        chooseDatabase(settingsOf("Base=Emplois\nPath=D:/Bases/Emplois.mdb\n"), false, "/opt");
+    const DatabaseChoice choice = chooseDatabase(
+        settingsOf("Base=Emplois\nPath=D:/Bases/Emplois.mdb\n"), false, {"/opt", {}});
     EXPECT_EQ(choice.strings.ConnectString, "DSN=Emplois");
     EXPECT_EQ(choice.DbPath, "D:/Bases/Emplois.mdb");
 }
@@ -43,7 +43,8 @@ TEST(DatabaseChoice, ofMySqlHasTheBaseNameForAPath)
     const QString folder = processFolder() + "/choice";
     writeFile(folder + "/app_data/SaKalo.php", "$host=\"db1\";\n");
     // The path of an Access database does not matter here.
-    const DatabaseChoice choice = chooseDatabase(settingsOf("Path=D:/Kalo.mdb\n"), true, folder);
+    const DatabaseChoice choice =
+        chooseDatabase(settingsOf("Path=D:/Kalo.mdb\n"), true, {folder, {}});
     EXPECT_EQ(choice.BaseName, "SaKalo");
     EXPECT_EQ(choice.DbPath, "SaKalo");
     EXPECT_EQ(choice.strings.DsnString, "DSN=SaKalo");
@@ -55,7 +56,7 @@ TEST(DatabaseChoice, ofMySqlHasTheBaseNameForAPath)
 TEST(DatabaseChoice, isNamedWithoutWhatStandsBehindItForTheDriver)
 {
     const DatabaseChoice choice =
-        chooseDatabase(settingsOf("Base=\"Emplois ;PWD=s3cr&t\"\n"), false, "/opt");
+        chooseDatabase(settingsOf("Base=\"Emplois ;PWD=s3cr&t\"\n"), false, {"/opt", {}});
     EXPECT_EQ(choice.strings.ConnectString, "DSN=Emplois ;PWD=s3cr&t");
     EXPECT_EQ(choice.nameInMessages(), "Emplois");
 }
@@ -63,7 +64,8 @@ TEST(DatabaseChoice, isNamedWithoutWhatStandsBehindItForTheDriver)
 TEST(DatabaseChoice, saysForWhichDatabaseTheFileIsMissing)
 {
     const runtime::RunTimeError error = errorOf([] {
-        static_cast<void>(chooseDatabase(settingsOf("Base_Sql=Absente\n"), true, processFolder()));
+        static_cast<void>(
+            chooseDatabase(settingsOf("Base_Sql=Absente\n"), true, {processFolder(), {}}));
     });
     EXPECT_EQ(error.number(), runtime::ErrorNumber::FileNotFound);
     EXPECT_TRUE(error.activity().contains("Absente")) << error.activity().toStdString();
