@@ -1,0 +1,237 @@
+#include "app/setup/SetupPages.h"
+
+#include "app/PlainTexts.h"
+#include "app/setup/SetupWizard.h"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace app
+{
+namespace
+{
+
+using setup::SourceKind;
+
+/// A sentence below a control, indented as its text is.
+QLabel* sentenceLabel(const QString& text)
+{
+    QLabel* label = plainLabel(text);
+    label->setWordWrap(true);
+    label->setIndent(24);
+    label->setEnabled(true);
+    return label;
+}
+
+/// Where a page says what is missing or has failed.
+QLabel* toldLabel()
+{
+    QLabel* label = plainLabel();
+    label->setObjectName(QStringLiteral("Told"));
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setStyleSheet(QStringLiteral("color: #9b1c1c;"));
+    return label;
+}
+
+QLineEdit* addField(QFormLayout& form, const QString& label, const QString& name)
+{
+    auto* field = new QLineEdit;
+    field->setObjectName(name);
+    form.addRow(label, field);
+    return field;
+}
+
+} // namespace
+
+SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
+    : m_wizard(wizard), m_details(details), m_found(found), m_present(plainLabel()),
+      m_told(toldLabel())
+{
+    setTitle(QStringLiteral("Où est votre emploi du temps ?"));
+    setSubTitle(QStringLiteral("Tempora lit votre base, et n’y écrit que les absences."));
+    auto* layout = new QVBoxLayout(this);
+    m_present->setObjectName(QStringLiteral("Present"));
+    m_present->setWordWrap(true);
+    layout->addWidget(m_present);
+    addChoice(*layout, SourceKind::Demo,
+              QStringLiteral("&Essayer avec une faculté de démonstration"),
+              QStringLiteral("Une faculté inventée, pour voir. Rien d’autre n’est nécessaire."));
+    addChoice(*layout, SourceKind::SqliteFile, QStringLiteral("Ma base (&fichier SQLite)"),
+              QStringLiteral("Un fichier sur ce poste ou sur un disque partagé."));
+    addChoice(*layout, SourceKind::Server, QStringLiteral("Ma base (&MariaDB ou MySQL)"),
+              QStringLiteral("Un serveur ; il vous faut son nom, un compte et un mot de passe."));
+    if (m_wizard.ties().offersAccess) {
+        addChoice(*layout, SourceKind::Access, QStringLiteral("Ma base &Access"),
+                  QStringLiteral("Un fichier .mdb ou .accdb."));
+    }
+    m_choices.front().button->setChecked(true);
+    layout->addStretch();
+    layout->addWidget(m_told);
+}
+
+void SetupKindPage::addChoice(QVBoxLayout& layout, SourceKind kind, const QString& text,
+                              const QString& sentence)
+{
+    auto* button = new QRadioButton(text);
+    button->setObjectName(QStringLiteral("Kind%1").arg(static_cast<int>(kind)));
+    button->setAccessibleDescription(sentence);
+    m_choices.push_back({button, kind});
+    layout.addWidget(button);
+    layout.addWidget(sentenceLabel(sentence));
+}
+
+SourceKind SetupKindPage::chosen() const
+{
+    for (const Choice& choice : m_choices) {
+        if (choice.button->isChecked()) {
+            return choice.kind;
+        }
+    }
+    return SourceKind::Demo;
+}
+
+void SetupKindPage::initializePage()
+{
+    const QString present = m_wizard.presentSource();
+    m_present->setText(present.isEmpty() ? QString()
+                                         : QStringLiteral("Actuellement : %1").arg(present));
+    m_present->setVisible(!present.isEmpty());
+}
+
+int SetupKindPage::nextId() const
+{
+    return chosen() == SourceKind::Demo ? m_found : m_details;
+}
+
+bool SetupKindPage::validatePage()
+{
+    m_wizard.source().kind = chosen();
+    return chosen() != SourceKind::Demo || m_wizard.tryOut(m_told);
+}
+
+SetupDetailsPage::SetupDetailsPage(SetupWizard& wizard, int found)
+    : m_wizard(wizard), m_foundPage(found), m_forms(new QStackedWidget), m_told(toldLabel())
+{
+    auto* layout = new QVBoxLayout(this);
+    m_forms->addWidget(makeFileForm());
+    m_forms->addWidget(makeServerForm());
+    layout->addWidget(m_forms);
+    layout->addStretch();
+    layout->addWidget(m_told);
+}
+
+QWidget* SetupDetailsPage::makeFileForm()
+{
+    auto* page = new QWidget;
+    auto* form = new QFormLayout(page);
+    m_file = new QLineEdit;
+    m_file->setObjectName(QStringLiteral("File"));
+    auto* choose = new QPushButton(QStringLiteral("&Parcourir…"));
+    choose->setObjectName(QStringLiteral("ChooseFile"));
+    connect(choose, &QPushButton::clicked, this, [this] { chooseFile(); });
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_file);
+    row->addWidget(choose);
+    auto* label = new QLabel(QStringLiteral("&Fichier :"));
+    label->setBuddy(m_file);
+    form->addRow(label, row);
+    return page;
+}
+
+QWidget* SetupDetailsPage::makeServerForm()
+{
+    auto* page = new QWidget;
+    auto* form = new QFormLayout(page);
+    m_host = addField(*form, QStringLiteral("&Serveur :"), QStringLiteral("Host"));
+    m_port = addField(*form, QStringLiteral("P&ort :"), QStringLiteral("Port"));
+    m_base = addField(*form, QStringLiteral("&Base :"), QStringLiteral("Base"));
+    m_login = addField(*form, QStringLiteral("&Compte :"), QStringLiteral("Login"));
+    m_password = addField(*form, QStringLiteral("&Mot de passe :"), QStringLiteral("Password"));
+    m_password->setEchoMode(QLineEdit::Password);
+    m_port->setText(m_wizard.source().server.port);
+    return page;
+}
+
+void SetupDetailsPage::chooseFile()
+{
+    const QString kinds = m_wizard.source().kind == SourceKind::Access
+                              ? QStringLiteral("Bases Access (*.mdb *.accdb)")
+                              : QStringLiteral("Bases SQLite (*.sqlite *.sqlite3 *.db)");
+    const QString path = QFileDialog::getOpenFileName(
+        this, QStringLiteral("Votre base"), m_file->text(),
+        kinds + QStringLiteral(";;") + QStringLiteral("Tous les fichiers (*)"));
+    if (!path.isEmpty()) {
+        m_file->setText(path);
+    }
+}
+
+void SetupDetailsPage::initializePage()
+{
+    const bool isServer = m_wizard.source().kind == SourceKind::Server;
+    setTitle(isServer ? QStringLiteral("Votre serveur") : QStringLiteral("Votre fichier"));
+    setSubTitle(isServer ? QStringLiteral("La personne qui s’occupe du serveur vous donne ces "
+                                          "renseignements.")
+                         : QStringLiteral("Le fichier reste où il est."));
+    m_forms->setCurrentIndex(isServer ? 1 : 0);
+    // The wizard gives the focus to its button when it has shown the page.
+    QMetaObject::invokeMethod(
+        isServer ? m_host : m_file, [field = isServer ? m_host : m_file] { field->setFocus(); },
+        Qt::QueuedConnection);
+    m_told->clear();
+}
+
+bool SetupDetailsPage::validatePage()
+{
+    setup::Source& source = m_wizard.source();
+    source.file = m_file->text().trimmed();
+    source.server = {m_host->text(), m_port->text(), m_login->text(), m_password->text(),
+                     m_base->text()};
+    return m_wizard.tryOut(m_told);
+}
+
+SetupFoundPage::SetupFoundPage(SetupWizard& wizard) : m_wizard(wizard), m_found(plainLabel())
+{
+    setTitle(QStringLiteral("Votre base est là"));
+    setSubTitle(QStringLiteral("Rien n’est encore enregistré : « Ouvrir le plan » le fait."));
+    auto* layout = new QVBoxLayout(this);
+    m_found->setObjectName(QStringLiteral("Found"));
+    m_found->setWordWrap(true);
+    layout->addWidget(m_found);
+    layout->addWidget(plainLabel(QStringLiteral("Réglages conseillés :")));
+    layout->addStretch();
+}
+
+void SetupFoundPage::initializePage()
+{
+    m_found->setText(setup::inWords(m_wizard.findings()));
+    showRecommendations();
+}
+
+void SetupFoundPage::showRecommendations()
+{
+    delete m_boxes; // those of another database
+    m_boxes = new QWidget;
+    auto* boxes = new QVBoxLayout(m_boxes);
+    boxes->setContentsMargins(0, 0, 0, 0);
+    for (setup::Recommendation& one : m_wizard.recommendations()) {
+        auto* box = new QCheckBox(one.label);
+        box->setObjectName(one.key);
+        box->setChecked(one.isProposed);
+        box->setAccessibleDescription(one.sentence);
+        connect(box, &QCheckBox::toggled, this, [&one](bool isOn) { one.isProposed = isOn; });
+        boxes->addWidget(box);
+        boxes->addWidget(sentenceLabel(one.sentence));
+    }
+    auto* page = static_cast<QVBoxLayout*>(layout());
+    page->insertWidget(page->count() - 1, m_boxes);
+}
+
+} // namespace app

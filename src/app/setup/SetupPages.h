@@ -1,0 +1,93 @@
+#pragma once
+
+#include "setup/Source.h"
+
+#include <QWizardPage>
+#include <vector>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+class QStackedWidget;
+class QVBoxLayout;
+
+namespace app
+{
+
+class SetupWizard;
+
+/// What there is: the demo faculty, a file, a server. Shows what is set up now.
+class SetupKindPage : public QWizardPage
+{
+public:
+    /// `details` and `found`: the pages that follow; the demo faculty has no details.
+    SetupKindPage(SetupWizard& wizard, int details, int found);
+
+    [[nodiscard]] int nextId() const override;
+    [[nodiscard]] bool validatePage() override;
+    void initializePage() override;
+
+private:
+    struct Choice {
+        QRadioButton* button;
+        setup::SourceKind kind;
+    };
+
+    void addChoice(QVBoxLayout& layout, setup::SourceKind kind, const QString& text,
+                   const QString& sentence);
+    [[nodiscard]] setup::SourceKind chosen() const;
+
+    SetupWizard& m_wizard;
+    int m_details;
+    int m_found;
+    QLabel* m_present;
+    QLabel* m_told;
+    std::vector<Choice> m_choices;
+};
+
+/// Where the file is, or the server and its account.
+class SetupDetailsPage : public QWizardPage
+{
+public:
+    SetupDetailsPage(SetupWizard& wizard, int found);
+
+    [[nodiscard]] int nextId() const override { return m_foundPage; }
+    [[nodiscard]] bool validatePage() override;
+    void initializePage() override;
+
+private:
+    [[nodiscard]] QWidget* makeFileForm();
+    [[nodiscard]] QWidget* makeServerForm();
+    void chooseFile();
+
+    SetupWizard& m_wizard;
+    int m_foundPage;
+    QStackedWidget* m_forms;
+    QLineEdit* m_file = nullptr;
+    QLineEdit* m_host = nullptr;
+    QLineEdit* m_port = nullptr;
+    QLineEdit* m_base = nullptr;
+    QLineEdit* m_login = nullptr;
+    QLineEdit* m_password = nullptr;
+    QLabel* m_told;
+};
+
+/// What was found, and the settings that are proposed.
+class SetupFoundPage : public QWizardPage
+{
+public:
+    explicit SetupFoundPage(SetupWizard& wizard);
+
+    [[nodiscard]] int nextId() const override { return -1; }
+    void initializePage() override;
+
+private:
+    void showRecommendations();
+
+    SetupWizard& m_wizard;
+    QLabel* m_found;
+    QWidget* m_boxes = nullptr;
+};
+
+} // namespace app

@@ -1,0 +1,163 @@
+#include "setup/Registration.h"
+
+#include "db/ConnectString.h"
+#include "db/DataSources.h"
+#include "files/WholeFile.h"
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace setup
+{
+namespace
+{
+
+using runtime::ErrorNumber;
+using runtime::RunTimeError;
+
+constexpr QLatin1String kServersFile("SaKalo");
+
+QString folderOfServers(const QString& applicationFolder)
+{
+    return applicationFolder + QStringLiteral("/app_data");
+}
+
+bool canWriteIn(const QString& folder)
+{
+    const QFileInfo there(folder);
+    return there.exists() ? there.isDir() && there.isWritable()
+                          : QFileInfo(there.path()).isWritable();
+}
+
+QString lineOf(const char* variable, const QString& value)
+{
+    if (value.contains(u'\n') || value.contains(u'\r')) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    return u'$' + QLatin1String(variable) + QStringLiteral("=\"") + value + QStringLiteral("\";\n");
+}
+
+void writePhpFile(const Server& server, const QString& applicationFolder)
+{
+    const QString folder = folderOfServers(applicationFolder);
+    const QString path = folder + u'/' + QString(kServersFile) + QStringLiteral(".php");
+    runtime::during(QStringLiteral("Enregistrement du fichier « %1 »").arg(path), [&] {
+        if (!QDir().mkpath(folder)) {
+            throw RunTimeError(ErrorNumber::PathFileAccess);
+        }
+        try {
+            files::writeWholeFile(path, phpFileOf(server));
+        } catch (const files::ExportError& error) {
+            throw RunTimeError(ErrorNumber::PathFileAccess, QString::fromUtf8(error.what()));
+        }
+        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    });
+}
+
+db::DataSource dataSourceOf(const Source& source, const QString& driver)
+{
+    db::DataSource found{QString(kDataSource), driver, {}};
+    const Server& server = source.server;
+    switch (source.kind) {
+    case SourceKind::Demo:
+    case SourceKind::SqliteFile:
+        found.words = {{QStringLiteral("Database"), source.file}};
+        break;
+    case SourceKind::Access:
+        found.words = {{QStringLiteral("DBQ"), source.file}};
+        break;
+    case SourceKind::Server:
+        found.words = {{QStringLiteral("Server"), server.host.trimmed()},
+                       {QStringLiteral("Port"), server.port.trimmed()},
+                       {QStringLiteral("Database"), server.base.trimmed()},
+                       {QStringLiteral("User"), server.login},
+                       {QStringLiteral("Password"), server.password}};
+        break;
+    }
+    return found;
+}
+
+bool isOn(const shell::Settings& settings, const QString& key)
+{
+    bool on = false;
+    runtime::skipOnError(
+        [&] { on = runtime::toBoolean(settings.get(key, QStringLiteral("False"))); });
+    return on;
+}
+
+QString words(const QString& kind, const QString& what)
+{
+    return what.isEmpty() ? kind : kind + u' ' + what;
+}
+
+} // namespace
+
+Route routeOf(const Source& source, const QStringList& drivers, const QString& applicationFolder)
+{
+    const bool isByFile = source.kind == SourceKind::Server &&
+                          drivers.contains(QStringLiteral("MySQL ODBC 3.51 Driver")) &&
+                          canWriteIn(folderOfServers(applicationFolder));
+    return isByFile ? Route::PhpFile : Route::DataSource;
+}
+
+QString presentSource(const shell::Settings& settings)
+{
+    if (isOn(settings, QStringLiteral("Mysql"))) {
+        return words(QStringLiteral("Serveur MariaDB ou MySQL, fichier app_data/"),
+                     settings.get(QStringLiteral("Base_Sql"), QString(kServersFile)));
+    }
+    const QString name = settings.get(QStringLiteral("Base"), QString(kDataSource)).trimmed();
+    const QString driver = db::wordOf(name, QStringLiteral("Driver"));
+    if (driver.contains(QStringLiteral("SQLite"), Qt::CaseInsensitive)) {
+        return words(QStringLiteral("Fichier SQLite"),
+                     db::wordOf(name, QStringLiteral("Database")));
+    }
+    const QString host = db::wordOf(name, QStringLiteral("Server"));
+    if (!host.isEmpty()) {
+        return words(QStringLiteral("Serveur"), host);
+    }
+    const QString file = db::wordOf(name, QStringLiteral("DBQ"));
+    if (!file.isEmpty()) {
+        return words(QStringLiteral("Base Access"), file);
+    }
+    return driver.isEmpty() ? QString() : QStringLiteral("Source de données « %1 »").arg(name);
+}
+
+void registerSource(const Source& source, Route route, const QString& driver,
+                    const QString& applicationFolder, shell::Settings& settings)
+{
+    if (route == Route::PhpFile) {
+        writePhpFile(source.server, applicationFolder);
+        settings.save(QStringLiteral("Base_Sql"), QString(kServersFile));
+        settings.save(QStringLiteral("Mysql"), QStringLiteral("True"));
+        return;
+    }
+    db::writeDataSource(dataSourceOf(source, driver));
+    settings.save(QStringLiteral("Base"), QString(kDataSource));
+    settings.save(QStringLiteral("Mysql"), QStringLiteral("False"));
+}
+
+void saveRecommendations(const std::vector<Recommendation>& recommendations,
+                         shell::Settings& settings)
+{
+    for (const Recommendation& one : recommendations) {
+        const QString& value = one.isProposed ? one.value : one.refused;
+        if (settings.get(one.key, one.refused) != value) {
+            settings.save(one.key, value);
+        }
+    }
+}
+
+QByteArray phpFileOf(const Server& server)
+{
+    const QString text = QStringLiteral("<?php\n") + lineOf("host", server.host.trimmed()) +
+                         lineOf("login", server.login) + lineOf("mot_de_passe", server.password) +
+                         lineOf("Base", server.base.trimmed()) +
+                         lineOf("port", server.port.trimmed()) + QStringLiteral("?>\n");
+    return text.toUtf8();
+}
+
+} // namespace setup

@@ -1,0 +1,218 @@
+#include "app/setup/SetupWizard.h"
+
+#include "app/Hands.h"
+#include "db/DataSources.h"
+#include "support/OwnDataSources.h"
+#include "support/RuntimeMatchers.h"
+#include "support/TinyFaculty.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QWindow>
+#include <functional>
+#include <memory>
+
+using namespace test;
+using setup::SourceKind;
+
+namespace
+{
+
+/// The wizard in a user's hands. Whatever it writes is the test's own.
+class TheSetup : public testing::Test
+{
+protected:
+    TheSetup()
+    {
+        createTinyFaculty(m_school);
+        m_ties.drivers = QStringList{"SQLite3"};
+        m_ties.applicationFolder = m_machine.path("program");
+        m_ties.demoFile = m_machine.path("demo.sqlite");
+        m_ties.makeDemo = [this](const QString& file) { QFile::copy(m_school.file(), file); };
+        m_ties.openPlan = [this] { ++opened; };
+    }
+
+    /// Shows it, and waits until it has the focus.
+    void show()
+    {
+        wizard = std::make_unique<app::SetupWizard>(settings(), m_ties);
+        wizard->show();
+        ASSERT_TRUE(until([this] { return wizard->isActiveWindow(); }));
+    }
+    [[nodiscard]] shell::Settings settings() const
+    {
+        return shell::Settings::fromFile(m_machine.path("réglages.ini"));
+    }
+    void choose(SourceKind kind) const
+    {
+        const auto* button =
+            wizard->findChild<QRadioButton*>("Kind" + QString::number(static_cast<int>(kind)));
+        ASSERT_NE(button, nullptr);
+        hands.click(button);
+        ASSERT_TRUE(until([button] { return button->isChecked(); }));
+    }
+    void go(QWizard::WizardButton button) const { hands.click(wizard->button(button)); }
+    [[nodiscard]] bool shows(const QString& label, const QString& beginning) const
+    {
+        return until([&] {
+            const auto* found = wizard->currentPage()->findChild<QLabel*>(label);
+            return found != nullptr && found->text().startsWith(beginning);
+        });
+    }
+    void fill(const QString& field, const QString& text) const
+    {
+        auto* line = wizard->currentPage()->findChild<QLineEdit*>(field);
+        ASSERT_NE(line, nullptr);
+        hands.click(line);
+        ASSERT_TRUE(until([line] { return line->hasFocus(); }));
+        hands.replaceText(line, text);
+        ASSERT_TRUE(until([&] { return line->text() == text; }));
+    }
+
+    [[nodiscard]] const TestDatabase& school() const { return m_school; }
+    [[nodiscard]] app::SetupWizard::Ties& ties() { return m_ties; }
+    [[nodiscard]] const OwnDataSources& machine() const { return m_machine; }
+
+    int opened = 0;
+    std::unique_ptr<app::SetupWizard> wizard;
+    Hands hands;
+
+private:
+    TestDatabase m_school{DatabaseKind::Sqlite};
+    OwnDataSources m_machine;
+    app::SetupWizard::Ties m_ties;
+};
+
+} // namespace
+
+TEST_F(TheSetup, opensADemoFacultyInTwoSteps)
+{
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles, 2 périodes, 6 séances"));
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([this] { return opened == 1; }));
+    EXPECT_EQ(db::wordOf("MonKalo", "Database"), machine().path("demo.sqlite"));
+    EXPECT_EQ(settings().get("Base", {}), "MonKalo");
+    EXPECT_EQ(settings().get("Toutes_Salles", {}), "True");
+    EXPECT_EQ(settings().get("Ouvrir_Aujourdhui", {}), "True");
+}
+
+TEST_F(TheSetup, writesNothingBeforeTheLastButton)
+{
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    go(QWizard::CancelButton);
+    ASSERT_TRUE(until([this] { return !wizard->isVisible(); }));
+    EXPECT_EQ(machine().text("odbc.ini"), OwnDataSources::usersText());
+    EXPECT_FALSE(QFile::exists(machine().path("réglages.ini")));
+    EXPECT_EQ(opened, 0);
+}
+
+TEST_F(TheSetup, leavesOutWhatIsNotTicked)
+{
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    const auto* box = wizard->findChild<QCheckBox*>("Toutes_Salles");
+    ASSERT_NE(box, nullptr);
+    hands.click(box);
+    ASSERT_TRUE(until([box] { return !box->isChecked(); }));
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([this] { return opened == 1; }));
+    EXPECT_EQ(settings().get("Toutes_Salles", "none"), "none");
+    EXPECT_EQ(settings().get("Ouvrir_Aujourdhui", {}), "True");
+}
+
+TEST_F(TheSetup, takesAFileAndSaysWhatIsWrongWithAnother)
+{
+    show();
+    choose(SourceKind::SqliteFile);
+    go(QWizard::NextButton);
+    ASSERT_TRUE(until([this] { return wizard->currentPage()->title() == "Votre fichier"; }));
+    const auto* file = wizard->currentPage()->findChild<QLineEdit*>("File");
+    EXPECT_TRUE(until([file] { return file->hasFocus(); })); // one types at once
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Told", "Choisissez le fichier"));
+    fill("File", machine().path("absent.sqlite"));
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Told", "Le fichier « "));
+    fill("File", school().file());
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([this] { return opened == 1; }));
+    EXPECT_EQ(db::wordOf("MonKalo", "Database"), school().file());
+}
+
+TEST_F(TheSetup, refusesAFileThatHoldsNoTimetable)
+{
+    TestDatabase other(DatabaseKind::Sqlite);
+    other.execute("create table recettes (nom varchar(20))");
+    show();
+    choose(SourceKind::SqliteFile);
+    go(QWizard::NextButton);
+    ASSERT_TRUE(until([this] { return wizard->currentPage()->title() == "Votre fichier"; }));
+    fill("File", other.file());
+    go(QWizard::NextButton);
+    ASSERT_TRUE(until([this] {
+        const auto* told = wizard->currentPage()->findChild<QLabel*>("Told");
+        return told != nullptr && told->text().contains("salle");
+    }));
+    EXPECT_EQ(wizard->currentPage()->title(), "Votre fichier");
+}
+
+TEST_F(TheSetup, saysWhatAServerLacks)
+{
+    ties().drivers = QStringList{"MariaDB Unicode"};
+    show();
+    choose(SourceKind::Server);
+    go(QWizard::NextButton);
+    ASSERT_TRUE(until([this] { return wizard->currentPage()->title() == "Votre serveur"; }));
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Told", "Indiquez le nom ou l’adresse"));
+}
+
+TEST_F(TheSetup, saysWhichDriverIsMissing)
+{
+    ties().drivers = QStringList{};
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Told", "Le pilote ODBC de SQLite n’est pas installé"));
+}
+
+TEST_F(TheSetup, saysWhyTheDemoCouldNotBeMade)
+{
+    ties().makeDemo = [](const QString&) {
+        throw runtime::RunTimeError(runtime::ErrorNumber::PathFileAccess);
+    };
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Told", runtime::explanationOf(runtime::ErrorNumber::PathFileAccess)));
+    EXPECT_TRUE(wizard->isEnabled());
+}
+
+TEST_F(TheSetup, showsWhatIsSet)
+{
+    db::writeDataSource({"MonKalo", "SQLite3", {{"Database", "/srv/école.sqlite"}}});
+    show();
+    EXPECT_TRUE(shows("Present", "Actuellement : Fichier SQLite /srv/école.sqlite"));
+}
+
+TEST_F(TheSetup, staysWhereNothingCanBeWritten)
+{
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    qputenv("ODBCINI", "/proc/nowhere/odbc.ini");
+    const DialogAnswer answer([](QDialog& dialog) { dialog.reject(); });
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([&] { return answer.count() == 1; }));
+    EXPECT_TRUE(wizard->isVisible());
+    EXPECT_EQ(opened, 0);
+}
