@@ -30,9 +30,12 @@ FreeRoomsWindow::Prefill shownNow(const form::PlanForm& form)
     return prefill;
 }
 
-/// When a slot of the shown day is; nothing where it has no time.
+/// When a slot of the shown day is; nothing where it has no time, and for the room as a whole.
 std::optional<timetable::TimeSpan> spanOf(const context::DaySlots& slots, int slot)
 {
+    if (slot == 0) {
+        return std::nullopt;
+    }
     const auto& facts = slots.slot(slot);
     const auto start = facts ? timetable::readTime(facts->start) : std::nullopt;
     return start ? std::optional(timetable::TimeSpan{*start, {facts->minutes}}) : std::nullopt;

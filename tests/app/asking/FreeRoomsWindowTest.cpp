@@ -174,3 +174,21 @@ TEST_F(TheFreeRooms, mayBeAskedForFromAPlaceOfThePlan)
     EXPECT_EQ(control<QComboBox>("AskedFrom")->currentText(), "10h15");
     EXPECT_EQ(control<QComboBox>("AskedTo")->currentText(), "11h45");
 }
+
+TEST_F(TheFreeRooms, mayBeAskedForFromARoomsNameWithoutAnHour)
+{
+    open();
+    const auto room = view()->table().cellOf("B1", 0);
+    ASSERT_TRUE(room);
+    hands.rightClick(view()->onScreen(*room).center());
+    const QMenu* menu = nullptr;
+    ASSERT_TRUE(until([&] {
+        menu = window().findChild<QMenu*>("PlanMenu");
+        return menu != nullptr && menu->isVisible();
+    }));
+    EXPECT_EQ(menu->actions().front()->text(), "Salle &libre…");
+    EXPECT_EQ(menu->actions().at(1)->text(), "Semaine de la salle B1");
+    hands.press({"Escape"});
+    EXPECT_TRUE(until([this] { return window().findChild<QMenu*>("PlanMenu") == nullptr; }));
+    EXPECT_FALSE(window().failed());
+}
