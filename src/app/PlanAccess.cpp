@@ -90,7 +90,11 @@ public:
         return shown != nullptr ? std::optional<PlanTable>(shown->table()) : std::nullopt;
     }
     void tellChanges(const SendAccessEvent& send);
+    void tellCursor(const SendAccessEvent& send);
 
+    /// The cell that the keyboard is on.
+    [[nodiscard]] QAccessibleInterface* cursorCell() const;
+    QAccessibleInterface* focusChild() const override;
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
@@ -133,6 +137,7 @@ public:
     void modelChange(QAccessibleTableModelChangeEvent* /*event*/) override {} // comes from here
 
 private:
+    [[nodiscard]] bool isFocused() const { return view() != nullptr && view()->hasFocus(); }
     [[nodiscard]] QAccessibleInterface* accessOf(const std::optional<PlanTable::Cell>& cell) const;
     void forgetCells();
 
@@ -176,7 +181,12 @@ QAccessible::State PlanCellAccess::state() const
         state.invalid = true;
         return state;
     }
+    const auto cursor = m_table.view()->cursor();
+    const bool isCursor = cursor && cursor->row == found->row && cursor->column == found->column;
     state.readOnly = true;
+    state.focusable = true;
+    state.active = isCursor;
+    state.focused = isCursor && m_table.view()->hasFocus();
     state.invisible = !m_table.view()->isVisible();
     state.offscreen = !m_table.view()->isInSight(*found);
     return state;
@@ -309,6 +319,35 @@ void PlanTableAccess::tellChanges(const SendAccessEvent& send)
         QAccessibleTableModelChangeEvent event(object(),
                                                QAccessibleTableModelChangeEvent::ModelReset);
         send(event);
+        if (cursorCell() != nullptr) {
+            tellCursor(send); // which is to be read out anew
+        }
+    }
+}
+
+QAccessibleInterface* PlanTableAccess::cursorCell() const
+{
+    const PlanView* shown = view();
+    return shown != nullptr ? accessOf(shown->cursor()) : nullptr;
+}
+
+QAccessibleInterface* PlanTableAccess::focusChild() const
+{
+    QAccessibleInterface* cell = isFocused() ? cursorCell() : nullptr;
+    return cell != nullptr ? cell : QAccessibleWidget::focusChild();
+}
+
+void PlanTableAccess::tellCursor(const SendAccessEvent& send)
+{
+    if (!isFocused()) {
+        return;
+    }
+    if (QAccessibleInterface* cell = cursorCell()) {
+        QAccessibleEvent event(cell, QAccessible::Focus);
+        send(event);
+    } else {
+        QAccessibleEvent event(object(), QAccessible::Focus);
+        send(event);
     }
 }
 
@@ -331,6 +370,21 @@ void tellChanges(PlanView& view, const SendAccessEvent& send)
     auto* access = dynamic_cast<PlanTableAccess*>(QAccessible::queryAccessibleInterface(&view));
     if (access != nullptr) {
         access->tellChanges(send);
+    }
+}
+
+void tellCursor(PlanView& view, const SendAccessEvent& send)
+{
+    auto* access = dynamic_cast<PlanTableAccess*>(QAccessible::queryAccessibleInterface(&view));
+    if (access != nullptr) {
+        access->tellCursor(send);
+    }
+}
+
+void tellScreenReadersOfCursor(PlanView& view)
+{
+    if (QAccessible::isActive()) {
+        tellCursor(view, [](QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); });
     }
 }
 

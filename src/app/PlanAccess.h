@@ -22,4 +22,11 @@ void tellChanges(PlanView& view, const SendAccessEvent& send);
 /// The same to the screen readers of the system, while there are any.
 void tellScreenReaders(PlanView& view);
 
+/// Tells which cell the keyboard is on, or that it is on none: the focus is the cell's, else the
+/// plan's as a whole. Nothing while the keys go to another widget.
+void tellCursor(PlanView& view, const SendAccessEvent& send);
+
+/// The same to the screen readers of the system, while there are any.
+void tellScreenReadersOfCursor(PlanView& view);
+
 } // namespace app

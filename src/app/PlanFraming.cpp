@@ -1,11 +1,16 @@
-// What of the plan is brought into view: the frame around what somebody looks for, the top of a
-// page.
+// What of the plan is brought into view: the frame around what somebody looks for, the cell that
+// the keyboard is on, the top of a page.
 
+#include "app/PlanAccess.h"
+#include "app/PlanKeys.h"
 #include "app/PlanView.h"
 #include "plan/RoomRows.h"
 
+#include <QApplication>
+#include <QFocusEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace app
 {
@@ -16,6 +21,9 @@ namespace
 constexpr QColor kFrameLine(178, 34, 34);
 constexpr QColor kFrameHalo(255, 255, 255);
 constexpr int kFrameWidth = 3;
+// The cell of the keyboard, told from the frame by its colour; thin while the keys go elsewhere.
+constexpr QColor kCursorLine(16, 42, 110);
+constexpr int kRestingWidth = 1;
 
 } // namespace
 
@@ -52,9 +60,6 @@ QRectF PlanView::framed() const
         return {};
     }
     const form::PlanForm& form = m_engine.form();
-    const auto rowAcross = [&](const form::Place& room) {
-        return m_target.toPixels(QRectF(room.left, room.top, axisEnd() - room.left, room.height));
-    };
     const PlanTable words = table();
     const auto cell = words.cellOf(m_frame->room, m_frame->slot);
     if (!cell) {
@@ -89,24 +94,140 @@ void PlanView::bringIntoView(const QRectF& place)
     }
 }
 
+QRectF PlanView::rowAcross(const form::Place& room) const
+{
+    return m_target.toPixels(QRectF(room.left, room.top, axisEnd() - room.left, room.height));
+}
+
+std::optional<PlanTable::Cell> PlanView::framedCell() const
+{
+    const bool isOfThisPlan = m_frame && m_frame->refresh == m_engine.refreshCount();
+    return isOfThisPlan ? table().cellOf(m_frame->room, m_frame->slot) : std::nullopt;
+}
+
+QString PlanView::roomInFocus() const
+{
+    if (m_frame) {
+        return m_frame->room;
+    }
+    const auto cell = cursor();
+    return cell ? table().rowOf(*cell).room : QString();
+}
+
 void PlanView::paintFrame(QPainter& painter, const Bands& view) const
 {
-    const QRectF place = framed();
+    paintRing(painter, view, framed(), kFrameLine, kFrameWidth);
+}
+
+void PlanView::paintRing(QPainter& painter, const Bands& view, const QRectF& place, QColor line,
+                         int width) const
+{
     if (place.isEmpty()) {
         return;
     }
-    const bool isRow = place.left() < view.boxes.left();
-    const QPointF corner(isRow ? place.left() : place.left() - horizontalScrollBar()->value(),
+    const bool beginsWithName = place.left() < view.boxes.left();
+    const QPointF corner(beginsWithName ? place.left()
+                                        : place.left() - horizontalScrollBar()->value(),
                          place.top() - verticalScrollBar()->value());
     painter.save();
-    painter.setClipRect(isRow ? view.boxes.united(view.names) : view.boxes);
+    painter.setClipRect(beginsWithName ? view.boxes.united(view.names) : view.boxes);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF line = QRectF(corner, place.size()).adjusted(1, 1, -1, -1);
-    painter.setPen(QPen(kFrameHalo, kFrameWidth + 3));
-    painter.drawRoundedRect(line, 3, 3);
-    painter.setPen(QPen(kFrameLine, kFrameWidth));
-    painter.drawRoundedRect(line, 3, 3);
+    const QRectF ring = QRectF(corner, place.size()).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(kFrameHalo, width + 3));
+    painter.drawRoundedRect(ring, 3, 3);
+    painter.setPen(QPen(line, width));
+    painter.drawRoundedRect(ring, 3, 3);
     painter.restore();
+}
+
+std::optional<PlanTable::Cell> PlanView::cursor() const
+{
+    return m_keys->cursor().cell(table());
+}
+
+void PlanView::paintCursor(QPainter& painter, const Bands& view) const
+{
+    // A menu of the cell leaves the focus where it is.
+    const bool isInUse = hasFocus() || QApplication::activePopupWidget() != nullptr;
+    if (const auto cell = cursor()) {
+        const PlanTable words = table();
+        const QRectF place = words.placeOf(*cell);
+        const auto row = static_cast<std::size_t>(words.rowOf(*cell).index);
+        // A slot that the day lacks has no place of its own.
+        paintRing(painter, view,
+                  place.isEmpty() ? rowAcross(m_engine.form().Salle.at(row).place) : place,
+                  kCursorLine, isInUse ? kFrameWidth : kRestingWidth);
+    } else if (isInUse && m_focusIsShown) {
+        painter.save();
+        painter.setPen(QPen(kCursorLine, 2));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+        painter.restore();
+    }
+}
+
+void PlanView::showCursor()
+{
+    if (const auto cell = cursor()) {
+        bringIntoView(table().placeOf(*cell));
+    }
+    viewport()->update();
+    tellScreenReadersOfCursor(*this);
+}
+
+std::optional<PlanTable::Cell> PlanView::firstInSight() const
+{
+    const PlanTable words = table();
+    const QRect boxes = bands().boxes;
+    std::optional<PlanTable::Cell> first;
+    for (int row = 0; row < words.rowCount() && !first; ++row) {
+        for (const PlanTable::Cell& cell : words.cellsOf(row)) {
+            const QRect place = inViewport(cell);
+            if (cell.column > 0 && place.top() >= boxes.top() && place.left() >= boxes.left() - 1) {
+                first = cell;
+                break;
+            }
+        }
+    }
+    return first ? first : words.cellAt(0, 0);
+}
+
+int PlanView::rowsInSight() const
+{
+    const double row = m_target.toPixelsY(m_lastRowHeight + plan::kRowGap);
+    return std::max(static_cast<int>(bands().boxes.height() / row), 1);
+}
+
+void PlanView::openMenu(const PlanTable::Cell& cell)
+{
+    if (!m_asking.showMenu || m_shownRefresh != m_engine.refreshCount()) {
+        return;
+    }
+    const PlanTable words = table();
+    const QRect place = inViewport(cell).intersected(viewport()->rect());
+    m_asking.showMenu({words.rowOf(cell).room, words.slotOf(cell), words.boxOf(cell)},
+                      viewport()->mapToGlobal(place.bottomLeft() + QPoint(8, 0)));
+}
+
+void PlanView::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+        reason == Qt::ShortcutFocusReason) {
+        m_focusIsShown = true;
+    } else if (reason == Qt::MouseFocusReason) {
+        m_focusIsShown = false;
+    }
+    if (cursor()) {
+        tellScreenReadersOfCursor(*this);
+    }
+    viewport()->update();
+}
+
+void PlanView::focusOutEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
 }
 
 } // namespace app

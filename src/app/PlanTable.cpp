@@ -94,12 +94,21 @@ std::optional<PlanTable::Cell> PlanTable::cellOf(const QString& room, int slot) 
 {
     for (int row = 0; row < rowCount(); ++row) {
         if (rowOf({row, 0, 1}).room == room) {
-            const auto found = std::find(m_slots.begin(), m_slots.end(), slot);
-            return cellAt(
-                row, found == m_slots.end() ? 0 : static_cast<int>(found - m_slots.begin()) + 1);
+            const auto found = cellIn(row, slot);
+            return found ? found : cellAt(row, 0);
         }
     }
     return std::nullopt;
+}
+
+std::optional<PlanTable::Cell> PlanTable::cellIn(int row, int slot) const
+{
+    if (slot == 0) {
+        return cellAt(row, 0);
+    }
+    const auto found = std::find(m_slots.begin(), m_slots.end(), slot);
+    return found == m_slots.end() ? std::nullopt
+                                  : cellAt(row, static_cast<int>(found - m_slots.begin()) + 1);
 }
 
 std::optional<PlanTable::Cell> PlanTable::roomAtHeight(double y) const

@@ -45,6 +45,9 @@ public:
     /// The cell that shows this slot of a room, or the room itself for slot 0 and for one that the
     /// table does not have; nothing where the room has no row.
     [[nodiscard]] std::optional<Cell> cellOf(const QString& room, int slot) const;
+    /// The cell that shows this slot in a row, or its room for slot 0; nothing where the table has
+    /// no such row or slot.
+    [[nodiscard]] std::optional<Cell> cellIn(int row, int slot) const;
     [[nodiscard]] const plan::PlanRow& rowOf(const Cell& cell) const;
     /// The slot's number, counting from 1; 0 in the rooms' column.
     [[nodiscard]] int slotOf(const Cell& cell) const;

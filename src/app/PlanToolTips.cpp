@@ -19,6 +19,13 @@ QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const p
     return lines.join(u'\n');
 }
 
+QString groupText(const plan::GroupCounter& group)
+{
+    QString classes = group.details;
+    classes.remove(u'\r');
+    return classes.replace(u'\t', QStringLiteral(" – "));
+}
+
 QString roomToolTip(const plan::PlanState& state, double top)
 {
     const std::optional<int> row = plan::rowAtHeight(state.form, top);

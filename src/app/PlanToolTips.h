@@ -15,6 +15,9 @@ namespace app
 [[nodiscard]] QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row,
                                  const plan::PlanBox& box);
 
+/// The classes behind a group counter, each on a line of its own.
+[[nodiscard]] QString groupText(const plan::GroupCounter& group);
+
 /// Of the room at this height, in twips; empty where no row is shown.
 [[nodiscard]] QString roomToolTip(const plan::PlanState& state, double top);
 

@@ -4,6 +4,7 @@
 #include "app/PlainTexts.h"
 #include "app/PlanAccess.h"
 #include "app/PlanHit.h"
+#include "app/PlanKeys.h"
 #include "app/PlanToolTips.h"
 #include "app/ViewScale.h"
 #include "context/AxisLabels.h"
@@ -36,7 +37,7 @@ constexpr QColor kVeil(245, 246, 249, 150);
 
 PlanView::PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick)
     : m_shell(shell), m_engine(shell.engine()), m_forward(std::move(forward)),
-      m_markerClick(std::move(markerClick))
+      m_markerClick(std::move(markerClick)), m_keys(std::make_unique<PlanKeys>(*this))
 {
     setObjectName(QStringLiteral("PlanView"));
     setFrameShape(QFrame::NoFrame);
@@ -44,6 +45,8 @@ PlanView::PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick
     setMinimumHeight(160);
     offerPlanToScreenReaders();
 }
+
+PlanView::~PlanView() = default;
 
 paint::PlanScene PlanView::scene() const
 {
@@ -148,6 +151,7 @@ void PlanView::showAll()
     m_rowsAreNew = false;
     noteShown();
     drawAll();
+    m_keys->settle();
     tellScreenReaders(*this);
 }
 
@@ -234,6 +238,7 @@ void PlanView::paintEvent(QPaintEvent* event)
         painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
     }
     paintFrame(painter, view);
+    paintCursor(painter, view);
     if (m_isOutOfDate) {
         painter.fillRect(viewport()->rect(), kVeil);
     }
@@ -293,6 +298,10 @@ std::optional<PlanView::Spot> PlanView::spotAt(QPoint point) const
 
 void PlanView::contextMenuEvent(QContextMenuEvent* event)
 {
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        m_keys->openMenu();
+        return;
+    }
     const auto spot = spotAt(event->pos());
     if (spot && m_asking.showMenu && m_shownRefresh == m_engine.refreshCount()) {
         m_asking.showMenu(*spot, event->globalPos());
@@ -301,19 +310,9 @@ void PlanView::contextMenuEvent(QContextMenuEvent* event)
 
 void PlanView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && m_frame) {
-        unframe();
-        return;
+    if (!m_keys->press(*event)) {
+        QAbstractScrollArea::keyPressEvent(event);
     }
-    if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Home) {
-        goToPage(&engine::Engine::showFirstPage);
-        return;
-    }
-    if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_End) {
-        goToPage(&engine::Engine::showLastPage);
-        return;
-    }
-    QAbstractScrollArea::keyPressEvent(event);
 }
 
 void PlanView::goToPage(void (engine::Engine::*page)())
@@ -321,9 +320,15 @@ void PlanView::goToPage(void (engine::Engine::*page)())
     m_forward([this, page] { (m_engine.*page)(); });
 }
 
+bool PlanView::takesClicks() const
+{
+    return m_shownRefresh == m_engine.refreshCount() && !m_clicksAreOld;
+}
+
 void PlanView::mousePressEvent(QMouseEvent* event)
 {
     unframe();
+    m_keys->leaveTo(cellUnder(event->globalPosition().toPoint()));
     const bool isOfThisPlan = m_shownRefresh == m_engine.refreshCount();
     const QString greyed = greyedRoomAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && isOfThisPlan && !greyed.isEmpty() &&
@@ -384,8 +389,26 @@ QString PlanView::toolTipAt(QPoint point) const
     case PlanHit::Part::Box:
         break;
     }
-    return boxToolTip(form, *hit.row, *hit.box) + QStringLiteral("\n\n") +
-           absences::ZAbsToolTip(*hit.box, day());
+    return boxText(*hit.row, *hit.box);
+}
+
+QString PlanView::boxText(const plan::PlanRow& row, const plan::PlanBox& box) const
+{
+    return boxToolTip(m_engine.form(), row, box) + QStringLiteral("\n\n") +
+           absences::ZAbsToolTip(box, m_engine.markers().at(box.marker).Jour);
+}
+
+QString PlanView::fullText(const PlanTable::Cell& cell) const
+{
+    const PlanTable words = table();
+    const plan::PlanBox* box = words.boxOf(cell);
+    if (box == nullptr) {
+        return words.nameOf(cell);
+    }
+    const QString text = boxText(words.rowOf(cell), *box);
+    return box->group && m_engine.form().Check3.isChecked()
+               ? text + QStringLiteral("\n\n") + groupText(*box->group)
+               : text;
 }
 
 QRect PlanView::inViewport(const PlanTable::Cell& cell) const

@@ -8,6 +8,7 @@
 #include <QAbstractScrollArea>
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace shell
@@ -17,6 +18,8 @@ class Shell;
 
 namespace app
 {
+
+class PlanKeys;
 
 /// Shows the plan from the values of the last refresh. The time axis, the room names, the places
 /// and the totals stay in view while the boxes scroll.
@@ -29,6 +32,7 @@ public:
     using MarkerClick = std::function<void(int marker)>;
 
     PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick);
+    ~PlanView() override;
 
     /// A place of the plan that somebody asks about.
     struct Spot {
@@ -53,6 +57,27 @@ public:
 
     /// Its room; empty without one.
     [[nodiscard]] QString framedRoom() const { return m_frame ? m_frame->room : QString(); }
+    void unframe();
+    /// The cell that the frame is about; nothing without one, and where the room has no row.
+    [[nodiscard]] std::optional<PlanTable::Cell> framedCell() const;
+    /// The room that somebody looks at: of the frame, else of the cursor; empty without either.
+    [[nodiscard]] QString roomInFocus() const;
+
+    /// The cell that the keyboard is on (see PlanKeys.h).
+    [[nodiscard]] std::optional<PlanTable::Cell> cursor() const;
+    /// The cursor has moved, come or gone: shows it, and tells screen readers.
+    void showCursor();
+    /// The cell at the top left of what is scrolled into view, names aside; nothing without rows.
+    [[nodiscard]] std::optional<PlanTable::Cell> firstInSight() const;
+    /// How many whole rows there is room for, 1 upward.
+    [[nodiscard]] int rowsInSight() const;
+    /// Opens the menu of a cell, beside it.
+    void openMenu(const PlanTable::Cell& cell);
+    /// Goes to another page, as the user's action.
+    void goToPage(void (engine::Engine::*page)());
+    /// Whether the boxes stand for what is to be clicked: no refresh is on its way or has just
+    /// changed them.
+    [[nodiscard]] bool takesClicks() const;
 
     /// Fits the plan to the view anew: the rows, their number or the time axis have changed.
     void fit();
@@ -76,6 +101,8 @@ public:
     [[nodiscard]] QPointF toViewport(QPointF planPoint) const;
     /// The tooltip at a point of the viewport; empty where there is none.
     [[nodiscard]] QString toolTipAt(QPoint point) const;
+    /// All that is to be read of a cell: a box's tooltip and the classes behind its counter.
+    [[nodiscard]] QString fullText(const PlanTable::Cell& cell) const;
 
     /// The plan in words, to be asked at once and not kept.
     [[nodiscard]] PlanTable table() const
@@ -96,6 +123,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool viewportEvent(QEvent* event) override;
 
@@ -126,15 +155,19 @@ private:
 
     [[nodiscard]] int rowsWanted() const;
     void openAtTop();
-    void goToPage(void (engine::Engine::*page)());
-    void unframe();
     void bringIntoView(const QRectF& place);
     void paintFrame(QPainter& painter, const Bands& view) const;
+    void paintCursor(QPainter& painter, const Bands& view) const;
+    void paintRing(QPainter& painter, const Bands& view, const QRectF& place, QColor line,
+                   int width) const;
+    /// The whole row of a room's label, in device pixels, unscrolled.
+    [[nodiscard]] QRectF rowAcross(const form::Place& room) const;
     /// The greyed room, where its name or places lie there; empty elsewhere.
     [[nodiscard]] QString greyedRoomAt(QPoint point) const;
     /// The room whose name or places lie there, the greyed one included; empty elsewhere.
     [[nodiscard]] QString roomAt(QPoint point) const;
     [[nodiscard]] std::optional<Spot> spotAt(QPoint point) const;
+    [[nodiscard]] QString boxText(const plan::PlanRow& row, const plan::PlanBox& box) const;
     /// End of the time axis in twips.
     [[nodiscard]] int axisEnd() const;
     [[nodiscard]] Bands bands() const;
@@ -162,6 +195,8 @@ private:
     int m_totalsHeight = 0;
     Asking m_asking;
     std::optional<Frame> m_frame;
+    std::unique_ptr<PlanKeys> m_keys;
+    bool m_focusIsShown = false; ///< the keyboard has led here
     bool m_isOutOfDate = false;
     std::uint64_t m_shownRefresh = 0; ///< of which refresh the picture is
     std::size_t m_shownRows = 0;      ///< how many of its rows are in the picture

@@ -6,6 +6,8 @@
 #include "support/PressedKey.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <gtest/gtest.h>
 #include <memory>
@@ -56,6 +58,31 @@ protected:
             events.append(event.type());
         });
         return events;
+    }
+    void takeFocus() const
+    {
+        view->activateWindow();
+        view->setFocus();
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(view->hasFocus());
+    }
+    void press(int key) const
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(view.get(), &event);
+    }
+    /// The cell that the focus is told of; empty when it is the plan's as a whole.
+    [[nodiscard]] QString focusTold() const
+    {
+        QStringList told;
+        app::tellCursor(*view, [&](QAccessibleEvent& event) {
+            EXPECT_EQ(event.type(), QAccessible::Focus);
+            told << (event.object() == view.get()
+                         ? QString()
+                         : event.accessibleInterface()->text(QAccessible::Name));
+        });
+        EXPECT_EQ(told.size(), 1);
+        return told.value(0);
     }
     [[nodiscard]] QString toolTipIn(const QRect& screenPlace) const
     {
@@ -323,6 +350,60 @@ TEST_F(ThePlanAsATable, isEmptyWithoutRooms)
     EXPECT_EQ(table().rowCount(), 0);
     EXPECT_EQ(access()->childCount(), 0);
     EXPECT_EQ(title(), "Plan des salles, Lundi, Printemps, Zone 9");
+}
+
+TEST_F(ThePlanAsATable, givesTheFocusToTheCellThatTheKeyboardIsOn)
+{
+    open();
+    takeFocus();
+    EXPECT_EQ(focusTold(), ""); // on no cell: the plan as a whole
+    press(Qt::Key_Down);
+    EXPECT_EQ(focusTold(), "A2, 8h30 à 10h00, G1, Dupont/Durand, Algèbre, Classe absente");
+    EXPECT_EQ(access()->focusChild(), cell(0, 1));
+    EXPECT_TRUE(cell(0, 1)->state().focused);
+    EXPECT_TRUE(cell(0, 1)->state().active);
+    press(Qt::Key_Down);
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    EXPECT_EQ(focusTold(), "B1, 14h00 à 17h00, G2, Martin, Analyse, 2 groupes : G2, G3, "
+                           "2 étudiants");
+    EXPECT_EQ(access()->focusChild(), cell(1, 3));
+    EXPECT_FALSE(cell(0, 1)->state().focused);
+    EXPECT_TRUE(cell(0, 1)->state().focusable);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focusTold(), "");
+    EXPECT_FALSE(cell(1, 3)->state().focused);
+    EXPECT_FALSE(cell(1, 3)->state().active);
+}
+
+TEST_F(ThePlanAsATable, tellsTheCellOfTheKeyboardAnewWhenAnAbsenceIsMarkedThere)
+{
+    open();
+    takeFocus();
+    static_cast<void>(toldEvents());
+    press(Qt::Key_Down);
+    PressedKey keys(absences::VirtualKey::Shift);
+    desk.shell().engine().clickMarker(1, keys);
+    QStringList told;
+    app::tellChanges(*view, [&](QAccessibleEvent& event) {
+        if (event.type() == QAccessible::Focus) {
+            told << event.accessibleInterface()->text(QAccessible::Name);
+        }
+    });
+    EXPECT_EQ(told, QStringList{"A2, 8h30 à 10h00, G1, Dupont/Durand, Algèbre"});
+}
+
+TEST_F(ThePlanAsATable, saysNothingOfItsCursorWhileTheKeysGoElsewhere)
+{
+    open();
+    takeFocus();
+    press(Qt::Key_Down);
+    view->clearFocus();
+    int events = 0;
+    app::tellCursor(*view, [&](QAccessibleEvent&) { ++events; });
+    EXPECT_EQ(events, 0);
+    EXPECT_FALSE(cell(0, 1)->state().focused);
+    EXPECT_TRUE(cell(0, 1)->state().active);
 }
 
 TEST_F(ThePlanAsATable, goesWithItsView)

@@ -114,7 +114,7 @@ WeekWindow& Questions::weeks()
 
 void Questions::askWeek()
 {
-    weeks().presentRoom(m_view->framedRoom());
+    weeks().presentRoom(m_view->roomInFocus());
 }
 
 void Questions::askOverview()
