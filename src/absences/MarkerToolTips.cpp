@@ -3,6 +3,8 @@
 #include "plan/ClassList.h"
 #include "runtime/FrenchDate.h"
 
+#include <limits>
+
 namespace absences
 {
 namespace
@@ -10,8 +12,14 @@ namespace
 
 /// "enregistrer l’absence de la classe L1", "enregistrer ou retirer l’absence de chacune des
 /// classes L1, L2".
-QString outcome(const QStringList& classes, bool absent, const QString& absence)
+QString outcome(const QStringList& classes, bool absent, const QString& absence,
+                qsizetype mostNamed)
 {
+    if (classes.size() > mostNamed) {
+        return QStringLiteral("enregistrer ou retirer %1 de chacune des %2 classes")
+            .arg(absence)
+            .arg(classes.size());
+    }
     if (classes.size() > 1) {
         return QStringLiteral("enregistrer ou retirer ") + absence +
                QStringLiteral(" de chacune des classes ") + classes.join(QStringLiteral(", "));
@@ -22,15 +30,23 @@ QString outcome(const QStringList& classes, bool absent, const QString& absence)
 
 } // namespace
 
-QString ZAbsToolTip(const plan::PlanBox& box, QDate day)
+QString gestureWords(VirtualKey key, const plan::PlanBox& box, QDate day, qsizetype mostNamed)
 {
-    const QString date = QStringLiteral(" le ") + runtime::frenchDayAndDate(day);
     QStringList classes = plan::classNames(box.cell.CellClassList);
     classes.removeAll(QString());
-    return QStringLiteral("Maj + clic : ") +
-           outcome(classes, box.classAbsent, QStringLiteral("l’absence")) + date +
-           QStringLiteral("\nCtrl + clic : ") +
-           outcome(classes, box.studentAbsent, QStringLiteral("l’absence d’étudiants")) + date;
+    const bool isOfClass = key == VirtualKey::Shift;
+    return outcome(classes, isOfClass ? box.classAbsent : box.studentAbsent,
+                   isOfClass ? QStringLiteral("l’absence")
+                             : QStringLiteral("l’absence d’étudiants"),
+                   mostNamed) +
+           QStringLiteral(" le ") + runtime::frenchDayAndDate(day);
+}
+
+QString ZAbsToolTip(const plan::PlanBox& box, QDate day)
+{
+    constexpr qsizetype all = std::numeric_limits<qsizetype>::max();
+    return QStringLiteral("Maj + clic : ") + gestureWords(VirtualKey::Shift, box, day, all) +
+           QStringLiteral("\nCtrl + clic : ") + gestureWords(VirtualKey::Ctrl, box, day, all);
 }
 
 QString XAbsToolTip(const plan::PlanBox& box, QDate day)

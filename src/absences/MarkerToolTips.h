@@ -1,5 +1,6 @@
 #pragma once
 
+#include "absences/AsyncKeyState.h"
 #include "plan/PlanContent.h"
 
 #include <QDate>
@@ -16,5 +17,10 @@ namespace absences
 /// to which date, which need not be the shown day's. With several classes each is toggled by
 /// itself, so only the key is told and not the outcome.
 [[nodiscard]] QString ZAbsToolTip(const plan::PlanBox& box, QDate day);
+
+/// What one gesture does, "enregistrer l’absence de la classe L1 le lundi 17/03/2025". More classes
+/// than `mostNamed` are counted and not named.
+[[nodiscard]] QString gestureWords(VirtualKey key, const plan::PlanBox& box, QDate day,
+                                   qsizetype mostNamed);
 
 } // namespace absences

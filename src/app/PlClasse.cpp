@@ -1,5 +1,7 @@
 #include "app/PlClasse.h"
 
+#include "absences/HeldKey.h"
+#include "app/AbsenceMenu.h"
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
 #include "app/FaultBar.h"
@@ -140,8 +142,13 @@ void PlClasse::buildContent()
     column->addWidget(faults);
     m_view = new PlanView(
         m_shell, [this](const std::function<void()>& action) { forward(action); },
-        [this](int marker) { clickMarker(marker); });
-    m_questions->tieTo(m_view);
+        [this](int marker) { clickMarker(marker, m_keys); });
+    m_absences = std::make_unique<AbsenceMenu>(
+        m_shell.engine(), *m_view, [this](int marker, absences::VirtualKey key) {
+            clickMarker(marker, std::make_shared<absences::HeldKey>(key));
+        });
+    m_questions->tieTo(
+        m_view, [this](QMenu& menu, const PlanView::Spot& spot) { m_absences->addTo(menu, spot); });
     column->addWidget(m_view, 1);
     setCentralWidget(content);
 }
@@ -390,9 +397,9 @@ void PlClasse::processEvents()
                                                  : QEventLoop::AllEvents);
 }
 
-void PlClasse::clickMarker(int marker)
+void PlClasse::clickMarker(int marker, const std::shared_ptr<absences::AsyncKeyState>& keys)
 {
-    forward([this, marker] { m_shell.engine().clickMarker(marker, *m_keys); });
+    forward([this, marker, keys] { m_shell.engine().clickMarker(marker, *keys); });
 }
 
 /// Only where something is missing: a refresh that counts begins its totals anew.

@@ -17,6 +17,7 @@
 namespace app
 {
 
+class AbsenceMenu;
 class HelpWindow;
 class OptionPanels;
 class PlanView;
@@ -89,7 +90,7 @@ private:
     [[nodiscard]] bool hasEnded() const { return m_failed || m_closed; }
     void place();
     void keepPlacement();
-    void clickMarker(int marker);
+    void clickMarker(int marker, const std::shared_ptr<absences::AsyncKeyState>& keys);
     void readAgain();
     void showHelp();
 
@@ -101,11 +102,12 @@ private:
     const Waiting::Sign m_windowSign = windowSign();
     std::vector<std::function<void()>> m_putOff; ///< what came while an action waited
     shell::Shell m_shell;
-    std::unique_ptr<absences::AsyncKeyState> m_keys;
+    std::shared_ptr<absences::AsyncKeyState> m_keys;
     Printing m_printing;
     FormMirror m_mirror;
     OptionPanels* m_options = nullptr;
     PlanView* m_view = nullptr;
+    std::unique_ptr<AbsenceMenu> m_absences;
     Questions* m_questions = nullptr;
     HelpWindow* m_help = nullptr; ///< null until it is asked for
     int m_focusRequests = 0;

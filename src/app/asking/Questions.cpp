@@ -75,9 +75,10 @@ QAction* Questions::add(const QString& text, const QString& name, const QKeySequ
     return action;
 }
 
-void Questions::tieTo(PlanView* view)
+void Questions::tieTo(PlanView* view, MenuEnd menuEnd)
 {
     m_view = view;
+    m_menuEnd = std::move(menuEnd);
     view->setAsking({[this](const QString& room) { openWeekOfRoom(room); },
                      [this](const QString& room) { weeks().presentRoomDay(room); },
                      [this](const PlanView::Spot& spot, QPoint point) { showMenu(spot, point); }});
@@ -174,6 +175,7 @@ void Questions::showMenu(const PlanView::Spot& spot, QPoint screenPoint)
     connect(menu->addAction(QStringLiteral("Salle &libre%1…").arg(when)), &QAction::triggered, this,
             [this, spot] { askFreeRoomAt(spot); });
     addWeeksOf(*menu, spot);
+    m_menuEnd(*menu, spot);
     menu->popup(screenPoint);
 }
 

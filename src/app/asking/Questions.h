@@ -30,8 +30,10 @@ public:
 
     /// All questions, each with its key.
     [[nodiscard]] QMenu* menu() { return m_menu; }
+    /// What else the menu of a place of the plan holds.
+    using MenuEnd = std::function<void(QMenu& menu, const PlanView::Spot& spot)>;
     /// Ties the questions to the plan: what is looked for is framed there, and asked about there.
-    void tieTo(PlanView* view);
+    void tieTo(PlanView* view, MenuEnd menuEnd);
 
 private:
     QAction* add(const QString& text, const QString& name, const QKeySequence& key,
@@ -60,6 +62,7 @@ private:
     AnswerDesk m_desk;
     QMenu* m_menu;
     PlanView* m_view = nullptr;
+    MenuEnd m_menuEnd;
     // Null until they are asked for.
     FreeRoomsWindow* m_freeRooms = nullptr;
     FindWindow* m_find = nullptr;
