@@ -4,7 +4,10 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <algorithm>
 #include <utility>
 
@@ -67,12 +70,16 @@ bool DateField::eventFilter(QObject* watched, QEvent* event)
 
 void DateField::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier)) {
+        openCalendar();
+        return;
+    }
     const bool wasAdvanced = std::exchange(m_advanced, false);
     if (m_typing && typeOn(*event)) {
         return;
     }
     const bool digit = isDigit(*event);
-    if (digit && lineEdit()->selectedText() == lineEdit()->text()) {
+    if (digit && isSelectedWhole()) {
         m_typing = true;
         m_typed = event->text();
         showTyped();
@@ -136,6 +143,41 @@ void DateField::finishTyping()
     selectAll();
 }
 
+bool DateField::isSelectedWhole() const
+{
+    return lineEdit()->selectedText() == lineEdit()->text();
+}
+
+/// The toolkit opens its calendar for a press of the mouse on the arrow alone.
+void DateField::openCalendar()
+{
+    finishTyping();
+    if (!calendarPopup()) {
+        return;
+    }
+    QStyleOptionComboBox parts;
+    parts.initFrom(this);
+    parts.editable = true;
+    parts.subControls = QStyle::SC_All;
+    const QPointF arrow =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &parts, QStyle::SC_ComboBoxArrow, this)
+            .center();
+    QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    mousePressEvent(&press);
+}
+
+void DateField::focusInEvent(QFocusEvent* event)
+{
+    QDateEdit::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+        reason == Qt::ShortcutFocusReason) {
+        selectAll(); // the toolkit selects one part, and the next one after two digits
+    }
+}
+
 void DateField::focusOutEvent(QFocusEvent* event)
 {
     finishTyping();
@@ -144,9 +186,9 @@ void DateField::focusOutEvent(QFocusEvent* event)
 
 bool DateField::focusNextPrevChild(bool next)
 {
-    const bool typed = m_typing;
+    const bool isWhole = m_typing || isSelectedWhole();
     finishTyping();
-    if (typed) { // the date edit would go on to its next part, but such a date is left as a whole
+    if (isWhole) { // the date edit would go on to its next part, but such a date is left as a whole
         return QAbstractSpinBox::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
     }
     return QDateEdit::focusNextPrevChild(next);

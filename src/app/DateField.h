@@ -6,7 +6,8 @@ namespace app
 {
 
 /// The field of the date picker. Besides changing a date part by part it takes one typed as a whole
-/// over the selected text, in any form that `runtime::fromTypedDate` reads; a click selects it.
+/// over the selected text, in any form that `runtime::fromTypedDate` reads; a click, Tab or a
+/// shortcut that leads here selects it, and Tab leaves it then. Alt+Down opens the calendar.
 /// The date changes once it is whole, or with Enter, Tab or the loss of
 /// focus; a text that is no date changes nothing.
 class DateField : public QDateEdit
@@ -20,12 +21,15 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
     /// A key while a date is typed as a whole. False when the key is not part of it.
     bool typeOn(const QKeyEvent& event);
+    [[nodiscard]] bool isSelectedWhole() const;
+    void openCalendar();
     void showTyped();
     void finishTyping();
 

@@ -2,6 +2,8 @@
 
 #include "app/WindowDesk.h"
 
+#include <QCalendarWidget>
+
 using namespace test;
 
 namespace
@@ -35,7 +37,7 @@ TEST_F(TheWindow, takesADateTypedPartByPart)
     auto* picker = control<QDateEdit>("DTPicker1");
     ASSERT_TRUE(until([&] { return picker->isVisible(); }));
     changeRows(form(), window());
-    picker->setFocus(Qt::TabFocusReason); // which selects the day
+    picker->setFocus(); // which selects the day
     hands.type("22");
     EXPECT_TRUE(until([&] { return plan()["date"].toString() == "2025-03-22"; }));
     changeRows(form(), window());
@@ -87,6 +89,35 @@ TEST_F(TheDatePicker, takesAWholeDateTypedOverTheOldOne)
     EXPECT_EQ(form().CbJour.text(), "Lundi"); // 1 February 2027
 }
 
+TEST_F(TheDatePicker, takesAWholeDateTypedFastAfterTab)
+{
+    show();
+    control<QCheckBox>("Check2")->setFocus();
+    hands.press({"Tab", "2", "6", "1", "1", "2", "0", "2", "6"});
+    EXPECT_TRUE(reaches("2026-11-26"));
+    EXPECT_TRUE(picker->hasFocus());
+    hands.press({"Tab"}); // and on, as one date
+    EXPECT_TRUE(until([this] { return control<QPushButton>("Today")->hasFocus(); }));
+    hands.press({"shift+Tab", "0", "1", "0", "3", "2", "7", "Return"});
+    EXPECT_TRUE(reaches("2027-03-01"));
+}
+
+TEST_F(TheDatePicker, opensItsCalendarWithAltAndDown)
+{
+    show();
+    picker->setFocus();
+    hands.press({"alt+Down"});
+    ASSERT_TRUE(until([this] { return picker->calendarWidget()->isVisible(); }));
+    hands.press({"Right", "Return"}); // the next day
+    EXPECT_TRUE(reaches("2025-03-18"));
+    EXPECT_TRUE(until([this] { return !picker->calendarWidget()->isVisible(); }));
+    hands.press({"alt+Down"});
+    ASSERT_TRUE(until([this] { return picker->calendarWidget()->isVisible(); }));
+    hands.press({"Escape"});
+    EXPECT_TRUE(until([this] { return !picker->calendarWidget()->isVisible(); }));
+    EXPECT_EQ(plan()["date"].toString(), "2025-03-18");
+}
+
 TEST_F(TheDatePicker, takesAShortYearWithEnterOrTab)
 {
     show();
@@ -133,7 +164,7 @@ TEST_F(TheDatePicker, takesTheDayAloneWithEnter)
 TEST_F(TheDatePicker, takesASeparatorAfterAPartThatIsComplete)
 {
     show();
-    picker->setFocus(Qt::TabFocusReason); // which selects the day
+    picker->setFocus(); // which selects the day
     hands.type("21/04");
     EXPECT_TRUE(reaches("2025-04-21"));
 }
