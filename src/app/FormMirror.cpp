@@ -1,5 +1,6 @@
 #include "app/FormMirror.h"
 
+#include "app/Mnemonics.h"
 #include "runtime/Numbers.h"
 
 #include <QAbstractButton>
@@ -25,8 +26,9 @@ void showWidget(QWidget* widget, bool visible)
 
 void setCaption(QAbstractButton* widget, const QString& caption)
 {
-    if (widget->text() != caption) {
-        widget->setText(caption);
+    const QString text = withMnemonic(caption, widget->objectName());
+    if (widget->text() != text) {
+        widget->setText(text);
     }
 }
 

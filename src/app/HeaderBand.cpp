@@ -2,6 +2,7 @@
 
 #include "app/ElidedLabel.h"
 #include "app/FormMirror.h"
+#include "app/Mnemonics.h"
 #include "engine/Engine.h"
 #include "print/Heading.h"
 
@@ -84,7 +85,7 @@ HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help
     button->setDefaultAction(help);
     auto* ask = new QToolButton;
     ask->setObjectName(QStringLiteral("Questions"));
-    ask->setText(QStringLiteral("Chercher"));
+    ask->setText(withMnemonic(QStringLiteral("Chercher"), ask->objectName()));
     ask->setToolTip(QStringLiteral("Salle libre, enseignant, semaine, conflits, occupation"));
     ask->setAccessibleName(QStringLiteral("Chercher"));
     ask->setPopupMode(QToolButton::InstantPopup);

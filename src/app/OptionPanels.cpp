@@ -2,7 +2,9 @@
 
 #include "app/DateField.h"
 #include "app/FormMirror.h"
+#include "app/Mnemonics.h"
 #include "app/PlainTexts.h"
+#include "app/TitledGroup.h"
 #include "app/WrappingBand.h"
 #include "engine/Engine.h"
 
@@ -94,7 +96,7 @@ private:
 /// A titled panel whose rows are filled from the top.
 QGridLayout* addPanel(QLayout* band, const QString& title)
 {
-    auto* panel = new QGroupBox(title);
+    auto* panel = new TitledGroup(title);
     auto* grid = new QGridLayout(panel);
     grid->setContentsMargins(8, 2, 8, 3);
     grid->setHorizontalSpacing(6);
@@ -105,6 +107,22 @@ QGridLayout* addPanel(QLayout* band, const QString& title)
     grid->setRowStretch(kPanelRows, 1);
     band->addWidget(panel);
     return grid;
+}
+
+/// The title speaks for a list that has no caption of its own: its key leads there, and F6.
+void entitle(QGridLayout* grid, QWidget* list)
+{
+    auto* panel = qobject_cast<QGroupBox*>(grid->parentWidget());
+    panel->setTitle(withMnemonic(panel->title(), list->objectName()));
+    panel->setFocusProxy(list);
+}
+
+/// A caption that leads to its field.
+QLabel* captionOf(QWidget* field, const QString& text)
+{
+    auto* caption = plainLabel(withMnemonic(text, field->objectName()));
+    caption->setBuddy(field);
+    return caption;
 }
 
 /// The widget keeps its place while it is hidden, so that nothing around it moves.
@@ -120,8 +138,10 @@ Widget* keepPlace(Widget* widget)
 void addPeriodPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Période"));
-    grid->addWidget(
-        make.wideList("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 15), 0, 0);
+    auto* period =
+        make.wideList("CbTranche", form.CbTranche, QStringLiteral("Période affichée"), 15);
+    grid->addWidget(period, 0, 0);
+    entitle(grid, period);
     grid->addWidget(
         make.radio("OpEns", form.OpEns(), QStringLiteral("Emploi du temps hebdomadaire")), 1, 0);
     grid->addWidget(make.radio("OpExam", form.OpExam(), QStringLiteral("Semaines d’examen")), 2, 0);
@@ -147,7 +167,7 @@ void nameCalendarParts(QCalendarWidget& calendar)
 }
 
 /// The list of days between the buttons that lead to the day before and behind.
-QLayout* dayRow(PanelBuilder& make, FormMirror& mirror, engine::Engine& engine)
+QLayout* dayRow(PanelBuilder& make, FormMirror& mirror, engine::Engine& engine, QWidget* days)
 {
     form::PlanForm& form = engine.form();
     auto* row = new QHBoxLayout;
@@ -163,7 +183,7 @@ QLayout* dayRow(PanelBuilder& make, FormMirror& mirror, engine::Engine& engine)
     };
     row->addWidget(arrow("DayBefore", form.DayBefore, QStringLiteral("Jour précédent"),
                          QStringLiteral(" (Alt+←)"), -1));
-    row->addWidget(make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 8), 1);
+    row->addWidget(days, 1);
     row->addWidget(arrow("DayAfter", form.DayAfter, QStringLiteral("Jour suivant"),
                          QStringLiteral(" (Alt+→)"), 1));
     return row;
@@ -173,13 +193,15 @@ void addDayPanel(QLayout* band, PanelBuilder& make, FormMirror& mirror, engine::
 {
     form::PlanForm& form = engine.form();
     QGridLayout* grid = addPanel(band, QStringLiteral("Jour"));
-    grid->addLayout(dayRow(make, mirror, engine), 0, 0);
+    auto* days = make.list("CbJour", form.CbJour, QStringLiteral("Jour affiché"), 8);
+    grid->addLayout(dayRow(make, mirror, engine, days), 0, 0);
+    entitle(grid, days);
     grid->addWidget(make.check("Check2", form.Check2,
                                QStringLiteral("Choisir une date et montrer ses rattrapages, "
                                               "hachurés")),
                     1, 0);
     auto* picker =
-        make.add<DateField>("DTPicker1", form.DTPicker1, QStringLiteral("Date affichée"));
+        make.add<DateField>("DTPicker1", form.DTPicker1, QStringLiteral("Date affichée (Ctrl+D)"));
     const QSignalBlocker quiet(picker);
     picker->setAccessibleName(QStringLiteral("Date affichée"));
     picker->setLocale(QLocale(QLocale::French, QLocale::France));
@@ -216,11 +238,9 @@ void addBoxPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 void addRoomPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Salles"));
-    auto* caption = plainLabel(QStringLiteral("Zone"));
     auto* zone = make.list("cb_Locaux", form.cb_Locaux,
                            QStringLiteral("Zone des salles ; 0 pour toutes"), 3);
-    caption->setBuddy(zone);
-    grid->addWidget(caption, 0, 0);
+    grid->addWidget(captionOf(zone, QStringLiteral("Zone")), 0, 0);
     grid->addWidget(zone, 0, 1);
     grid->addWidget(
         make.check("ElemDep", form.ElemDep, QStringLiteral("Ajouter les salles d’un département")),
@@ -235,24 +255,24 @@ void addRoomPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 void addPagePanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
 {
     QGridLayout* grid = addPanel(band, QStringLiteral("Page"));
-    auto* caption = plainLabel(QStringLiteral("Lignes/Page : "));
     auto* lines = make.add<QSpinBox>(
         "Total_L_P", form.Total_L_P,
         QStringLiteral("Nombre de salles par page, %1 au plus").arg(form::PlanForm::kMostRooms));
     const QSignalBlocker quiet(lines);
     lines->setRange(1, 99);
     lines->setAccessibleName(QStringLiteral("Lignes par page"));
-    caption->setBuddy(lines);
-    grid->addWidget(caption, 0, 0);
+    grid->addWidget(captionOf(lines, QStringLiteral("Lignes/Page : ")), 0, 0);
     grid->addWidget(lines, 0, 1);
     grid->addWidget(make.check("EveryRoom", form.EveryRoom,
                                QStringLiteral("Des pages qui ne laissent aucune salle de côté, "
                                               "sans la première ligne grisée")),
                     1, 0, 1, 2);
-    grid->addWidget(make.button("Command3", form.Command3, QStringLiteral("Salles suivantes")), 2,
-                    0, 1, 2);
-    grid->addWidget(make.button("Command2", form.Command2, QStringLiteral("Salles précédentes")), 3,
-                    0, 1, 2);
+    grid->addWidget(
+        make.button("Command3", form.Command3, QStringLiteral("Salles suivantes (Ctrl+Pg.Suiv)")),
+        2, 0, 1, 2);
+    grid->addWidget(
+        make.button("Command2", form.Command2, QStringLiteral("Salles précédentes (Ctrl+Pg.Préc)")),
+        3, 0, 1, 2);
 }
 
 QCheckBox* addViewPanel(QLayout* band, PanelBuilder& make, form::PlanForm& form)
@@ -306,14 +326,15 @@ void addPrintPanel(QLayout* band, PanelBuilder& make, engine::Engine& engine)
 {
     form::PlanForm& form = engine.form();
     QGridLayout* grid = addPanel(band, QStringLiteral("Impression"));
-    grid->addWidget(
-        make.button("Command1", form.Command1, QStringLiteral("Imprimer la page affichée")), 0, 0);
+    grid->addWidget(make.button("Command1", form.Command1,
+                                QStringLiteral("Imprimer la page affichée (Ctrl+P)")),
+                    0, 0);
     grid->addWidget(make.button("PrintPreview", form.PrintPreview,
                                 QStringLiteral("Voir la feuille avant de l’imprimer")),
                     0, 1);
     grid->addWidget(make.button("PrintAllPages", form.PrintAllPages,
                                 QStringLiteral("Imprimer toutes les salles, une feuille par "
-                                               "page")),
+                                               "page (Ctrl+Maj+P)")),
                     1, 0, 1, 2);
     grid->addWidget(make.check("Opt_Cap", form.Opt_Cap,
                                QStringLiteral("Imprimer l’effectif et les places de chaque case, "
@@ -340,6 +361,12 @@ OptionPanels::OptionPanels(engine::Engine& engine, FormMirror& mirror)
     m_colorer = addViewPanel(band, make, form);
     addSubjectPanel(band, make, mirror, engine);
     addPrintPanel(band, make, engine);
+}
+
+std::vector<QWidget*> OptionPanels::groups() const
+{
+    const QList<QGroupBox*> boxes = findChildren<QGroupBox*>(Qt::FindDirectChildrenOnly);
+    return {boxes.begin(), boxes.end()};
 }
 
 void OptionPanels::focusColorer()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 namespace engine
 {
@@ -20,6 +21,9 @@ public:
 
     /// Brings a control that the mouse cannot reach into view: the first option of the band.
     void focusColorer();
+
+    /// The groups, from left to right.
+    [[nodiscard]] std::vector<QWidget*> groups() const;
 
 private:
     QWidget* m_colorer = nullptr;

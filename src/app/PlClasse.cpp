@@ -5,20 +5,20 @@
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
 #include "app/FaultBar.h"
+#include "app/FocusGroups.h"
 #include "app/HeaderBand.h"
 #include "app/HelpWindow.h"
 #include "app/OptionPanels.h"
 #include "app/PageFooter.h"
 #include "app/PlainTexts.h"
 #include "app/PlanView.h"
+#include "app/StatusWords.h"
+#include "app/WindowKeys.h"
 #include "app/WindowStyle.h"
 #include "app/asking/Questions.h"
 #include "app/hall/WindowHall.h"
 #include "plan/FaultWords.h"
-#include "runtime/FrenchDate.h"
 #include "shell/Player.h"
-#include "timetable/DateRules.h"
-#include "timetable/WeekRhythm.h"
 
 #include <QAction>
 #include <QApplication>
@@ -87,7 +87,7 @@ PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
     setStyleSheet(windowStyleSheet());
     buildContent();
     buildStatusBar();
-    addKeysOfDays();
+    addKeys();
 }
 
 PlClasse::~PlClasse()
@@ -162,16 +162,16 @@ void PlClasse::buildStatusBar()
         return label;
     };
     form::PlanForm& form = m_shell.form();
-    const auto follow = [this](const QString& name, QString (PlClasse::*text)() const) {
+    const auto follow = [this](const QString& name, QString (*text)(shell::Shell & shell)) {
         auto* label = plainLabel();
         label->setObjectName(name);
         statusBar()->addWidget(label);
-        m_mirror.follow([this, label, text] { label->setText((this->*text)()); });
+        m_mirror.follow([this, label, text] { label->setText(text(m_shell)); });
         return label;
     };
-    follow(QStringLiteral("MarkedDay"), &PlClasse::markedDay)
+    follow(QStringLiteral("MarkedDay"), markedDayWords)
         ->setToolTip(QStringLiteral("Date que marquent Maj + clic et Ctrl + clic sur une case"));
-    auto* weekOfDate = follow(QStringLiteral("WeekShown"), &PlClasse::weekShown);
+    auto* weekOfDate = follow(QStringLiteral("WeekShown"), weekShownWords);
     weekOfDate->setToolTip(QStringLiteral("Semaine de la date affichée, selon « SemaineA »"));
     statusBar()->addWidget(
         new PageFooter(m_shell.engine(), m_mirror,
@@ -198,43 +198,17 @@ void PlClasse::buildStatusBar()
     m_mirror.bind(add(QStringLiteral("Lab_Ver"), QString()), form.Lab_Ver);
 }
 
-/// The buttons beside the day, from wherever the focus is.
-void PlClasse::addKeysOfDays()
+void PlClasse::addKeys()
 {
-    form::PlanForm& form = m_shell.form();
-    const auto add = [this](QKeyCombination keys, const form::Button& button) {
-        auto* action = new QAction(this);
-        action->setShortcut(keys);
-        connect(action, &QAction::triggered, this,
-                [this, &button] { forward([&button] { button.press(); }); });
-        addAction(action);
-    };
-    add(Qt::CTRL | Qt::Key_T, form.Today);
-    add(Qt::ALT | Qt::Key_Left, form.DayBefore);
-    add(Qt::ALT | Qt::Key_Right, form.DayAfter);
-}
-
-QString PlClasse::weekShown() const
-{
-    const timetable::WeekRhythm rhythm(m_shell.weekA());
-    const QDate date = m_shell.form().DTPicker1.value();
-    if (!rhythm.isKnown() || !date.isValid()) {
-        return {};
-    }
-    return QStringLiteral("Semaine %1 (du %2)")
-        .arg(rhythm.weekOf(date) == timetable::Week::A ? QChar(u'A') : QChar(u'B'))
-        .arg(timetable::MondayOnOrBefore(date).toString(QStringLiteral("dd/MM")));
-}
-
-QString PlClasse::markedDay() const
-{
-    for (const plan::PlanRow& row : m_shell.engine().content().rows) {
-        if (!row.boxes.empty()) {
-            const plan::Marqueur& marker = m_shell.engine().markers().at(row.boxes.front().marker);
-            return QStringLiteral("Absences du ") + runtime::frenchDayAndDate(marker.Jour);
-        }
-    }
-    return {};
+    const auto ahead = [this](const std::function<void()>& action) { forward(action); };
+    new WindowKeys(*this, m_shell.form(), ahead);
+    std::vector<QWidget*> groups{findChild<QWidget*>(QStringLiteral("HeaderBand"))};
+    const std::vector<QWidget*> options = m_options->groups();
+    groups.insert(groups.end(), options.begin(), options.end());
+    groups.push_back(findChild<QWidget*>(QStringLiteral("FaultBar")));
+    groups.push_back(m_view);
+    groups.push_back(statusBar());
+    new FocusGroups(*this, std::move(groups));
 }
 
 int PlClasse::run(const shell::CommandLine& line)

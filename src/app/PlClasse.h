@@ -75,11 +75,7 @@ private:
     [[nodiscard]] engine::Surroundings tieToWindow(engine::Surroundings surroundings);
     void buildContent();
     void buildStatusBar();
-    void addKeysOfDays();
-    /// Which week A or B the shown date lies in; empty where nobody knows.
-    [[nodiscard]] QString weekShown() const;
-    /// The date that the gestures mark: that of the drawn boxes, not always the picker's.
-    [[nodiscard]] QString markedDay() const;
+    void addKeys();
     void syncWidgets();
     void serveFocusRequest();
     void processEvents();

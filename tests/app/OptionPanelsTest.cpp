@@ -45,8 +45,8 @@ TEST_F(TheOptionPanels, groupTheChoicesByWhatTheyAreFor)
     for (const QGroupBox* panel : panels().findChildren<QGroupBox*>()) {
         titles << panel->title();
     }
-    EXPECT_EQ(titles, (QStringList{"Période", "Jour", "Semaine", "Dans les cases", "Salles", "Page",
-                                   "Affichage", "Matière et couleurs", "Impression"}));
+    EXPECT_EQ(titles, (QStringList{"&Période", "&Jour", "Semaine", "Dans les cases", "Salles",
+                                   "Page", "Affichage", "Matière et couleurs", "Impression"}));
 }
 
 TEST_F(TheOptionPanels, showTheChoicesAsTheyStand)
@@ -57,7 +57,7 @@ TEST_F(TheOptionPanels, showTheChoicesAsTheyStand)
     EXPECT_TRUE(button("OpEns").isChecked());
     EXPECT_FALSE(button("OpExam").isChecked());
     EXPECT_TRUE(button("OptFixe").isChecked());
-    EXPECT_EQ(button("OptA").text(), "Semaine A");
+    EXPECT_EQ(button("OptA").text(), "Semaine &A");
     EXPECT_TRUE(button("Colorer").isChecked());
     EXPECT_TRUE(button("ChkGrille").isChecked());
     EXPECT_FALSE(button("Chk_Compt").isChecked());
@@ -115,7 +115,7 @@ TEST_F(TheOptionPanels, haveCaptionsThatLeadToTheirField)
             fields << caption->text() + caption->buddy()->objectName();
         }
     }
-    EXPECT_EQ(fields, (QStringList{"Zonecb_Locaux", "Lignes/Page : Total_L_P"}));
+    EXPECT_EQ(fields, (QStringList{"&Zonecb_Locaux", "&Lignes/Page : Total_L_P"}));
 }
 
 TEST_F(TheOptionPanels, putTheFocusOnTheFirstOptionOfTheView)
