@@ -13,6 +13,7 @@
 #include "app/PlainTexts.h"
 #include "app/PlanView.h"
 #include "app/StatusWords.h"
+#include "app/WheelGuard.h"
 #include "app/WindowKeys.h"
 #include "app/WindowStyle.h"
 #include "app/asking/Questions.h"
@@ -209,6 +210,7 @@ void PlClasse::addKeys()
     groups.push_back(m_view);
     groups.push_back(statusBar());
     new FocusGroups(*this, std::move(groups));
+    new WheelGuard(this);
 }
 
 int PlClasse::run(const shell::CommandLine& line)

@@ -63,6 +63,14 @@ void Hands::click(QPoint screenPoint) const
     play(QString("mousemove %1 %2 click 1").arg(screenPoint.x()).arg(screenPoint.y()));
 }
 
+void Hands::turnWheel(QPoint screenPoint, bool towardsUser) const
+{
+    play(QString("mousemove %1 %2 click %3")
+             .arg(screenPoint.x())
+             .arg(screenPoint.y())
+             .arg(towardsUser ? 5 : 4));
+}
+
 void Hands::rightClick(QPoint screenPoint) const
 {
     play(QString("mousemove %1 %2 click 3").arg(screenPoint.x()).arg(screenPoint.y()));

@@ -26,6 +26,8 @@ public:
     void click(QPoint screenPoint) const;
     /// Clicks on the widget: on the indicator of a check box or option button, else in the middle.
     void click(const QWidget* widget) const;
+    /// Moves the mouse there and turns the wheel by one notch, towards the user or away.
+    void turnWheel(QPoint screenPoint, bool towardsUser) const;
     void rightClick(QPoint screenPoint) const;
     /// The test sees to it that the toolkit takes it for one, however slow the machine is
     /// (QApplication::setDoubleClickInterval).
