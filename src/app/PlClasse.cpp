@@ -402,6 +402,10 @@ void PlClasse::keyPressEvent(QKeyEvent* event)
         forward([this] { m_hall->show(); });
         return;
     }
+    if (event->key() == Qt::Key_Escape) { // what is left of it: back from the options to the plan
+        m_view->setFocus(Qt::ShortcutFocusReason);
+        return;
+    }
     if (event->key() == Qt::Key_F2) {
         forward([this] { m_shell.Form_KeyDown(shell::Shell::kKeyF2); });
         return;

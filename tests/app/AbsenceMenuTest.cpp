@@ -131,6 +131,26 @@ TEST_P(TheAbsenceMenu, leavesAPlanAloneThatHasBeenDrawnAnewMeanwhile)
     EXPECT_EQ(recorded("abscence"), QStringList{"G1"});
 }
 
+TEST_P(TheAbsenceMenu, marksAClassFromTheStartOfTheWindowWithoutAMouse)
+{
+    open();
+    hands.press({"ctrl+d"});
+    hands.type("31032025"); // a Monday
+    ASSERT_TRUE(until([this] { return plan()["date"].toString() == "2025-03-31"; }));
+    hands.press({"Escape", "Down", "Down", "Down", "Right"});
+    ASSERT_TRUE(until([this] {
+        const auto cell = view()->cursor();
+        return cell && view()->table().nameOf(*cell).startsWith("B2, 10h15 à 11h45, G2, Petit");
+    }));
+    choose("c", {"G1", "G2"}, none);
+    EXPECT_EQ(database.read("select Classe, Debut from abscence where Datex = '2025-03-31'"),
+              (QList<QStringList>{{"G2", "10h15"}}));
+    EXPECT_TRUE(until([this] {
+        return view()->table().nameOf(*view()->cursor()) ==
+               "B2, 10h15 à 11h45, G2, Petit, Physique, Dépassement 45/20, Classe absente";
+    }));
+}
+
 TEMPORA_ON_BOTH_DATABASES(TheAbsenceMenu);
 
 TEST_F(TheWindow, marksAbsencesByTheMenuThatTheMouseOpens)

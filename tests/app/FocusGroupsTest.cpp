@@ -80,3 +80,14 @@ TEST_F(TheParts, areEnteredByTheKeysOfTheirTitles)
     hands.press({"alt+p"});
     EXPECT_TRUE(until([this] { return control<QWidget>("CbTranche")->hasFocus(); }));
 }
+
+TEST_F(TheParts, areLeftForThePlanWithEscape)
+{
+    open();
+    for (const char* name : {"CbJour", "Total_L_P", "Command1", "Colorer"}) {
+        control<QWidget>(name)->setFocus();
+        hands.press({"Escape"});
+        EXPECT_TRUE(until([this] { return view()->hasFocus(); })) << name;
+    }
+    EXPECT_EQ(form().Total_L_P.text(), "19");
+}

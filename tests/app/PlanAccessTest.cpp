@@ -1,9 +1,9 @@
 // What a screen reader finds in the plan, on the tiny faculty's Monday, 17 March 2025.
 
 #include "app/PlanAccess.h"
+#include "absences/HeldKey.h"
 #include "app/PlanView.h"
 #include "shell/ShellDesk.h"
-#include "support/PressedKey.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
@@ -293,7 +293,7 @@ TEST_F(ThePlanAsATable, tellsOfAnAbsenceThatIsMarkedWithoutARefresh)
 {
     open();
     static_cast<void>(toldEvents());
-    PressedKey keys(absences::VirtualKey::Ctrl);
+    absences::HeldKey keys(absences::VirtualKey::Ctrl);
     desk.shell().engine().clickMarker(1, keys);
     EXPECT_EQ(toldEvents(), Events{QAccessible::TableModelChanged});
     EXPECT_EQ(name(0, 1),
@@ -382,7 +382,7 @@ TEST_F(ThePlanAsATable, tellsTheCellOfTheKeyboardAnewWhenAnAbsenceIsMarkedThere)
     takeFocus();
     static_cast<void>(toldEvents());
     press(Qt::Key_Down);
-    PressedKey keys(absences::VirtualKey::Shift);
+    absences::HeldKey keys(absences::VirtualKey::Shift);
     desk.shell().engine().clickMarker(1, keys);
     QStringList told;
     app::tellChanges(*view, [&](QAccessibleEvent& event) {

@@ -1,8 +1,8 @@
 #include "engine/Engine.h"
 
 #include "EngineDesk.h"
+#include "absences/HeldKey.h"
 #include "plan/PlanDesk.h"
-#include "support/PressedKey.h"
 
 using namespace test;
 
@@ -52,7 +52,7 @@ TEST_P(TheEngine, showsWhichKindOfDatabaseItHas)
 TEST_P(TheEngine, togglesAnAbsenceFromTheMarkerThatIsClicked)
 {
     EngineDesk desk(database());
-    PressedKey shift(absences::VirtualKey::Shift);
+    absences::HeldKey shift(absences::VirtualKey::Shift);
     const auto absences = [&] { return database().read("SELECT Classe FROM abscence").size(); };
     EXPECT_EQ(absences(), 1);
     desk.engine.clickMarker(1, shift); // A2's box: G1 is absent

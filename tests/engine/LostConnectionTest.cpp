@@ -2,10 +2,10 @@
 
 #include "EngineDesk.h"
 
+#include "absences/HeldKey.h"
 #include "support/CuttingProxy.h"
 #include "support/FileHolder.h"
 #include "support/MariaDbServer.h"
-#include "support/PressedKey.h"
 
 #include <atomic>
 
@@ -73,7 +73,7 @@ TEST_F(ALostConnection, loosesNoGestureAndDoublesNone)
 {
     EngineDesk desk(database);
     kill(desk);
-    PressedKey shift(absences::VirtualKey::Shift);
+    absences::HeldKey shift(absences::VirtualKey::Shift);
     const int marker = desk.engine.content().rows[1].boxes[0].marker; // B1: G2 and G3
     desk.engine.clickMarker(marker, shift);
     EXPECT_EQ(database.read("select Classe from abscence where Salle = 'B1' order by Classe"),
@@ -132,7 +132,7 @@ TEST_F(ALostConnection, isNoReasonToSendAWriteTwice)
                                                                      : CuttingProxy::Verdict::Pass;
         });
         EngineDesk desk(database, false, proxy.through(database.connectString()));
-        PressedKey ctrl(absences::VirtualKey::Ctrl);
+        absences::HeldKey ctrl(absences::VirtualKey::Ctrl);
         const int marker = desk.engine.content().rows[0].boxes[0].marker; // A2: G1
         EXPECT_EQ(errorNumberOf([&] { desk.engine.clickMarker(marker, ctrl); }),
                   runtime::ErrorNumber::DatabaseFailure);

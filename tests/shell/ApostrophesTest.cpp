@@ -1,8 +1,8 @@
 // Names with an apostrophe, everyday words in French: as they stand, and with the setting
 // "Apostrophes".
 
+#include "absences/HeldKey.h"
 #include "shell/ShellDesk.h"
-#include "support/PressedKey.h"
 
 using namespace test;
 
@@ -39,7 +39,7 @@ protected:
     }
     void click(ShellDesk& desk, absences::VirtualKey key)
     {
-        PressedKey keys(key);
+        absences::HeldKey keys(key);
         for (const plan::PlanRow& row : desk.shell().engine().content().rows) {
             if (row.room == "Salle d'info") {
                 desk.shell().engine().clickMarker(row.boxes.at(0).marker, keys);
@@ -118,7 +118,7 @@ TEST_P(Apostrophes, deleteNobodyElsesAbsence)
         ShellDesk desk(database());
         desk.setup.set("Apostrophes", turnedOn ? "True" : "False");
         desk.play({"--date", "2025-03-17"});
-        PressedKey keys(absences::VirtualKey::Shift);
+        absences::HeldKey keys(absences::VirtualKey::Shift);
         const auto& rows = desk.shell().engine().content().rows;
         const int marker = rows.at(0).boxes.at(0).marker;
         EXPECT_EQ(desk.shell().engine().markers().at(marker).Classes, name);

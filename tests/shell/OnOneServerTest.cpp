@@ -1,8 +1,8 @@
 // The whole program on a server: two of them at once, and with no more rights than they need.
 
+#include "absences/HeldKey.h"
 #include "absences/Marking.h"
 #include "shell/ShellDesk.h"
-#include "support/PressedKey.h"
 
 using namespace test;
 using runtime::ErrorNumber;
@@ -35,7 +35,7 @@ public:
 private:
     void click(int marker, absences::VirtualKey key)
     {
-        PressedKey keys(key);
+        absences::HeldKey keys(key);
         m_desk.shell().engine().clickMarker(marker, keys);
     }
 
