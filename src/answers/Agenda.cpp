@@ -114,7 +114,7 @@ private:
         const Holding& other = m_occupancy.holding(right);
         return one.time && other.time && one.weeks == other.weeks &&
                m_occupancy.meetingOf(one).kind == m_occupancy.meetingOf(other).kind &&
-               m_rules.areOneCourse(one, other) && sortedRooms(one) == sortedRooms(other);
+               m_rules.areOneCourse(left, right) && sortedRooms(one) == sortedRooms(other);
     }
 
     const Occupancy& m_occupancy;

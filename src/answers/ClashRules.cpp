@@ -5,55 +5,57 @@
 namespace answers
 {
 
-using timetable::Holding;
+using timetable::HoldingId;
 using timetable::RoomId;
 using timetable::RoomNameId;
 
-bool ClashRules::areOneCourse(const Holding& left, const Holding& right) const
+bool ClashRules::areOneCourse(HoldingId left, HoldingId right) const
 {
-    if (left.time->start != right.time->start) {
-        return false;
-    }
-    const timetable::Timetable& timetable = m_occupancy.timetable();
-    const timetable::MeetingPart& leftPart = m_occupancy.meetingOf(left).part(left.part);
-    const timetable::MeetingPart& rightPart = m_occupancy.meetingOf(right).part(right.part);
-    return timetable.teachers().areEqual(leftPart.teachers.front(), rightPart.teachers.front()) &&
-           timetable.subjects().areEqual(leftPart.subject, rightPart.subject);
+    const HoldingFacts& one = facts(left);
+    const HoldingFacts& other = facts(right);
+    return one.start == other.start && one.teacher == other.teacher && one.subject == other.subject;
 }
 
-bool ClashRules::shareRoom(const Holding& left, const Holding& right) const
+bool ClashRules::shareRoom(HoldingId left, HoldingId right) const
 {
+    const std::array<RoomNameId, 2>& ones = m_occupancy.holding(left).rooms;
+    const std::array<RoomNameId, 2>& others = m_occupancy.holding(right).rooms;
+    if (ones.front() == others.front()) { // as most do that are compared
+        return true;
+    }
     const timetable::Timetable& timetable = m_occupancy.timetable();
     const auto nameOneRoom = [&timetable](RoomNameId one, RoomNameId other) {
         if (one.isNone() || other.isNone()) {
             return false;
         }
-        const std::vector<RoomId>& others = timetable.roomName(other).rooms;
         const std::vector<RoomId>& rooms = timetable.roomName(one).rooms;
-        return std::any_of(rooms.begin(), rooms.end(), [&others](RoomId room) {
-            return std::find(others.begin(), others.end(), room) != others.end();
-        });
+        const std::vector<RoomId>& otherRooms = timetable.roomName(other).rooms;
+        return std::find_first_of(rooms.begin(), rooms.end(), otherRooms.begin(),
+                                  otherRooms.end()) != rooms.end();
     };
-    return std::any_of(left.rooms.begin(), left.rooms.end(), [&](RoomNameId one) {
-        return std::any_of(right.rooms.begin(), right.rooms.end(),
+    return std::any_of(ones.begin(), ones.end(), [&](RoomNameId one) {
+        return std::any_of(others.begin(), others.end(),
                            [&](RoomNameId other) { return nameOneRoom(one, other); });
     });
 }
 
-bool ClashRules::clashOverRoom(const Holding& left, const Holding& right) const
+bool ClashRules::clashOverRoom(HoldingId left, HoldingId right) const
 {
-    return left.meeting != right.meeting && !areOneCourse(left, right);
+    return facts(left).meeting != facts(right).meeting && !areOneCourse(left, right);
 }
 
-bool ClashRules::clashOverTeacher(const Holding& left, const Holding& right) const
+bool ClashRules::clashOverTeacher(HoldingId left, HoldingId right) const
 {
-    const bool isOnePart = left.meeting == right.meeting && left.part == right.part;
+    const HoldingFacts& one = facts(left);
+    const HoldingFacts& other = facts(right);
+    const bool isOnePart = one.meeting == other.meeting && one.part == other.part;
     return !isOnePart && !shareRoom(left, right);
 }
 
-bool ClashRules::clashOverClass(const Holding& left, const Holding& right) const
+bool ClashRules::clashOverClass(HoldingId left, HoldingId right) const
 {
-    return left.meeting != right.meeting && !(areOneCourse(left, right) && shareRoom(left, right));
+    return facts(left).meeting != facts(right).meeting &&
+           !(areOneCourse(left, right) && shareRoom(left, right));
 }
 
 } // namespace answers

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "timetable/Occupancy.h"
+#include "answers/HoldingFacts.h"
 
 namespace answers
 {
@@ -11,25 +11,30 @@ class ClashRules
 {
 public:
     /// The occupancy must outlive the rules.
-    explicit ClashRules(const timetable::Occupancy& occupancy) : m_occupancy(occupancy) {}
+    explicit ClashRules(const timetable::Occupancy& occupancy)
+        : m_occupancy(occupancy), m_facts(factsOf(occupancy))
+    {
+    }
 
-    [[nodiscard]] bool clashOverRoom(const timetable::Holding& left,
-                                     const timetable::Holding& right) const;
-    [[nodiscard]] bool clashOverTeacher(const timetable::Holding& left,
-                                        const timetable::Holding& right) const;
-    [[nodiscard]] bool clashOverClass(const timetable::Holding& left,
-                                      const timetable::Holding& right) const;
+    [[nodiscard]] const HoldingFacts& facts(timetable::HoldingId id) const
+    {
+        return m_facts[static_cast<std::size_t>(id.index())];
+    }
+
+    [[nodiscard]] bool clashOverRoom(timetable::HoldingId left, timetable::HoldingId right) const;
+    [[nodiscard]] bool clashOverTeacher(timetable::HoldingId left,
+                                        timetable::HoldingId right) const;
+    [[nodiscard]] bool clashOverClass(timetable::HoldingId left, timetable::HoldingId right) const;
 
     /// Whether they begin together with the same first teacher and subject: one course of several
     /// classes. Requires: the times of both are known.
-    [[nodiscard]] bool areOneCourse(const timetable::Holding& left,
-                                    const timetable::Holding& right) const;
+    [[nodiscard]] bool areOneCourse(timetable::HoldingId left, timetable::HoldingId right) const;
 
 private:
-    [[nodiscard]] bool shareRoom(const timetable::Holding& left,
-                                 const timetable::Holding& right) const;
+    [[nodiscard]] bool shareRoom(timetable::HoldingId left, timetable::HoldingId right) const;
 
     const timetable::Occupancy& m_occupancy;
+    std::vector<HoldingFacts> m_facts; ///< by the holding's id
 };
 
 } // namespace answers

@@ -6,8 +6,7 @@
 #include "answers/Diary.h"
 
 #include <algorithm>
-#include <functional>
-#include <iterator>
+#include <optional>
 #include <tuple>
 
 namespace answers
@@ -25,8 +24,6 @@ using timetable::RoomNameId;
 using timetable::TimeSpan;
 using timetable::Week;
 
-using PairRule = std::function<bool(const Holding&, const Holding&)>;
-
 /// Of a room, teacher or class.
 struct Kinds {
     ClashKind usual;
@@ -38,29 +35,37 @@ Week commonWeek(Week left, Week right)
     return left == Week::Every ? right : left;
 }
 
-/// Those that clash in pairs. The candidates are of one day, by start.
-std::vector<ClashGroup> clashing(const Occupancy& occupancy, std::span<const HoldingId> candidates,
-                                 const PairRule& rule)
+/// Those that clash in pairs by `rule`. The candidates are of one day, by start.
+template <typename Rule>
+std::vector<ClashGroup> clashing(const ClashRules& rules, std::span<const HoldingId> candidates,
+                                 Rule rule)
 {
-    ClashGroups groups(candidates);
+    if (candidates.size() < 2) {
+        return {};
+    }
+    std::optional<ClashGroups> groups; // few days have any
     std::vector<std::size_t> present;
+    present.reserve(candidates.size());
     for (std::size_t next = 0; next < candidates.size(); ++next) {
-        const Holding& coming = occupancy.holding(candidates[next]);
+        const HoldingFacts& coming = rules.facts(candidates[next]);
         std::erase_if(present, [&](std::size_t position) {
-            return occupancy.holding(candidates[position]).time->end() <= coming.time->start;
+            return rules.facts(candidates[position]).end <= coming.start;
         });
         for (const std::size_t position : present) {
-            const Holding& there = occupancy.holding(candidates[position]);
-            if (timetable::shareWeek(there.weeks, coming.weeks) && rule(there, coming)) {
-                const auto end = std::min(there.time->end(), coming.time->end());
-                groups.join(position, next,
-                            {commonWeek(there.weeks, coming.weeks),
-                             timetable::between(coming.time->start, end)});
+            const HoldingFacts& there = rules.facts(candidates[position]);
+            if (timetable::shareWeek(there.weeks, coming.weeks) &&
+                rule(candidates[position], candidates[next])) {
+                if (!groups) {
+                    groups.emplace(candidates);
+                }
+                groups->join(position, next,
+                             {commonWeek(there.weeks, coming.weeks),
+                              timetable::between(coming.start, std::min(there.end, coming.end))});
             }
         }
         present.push_back(next);
     }
-    return groups.groups();
+    return groups ? groups->groups() : std::vector<ClashGroup>();
 }
 
 /// The candidates of a make-up's date, by start.
@@ -81,7 +86,10 @@ std::vector<HoldingId> allOf(const Occupancy& occupancy, const DiaryDay& day)
 class Search
 {
 public:
-    explicit Search(const Occupancy& occupancy) : m_occupancy(occupancy), m_rules(occupancy) {}
+    explicit Search(const Occupancy& occupancy)
+        : m_occupancy(occupancy), m_rules(occupancy), m_order(inDiaryOrder(occupancy))
+    {
+    }
 
     void searchRooms();
     void searchTeachers();
@@ -91,23 +99,25 @@ public:
     [[nodiscard]] std::vector<Clash> take();
 
 private:
-    template <typename NameId>
+    template <typename NameId, typename Rule>
     void searchNames(const Names<NameId>& names, const std::vector<std::vector<HoldingId>>& lists,
-                     const Kinds& kinds, const PairRule& rule);
+                     const Kinds& kinds, Rule rule);
+    template <typename Rule>
     void searchDiary(const QString& name, const std::vector<DiaryDay>& diary, const Kinds& kinds,
-                     const PairRule& rule);
+                     Rule rule);
     void searchCrowds(const timetable::Room& room, const std::vector<DiaryDay>& diary);
     [[nodiscard]] bool isHeldAsAnEqualOne(RoomId room, const std::vector<HoldingId>& holders) const;
     [[nodiscard]] Week weeksOf(const std::vector<HoldingId>& holders) const;
-    [[nodiscard]] bool isMakeUp(const Holding& holding) const
+    [[nodiscard]] bool isMakeUp(HoldingId id) const
     {
-        return m_occupancy.meetingOf(holding).kind == MeetingKind::MakeUp;
+        return m_rules.facts(id).kind == MeetingKind::MakeUp;
     }
     void add(ClashKind kind, const QString& name, const DiaryDay& day,
              std::vector<ClashGroup> groups, int places = 0);
 
     const Occupancy& m_occupancy;
     ClashRules m_rules;
+    std::vector<HoldingId> m_order; ///< all with a known time, as diaries order them
     std::vector<Clash> m_found;
 };
 
@@ -121,18 +131,19 @@ void Search::add(ClashKind kind, const QString& name, const DiaryDay& day,
     }
 }
 
+template <typename Rule>
 void Search::searchDiary(const QString& name, const std::vector<DiaryDay>& diary,
-                         const Kinds& kinds, const PairRule& rule)
+                         const Kinds& kinds, Rule rule)
 {
-    const PairRule withMakeUp = [&](const Holding& left, const Holding& right) {
+    const auto withMakeUp = [&](HoldingId left, HoldingId right) {
         return (isMakeUp(left) || isMakeUp(right)) && rule(left, right);
     };
     for (const DiaryDay& day : diary) {
         const bool isDate = day.date.isValid();
-        add(kinds.usual, name, day, clashing(m_occupancy, isDate ? day.exams : day.courses, rule));
+        add(kinds.usual, name, day, clashing(m_rules, isDate ? day.exams : day.courses, rule));
         if (!day.makeUps.empty()) {
             add(kinds.withMakeUp, name, day,
-                clashing(m_occupancy, allOf(m_occupancy, day), withMakeUp));
+                clashing(m_rules, allOf(m_occupancy, day), withMakeUp));
         }
     }
 }
@@ -173,25 +184,31 @@ bool Search::isHeldAsAnEqualOne(RoomId room, const std::vector<HoldingId>& holde
 void Search::searchRooms()
 {
     const auto rooms = m_occupancy.timetable().rooms();
+    std::vector<std::vector<HoldingId>> lists(
+        static_cast<std::size_t>(m_occupancy.timetable().roomCount()));
+    for (const HoldingId id : m_order) {
+        m_occupancy.forEachRoom(m_occupancy.holding(id), [&](RoomId room) {
+            lists[static_cast<std::size_t>(room.index())].push_back(id);
+        });
+    }
     for (std::size_t index = 0; index < rooms.size(); ++index) {
         const RoomId id(static_cast<int>(index));
         const std::vector<HoldingId> holders = m_occupancy.everyHolder(id);
         if (holders.empty() || isHeldAsAnEqualOne(id, holders)) {
             continue;
         }
-        const std::vector<DiaryDay> diary = diaryOf(m_occupancy, holders);
-        searchDiary(rooms[index].name, diary, {ClashKind::Room, ClashKind::MakeupRoom},
-                    [this](const Holding& left, const Holding& right) {
-                        return m_rules.clashOverRoom(left, right);
-                    });
+        const std::vector<DiaryDay> diary = diaryOf(m_occupancy, lists[index]);
+        searchDiary(
+            rooms[index].name, diary, {ClashKind::Room, ClashKind::MakeupRoom},
+            [this](HoldingId left, HoldingId right) { return m_rules.clashOverRoom(left, right); });
         searchCrowds(rooms[index], diary);
     }
 }
 
-template <typename NameId>
+template <typename NameId, typename Rule>
 void Search::searchNames(const Names<NameId>& names,
                          const std::vector<std::vector<HoldingId>>& lists, const Kinds& kinds,
-                         const PairRule& rule)
+                         Rule rule)
 {
     for (std::size_t index = 0; index < lists.size(); ++index) {
         searchDiary(names.text(NameId(static_cast<int>(index))), diaryOf(m_occupancy, lists[index]),
@@ -203,10 +220,8 @@ void Search::searchTeachers()
 {
     const auto& teachers = m_occupancy.timetable().teachers();
     std::vector<std::vector<HoldingId>> lists(static_cast<std::size_t>(teachers.count()));
-    const std::vector<Holding>& holdings = m_occupancy.holdings();
-    for (std::size_t index = 0; index < holdings.size(); ++index) {
-        const Holding& holding = holdings[index];
-        const HoldingId id(static_cast<int>(index));
+    for (const HoldingId id : m_order) {
+        const Holding& holding = m_occupancy.holding(id);
         for (const timetable::TeacherId each :
              m_occupancy.meetingOf(holding).part(holding.part).teachers) {
             if (each.isNone()) {
@@ -218,28 +233,24 @@ void Search::searchTeachers()
             }
         }
     }
-    searchNames(teachers, lists, {ClashKind::Teacher, ClashKind::MakeupTeacher},
-                [this](const Holding& left, const Holding& right) {
-                    return m_rules.clashOverTeacher(left, right);
-                });
+    searchNames(
+        teachers, lists, {ClashKind::Teacher, ClashKind::MakeupTeacher},
+        [this](HoldingId left, HoldingId right) { return m_rules.clashOverTeacher(left, right); });
 }
 
 void Search::searchClasses()
 {
     const auto& classes = m_occupancy.timetable().classes();
     std::vector<std::vector<HoldingId>> lists(static_cast<std::size_t>(classes.count()));
-    const std::vector<Holding>& holdings = m_occupancy.holdings();
-    for (std::size_t index = 0; index < holdings.size(); ++index) {
-        const timetable::ClassId each = m_occupancy.meetingOf(holdings[index]).className;
+    for (const HoldingId id : m_order) {
+        const timetable::ClassId each = m_rules.facts(id).className;
         if (!each.isNone()) {
-            lists[static_cast<std::size_t>(classes.group(each).index())].push_back(
-                HoldingId(static_cast<int>(index)));
+            lists[static_cast<std::size_t>(each.index())].push_back(id);
         }
     }
-    searchNames(classes, lists, {ClashKind::Class, ClashKind::MakeupClass},
-                [this](const Holding& left, const Holding& right) {
-                    return m_rules.clashOverClass(left, right);
-                });
+    searchNames(
+        classes, lists, {ClashKind::Class, ClashKind::MakeupClass},
+        [this](HoldingId left, HoldingId right) { return m_rules.clashOverClass(left, right); });
 }
 
 Week Search::weeksOf(const std::vector<HoldingId>& holders) const

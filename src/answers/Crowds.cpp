@@ -56,10 +56,11 @@ public:
     /// Positions of those who are there with a class.
     [[nodiscard]] const std::vector<std::size_t>& present() const { return m_present; }
 
-    [[nodiscard]] int students() const
+    [[nodiscard]] int students()
     {
         const timetable::Timetable& timetable = m_occupancy.timetable();
-        std::vector<ClassId> classes;
+        std::vector<ClassId>& classes = m_classes;
+        classes.clear();
         int students = 0;
         for (const std::size_t position : m_present) {
             const Holding& holding = m_occupancy.holding(m_held[position]);
@@ -79,6 +80,7 @@ private:
     Week m_week;
     std::size_t m_next = 0; ///< who comes next
     std::vector<std::size_t> m_present;
+    std::vector<ClassId> m_classes; ///< kept for the next count
 };
 
 } // namespace

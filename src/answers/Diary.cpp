@@ -22,8 +22,7 @@ qint64 dayKey(const Holding& holding)
     return holding.date.isValid() ? dates + holding.date.toJulianDay() : holding.day;
 }
 
-/// Where a holding stands in a diary. Worked out once for each: all clashes come from sorted
-/// diaries.
+/// Where a holding stands in a diary.
 struct Entry {
     qint64 day = 0;
     std::optional<timetable::TimeSpan> time;
@@ -70,27 +69,39 @@ bool comesBefore(const Occupancy& occupancy, HoldingId left, HoldingId right)
     return entryOf(occupancy, left) < entryOf(occupancy, right);
 }
 
-std::vector<DiaryDay> diaryOf(const Occupancy& occupancy, const std::vector<HoldingId>& holdings)
+std::vector<HoldingId> inDiaryOrder(const Occupancy& occupancy)
 {
     std::vector<Entry> entries;
-    entries.reserve(holdings.size());
-    for (const HoldingId id : holdings) {
-        if (occupancy.holding(id).time) {
-            entries.push_back(entryOf(occupancy, id));
+    entries.reserve(occupancy.holdings().size());
+    for (std::size_t index = 0; index < occupancy.holdings().size(); ++index) {
+        if (occupancy.holdings()[index].time) {
+            entries.push_back(entryOf(occupancy, HoldingId(static_cast<int>(index))));
         }
     }
     std::sort(entries.begin(), entries.end());
+    std::vector<HoldingId> order;
+    order.reserve(entries.size());
+    std::transform(entries.begin(), entries.end(), std::back_inserter(order),
+                   [](const Entry& entry) { return entry.id; });
+    return order;
+}
+
+std::vector<DiaryDay> diaryOf(const Occupancy& occupancy, const std::vector<HoldingId>& holdings)
+{
     std::vector<DiaryDay> diary;
     qint64 latest = -1;
-    for (const Entry& entry : entries) {
-        const Holding& holding = occupancy.holding(entry.id);
-        if (entry.day != latest) {
-            latest = entry.day;
+    for (const HoldingId id : holdings) {
+        const Holding& holding = occupancy.holding(id);
+        if (const qint64 day = dayKey(holding); day != latest) {
+            latest = day;
             const bool isDate = holding.date.isValid();
             diary.push_back(
                 {isDate ? timetable::dayOf(holding.date) : holding.day, holding.date, {}, {}, {}});
         }
-        listOf(diary.back(), occupancy.meetingOf(holding).kind).push_back(entry.id);
+        // Only what has no date is a course: most need not be looked up.
+        listOf(diary.back(),
+               holding.date.isValid() ? occupancy.meetingOf(holding).kind : MeetingKind::Course)
+            .push_back(id);
     }
     addCourses(occupancy, diary);
     return diary;

@@ -17,8 +17,12 @@ struct DiaryDay {
     std::vector<timetable::HoldingId> exams;
 };
 
-/// Sorts holdings into days: those of the teaching weeks, then the dates of make-ups and exams.
-/// Days without anything are left out, as is what has no known time. Requires: each holding once.
+/// All holdings whose time is known, in the order of a diary. Sorted once for all diaries: whoever
+/// deals them out one by one gets lists that have this order.
+[[nodiscard]] std::vector<timetable::HoldingId> inDiaryOrder(const timetable::Occupancy& occupancy);
+
+/// Puts holdings into days: those of the teaching weeks, then the dates of make-ups and exams. Days
+/// without anything are left out. Requires: some of `inDiaryOrder`, in this order, each once.
 [[nodiscard]] std::vector<DiaryDay> diaryOf(const timetable::Occupancy& occupancy,
                                             const std::vector<timetable::HoldingId>& holdings);
 

@@ -96,22 +96,6 @@ void Occupancy::add(Holding common, RoomNameId room, RoomNameId otherRoom, Week 
     m_holdings.push_back(common);
 }
 
-/// Each room once.
-template <typename Visit>
-void Occupancy::forEachRoom(const Holding& holding, Visit visit) const
-{
-    const auto& [first, second] = holding.rooms;
-    const std::vector<RoomId>& rooms = m_timetable->roomName(first).rooms;
-    std::for_each(rooms.begin(), rooms.end(), visit);
-    if (!second.isNone()) {
-        for (const RoomId room : m_timetable->roomName(second).rooms) {
-            if (std::find(rooms.begin(), rooms.end(), room) == rooms.end()) {
-                visit(room);
-            }
-        }
-    }
-}
-
 std::vector<RoomId> Occupancy::roomsOf(const Holding& holding) const
 {
     std::vector<RoomId> rooms;

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -85,6 +86,9 @@ public:
 
     /// The rooms of a holding, each once.
     [[nodiscard]] std::vector<RoomId> roomsOf(const Holding& holding) const;
+    /// Calls `visit` with each of them.
+    template <typename Visit>
+    void forEachRoom(const Holding& holding, Visit visit) const;
 
     // The room asked about must be one of the timetable's.
 
@@ -111,8 +115,6 @@ private:
     void addParts(const Meeting& meeting, Holding common);
     void add(Holding common, RoomNameId room, RoomNameId otherRoom, Week weeks);
     void shelve();
-    template <typename Visit>
-    void forEachRoom(const Holding& holding, Visit visit) const;
     [[nodiscard]] std::optional<TimeSpan> timeOf(const Meeting& meeting, int day) const;
     [[nodiscard]] std::span<const HoldingId> shelf(RoomId room, int day) const;
     [[nodiscard]] std::size_t shelfNumber(RoomId room, int day) const;
@@ -130,5 +132,20 @@ private:
     std::vector<HoldingId> m_shelved;       ///< shelf by shelf, by start
     std::vector<std::size_t> m_shelfStarts; ///< where each shelf begins there; and the end
 };
+
+template <typename Visit>
+void Occupancy::forEachRoom(const Holding& holding, Visit visit) const
+{
+    const auto& [first, second] = holding.rooms;
+    const std::vector<RoomId>& rooms = m_timetable->roomName(first).rooms;
+    std::for_each(rooms.begin(), rooms.end(), visit);
+    if (!second.isNone()) {
+        for (const RoomId room : m_timetable->roomName(second).rooms) {
+            if (std::find(rooms.begin(), rooms.end(), room) == rooms.end()) {
+                visit(room);
+            }
+        }
+    }
+}
 
 } // namespace timetable

@@ -28,6 +28,12 @@ void SlotNaming::addSlot(QStringView key, QStringView start, QStringView end)
 void SlotNaming::addKey(MeetingKind kind, TextId id, QStringView key)
 {
     Keys& keys = m_keys.at(static_cast<std::size_t>(kind));
+    const auto index = static_cast<std::size_t>(id.index());
+    if (index < keys.isAdded.size() && keys.isAdded[index]) { // as are those of most rows
+        return;
+    }
+    keys.isAdded.resize(std::max(keys.isAdded.size(), index + 1));
+    keys.isAdded[index] = true;
     const auto number = static_cast<std::size_t>(keys.texts.add(key));
     if (number == keys.ids.size()) {
         keys.ids.push_back(id);

@@ -36,7 +36,8 @@ public:
 private:
     struct Keys {
         TextPool texts;
-        std::vector<TextId> ids; ///< of the texts
+        std::vector<TextId> ids;   ///< of the texts
+        std::vector<bool> isAdded; ///< by the id
         std::size_t question = 0;
     };
 

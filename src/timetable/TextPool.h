@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringView>
 #include <cstddef>
-#include <unordered_map>
+#include <cstdint>
 #include <vector>
 
 namespace timetable
@@ -28,19 +28,21 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_texts.empty(); }
 
 private:
-    /// Of the text's bytes, eight at a time. Rows of a timetable come by ten thousands with ten
-    /// names each, and Qt's own two functions take several times as long for so short texts.
-    struct Hash {
-        [[nodiscard]] std::size_t operator()(QStringView text) const;
-    };
-    struct Same {
-        [[nodiscard]] bool operator()(QStringView left, QStringView right) const;
+    /// A place for a text's number. Places lie side by side, and the hash beside the number spares
+    /// most looks at other texts: rows of a timetable come by ten thousands with ten names each.
+    struct Place {
+        std::uint32_t hash = 0;
+        int number = -1; ///< none
     };
 
+    /// The place of the text, or the free one where it would be. Requires: there are places.
+    [[nodiscard]] std::size_t placeOf(QStringView text, std::uint32_t hash) const;
+    void grow();
+
     std::vector<QString> m_texts;
-    /// The keys are views of `m_texts`. They outlive a growth and a copy of the pool: the
-    /// characters of a QString stay where they are as long as one of its copies lives.
-    std::unordered_map<QStringView, int, Hash, Same> m_numbers;
+    /// A power of two in number, none at first, a quarter of them free at least. A text lies at the
+    /// place that its hash tells, or behind it.
+    std::vector<Place> m_places;
 };
 
 } // namespace timetable

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "timetable/Occupancy.h"
+
+#include <vector>
+
+namespace answers
+{
+
+/// What a comparison of two holdings asks of each. Clashes compare some hundred thousand pairs, and
+/// looking these up in the meetings took most of their time. Names are known by the first of their
+/// spellings, so that equal names have equal ids.
+struct HoldingFacts {
+    int meeting = 0; ///< its position in `Timetable::meetings`
+    timetable::Part part = timetable::Part::A;
+    timetable::MeetingKind kind = timetable::MeetingKind::Course;
+    timetable::Week weeks = timetable::Week::Every;
+    timetable::MinuteOfDay start; ///< midnight where the time is not known, as is `end`
+    timetable::MinuteOfDay end;
+    timetable::TeacherId teacher; ///< the first one of its part
+    timetable::SubjectId subject;
+    timetable::ClassId className;
+};
+
+/// Of all holdings of an occupancy, by their ids.
+[[nodiscard]] std::vector<HoldingFacts> factsOf(const timetable::Occupancy& occupancy);
+
+} // namespace answers
