@@ -2,198 +2,251 @@
 
 #include "answers/ClashSentence.h"
 #include "answers/HolderWords.h"
+#include "files/JsonWriter.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <array>
+#include <utility>
 
 namespace files
 {
 namespace
 {
 
-using Key = QLatin1String;
 using timetable::HoldingId;
-using timetable::Occupancy;
 
-QString kindName(timetable::MeetingKind kind)
+// The names of values, in the order of the types.
+constexpr std::array kKinds{u"course", u"makeup", u"exam"};
+constexpr std::array kParts{u"A", u"A2", u"B", u"B2"};
+constexpr std::array kWeeks{u"all", u"A", u"B"};
+constexpr std::array kSubjects{u"room", u"teacher", u"class", u"subject"};
+constexpr std::array kClashes{u"room",         u"teacher",      u"class",
+                              u"overfull",     u"makeup-room",  u"makeup-teacher",
+                              u"makeup-class", u"unknown-room", u"no-time"};
+
+template <typename Names, typename Enumerator>
+QStringView nameOf(const Names& names, Enumerator value)
 {
-    constexpr std::array names{"course", "makeup", "exam"};
-    return QLatin1String(names.at(static_cast<std::size_t>(kind)));
+    return names.at(static_cast<std::size_t>(value));
 }
 
-QString partName(timetable::Part part)
+/// Writes answers of all kinds. Keys stand in the order of their characters.
+class Writing
 {
-    constexpr std::array names{"A", "A2", "B", "B2"};
-    return QLatin1String(names.at(static_cast<std::size_t>(part)));
-}
-
-QString weeksName(timetable::Week weeks)
-{
-    constexpr std::array names{"all", "A", "B"};
-    return QLatin1String(names.at(static_cast<std::size_t>(weeks)));
-}
-
-template <typename Number>
-QJsonValue orNull(const std::optional<Number>& number)
-{
-    return number ? QJsonValue(*number) : QJsonValue();
-}
-
-QJsonValue dateValue(QDate date)
-{
-    return date.isValid() ? QJsonValue(date.toString(Qt::ISODate)) : QJsonValue();
-}
-
-QJsonObject holderObject(const Occupancy& occupancy, HoldingId id)
-{
-    const timetable::Holder holder = occupancy.describe(occupancy.holding(id));
-    QJsonArray classes;
-    if (!holder.className.isEmpty()) {
-        classes.append(holder.className);
+public:
+    explicit Writing(const timetable::Occupancy& occupancy)
+        : m_occupancy(occupancy), m_written(occupancy.holdings().size())
+    {
     }
-    const bool hasTime = holder.time.has_value();
-    return {{Key("kind"), kindName(holder.kind)},
-            {Key("part"), partName(holder.part)},
-            {Key("rooms"), QJsonArray::fromStringList(holder.rooms)},
-            {Key("classes"), classes},
-            {Key("teachers"), QJsonArray::fromStringList(holder.teachers)},
-            {Key("subject"), holder.subject},
-            {Key("day"), holder.day},
-            {Key("slot"), holder.slot > 0 ? QJsonValue(holder.slot) : QJsonValue()},
-            {Key("start"), hasTime ? QJsonValue(holder.time->start.value) : QJsonValue()},
-            {Key("minutes"), hasTime ? QJsonValue(holder.time->length.value) : QJsonValue()},
-            {Key("weeks"), weeksName(holder.weeks)},
-            {Key("date"),
-             holder.date.isValid() ? QJsonValue(holder.date.toString(Qt::ISODate)) : QJsonValue()}};
+
+    void operator()(const answers::FreeRooms& answer);
+    void operator()(const WeekAnswer& week) { holders("items", week.items); }
+    void operator()(const HitList& hits);
+    void operator()(const ClashList& clashes);
+    void operator()(const answers::RoomUse& use);
+
+    [[nodiscard]] JsonWriter& json() { return m_json; }
+
+private:
+    void text(const char* key, QStringView text)
+    {
+        m_json.key(key);
+        m_json.text(text);
+    }
+    void optionalText(const char* key, const std::optional<QString>& value);
+    void texts(const char* key, const QStringList& texts);
+    template <typename Number>
+    void number(const char* key, Number value)
+    {
+        m_json.key(key);
+        m_json.number(value);
+    }
+    template <typename Number>
+    void optional(const char* key, const std::optional<Number>& value)
+    {
+        m_json.key(key);
+        m_json.orNull(value);
+    }
+    void date(const char* key, QDate date);
+    void roomName(timetable::RoomId room) { text("room", m_occupancy.timetable().room(room).name); }
+    void holder(HoldingId id);
+    void holders(const char* key, const std::vector<HoldingId>& ids);
+
+    const timetable::Occupancy& m_occupancy;
+    JsonWriter m_json;
+    /// Where a holding was written, from and to: in a list of hits it stands with its room, its
+    /// teachers, its class and its subject. All holdings of an answer are equally deep.
+    std::vector<std::pair<qsizetype, qsizetype>> m_written;
+};
+
+void Writing::optionalText(const char* key, const std::optional<QString>& value)
+{
+    m_json.key(key);
+    value ? m_json.text(*value) : m_json.null();
 }
 
-QJsonArray holderArray(const Occupancy& occupancy, const std::vector<HoldingId>& ids)
+void Writing::texts(const char* key, const QStringList& texts)
 {
-    QJsonArray holders;
+    m_json.key(key);
+    m_json.beginArray();
+    for (const QString& each : texts) {
+        m_json.text(each);
+    }
+    m_json.endArray();
+}
+
+void Writing::date(const char* key, QDate date)
+{
+    optionalText(key, date.isValid() ? std::optional(date.toString(Qt::ISODate)) : std::nullopt);
+}
+
+void Writing::holder(HoldingId id)
+{
+    const timetable::Holder holder = m_occupancy.describe(m_occupancy.holding(id));
+    m_json.beginObject();
+    texts("classes", holder.className.isEmpty() ? QStringList() : QStringList(holder.className));
+    date("date", holder.date);
+    number("day", holder.day);
+    text("kind", nameOf(kKinds, holder.kind));
+    optional("minutes", holder.time ? std::optional(holder.time->length.value) : std::nullopt);
+    text("part", nameOf(kParts, holder.part));
+    texts("rooms", holder.rooms);
+    optional("slot", holder.slot > 0 ? std::optional(holder.slot) : std::nullopt);
+    optional("start", holder.time ? std::optional(holder.time->start.value) : std::nullopt);
+    text("subject", holder.subject);
+    texts("teachers", holder.teachers);
+    text("weeks", nameOf(kWeeks, holder.weeks));
+    m_json.endObject();
+}
+
+void Writing::holders(const char* key, const std::vector<HoldingId>& ids)
+{
+    m_json.key(key);
+    m_json.beginArray();
     for (const HoldingId id : ids) {
-        holders.append(holderObject(occupancy, id));
+        auto& [begin, end] = m_written.at(static_cast<std::size_t>(id.index()));
+        if (end > 0) {
+            m_json.repeatElement(begin, end);
+        } else {
+            begin = m_json.beginOfElement();
+            holder(id);
+            end = m_json.size();
+        }
     }
-    return holders;
+    m_json.endArray();
 }
 
-QJsonObject freeRoomsObject(const Occupancy& occupancy, const answers::FreeRooms& answer)
+void Writing::operator()(const answers::FreeRooms& answer)
 {
-    QJsonArray rooms;
+    m_json.key("rooms");
+    m_json.beginArray();
     for (const answers::FreeRoom& free : answer.rooms) {
-        const timetable::Room& room = occupancy.timetable().room(free.room);
-        rooms.append(QJsonObject{{Key("room"), room.name},
-                                 {Key("places"), room.places},
-                                 {Key("zone"), orNull(room.zone)},
-                                 {Key("department"), orNull(room.department)},
-                                 {Key("free_from"), free.stretch.start.value},
-                                 {Key("free_to"), free.stretch.end().value}});
+        const timetable::Room& room = m_occupancy.timetable().room(free.room);
+        m_json.beginObject();
+        optionalText("department", room.department);
+        number("free_from", free.stretch.start.value);
+        number("free_to", free.stretch.end().value);
+        number("places", room.places);
+        text("room", room.name);
+        optional("zone", room.zone);
+        m_json.endObject();
     }
-    QJsonArray taken;
+    m_json.endArray();
+    m_json.key("taken");
+    m_json.beginArray();
     for (const answers::HeldRoom& held : answer.taken) {
-        taken.append(QJsonObject{{Key("room"), occupancy.timetable().room(held.room).name},
-                                 {Key("by"), holderArray(occupancy, held.by)}});
+        m_json.beginObject();
+        holders("by", held.by);
+        roomName(held.room);
+        m_json.endObject();
     }
-    QJsonArray unknown;
+    m_json.endArray();
+    m_json.key("unknown");
+    m_json.beginArray();
     for (const answers::HeldRoom& held : answer.unknown) {
-        unknown.append(QJsonObject{{Key("room"), occupancy.timetable().room(held.room).name},
-                                   {Key("why"), answers::whyUnknown(occupancy, held.by)}});
+        m_json.beginObject();
+        roomName(held.room);
+        text("why", answers::whyUnknown(m_occupancy, held.by));
+        m_json.endObject();
     }
-    return {{Key("rooms"), rooms}, {Key("taken"), taken}, {Key("unknown"), unknown}};
+    m_json.endArray();
 }
 
-QJsonObject weekObject(const Occupancy& occupancy, const WeekAnswer& week)
+void Writing::operator()(const HitList& hits)
 {
-    return {{Key("items"), holderArray(occupancy, week.items)}};
-}
-
-QJsonObject hitsObject(const Occupancy& occupancy, const HitList& hits)
-{
-    constexpr std::array kinds{"room", "teacher", "class", "subject"};
-    QJsonArray array;
+    m_json.key("hits");
+    m_json.beginArray();
     for (const answers::Hit& hit : hits) {
-        array.append(QJsonObject{{Key("what"), QLatin1String(kinds.at(hit.subject.index()))},
-                                 {Key("name"), hit.name},
-                                 {Key("items"), holderArray(occupancy, hit.items)}});
+        m_json.beginObject();
+        holders("items", hit.items);
+        text("name", hit.name);
+        text("what", kSubjects.at(hit.subject.index()));
+        m_json.endObject();
     }
-    return {{Key("hits"), array}};
+    m_json.endArray();
 }
 
-QJsonObject clashesObject(const Occupancy& occupancy, const ClashList& clashes)
+void Writing::operator()(const ClashList& clashes)
 {
-    constexpr std::array kinds{"room",         "teacher",      "class",
-                               "overfull",     "makeup-room",  "makeup-teacher",
-                               "makeup-class", "unknown-room", "no-time"};
-    QJsonArray array;
+    m_json.key("clashes");
+    m_json.beginArray();
     for (const answers::Clash& clash : clashes) {
-        array.append(QJsonObject{
-            {Key("kind"), QLatin1String(kinds.at(static_cast<std::size_t>(clash.kind)))},
-            {Key("name"), clash.name},
-            {Key("day"), clash.day == timetable::kNoDay ? QJsonValue() : QJsonValue(clash.day)},
-            {Key("date"), dateValue(clash.date)},
-            {Key("weeks"), weeksName(clash.weeks)},
-            {Key("holders"), holderArray(occupancy, clash.holders)},
-            {Key("sentence"), answers::clashSentence(occupancy, clash)}});
+        m_json.beginObject();
+        date("date", clash.date);
+        optional("day", clash.day == timetable::kNoDay ? std::nullopt : std::optional(clash.day));
+        holders("holders", clash.holders);
+        text("kind", nameOf(kClashes, clash.kind));
+        text("name", clash.name);
+        text("sentence", answers::clashSentence(m_occupancy, clash));
+        text("weeks", nameOf(kWeeks, clash.weeks));
+        m_json.endObject();
     }
-    return {{Key("clashes"), array}};
+    m_json.endArray();
 }
 
 /// Shares of seats that cannot be known are null.
-QJsonObject roomUseObject(const Occupancy& occupancy, const answers::RoomUse& use)
+void Writing::operator()(const answers::RoomUse& use)
 {
-    const auto seats = [&use](double share) {
-        return use.areSeatsKnown ? QJsonValue(share) : QJsonValue();
+    const auto seats = [&](double share) {
+        optional("seats_share", use.areSeatsKnown ? std::optional(share) : std::nullopt);
     };
-    QJsonArray rooms;
+    m_json.key("rooms");
+    m_json.beginArray();
     for (const answers::UseOfRoom& room : use.rooms) {
-        rooms.append(QJsonObject{{Key("room"), occupancy.timetable().room(room.room).name},
-                                 {Key("places"), room.places},
-                                 {Key("slots"), room.slots},
-                                 {Key("held"), room.held},
-                                 {Key("share"), room.share},
-                                 {Key("seats_share"), seats(room.seatsShare)}});
+        m_json.beginObject();
+        number("held", room.held);
+        number("places", room.places);
+        roomName(room.room);
+        seats(room.seatsShare);
+        number("share", room.share);
+        number("slots", room.slots);
+        m_json.endObject();
     }
-    QJsonArray slots;
+    m_json.endArray();
+    seats(use.seatsShare);
+    number("share", use.share);
+    m_json.key("slots");
+    m_json.beginArray();
     for (const answers::UseOfSlot& slot : use.slots) {
-        slots.append(QJsonObject{{Key("day"), slot.day},
-                                 {Key("slot"), slot.slot},
-                                 {Key("rooms"), slot.rooms},
-                                 {Key("held"), slot.held},
-                                 {Key("share"), slot.share}});
+        m_json.beginObject();
+        number("day", slot.day);
+        number("held", slot.held);
+        number("rooms", slot.rooms);
+        number("share", slot.share);
+        number("slot", slot.slot);
+        m_json.endObject();
     }
-    return {{Key("rooms"), rooms},
-            {Key("slots"), slots},
-            {Key("share"), use.share},
-            {Key("seats_share"), seats(use.seatsShare)}};
+    m_json.endArray();
 }
-
-/// An answer of any kind.
-struct ObjectOf {
-    const Occupancy& occupancy;
-
-    QJsonObject operator()(const answers::FreeRooms& free) const
-    {
-        return freeRoomsObject(occupancy, free);
-    }
-    QJsonObject operator()(const WeekAnswer& week) const { return weekObject(occupancy, week); }
-    QJsonObject operator()(const HitList& hits) const { return hitsObject(occupancy, hits); }
-    QJsonObject operator()(const ClashList& clashes) const
-    {
-        return clashesObject(occupancy, clashes);
-    }
-    QJsonObject operator()(const answers::RoomUse& use) const
-    {
-        return roomUseObject(occupancy, use);
-    }
-};
 
 } // namespace
 
 QByteArray answerAsJson(const AnswerDocument& document)
 {
-    const QJsonObject object = std::visit(ObjectOf{*document.occupancy}, document.answer);
-    return QJsonDocument(object).toJson(QJsonDocument::Indented);
+    Writing writing(*document.occupancy);
+    writing.json().beginObject();
+    std::visit(writing, document.answer);
+    writing.json().endObject();
+    return writing.json().take();
 }
 
 } // namespace files
