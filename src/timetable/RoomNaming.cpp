@@ -33,10 +33,8 @@ void RoomNaming::addRoom(const QString& name)
 
 RoomNameId RoomNaming::name(MeetingKind kind, std::size_t field, QStringView text)
 {
-    // In some timetables most room columns hold an empty text where others hold a null. A room
-    // without a name is looked for in `Salle` alone, as on the plan.
-    const bool mayBeEmpty = m_hasNamelessRoom && field == field::of(Part::A, field::kRoom);
-    if (text.isNull() || (text.isEmpty() && !mayBeEmpty)) {
+    // In some timetables most room columns hold an empty text where others hold a null.
+    if (text.isNull() || (text.isEmpty() && !m_hasNamelessRoom)) {
         return {};
     }
     const std::size_t which = field / field::kPartFields * 2 + field % field::kPartFields;

@@ -23,7 +23,7 @@ public:
     /// names of the rows.
     void addRoom(const QString& name);
     /// The id of a text in a room column; nothing for a null, and for an empty text unless a room
-    /// of the room table has no name and the column is `Salle`.
+    /// of the room table has no name (see NamelessRooms).
     [[nodiscard]] RoomNameId name(MeetingKind kind, std::size_t field, QStringView text);
 
     void ask(NameInquiry& inquiry);

@@ -1,6 +1,7 @@
 #include "timetable/TimetableBuilder.h"
 
 #include "timetable/MeetingColumns.h"
+#include "timetable/NamelessRooms.h"
 #include "timetable/ReadTimes.h"
 
 #include <algorithm>
@@ -165,7 +166,11 @@ void TimetableBuilder::takeRooms(const NameInquiry& inquiry)
 }
 
 void TimetableBuilder::takeSlots(const NameInquiry& inquiry)
+    NamelessRooms nameless(m_result.rooms(), m_result.m_roomNames);
 {
+        if (nameless.isAny()) {
+            nameless.settle(meeting);
+        }
     m_result.m_slots = m_slots.takeSlots(inquiry);
     std::array<std::vector<SlotKey>, kMeetingKinds> keys;
     for (std::size_t kind = 0; kind < kMeetingKinds; ++kind) {
