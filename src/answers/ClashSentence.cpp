@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <vector>
 
 namespace answers
 {
@@ -54,20 +55,26 @@ QString leadingKind(const Holder& holder)
     return kind.isEmpty() ? kind : kind + u' ';
 }
 
-/// "L1 A avec Durand", as far as it is known.
+/// "L1 A avec Durand", as far as it is known. The subject stands in for what is not.
 QString together(const Holder& holder, const QString& what, const QStringList& companions)
 {
     QStringList words;
-    if (!what.isEmpty()) {
-        words << what;
+    if (!what.isEmpty() || !holder.subject.isEmpty()) {
+        words << (what.isEmpty() ? holder.subject : what);
     }
     if (!companions.isEmpty()) {
         words << QStringLiteral("avec ") + companions.join(QStringLiteral(" et "));
     }
     if (words.isEmpty()) {
-        words << (holder.subject.isEmpty() ? QStringLiteral("séance sans nom") : holder.subject);
+        words << QStringLiteral("séance sans nom");
     }
     return leadingKind(holder) + words.join(u' ');
+}
+
+/// " pour Algèbre"; nothing for nothing.
+QString forSubject(const Holder& holder)
+{
+    return holder.subject.isEmpty() ? QString() : QStringLiteral(" pour ") + holder.subject;
 }
 
 /// A holder, but for what the clash is about.
@@ -77,8 +84,11 @@ QString holderWords(const Holder& holder, ClashKind kind)
     switch (kind) {
     case ClashKind::Teacher:
     case ClashKind::MakeupTeacher:
-        return together(holder, rooms,
-                        holder.className.isEmpty() ? QStringList() : QStringList(holder.className));
+        return holder.className.isEmpty() && !rooms.isEmpty()
+                   ? leadingKind(holder) + rooms + forSubject(holder)
+                   : together(holder, rooms,
+                              holder.className.isEmpty() ? QStringList()
+                                                         : QStringList(holder.className));
     case ClashKind::Class:
     case ClashKind::MakeupClass:
         return together(holder, rooms, holder.teachers);
@@ -93,15 +103,31 @@ QString holderWords(const Holder& holder, ClashKind kind)
     }
 }
 
+/// Adds the subject where several holders have the same words.
+void tellApart(QStringList& words, const std::vector<Holder>& holders)
+{
+    const QStringList before = words;
+    for (qsizetype index = 0; index < words.size(); ++index) {
+        const QString subject = forSubject(holders[static_cast<std::size_t>(index)]);
+        if (before.count(before[index]) > 1 && !before[index].endsWith(subject)) {
+            words[index] += subject;
+        }
+    }
+}
+
 /// All holders in brackets.
 QString holdersWords(const Occupancy& occupancy, const Clash& clash)
 {
     QStringList all;
+    std::vector<Holder> holders;
     for (const HoldingId id : clash.holders) {
-        all << holderWords(occupancy.describe(occupancy.holding(id)), clash.kind);
+        holders.push_back(occupancy.describe(occupancy.holding(id)));
+        all << holderWords(holders.back(), clash.kind);
     }
     if (clash.kind == ClashKind::Overfull) {
         all.removeDuplicates(); // each class once
+    } else {
+        tellApart(all, holders);
     }
     if (all.isEmpty()) {
         return {};

@@ -49,6 +49,30 @@ TEST_F(TheSentence, tellsOfATeacher)
                                        "deux salles à la fois (Amphi B avec L1 A, TP 1)."));
 }
 
+TEST_F(TheSentence, namesTheSubjectWhereThereIsNoClass)
+{
+    school.course({.key = "Lundi1", .room = "Amphi B", .teacher = "Durand", .subject = "Chimie"});
+    school.course({"Lundi1", "Amphi B", "L2 B", "Petit", "Algèbre"});
+    school.course({.key = "Mardi1", .room = "Amphi B", .teacher = "Roux", .subject = "Chimie"});
+    school.course({"Mardi1", "TP 1", "L2 B", "Roux", "Algèbre"});
+    EXPECT_EQ(sentences(),
+              QStringList({"Salle Amphi B, lundi de 8h00 à 9h30 : deux séances à la fois (Chimie "
+                           "avec Durand, L2 B avec Petit).",
+                           "Enseignant Roux, mardi de 8h00 à 9h30 : dans deux salles à la fois "
+                           "(Amphi B pour Chimie, TP 1 avec L2 B)."}));
+}
+
+TEST_F(TheSentence, namesTheSubjectWhereTheWordsWouldRepeat)
+{
+    school.course({"Lundi1", "Amphi B", "L1 A", "Durand", "Chimie"});
+    school.course({"Lundi1", "Amphi B", "L1 B", "Durand", "Chimie"});
+    school.course({"Lundi1", "Amphi B", "L1 A", "Durand", "Algèbre"});
+    const QStringList all = sentences();
+    ASSERT_FALSE(all.isEmpty());
+    EXPECT_EQ(all[0], "Salle Amphi B, lundi de 8h00 à 9h30 : plusieurs séances à la fois (L1 A "
+                      "avec Durand pour Chimie, L1 B avec Durand, L1 A avec Durand pour Algèbre).");
+}
+
 TEST_F(TheSentence, tellsOfAClass)
 {
     school.course({.key = "Samedi1",

@@ -77,4 +77,7 @@ TEST_F(TheSearch, knowsANameAsItIsSpeltOrNearlySo)
 TEST(TheFormOfASearch, hasNoAccentsNoCapitalsAndNoLigatures)
 {
     EXPECT_EQ(searchForm("ÉTÉ à l'Œuvre"), "ete a l'oeuvre");
+    EXPECT_EQ(searchForm("L’Été"), "l'ete");
+    EXPECT_EQ(searchForm("d‘Or dʼOr"), "d'or d'or");
+    EXPECT_EQ(searchForm("SALLE D'Or"), "salle d'or");
 }
