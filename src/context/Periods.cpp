@@ -164,6 +164,16 @@ void Periods::CbJour_Click()
     m_DayChangeBusy = false;
 }
 
+void Periods::chooseDayAgain()
+{
+    const int day = m_form.CbJour.listIndex();
+    if (day < 0) { // the list's own rule leads to the Sunday before
+        m_plan.RefreshPlan();
+    } else {
+        m_form.CbJour.setListIndex(day);
+    }
+}
+
 void Periods::DTPicker1_Change()
 {
     if (m_DayChangeBusy) {

@@ -40,6 +40,10 @@ public:
     /// Shows the chosen exam week; does nothing in teaching mode.
     void Afficher_Dates();
 
+    /// Chooses the shown day again: date, absences, totals and boxes become that day's. A Sunday,
+    /// which the list does not hold, is drawn again as it is.
+    void chooseDayAgain();
+
     /// Lets waiting events run in the middle of a redraw. Neither control is writing into the
     /// other at that moment, so an event that comes in then is not taken for an echo.
     void yieldTo(const std::function<void()>& events);

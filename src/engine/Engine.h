@@ -96,6 +96,8 @@ public:
     /// Whether "◀" (-1) or "▶" (1) leads to a day.
     [[nodiscard]] bool hasDayBeside(int step) const { return m_periods.hasDayBeside(step); }
     void refreshPlan() { m_refresh.RefreshPlan(); }
+    /// Chooses the shown day again, so that the plan shows all that the options say.
+    void chooseDayAgain() { m_periods.chooseDayAgain(); }
     /// Row colours become pale, or full again; redraws.
     void togglePaleColors();
     /// Works out the rows that a refresh in progress has not come to.

@@ -25,6 +25,8 @@ struct DisplayOptions {
     bool showsWeekB = false;       ///< courses show their B side
     bool everyWeek = false;        ///< "Toute Semaine": both sides
     QString separator;             ///< between the parts of an A text: a line end or nothing
+
+    friend bool operator==(const DisplayOptions&, const DisplayOptions&) = default;
 };
 
 /// A step of a box text that was left out because its field could not be read.

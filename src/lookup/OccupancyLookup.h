@@ -18,6 +18,8 @@ struct ViewedDay {
     int examWeek = 1;     ///< 1 to 3
     bool makeUps = false; ///< "Date": free slots are asked about again among the make-ups
     QDate date;           ///< of the make-ups: the picked one
+
+    friend bool operator==(const ViewedDay&, const ViewedDay&) = default;
 };
 
 /// All that a lookup depends on beside the room and the slot, as values.
@@ -30,6 +32,8 @@ struct View {
     /// Of the hour ticks, as the database would write them: they stand in where a row has no start
     /// of its own.
     QStringList tickTimes;
+
+    friend bool operator==(const View&, const View&) = default;
 };
 
 /// Answers what occupies a room in a slot. No error stops it and none is reported: a step that

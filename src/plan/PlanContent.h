@@ -4,6 +4,7 @@
 #include "lookup/ReadFault.h"
 #include "lookup/RoomCell.h"
 #include "plan/GroupCounter.h"
+#include "plan/PlanChoice.h"
 
 #include <QDateTime>
 #include <QString>
@@ -61,6 +62,8 @@ struct PlanContent {
     std::vector<lookup::ReadFault> faults;
     /// Since when answers that the database should give have been missing; nothing while none is.
     std::optional<QDateTime> failingSince;
+    /// What was chosen when the refresh began; nothing before the first one.
+    std::optional<PlanChoice> drawnFrom;
 
     /// The box of a marker; null when none was drawn with this number.
     [[nodiscard]] const PlanBox* box(int marker) const;

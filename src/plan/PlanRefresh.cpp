@@ -75,6 +75,7 @@ void PlanRefresh::RefreshPlan(TotalsStart start)
 void PlanRefresh::startRows()
 {
     ClearPlanOverlays();
+    m_content.drawnFrom = choiceOf(m_state);
     m_state.colors.reseed();
     m_nextRow = 1;
     m_lastRow = m_state.page.RowsShown;
