@@ -5,33 +5,41 @@
 namespace absences
 {
 
-void Marking::Marquer_AbsClasses(int index)
+Toggled Marking::Marquer_AbsClasses(int index)
 {
     plan::Marqueur& marker = m_plan.markers().at(index);
+    Toggled done{Toggled::What::Classes, marker.Jour, {}, {}};
     for (const QString& className : plan::classNames(marker.Classes)) {
         m_records.Basculer_AbsClasse(marker, className);
+        (marker.AbsClasse ? done.recorded : done.takenBack) << className;
     }
+    return done;
 }
 
-void Marking::Marquer_AbsEtuds(int index)
+Toggled Marking::Marquer_AbsEtuds(int index)
 {
     plan::Marqueur& marker = m_plan.markers().at(index);
+    Toggled done{Toggled::What::Students, marker.Jour, {}, {}};
     for (const QString& className : plan::classNames(marker.Classes)) {
         m_records.Basculer_AbsEtud(marker, className, className);
         tellStudentAbsence(index);
+        (marker.AbsEtud ? done.recorded : done.takenBack) << className;
     }
+    return done;
 }
 
-void Marking::Clic_Marqueur(int index)
+std::vector<Toggled> Marking::Clic_Marqueur(int index)
 {
+    std::vector<Toggled> done;
     if (isPressed(VirtualKey::Ctrl)) {
-        Marquer_AbsEtuds(index);
+        done.push_back(Marquer_AbsEtuds(index));
         showStudentAbsence(index);
     }
     if (isPressed(VirtualKey::Shift)) {
-        Marquer_AbsClasses(index);
+        done.push_back(Marquer_AbsClasses(index));
         showClassAbsence(index);
     }
+    return done;
 }
 
 bool Marking::isPressed(VirtualKey key)

@@ -2,10 +2,12 @@
 
 #include "absences/AbsenceRecords.h"
 #include "absences/AsyncKeyState.h"
+#include "absences/Toggled.h"
 #include "plan/PlanRefresh.h"
 
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 namespace absences
 {
@@ -29,17 +31,17 @@ public:
     /// Toggles the absence of every class of the box, each by itself.
     /// Errors: SubscriptOutOfRange, any database error. The classes before the one at fault are
     /// done, those after it are not.
-    void Marquer_AbsClasses(int index);
+    Toggled Marquer_AbsClasses(int index);
     /// Toggles the absence of students of every class of the box: the class's name stands in the
     /// student's place too. The tooltip of `YAbs` follows each toggle.
     /// Errors: as above, TypeMismatch when the start time is no time of day.
-    void Marquer_AbsEtuds(int index);
+    Toggled Marquer_AbsEtuds(int index);
 
     /// A click on `XAbs`, `YAbs` or `ZAbs` of a box: asks for the state of Ctrl, then of Shift.
     /// A key counts only when it reads exactly "down now and pressed since the previous query", so
     /// that a key held over several clicks toggles once. Without any of the two nothing happens.
-    /// Errors: as above.
-    void Clic_Marqueur(int index);
+    /// Returns what was done, in its order. Errors: as above.
+    std::vector<Toggled> Clic_Marqueur(int index);
 
 private:
     [[nodiscard]] bool isPressed(VirtualKey key);

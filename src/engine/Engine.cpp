@@ -158,9 +158,9 @@ Engine::RoomLine Engine::showRoom(const QString& room)
     return isGreyed ? RoomLine::Greyed : RoomLine::Drawn;
 }
 
-void Engine::clickMarker(int marker, absences::AsyncKeyState& keys)
+std::vector<absences::Toggled> Engine::clickMarker(int marker, absences::AsyncKeyState& keys)
 {
-    absences::Marking(m_refresh, m_sources.records(), keys).Clic_Marqueur(marker);
+    return absences::Marking(m_refresh, m_sources.records(), keys).Clic_Marqueur(marker);
 }
 
 void Engine::Label2_Click(const plan::GroupCounter& group)

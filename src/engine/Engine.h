@@ -116,8 +116,8 @@ public:
     };
     /// Goes to the page that holds the room, by its name in the room table.
     RoomLine showRoom(const QString& room);
-    /// A click on one of a box's marker images: the keys decide what is toggled.
-    void clickMarker(int marker, absences::AsyncKeyState& keys);
+    /// A click on one of a box's marker images: the keys decide what is toggled. Returns what was.
+    std::vector<absences::Toggled> clickMarker(int marker, absences::AsyncKeyState& keys);
     /// A click on a group counter: shows the classes behind it.
     void Label2_Click(const plan::GroupCounter& group);
     void closeDatabase() { m_database->close(); }

@@ -100,10 +100,10 @@ void MarkedPlan::teach(const QString& subject)
     refresh();
 }
 
-void MarkedPlan::click(int index, std::int16_t shift, std::int16_t ctrl)
+std::vector<absences::Toggled> MarkedPlan::click(int index, std::int16_t shift, std::int16_t ctrl)
 {
     m_keys.states = {{VirtualKey::Shift, shift}, {VirtualKey::Ctrl, ctrl}};
-    m_engine.clickMarker(index, m_keys);
+    return m_engine.clickMarker(index, m_keys);
 }
 
 std::vector<VirtualKey> MarkedPlan::takeQueries()

@@ -23,7 +23,7 @@ public:
 
     void refresh() { m_engine.refreshPlan(); }
     /// A click on a box of which nothing but these answers of the keyboard is known.
-    void click(int index, std::int16_t shift, std::int16_t ctrl);
+    std::vector<absences::Toggled> click(int index, std::int16_t shift, std::int16_t ctrl);
     void shiftClick(int index) { click(index, absences::AsyncKeyState::kDownAndPressed, 0); }
     void ctrlClick(int index) { click(index, 0, absences::AsyncKeyState::kDownAndPressed); }
 

@@ -52,6 +52,18 @@ TEST_P(AMarker, recordsTheAbsenceOfEveryClassByAShiftClick)
     EXPECT_TRUE(studentAbsences(database()).isEmpty());
 }
 
+TEST_P(AMarker, tellsWhatAClickHasDone)
+{
+    using What = absences::Toggled::What;
+    const QDate day(2025, 3, 17);
+    MarkedPlan plan = planOf({classA, classB});
+    recordClass(classA);
+    EXPECT_EQ(plan.click(1, pressed, pressed),
+              (std::vector<absences::Toggled>{{What::Students, day, {classA, classB}, {}},
+                                              {What::Classes, day, {classB}, {classA}}}));
+    EXPECT_TRUE(plan.click(1, 0, 0).empty());
+}
+
 TEST_P(AMarker, takesTheClassAbsencesBackByASecondShiftClick)
 {
     MarkedPlan plan = planOf({classA, classB});
