@@ -38,24 +38,37 @@ Palette::Palette(plan::RowColors& colors, form::PlanForm& form, context::PlanAct
 {
 }
 
-void Palette::Charger_Palette(const QString& Path)
+bool Palette::fill(plan::RowColors& colors, const QString& path)
 {
-    const PaletteFile palette = parsePalette(readFile(Path));
+    const PaletteFile palette = parsePalette(readFile(path));
     for (std::size_t entry = 0; entry < palette.entries.size(); ++entry) {
-        m_colors.set(static_cast<int>(entry), palette.entries[entry]);
+        colors.set(static_cast<int>(entry), palette.entries[entry]);
     }
     if (!palette.isUsable()) {
+        return false;
+    }
+    const bool repeated = runtime::skipOnError([&] { repeatEntries(colors, palette.repeatFrom); });
+    // A palette whose entry 1 is its repetition start is at fault. Each layout answers as it does
+    // to every fault: Numbers with no palette, Components by going on with the colours it has.
+    return repeated || palette.layout == PaletteFile::Layout::Components;
+}
+
+void Palette::Charger_Palette(const QString& Path)
+{
+    if (!fill(m_colors, Path)) {
         useNoPalette();
         return;
     }
     m_colors.PaletteName = Path;
     m_form.Label5.caption = Nom_Palette(m_colors.PaletteName);
-    const bool repeated = runtime::skipOnError([&] { repeatEntries(palette.repeatFrom); });
-    // A palette whose entry 1 is its repetition start is at fault. Each layout answers as it does
-    // to every fault: Numbers with no palette, Components by going on with the colours it has.
-    if (!repeated && palette.layout == PaletteFile::Layout::Numbers) {
-        useNoPalette();
-    }
+}
+
+void Palette::useDefault()
+{
+    useNoPalette();
+    m_chosenFile.clear();
+    m_colors.fillRandomly();
+    m_colors.RedrawMode = false; // the redraw to come draws its rows' colours by lot
 }
 
 void Palette::Choisir_Palette()
@@ -80,7 +93,7 @@ QString Palette::Nom_Palette(const QString& Path)
     return length < 0 ? Path : Path.mid(name, length);
 }
 
-void Palette::repeatEntries(int repeatFrom)
+void Palette::repeatEntries(plan::RowColors& colors, int repeatFrom)
 {
     if (repeatFrom == 0) {
         return;
@@ -88,7 +101,7 @@ void Palette::repeatEntries(int repeatFrom)
     // In increasing order on purpose: a source may be an entry that was written just before, so
     // that the entries between 2 and the start come again and again. Entries 0 and 1 never do.
     for (int step = 0; repeatFrom + step < plan::RowColors::kColors; ++step) {
-        m_colors.set(repeatFrom + step, m_colors.at(2 + step));
+        colors.set(repeatFrom + step, colors.at(2 + step));
     }
 }
 

@@ -28,6 +28,14 @@ public:
     /// use: the name is empty and the label reads "Défaut". Entries read until then stay.
     void Charger_Palette(const QString& Path);
 
+    /// Writes a palette file's colours into a table, with their repetition, and nothing else. False
+    /// where that leaves no palette in use, as above.
+    static bool fill(plan::RowColors& colors, const QString& path);
+
+    /// Back to "Défaut": random colours anew, and no palette in use, also for the next Cancel. Does
+    /// not redraw.
+    void useDefault();
+
     /// The handler of "Changer de Palette": asks for a file, loads it and redraws the plan. Cancel
     /// answers with the file chosen before, which is loaded again; the plan is redrawn in any case.
     void Choisir_Palette();
@@ -39,7 +47,7 @@ public:
 private:
     /// Copies the entries 2 onward to `repeatFrom` and after it, up to the end of the table.
     /// Error: SubscriptOutOfRange for 1, which would read past the end.
-    void repeatEntries(int repeatFrom);
+    static void repeatEntries(plan::RowColors& colors, int repeatFrom);
     void useNoPalette();
 
     plan::RowColors& m_colors;

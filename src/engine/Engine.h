@@ -80,6 +80,8 @@ public:
     /// random row colours.
     void startAppearance();
     void loadPalette(const QString& path) { m_palette.Charger_Palette(path); }
+    /// Random row colours again, and no palette in use, from the next redraw on.
+    void useDefaultColors() { m_palette.useDefault(); }
     /// Opens the database and reads what the header shows.
     void loadEstablishment(const context::HeaderSource& source);
     void loadSlots();

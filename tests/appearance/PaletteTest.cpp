@@ -462,3 +462,43 @@ TEST_F(BrokenPaletteTest, survivesRandomBytes)
         expectSoundAfter(bytes);
     }
 }
+
+TEST_F(PaletteTest, fillsAnotherTableAndNothingElse)
+{
+    plan::RowColors other;
+    other.set(5, untouched(5));
+    EXPECT_TRUE(Palette::fill(other, write("a\tb\t1\t2\t3\r\na\tb\t4\t5\t6\r\n"
+                                           "a\tb\t7\t8\t9\r\na\tb\t10\t11\t12\r\n")));
+    EXPECT_EQ(other.at(1), Colour::fromRgb(4, 5, 6));
+    EXPECT_EQ(other.at(5), Colour::fromRgb(10, 11, 12)); // 2 and 3 come again from 4 on
+    EXPECT_EQ(other.PaletteName, QString());
+    expectUntouched(0, kEntries - 1);
+    EXPECT_EQ(plan.refreshes, 0);
+}
+
+TEST_F(PaletteTest, isNoneForATableWhereTheFileIsNone)
+{
+    plan::RowColors other;
+    EXPECT_FALSE(Palette::fill(other, folder.filePath("missing.mpl")));
+    EXPECT_FALSE(Palette::fill(other, write("255\r\n65535\r\n")));
+}
+
+TEST_F(PaletteTest, returnsToRandomColoursAndForgetsTheFile)
+{
+    answer = write("a\tb\t1\t2\t3\r\na\tb\t4\t5\t6\r\na\tb\t7\t8\t9\r\n");
+    palette.Choisir_Palette();
+    colors.RedrawMode = true;
+    ASSERT_EQ(form.Label5.caption, "Bleu");
+    palette.useDefault();
+    EXPECT_EQ(form.Label5.caption, "Défaut");
+    EXPECT_EQ(colors.PaletteName, QString());
+    EXPECT_FALSE(colors.RedrawMode); // the next redraw draws its colours by lot
+    std::set<std::uint32_t> found;
+    for (int entry = 0; entry < kEntries; ++entry) {
+        found.insert(value(entry));
+    }
+    EXPECT_GT(found.size(), 200U);
+    answer.clear(); // Cancel, which would load the file again
+    palette.Choisir_Palette();
+    EXPECT_EQ(form.Label5.caption, "Défaut");
+}
