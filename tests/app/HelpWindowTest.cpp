@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QImage>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -81,6 +82,26 @@ TEST(HelpWindow, returnsToAChapterThatIsChosenAlready)
     EXPECT_EQ(firstVisibleLine(window), "Imprimer");
 }
 
+TEST(HelpWindow, opensWhatIsNewAndReturns)
+{
+    const QString guide = longGuide();
+    test::writeFile(test::processFolder() + QStringLiteral("/nouveautes.md"),
+                    "# Quoi de neuf\n\n## Un plan vide\n\nIl dit pourquoi.\n");
+    HelpWindow window(guide, nullptr);
+    window.show();
+    auto& news = *window.findChild<QPushButton*>(QStringLiteral("HelpNews"));
+    EXPECT_EQ(news.text(), "&Quoi de neuf");
+    news.click();
+    EXPECT_EQ(textOf(window).toPlainText(), "Quoi de neuf\nUn plan vide\nIl dit pourquoi.");
+    EXPECT_EQ(textOf(window).accessibleName(), "Quoi de neuf");
+    ASSERT_EQ(chaptersOf(window).count(), 1);
+    EXPECT_EQ(chaptersOf(window).item(0)->text(), "Un plan vide");
+    EXPECT_EQ(news.text(), "Revenir au &guide");
+    news.click();
+    EXPECT_EQ(chaptersOf(window).count(), 2);
+    EXPECT_EQ(textOf(window).accessibleName(), "Guide");
+}
+
 TEST(HelpWindow, saysThatTheGuideIsMissing)
 {
     const QString path = test::processFolder() + QStringLiteral("/none.md");
@@ -88,6 +109,15 @@ TEST(HelpWindow, saysThatTheGuideIsMissing)
     EXPECT_EQ(textOf(window).toPlainText(),
               "Le guide n’a pas été trouvé : « " + QDir::toNativeSeparators(path) + " ».");
     EXPECT_TRUE(chaptersOf(window).isHidden());
+}
+
+TEST(ShippedGuide, hasWhatIsNewBesideIt)
+{
+    HelpWindow window(shippedGuide, nullptr);
+    window.findChild<QPushButton*>(QStringLiteral("HelpNews"))->click();
+    EXPECT_TRUE(textOf(window).toPlainText().startsWith("Quoi de neuf"))
+        << textOf(window).toPlainText().left(80).toStdString();
+    EXPECT_GT(chaptersOf(window).count(), 2);
 }
 
 TEST(ShippedGuide, hasPicturesThatShipAndFitTheWindow)
