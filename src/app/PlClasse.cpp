@@ -15,7 +15,6 @@
 #include "app/StatusWords.h"
 #include "app/WheelGuard.h"
 #include "app/WindowKeys.h"
-#include "app/WindowStyle.h"
 #include "app/asking/Questions.h"
 #include "app/hall/WindowHall.h"
 #include "plan/FaultWords.h"
@@ -85,7 +84,7 @@ PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
 {
     setObjectName(QStringLiteral("PlClasse"));
     setWindowTitle(m_shell.form().caption);
-    setStyleSheet(windowStyleSheet());
+    m_style.emplace(this);
     buildContent();
     buildStatusBar();
     addKeys();
@@ -347,12 +346,7 @@ void PlClasse::syncWidgets()
 {
     m_mirror.sync();
     serveFocusRequest();
-    const form::PlanForm& form = m_shell.form();
-    if (form.controlFontName != m_fontName) {
-        m_fontName = form.controlFontName;
-        setStyleSheet(windowStyleSheet() +
-                      QStringLiteral("* { font-family: \"%1\"; }").arg(m_fontName));
-    }
+    m_style->setFontName(m_shell.form().controlFontName);
 }
 
 void PlClasse::serveFocusRequest()

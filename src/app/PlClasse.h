@@ -6,12 +6,14 @@
 #include "app/StartWindow.h"
 #include "app/Waiting.h"
 #include "app/WindowPlacement.h"
+#include "app/WindowStyle.h"
 #include "shell/CommandLine.h"
 #include "shell/Shell.h"
 
 #include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace app
@@ -107,7 +109,7 @@ private:
     Questions* m_questions = nullptr;
     HelpWindow* m_help = nullptr; ///< null until it is asked for
     int m_focusRequests = 0;
-    QString m_fontName;
+    std::optional<WindowStyle> m_style;
     std::optional<WindowPlacement> m_placementAtStart; ///< nothing until `run` has placed it
     bool m_isStarting = false; ///< the choices of the command line are still being played
     bool m_leavesOnceStarted = false;
