@@ -10,6 +10,7 @@
 #include "app/HelpWindow.h"
 #include "app/OptionPanels.h"
 #include "app/PageFooter.h"
+#include "app/PaletteChoice.h"
 #include "app/PlainTexts.h"
 #include "app/PlanView.h"
 #include "app/StatusWords.h"
@@ -23,7 +24,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
@@ -110,9 +110,7 @@ engine::Surroundings PlClasse::tieToWindow(engine::Surroundings surroundings)
     };
     surroundings.openFile = [this](const QString& startFolder, const QString& filter) {
         const Waiting::Pause pause(m_waiting);
-        return QFileDialog::getOpenFileName(
-            this, QStringLiteral("Choisir une palette"), startFolder,
-            QStringLiteral("Palettes (%1)").arg(filter.section(u'|', 1)));
+        return choosePalette(m_shell.engine(), this, startFolder, filter);
     };
     return surroundings;
 }
