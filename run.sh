@@ -94,6 +94,15 @@ Database=$demo
 END
 }
 
+# The demo opens in calm colours. Settings that are there stay as they are.
+write_demo_settings() {
+    local settings=$run/config/Tempora.ini
+    [[ -f $settings ]] && return
+    mkdir -p "$run/config"
+    printf '[Settings]\nPalette=%s\n' "$bin/Styles/Pastel.mpl" >"$settings"
+    chmod 600 "$settings"
+}
+
 # Writes the plan to files: what a machine without a display can show.
 write_plan() {
     local format
@@ -117,6 +126,7 @@ if $new_demo || [[ ! -f $demo ]]; then
 fi
 check_demo_period
 register_data_source
+write_demo_settings
 
 if has_display; then
     exec "$bin/tempora" "${options[@]}"
