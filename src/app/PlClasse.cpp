@@ -2,9 +2,9 @@
 
 #include "absences/HeldKey.h"
 #include "app/AbsenceMenu.h"
+#include "app/EmptyPlanNote.h"
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
-#include "app/FaultBar.h"
 #include "app/FocusGroups.h"
 #include "app/HeaderBand.h"
 #include "app/HelpWindow.h"
@@ -12,13 +12,13 @@
 #include "app/PageFooter.h"
 #include "app/PaletteChoice.h"
 #include "app/PlainTexts.h"
+#include "app/PlanNotices.h"
 #include "app/PlanView.h"
 #include "app/StatusWords.h"
 #include "app/WheelGuard.h"
 #include "app/WindowKeys.h"
 #include "app/asking/Questions.h"
 #include "app/hall/WindowHall.h"
-#include "plan/FaultWords.h"
 #include "shell/Player.h"
 
 #include <QAction>
@@ -132,12 +132,9 @@ void PlClasse::buildContent()
     column->addWidget(new HeaderBand(m_shell.engine(), m_mirror, help, m_questions->menu()));
     m_options = new OptionPanels(m_shell.engine(), m_mirror);
     column->addWidget(m_options);
-    auto* faults = new FaultBar([this] { readAgain(); });
-    m_mirror.follow([this, faults] {
-        const plan::PlanContent& plan = m_shell.engine().content();
-        faults->tell(plan::faultSentence(plan), plan::faultDetails(plan));
-    });
-    column->addWidget(faults);
+    m_notices = new PlanNotices(m_shell.engine(), m_mirror,
+                                [this](const std::function<void()>& action) { forward(action); });
+    column->addWidget(m_notices);
     m_view = new PlanView(
         m_shell, [this](const std::function<void()>& action) { forward(action); },
         [this](int marker) { clickMarker(marker, m_keys); });
@@ -147,6 +144,7 @@ void PlClasse::buildContent()
         });
     m_questions->tieTo(
         m_view, [this](QMenu& menu, const PlanView::Spot& spot) { m_absences->addTo(menu, spot); });
+    new EmptyPlanNote(m_shell.engine(), m_mirror, m_view->viewport());
     column->addWidget(m_view, 1);
     setCentralWidget(content);
 }
@@ -370,14 +368,6 @@ void PlClasse::clickMarker(int marker, const std::shared_ptr<absences::AsyncKeyS
     forward([this, marker, keys] { m_shell.engine().clickMarker(marker, *keys); });
 }
 
-/// Only where something is missing: a refresh that counts begins its totals anew.
-void PlClasse::readAgain()
-{
-    if (!m_shell.engine().content().faults.empty()) {
-        forward([this] { m_shell.engine().refreshPlan(); });
-    }
-}
-
 void PlClasse::showHelp()
 {
     if (m_help == nullptr) {
@@ -403,7 +393,7 @@ void PlClasse::keyPressEvent(QKeyEvent* event)
         return;
     }
     if (event->key() == Qt::Key_F5) {
-        readAgain();
+        m_notices->refresh();
         return;
     }
     QMainWindow::keyPressEvent(event);

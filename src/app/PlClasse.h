@@ -22,6 +22,7 @@ namespace app
 class AbsenceMenu;
 class HelpWindow;
 class OptionPanels;
+class PlanNotices;
 class PlanView;
 class Questions;
 class WindowHall;
@@ -89,7 +90,6 @@ private:
     void place();
     void keepPlacement();
     void clickMarker(int marker, const std::shared_ptr<absences::AsyncKeyState>& keys);
-    void readAgain();
     void showHelp();
 
     QString m_guide; ///< path of the guide
@@ -104,6 +104,7 @@ private:
     Printing m_printing;
     FormMirror m_mirror;
     OptionPanels* m_options = nullptr;
+    PlanNotices* m_notices = nullptr;
     PlanView* m_view = nullptr;
     std::unique_ptr<AbsenceMenu> m_absences;
     Questions* m_questions = nullptr;

@@ -4,6 +4,7 @@
 #include "paint/Overlays.h"
 #include "plan/BoxLines.h"
 #include "plan/BoxWords.h"
+#include "plan/EmptyPlan.h"
 #include "plan/FaultWords.h"
 #include "plan/RoomRows.h"
 #include "plan/SlotColumns.h"
@@ -224,6 +225,10 @@ QString PlanTable::note() const
     const QString faults = plan::faultSentence(m_content);
     if (!faults.isEmpty()) {
         sentences << faults;
+    }
+    const QString empty = plan::emptyPlanReason(m_state, m_content);
+    if (!empty.isEmpty()) {
+        sentences << empty;
     }
     const form::Label& rowZero = form.Salle.front();
     if (rowZero.visible) {
