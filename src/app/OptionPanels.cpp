@@ -322,7 +322,7 @@ void addSubjectPanel(QLayout* band, PanelBuilder& make, FormMirror& mirror, engi
     grid->addWidget(frame, 1, 0, 2, 2);
 }
 
-void addPrintPanel(QLayout* band, PanelBuilder& make, engine::Engine& engine)
+void addPrintPanel(QLayout* band, PanelBuilder& make, FormMirror& mirror, engine::Engine& engine)
 {
     form::PlanForm& form = engine.form();
     QGridLayout* grid = addPanel(band, QStringLiteral("Impression"));
@@ -336,10 +336,20 @@ void addPrintPanel(QLayout* band, PanelBuilder& make, engine::Engine& engine)
                                 QStringLiteral("Imprimer toutes les salles, une feuille par "
                                                "page (Ctrl+Maj+P)")),
                     1, 0, 1, 2);
-    grid->addWidget(make.check("Opt_Cap", form.Opt_Cap,
-                               QStringLiteral("Imprimer l’effectif et les places de chaque case, "
-                                              "quand « S. Groupées » n’est pas coché")),
+    grid->addWidget(make.button("PreviewAllPages", form.PreviewAllPages,
+                                QStringLiteral("Voir toutes les feuilles avant de les imprimer")),
                     2, 0, 1, 2);
+    auto* capacity = make.check("Opt_Cap", form.Opt_Cap);
+    mirror.follow([capacity, &form] {
+        const bool counts = !form.Check3.isChecked();
+        capacity->setEnabled(counts);
+        setPlainToolTip(
+            capacity, counts ? QStringLiteral("Imprimer l’effectif et les places de chaque case")
+                             : QStringLiteral("Sans effet tant que « S. Groupées » est coché : les "
+                                              "feuilles ont alors ses compteurs. Décochez-le pour "
+                                              "imprimer l’effectif et les places de chaque case."));
+    });
+    grid->addWidget(capacity, 3, 0, 1, 2);
 }
 
 } // namespace
@@ -360,7 +370,7 @@ OptionPanels::OptionPanels(engine::Engine& engine, FormMirror& mirror)
     addPagePanel(band, make, form);
     m_colorer = addViewPanel(band, make, form);
     addSubjectPanel(band, make, mirror, engine);
-    addPrintPanel(band, make, engine);
+    addPrintPanel(band, make, mirror, engine);
 }
 
 std::vector<QWidget*> OptionPanels::groups() const

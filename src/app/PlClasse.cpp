@@ -1,6 +1,5 @@
 #include "app/PlClasse.h"
 
-#include "absences/HeldKey.h"
 #include "app/AbsenceMenu.h"
 #include "app/EmptyPlanNote.h"
 #include "app/ErrorReport.h"
@@ -14,6 +13,7 @@
 #include "app/PlainTexts.h"
 #include "app/PlanNotices.h"
 #include "app/PlanView.h"
+#include "app/StatusNews.h"
 #include "app/StatusWords.h"
 #include "app/WheelGuard.h"
 #include "app/WindowKeys.h"
@@ -74,18 +74,22 @@ PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
 
 } // namespace
 
-PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings)
+PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings, FileOpener open)
     : m_guide(surroundings.applicationFolder + QStringLiteral("/docs/guide.md")),
       m_hall(std::make_unique<WindowHall>(m_shell, surroundings, this)),
       m_startWindow([] { leaveAtOnce(kDone); }),
-      m_shell(std::move(settings), tieToWindow(std::move(surroundings))), m_keys(makeKeyState()),
-      m_printing(m_shell.engine(), pausing(platformPrintDialogs(this), m_waiting)),
+      m_shell(std::move(settings), tieToWindow(std::move(surroundings))),
+      m_news(new StatusNews(statusBar(), open)),
+      m_clicks(m_shell.engine(), *m_news,
+               [this](const std::function<void()>& action) { forward(action); }),
+      m_printing(m_shell.engine(), pausing(platformPrintDialogs(this), m_waiting),
+                 [this](const QString& path) { m_news->tellSaved(path); }),
       m_mirror([this](const std::function<void()>& action) { forward(action); })
 {
     setObjectName(QStringLiteral("PlClasse"));
     setWindowTitle(m_shell.form().caption);
     m_style.emplace(this);
-    buildContent();
+    buildContent(open);
     buildStatusBar();
     addKeys();
 }
@@ -115,7 +119,7 @@ engine::Surroundings PlClasse::tieToWindow(engine::Surroundings surroundings)
     return surroundings;
 }
 
-void PlClasse::buildContent()
+void PlClasse::buildContent(const FileOpener& open)
 {
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
@@ -127,7 +131,8 @@ void PlClasse::buildContent()
     connect(help, &QAction::triggered, this, [this] { showHelp(); });
     m_questions = new Questions(
         m_shell, [this](const std::function<void()>& action) { forward(action); }, this,
-        [this](const QString& sentence) { statusBar()->showMessage(sentence, kSentenceTime); });
+        [this](const QString& sentence) { statusBar()->showMessage(sentence, kSentenceTime); },
+        open);
     m_questions->setParent(this);
     column->addWidget(new HeaderBand(m_shell.engine(), m_mirror, help, m_questions->menu()));
     m_options = new OptionPanels(m_shell.engine(), m_mirror);
@@ -137,11 +142,10 @@ void PlClasse::buildContent()
     column->addWidget(m_notices);
     m_view = new PlanView(
         m_shell, [this](const std::function<void()>& action) { forward(action); },
-        [this](int marker) { clickMarker(marker, m_keys); });
+        [this](int marker) { m_clicks.click(marker); });
     m_absences = std::make_unique<AbsenceMenu>(
-        m_shell.engine(), *m_view, [this](int marker, absences::VirtualKey key) {
-            clickMarker(marker, std::make_shared<absences::HeldKey>(key));
-        });
+        m_shell.engine(), *m_view,
+        [this](int marker, absences::VirtualKey key) { m_clicks.clickHolding(marker, key); });
     m_questions->tieTo(
         m_view, [this](QMenu& menu, const PlanView::Spot& spot) { m_absences->addTo(menu, spot); });
     new EmptyPlanNote(m_shell.engine(), m_mirror, m_view->viewport());
@@ -361,11 +365,6 @@ void PlClasse::processEvents()
     // What the user clicks in the first plan is meant for the one that the command line asks for.
     QCoreApplication::processEvents(m_isStarting ? QEventLoop::ExcludeUserInputEvents
                                                  : QEventLoop::AllEvents);
-}
-
-void PlClasse::clickMarker(int marker, const std::shared_ptr<absences::AsyncKeyState>& keys)
-{
-    forward([this, marker, keys] { m_shell.engine().clickMarker(marker, *keys); });
 }
 
 void PlClasse::showHelp()

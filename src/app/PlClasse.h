@@ -1,8 +1,9 @@
 #pragma once
 
 #include "app/FormMirror.h"
-#include "app/KeyState.h"
+#include "app/MarkerClicks.h"
 #include "app/Printing.h"
+#include "app/SavedLink.h"
 #include "app/StartWindow.h"
 #include "app/Waiting.h"
 #include "app/WindowPlacement.h"
@@ -25,6 +26,7 @@ class OptionPanels;
 class PlanNotices;
 class PlanView;
 class Questions;
+class StatusNews;
 class WindowHall;
 
 /// The one window of the program, "Planning des Classes": mirrors the form's controls and passes
@@ -32,8 +34,9 @@ class WindowHall;
 class PlClasse : public QMainWindow
 {
 public:
-    /// `applicationFolder` holds `app_data` and `Styles`.
-    PlClasse(shell::Settings settings, engine::Surroundings surroundings);
+    /// `applicationFolder` holds `app_data` and `Styles`. `open` opens files that were saved.
+    PlClasse(shell::Settings settings, engine::Surroundings surroundings,
+             FileOpener open = desktopOpener());
     ~PlClasse() override;
 
     /// The whole life of the window: starts up, shows, plays the choices of the command line and
@@ -76,7 +79,7 @@ protected:
 
 private:
     [[nodiscard]] engine::Surroundings tieToWindow(engine::Surroundings surroundings);
-    void buildContent();
+    void buildContent(const FileOpener& open);
     void buildStatusBar();
     void addKeys();
     void syncWidgets();
@@ -89,7 +92,6 @@ private:
     [[nodiscard]] bool hasEnded() const { return m_failed || m_closed; }
     void place();
     void keepPlacement();
-    void clickMarker(int marker, const std::shared_ptr<absences::AsyncKeyState>& keys);
     void showHelp();
 
     QString m_guide; ///< path of the guide
@@ -100,7 +102,8 @@ private:
     const Waiting::Sign m_windowSign = windowSign();
     std::vector<std::function<void()>> m_putOff; ///< what came while an action waited
     shell::Shell m_shell;
-    std::shared_ptr<absences::AsyncKeyState> m_keys;
+    StatusNews* m_news = nullptr;
+    MarkerClicks m_clicks;
     Printing m_printing;
     FormMirror m_mirror;
     OptionPanels* m_options = nullptr;

@@ -336,8 +336,11 @@ void PlanView::mousePressEvent(QMouseEvent* event)
         m_asking.openGreyed(greyed);
         return;
     }
-    if (event->button() != Qt::LeftButton || !isOfThisPlan ||
-        !bands().boxes.contains(event->position().toPoint())) {
+    if (event->button() != Qt::LeftButton || !bands().boxes.contains(event->position().toPoint())) {
+        return;
+    }
+    if (!isOfThisPlan) {
+        m_markerClick(kTooLate);
         return;
     }
     const PlanHit hit =
@@ -345,8 +348,8 @@ void PlanView::mousePressEvent(QMouseEvent* event)
     if (hit.part == PlanHit::Part::Counter) {
         const plan::GroupCounter group = *hit.box->group;
         m_forward([this, group] { m_engine.Label2_Click(group); });
-    } else if (hit.box != nullptr && hit.part != PlanHit::Part::Size && !m_clicksAreOld) {
-        m_markerClick(hit.box->marker);
+    } else if (hit.part != PlanHit::Part::Size) {
+        m_markerClick(m_clicksAreOld ? kTooLate : hit.box == nullptr ? kNoBox : hit.box->marker);
     }
 }
 

@@ -28,8 +28,10 @@ class PlanView : public QAbstractScrollArea
 public:
     /// Runs a user's action on the program.
     using Forward = std::function<void(const std::function<void()>& action)>;
-    /// A click on one of the three marker images of a box.
+    /// A click on one of the three marker images of a box, or one of these two that mark nothing.
     using MarkerClick = std::function<void(int marker)>;
+    static constexpr int kNoBox = 0;    ///< where no box is
+    static constexpr int kTooLate = -1; ///< meant for a plan that is not there any more
 
     PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick);
     ~PlanView() override;

@@ -106,12 +106,14 @@ PrintDialogs platformPrintDialogs(QWidget* window)
         }};
 }
 
-Printing::Printing(engine::Engine& engine, PrintDialogs dialogs)
-    : m_engine(engine), m_dialogs(std::move(dialogs))
+Printing::Printing(engine::Engine& engine, PrintDialogs dialogs,
+                   std::function<void(const QString&)> saved)
+    : m_engine(engine), m_dialogs(std::move(dialogs)), m_saved(std::move(saved))
 {
     m_engine.form().Command1.click = [this] { Command1_Click(); };
     m_engine.form().PrintPreview.click = [this] { PrintPreview_Click(); };
     m_engine.form().PrintAllPages.click = [this] { PrintAllPages_Click(); };
+    m_engine.form().PreviewAllPages.click = [this] { PreviewAllPages_Click(); };
 }
 
 std::vector<print::Sheet> Printing::shownSheet()
@@ -167,11 +169,23 @@ void Printing::print(std::vector<print::Sheet> sheets)
                         }
                         printSheetsOn(printer, sheets);
                     });
+    if (!printer.outputFileName().isEmpty()) {
+        m_saved(printer.outputFileName());
+    }
 }
 
 void Printing::PrintPreview_Click()
 {
-    const std::vector<print::Sheet> sheets = shownSheet();
+    preview(shownSheet());
+}
+
+void Printing::PreviewAllPages_Click()
+{
+    preview(print::makeSheets(m_engine.allPages()));
+}
+
+void Printing::preview(const std::vector<print::Sheet>& sheets) const
+{
     QPrinter printer(QPrinter::HighResolution);
     static_cast<void>(prepare(printer, sheets));
     m_dialogs.preview(printer, [&sheets](QPrinter& target) { printSheetsOn(target, sheets); });

@@ -99,6 +99,7 @@ PlanForm::PlanForm()
       Chk_Compt(QStringLiteral("Comptage")), Command4(QStringLiteral("Changer de Palette")),
       Command1(QStringLiteral("Imprimer")), PrintPreview(QStringLiteral("Aperçu")),
       PrintAllPages(QStringLiteral("Imprimer toutes les pages")),
+      PreviewAllPages(QStringLiteral("Aperçu de toutes les pages")),
       Opt_Cap(QStringLiteral("Imprimer Capacité"))
 {
     XSalle.caption = QStringLiteral("Occupation des Salles du");

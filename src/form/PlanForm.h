@@ -98,6 +98,7 @@ public:
     Button Command1;
     Button PrintPreview;
     Button PrintAllPages;
+    Button PreviewAllPages;
     CheckBox Opt_Cap;
 
     // The plan

@@ -98,6 +98,22 @@ TEST_F(TheOptionPanels, tellWhatAListIsForAndWhatItShows)
     EXPECT_EQ(list("CbTranche").toolTip(), "Période affichée");
 }
 
+TEST_F(TheOptionPanels, offerTheCapacityOnlyWhereItIsPrinted)
+{
+    EXPECT_TRUE(button("Check3").isChecked());
+    EXPECT_FALSE(button("Opt_Cap").isEnabled());
+    EXPECT_TRUE(button("Opt_Cap").toolTip().startsWith("Sans effet tant que « S. Groupées »"));
+    button("Check3").click();
+    mirror.sync();
+    EXPECT_TRUE(button("Opt_Cap").isEnabled());
+    EXPECT_EQ(button("Opt_Cap").toolTip(), "Imprimer l’effectif et les places de chaque case");
+    button("Opt_Cap").click();
+    button("Check3").click(); // greyed, and ticked as it was
+    mirror.sync();
+    EXPECT_FALSE(button("Opt_Cap").isEnabled());
+    EXPECT_TRUE(button("Opt_Cap").isChecked());
+}
+
 TEST_F(TheOptionPanels, tellHowManyRoomsAPageHoldsAtMost)
 {
     auto& lines = find<QSpinBox>("Total_L_P");

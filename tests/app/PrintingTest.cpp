@@ -254,6 +254,32 @@ TEST_F(Printing, previewsTheSheetThatItPrints)
     EXPECT_EQ(printed().text(), previewed);
 }
 
+TEST_F(Printing, previewsAllPagesThatItPrints)
+{
+    desk.form().Total_L_P.setText("2");
+    app::Printing printing(desk.shell().engine(), answer.dialogs());
+    const QJsonObject plan = desk.plan();
+    desk.form().PreviewAllPages.press();
+    ASSERT_TRUE(isPrinted());
+    EXPECT_EQ(printed().pageCount(), 2); // five rooms, of which each page greys one
+    EXPECT_EQ(desk.plan(), plan);
+    EXPECT_EQ(answer.sheetsOffered, 0); // no printer is chosen
+}
+
+TEST_F(Printing, tellsTheFileThatItHasPrinted)
+{
+    QStringList saved;
+    app::Printing printing(desk.shell().engine(), answer.dialogs(),
+                           [&](const QString& path) { saved << path; });
+    desk.form().PrintPreview.press();
+    EXPECT_TRUE(saved.isEmpty());
+    desk.form().Command1.press();
+    EXPECT_EQ(saved, QStringList({answer.file}));
+    const QString file = std::exchange(answer.file, QString());
+    desk.form().Command1.press(); // cancelled
+    EXPECT_EQ(saved, QStringList({file}));
+}
+
 TEST_F(Printing, givesItsDocumentANameThatAFileCanHave)
 {
     desk.form().Check2.setChecked(true);

@@ -10,7 +10,10 @@ void TheWindow::create()
     environment.today = [] { return QDate(2025, 3, 19); };
     environment.seed = 1;
     m_window = std::make_unique<app::PlClasse>(shell::Settings::fromFile(setup.settingsFile()),
-                                               std::move(environment));
+                                               std::move(environment), [this](const QString& path) {
+                                                   opened << path;
+                                                   return true;
+                                               });
 }
 
 void TheWindow::open(QSize size)

@@ -72,6 +72,8 @@ protected:
     /// Where the middle of a box's group counter lies on the screen.
     [[nodiscard]] QPoint counterOnScreen(std::size_t row, std::size_t box);
 
+    /// The files that the window was asked to open.
+    QStringList opened;
     TestDatabase database;
     ProgramSetup setup{database};
     Hands hands;

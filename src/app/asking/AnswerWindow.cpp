@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QFileDialog>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QShortcut>
@@ -17,19 +18,20 @@ namespace app
 {
 
 AnswerWindow::AnswerWindow(AnswerDesk& desk, Ties ties, const QString& title, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_desk(desk), m_ties(std::move(ties)), m_status(plainLabel())
+    : QWidget(parent, Qt::Window), m_desk(desk), m_ties(std::move(ties)), m_line(new QWidget),
+      m_status(plainLabel()),
+      m_saved(new SavedLink(m_ties.open, [this](const QString& sentence) { tell(sentence); }))
 {
     setWindowTitle(title);
     m_status->setObjectName(QStringLiteral("AnswerStatus"));
     m_status->setWordWrap(true);
     m_status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* row = new QHBoxLayout(m_line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_status, 1);
+    row->addWidget(m_saved);
     auto* close = new QShortcut(Qt::Key_Escape, this);
     connect(close, &QShortcut::activated, this, &QWidget::close);
-}
-
-QWidget* AnswerWindow::statusLine() const
-{
-    return m_status;
 }
 
 void AnswerWindow::present()
@@ -65,6 +67,7 @@ void AnswerWindow::tell(const QString& sentence, bool isWarning)
         text += QStringLiteral("  ·  période %1, lue à %2")
                     .arg(inquiry->period(), inquiry->readAt().toString(QStringLiteral("HH'h'mm")));
     }
+    m_saved->offer({});
     m_status->setText(text);
     m_status->setAccessibleName(text);
     m_status->setProperty("warning", isWarning);
@@ -100,7 +103,8 @@ void AnswerWindow::exportAnswer(files::AnswerKind kind, const files::AnswerDocum
             throw files::ExportError(open + QStringLiteral(" : le fichier n’est pas écrit."));
         }
         files::writeWholeFile(path, format.write(document));
-        tell(QStringLiteral("Enregistré : %1").arg(path));
+        tell(savedWords(path));
+        m_saved->offer(path);
     } catch (const files::ExportError& error) {
         QMessageBox box(QMessageBox::Warning, windowTitle(), QString::fromUtf8(error.what()),
                         QMessageBox::Ok, this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SavedLink.h"
 #include "app/asking/AnswerDesk.h"
 #include "files/AnswerFormat.h"
 #include "shell/Destination.h"
@@ -24,6 +25,7 @@ public:
     struct Ties {
         std::function<void(const shell::Destination&)> go;
         std::function<void(const answers::Subject&)> showWeekOf;
+        FileOpener open; ///< opens files that were saved
     };
 
     AnswerWindow(AnswerDesk& desk, Ties ties, const QString& title, QWidget* parent);
@@ -48,14 +50,16 @@ protected:
     [[nodiscard]] AnswerDesk& desk() const { return m_desk; }
     [[nodiscard]] const Ties& ties() const { return m_ties; }
     /// The line at the bottom, to be put below the answer.
-    [[nodiscard]] QWidget* statusLine() const;
+    [[nodiscard]] QWidget* statusLine() const { return m_line; }
 
     bool event(QEvent* event) override;
 
 private:
     AnswerDesk& m_desk;
     Ties m_ties;
+    QWidget* m_line;
     QLabel* m_status;
+    SavedLink* m_saved;
     bool m_isPresented = false;
 };
 

@@ -44,9 +44,9 @@ std::optional<timetable::TimeSpan> spanOf(const context::DaySlots& slots, int sl
 } // namespace
 
 Questions::Questions(shell::Shell& shell, AnswerDesk::Forward forward, QWidget* window,
-                     std::function<void(const QString&)> tell)
+                     std::function<void(const QString&)> tell, FileOpener open)
     : m_shell(shell), m_forward(std::move(forward)), m_window(window), m_tell(std::move(tell)),
-      m_desk(shell, m_forward), m_menu(new QMenu(window))
+      m_open(std::move(open)), m_desk(shell, m_forward), m_menu(new QMenu(window))
 {
     m_menu->setObjectName(QStringLiteral("QuestionMenu"));
     add(QStringLiteral("Salle &libre…"), QStringLiteral("AskFreeRooms"),
@@ -152,7 +152,7 @@ void Questions::askRoomUse()
 AnswerWindow::Ties Questions::ties()
 {
     return {[this](const shell::Destination& destination) { go(destination); },
-            [this](const answers::Subject& subject) { openWeekOf(subject); }};
+            [this](const answers::Subject& subject) { openWeekOf(subject); }, m_open};
 }
 
 void Questions::askFreeRoomAt(const PlanView::Spot& spot)

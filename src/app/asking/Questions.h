@@ -24,9 +24,10 @@ class WeekWindow;
 class Questions : public QObject
 {
 public:
-    /// `window` is the plan's; `tell` shows a sentence in its status bar.
+    /// `window` is the plan's; `tell` shows a sentence in its status bar; `open` opens files that
+    /// were saved.
     Questions(shell::Shell& shell, AnswerDesk::Forward forward, QWidget* window,
-              std::function<void(const QString& sentence)> tell);
+              std::function<void(const QString& sentence)> tell, FileOpener open);
 
     /// All questions, each with its key.
     [[nodiscard]] QMenu* menu() { return m_menu; }
@@ -59,6 +60,7 @@ private:
     AnswerDesk::Forward m_forward;
     QWidget* m_window;
     std::function<void(const QString&)> m_tell;
+    FileOpener m_open;
     AnswerDesk m_desk;
     QMenu* m_menu;
     PlanView* m_view = nullptr;

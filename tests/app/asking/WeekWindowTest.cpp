@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QScopeGuard>
 #include <QTemporaryDir>
+#include <QToolButton>
 
 using namespace test;
 
@@ -163,4 +164,8 @@ TEST_F(TheWeeks, areExportedAsTheCommandLineWritesThem)
                        shell::CommandLine::parse({"tempora", "--week-of", other, "--room", "A2"}));
     EXPECT_EQ(fileText(path), fileText(other));
     EXPECT_TRUE(fileText(path).contains("Chimie"));
+    auto* link = control<app::WeekWindow>("WeekWindow")->findChild<QToolButton*>("OpenSaved");
+    ASSERT_TRUE(until([&] { return link->isVisible(); }));
+    hands.click(link);
+    EXPECT_TRUE(until([&] { return opened == QStringList({path}); }));
 }
