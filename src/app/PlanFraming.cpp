@@ -96,7 +96,9 @@ void PlanView::bringIntoView(const QRectF& place)
 
 QRectF PlanView::rowAcross(const form::Place& room) const
 {
-    return m_target.toPixels(QRectF(room.left, room.top, axisEnd() - room.left, room.height));
+    QRectF across = m_target.toPixels(room);
+    across.setRight(axisEnd());
+    return across;
 }
 
 std::optional<PlanTable::Cell> PlanView::framedCell() const

@@ -17,7 +17,7 @@ QRectF boxStrip(const paint::PlanScene& scene, int top, int height)
 {
     const form::PlanForm& form = scene.form;
     const double left = scene.target.toPixelsX(form.Label1.front().place.left) - 4;
-    const double right = scene.target.toPixelsX(scene.axisEnd) + 4;
+    const double right = scene.target.onAxis(scene.hours->to) + 4;
     return {left, scene.target.toPixelsY(top), right - left, scene.target.toPixelsY(height)};
 }
 
@@ -70,8 +70,8 @@ std::vector<PlanPicture::DrawnRow> PlanPicture::rowsOf(const paint::PlanScene& s
 
 PlanPicture::Ground PlanPicture::groundOf(const paint::PlanScene& scene, QSize size, double ratio)
 {
-    Ground ground{scene.form,    scene.layout, scene.target, scene.rowsShown,
-                  scene.axisEnd, size,         ratio};
+    Ground ground{scene.form,  scene.layout, scene.target, scene.rowsShown,
+                  scene.hours, size,         ratio};
     // Where rows lie decides about others, too: the first one's height is every box's.
     for (form::Label& name : ground.form.Salle) {
         name = form::Label{{}, name.visible, name.place, {}, {}, name.font};

@@ -30,8 +30,8 @@ public:
     };
 
     /// Draws what is not yet in the picture as the scene has it: all of it, or single rows and the
-    /// totals where nothing else differs from what was drawn last. `size` covers rows and time
-    /// axis, `ratio` is the screen's device pixel ratio.
+    /// totals where nothing else differs from what was drawn last. The scene has hours. `size`
+    /// covers rows and time axis, `ratio` is the screen's device pixel ratio.
     Change draw(const paint::PlanScene& scene, QSize size, double ratio);
 
     /// Ticks, names, boxes and places, at their places in the window.
@@ -61,7 +61,7 @@ private:
         plan::CellLayout layout;
         paint::DrawingTarget target;
         int rowsShown = 0;
-        int axisEnd = 0;
+        std::optional<plan::ShownHours> hours;
         QSize size;
         double ratio = 0;
 

@@ -179,7 +179,8 @@ QRectF PlanTable::placeOf(const Cell& cell) const
         return {};
     }
     const form::Place& across = form.Tot.at(static_cast<std::size_t>(slot - 1)).place;
-    return m_target.toPixels(QRectF(across.left, room.top, across.width, room.height));
+    return m_target.toPixels(QRectF(across.left, room.top, across.width, room.height))
+        .translated(m_target.TargetXOffset, 0);
 }
 
 QString PlanTable::slotTitle(int slot) const

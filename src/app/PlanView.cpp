@@ -7,7 +7,6 @@
 #include "app/PlanKeys.h"
 #include "app/PlanToolTips.h"
 #include "app/ViewScale.h"
-#include "context/AxisLabels.h"
 #include "context/PageRule.h"
 #include "plan/RoomRows.h"
 #include "shell/Shell.h"
@@ -50,12 +49,12 @@ PlanView::~PlanView() = default;
 
 paint::PlanScene PlanView::scene() const
 {
-    return paint::sceneOf(m_engine.state(), m_engine.content(), m_target);
+    return paint::windowSceneOf(m_engine.state(), m_engine.content(), m_target, m_hours);
 }
 
-int PlanView::axisEnd() const
+plan::ShownHours PlanView::hoursWanted() const
 {
-    return context::axisEnd(m_engine.form(), m_engine.state().slots);
+    return plan::shownHours(m_engine.state(), m_engine.content());
 }
 
 PlanView::Bands PlanView::bands() const
@@ -86,7 +85,8 @@ void PlanView::fit()
     m_lastRows = rowsWanted();
     m_totalsHeight = totalsHeight();
     const QSize room(viewport()->width(), viewport()->height() - m_totalsHeight);
-    m_target = fitPlan(form, axisEnd(), m_lastRows, room);
+    m_hours = hoursWanted();
+    m_target = fitPlan(form, m_hours, m_lastRows, room);
     m_shell.layOut(static_cast<int>(viewport()->width() * m_target.TargetTwipsPerPixelX),
                    viewport()->height() * m_target.TargetTwipsPerPixelY);
     updateScrollBars();
@@ -100,7 +100,7 @@ void PlanView::updateScrollBars()
 {
     const Bands view = bands();
     const int bottom = static_cast<int>(std::ceil(paint::PlanPainter::rowsBottom(scene()))) + 1;
-    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(axisEnd())));
+    const int end = static_cast<int>(std::ceil(axisEnd()));
     verticalScrollBar()->setRange(0, std::max(0, bottom - (view.boxes.y() + view.boxes.height())));
     verticalScrollBar()->setPageStep(view.boxes.height());
     verticalScrollBar()->setSingleStep(
@@ -160,7 +160,7 @@ void PlanView::drawAll()
     openAtTop();
     if (rowsWanted() != m_lastRows ||
         m_engine.form().Salle.front().place.height != m_lastRowHeight ||
-        totalsHeight() != m_totalsHeight) {
+        totalsHeight() != m_totalsHeight || hoursWanted() != m_hours) {
         fit();
     } else {
         drawPicture();
@@ -188,7 +188,7 @@ QPointF PlanView::toPlan(QPoint viewportPoint) const
 QSize PlanView::planSize() const
 {
     const int bottom = static_cast<int>(std::ceil(paint::PlanPainter::rowsBottom(scene()))) + 1;
-    const int end = static_cast<int>(std::ceil(m_target.toPixelsX(axisEnd())));
+    const int end = static_cast<int>(std::ceil(axisEnd()));
     return {std::max(viewport()->width(), end + 1),
             std::max(viewport()->height() - m_totalsHeight, bottom)};
 }

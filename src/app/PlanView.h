@@ -170,8 +170,9 @@ private:
     [[nodiscard]] QString roomAt(QPoint point) const;
     [[nodiscard]] std::optional<Spot> spotAt(QPoint point) const;
     [[nodiscard]] QString boxText(const plan::PlanRow& row, const plan::PlanBox& box) const;
-    /// End of the time axis in twips.
-    [[nodiscard]] int axisEnd() const;
+    /// Where the hours that are shown end, in device pixels, unscrolled.
+    [[nodiscard]] double axisEnd() const { return m_target.onAxis(m_hours.to); }
+    [[nodiscard]] plan::ShownHours hoursWanted() const;
     [[nodiscard]] Bands bands() const;
     [[nodiscard]] paint::PlanScene scene() const;
     [[nodiscard]] QPointF toPlan(QPoint viewportPoint) const;
@@ -191,6 +192,7 @@ private:
     MarkerClick m_markerClick;
     paint::DrawingTarget m_target;
     PlanPicture m_picture;
+    plan::ShownHours m_hours; ///< what of the time axis is shown
     int m_lastRowHeight = 0;
     int m_lastRows = 0;
     PageShown m_page;

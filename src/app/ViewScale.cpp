@@ -3,6 +3,7 @@
 #include "plan/CellLayout.h"
 #include "plan/RoomRows.h"
 #include "print/Targets.h"
+#include "runtime/Numbers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +14,9 @@ namespace
 {
 
 constexpr double kMostTwipsAcross = 18.0;
-constexpr double kFewestTwipsAcross = 8.0;
+// A day of few hours fills the view as well; one of fewer than four would be stretched out of
+// shape.
+constexpr double kFewestTwipsAcross = 5.0;
 constexpr int kFewestTwipsDown = 9;
 
 /// How many twips a pixel may stand for so that the rows' text stays legible: a row of three lines
@@ -31,12 +34,17 @@ int mostTwipsDown(int rowHeight)
 
 } // namespace
 
-paint::DrawingTarget fitPlan(const form::PlanForm& form, int axisEnd, int rows, QSize view)
+paint::DrawingTarget fitPlan(const form::PlanForm& form, const plan::ShownHours& hours, int rows,
+                             QSize view)
 {
     paint::DrawingTarget target = print::UseScreenTarget();
-    const double across = plan::widthWithPlaces(form, axisEnd);
+    const int origin = form.Label1.front().place.left; // behind the rooms' names
+    const int end = origin + runtime::nearestInteger(hours.to - hours.from);
+    const double across = plan::widthWithPlaces(form, end);
     target.TargetTwipsPerPixelX =
         std::clamp(across / std::max(1, view.width()), kFewestTwipsAcross, kMostTwipsAcross);
+    target.TargetXOffset =
+        runtime::nearestInteger(target.toPixelsX(origin) - target.toPixelsX(hours.from));
     const form::Place& model = form.Salle.front().place;
     const int down = model.top + rows * (model.height + plan::kRowGap) - plan::kRowGap;
     const int wanted =

@@ -12,7 +12,9 @@ namespace paint
 /// a picture never disturbs the screen's.
 struct DrawingTarget {
     bool TargetIsPrinter = false;
-    /// Device pixels added to every box's left edge: 0 on the screen, 150 on the printer.
+    /// Device pixels added to every box's left edge and to all else along the time axis: 150 on the
+    /// printer, 0 on the screen. In the window it puts the first hour that is shown beside the
+    /// rooms' names.
     int TargetXOffset = 0;
     double TargetTwipsPerPixelX = 15.0; ///< 15 at 96 dots per inch
     int TargetTwipsPerPixelY = 15;
@@ -27,6 +29,8 @@ struct DrawingTarget {
     friend bool operator==(const DrawingTarget&, const DrawingTarget&) = default;
 
     [[nodiscard]] double toPixelsX(double twips) const { return twips / TargetTwipsPerPixelX; }
+    /// Where a position on the time axis lies.
+    [[nodiscard]] double onAxis(double twips) const { return toPixelsX(twips) + TargetXOffset; }
     [[nodiscard]] double toPixelsY(double twips) const { return twips / TargetTwipsPerPixelY; }
     /// A rectangle in twips as it lies on the target, without the boxes' offset.
     [[nodiscard]] QRectF toPixels(const QRectF& twips) const

@@ -56,7 +56,8 @@ OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& tar
     const int size = std::min(rowHeight, kPictureSize);
     const double right = box.x + box.width;
     const auto picture = [&](double left) {
-        return target.toPixels(QRectF(left, room.top, size, size));
+        return QRectF(target.onAxis(left), target.toPixelsY(room.top), target.toPixelsX(size),
+                      target.toPixelsY(size));
     };
     OverlayPlaces places;
     places.YAbs = picture(right - size);

@@ -1,11 +1,13 @@
 #include "paint/PlanGrid.h"
 
+#include "paint/HourMarks.h"
 #include "paint/Inks.h"
 #include "plan/RoomRows.h"
 #include "runtime/Numbers.h"
 
 #include <QColor>
 #include <algorithm>
+#include <cmath>
 
 namespace paint
 {
@@ -14,6 +16,8 @@ namespace
 
 constexpr form::Colour kSlotLine = form::Colour::fromRgb(0, 0, 180);
 constexpr form::Colour kQuarterLine = form::Colour::fromRgb(0, 180, 0);
+// The same green, as faint as a line can be that is still seen on white.
+constexpr form::Colour kFaintQuarterLine = form::Colour::fromRgb(200, 236, 200);
 constexpr form::Colour kRowLine = form::Colour::fromRgb(125, 125, 125);
 // Points that a line is wide on paper.
 constexpr double kPaperLine = 0.3;
@@ -24,38 +28,83 @@ QPoint nearestPixel(QPointF point)
     return {runtime::nearestInteger(point.x()), runtime::nearestInteger(point.y())};
 }
 
+bool hasGrid(const form::PlanForm& form, int rowsShown)
+{
+    return form.ChkGrille.isChecked() && rowsShown >= 0 && rowsShown < form::PlanForm::kRows;
+}
+
+/// How far the lines go down.
+struct Reach {
+    int top = 0;
+    int bottom = 0;
+};
+
+Reach reachOf(const form::PlanForm& form, int rowsShown)
+{
+    const form::Place& header = form.Label1.front().place;
+    const form::Place& last = form.Salle[static_cast<std::size_t>(rowsShown)].place;
+    return {header.top + header.height, last.top + last.height};
+}
+
+GridLine lineDown(const Reach& reach, int x, form::Colour color)
+{
+    return {x, reach.top, x, reach.bottom, color};
+}
+
+void addRowLines(std::vector<GridLine>& lines, const form::PlanForm& form, int rowsShown, int left,
+                 int right)
+{
+    for (int row = 0; row < rowsShown; ++row) {
+        const form::Place& place = form.Salle[static_cast<std::size_t>(row)].place;
+        const int y = place.top + place.height + plan::kRowGap / 2;
+        lines.push_back({left, y, right, y, kRowLine});
+    }
+}
+
 } // namespace
 
 std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown, bool targetIsPrinter)
 {
-    if (!form.ChkGrille.isChecked() || rowsShown < 0 || rowsShown >= form::PlanForm::kRows) {
+    if (!hasGrid(form, rowsShown)) {
         return {};
     }
     const form::Place& origin = form.Label1[0].place;
     // On paper the ticks are not a whole number of twips apart: each hour starts at its own.
     const int step = form.Label1[1].place.left - origin.left;
-    const form::Place& last = form.Salle[static_cast<std::size_t>(rowsShown)].place;
-    const int top = origin.top + origin.height;
-    const int bottom = last.top + last.height;
+    const Reach reach = reachOf(form, rowsShown);
     std::vector<GridLine> lines;
     for (const form::Label& tick : form.Label1) {
-        lines.push_back({tick.place.left, top, tick.place.left, bottom, kSlotLine});
+        lines.push_back(lineDown(reach, tick.place.left, kSlotLine));
     }
     for (const form::Label& tick : form.Label1) {
-        const int left = tick.place.left;
         for (int quarter = 1; quarter <= 3; ++quarter) {
-            const int x = left + quarter * step / 4;
-            lines.push_back({x, top, x, bottom, kQuarterLine});
+            lines.push_back(lineDown(reach, tick.place.left + quarter * step / 4, kQuarterLine));
         }
     }
     if (!targetIsPrinter) {
-        const int right = form.Label1.back().place.left + step;
-        for (int row = 0; row < rowsShown; ++row) {
-            const form::Place& place = form.Salle[static_cast<std::size_t>(row)].place;
-            const int y = place.top + place.height + plan::kRowGap / 2;
-            lines.push_back({origin.left, y, right, y, kRowLine});
-        }
+        addRowLines(lines, form, rowsShown, origin.left, form.Label1.back().place.left + step);
     }
+    return lines;
+}
+
+std::vector<GridLine> windowGridLines(const form::PlanForm& form, int rowsShown,
+                                      const plan::ShownHours& hours)
+{
+    if (!hasGrid(form, rowsShown)) {
+        return {};
+    }
+    constexpr int quarter = 15;
+    constexpr int hour = 60;
+    const Reach reach = reachOf(form, rowsShown);
+    const int from = static_cast<int>(std::ceil(minuteAt(form, hours.from) / quarter)) * quarter;
+    const int to = static_cast<int>(std::floor(minuteAt(form, hours.to)));
+    std::vector<GridLine> lines;
+    for (int minute = from; minute <= to; minute += quarter) {
+        const int x = runtime::nearestInteger(positionOf(form, minute));
+        lines.push_back(lineDown(reach, x, minute % hour == 0 ? kSlotLine : kFaintQuarterLine));
+    }
+    addRowLines(lines, form, rowsShown, runtime::nearestInteger(hours.from),
+                runtime::nearestInteger(hours.to));
     return lines;
 }
 
@@ -66,10 +115,8 @@ void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,
     surface.setRenderHint(QPainter::Antialiasing, false);
     for (const GridLine& line : lines) {
         const QColor color = toColor(line.color);
-        const QPointF begin(target.toPixelsX(line.x1) + target.TargetXOffset,
-                            target.toPixelsY(line.y1));
-        const QPointF end(target.toPixelsX(line.x2) + target.TargetXOffset,
-                          target.toPixelsY(line.y2));
+        const QPointF begin(target.onAxis(line.x1), target.toPixelsY(line.y1));
+        const QPointF end(target.onAxis(line.x2), target.toPixelsY(line.y2));
         if (target.TargetIsPrinter) {
             // A hairline would be too thin to see.
             surface.setPen(QPen(color, std::max(1.0, kPaperLine * target.PixelsPerPoint)));

@@ -2,6 +2,7 @@
 
 #include "form/PlanForm.h"
 #include "paint/DrawingTarget.h"
+#include "plan/ShownHours.h"
 
 #include <QPainter>
 #include <vector>
@@ -25,6 +26,12 @@ struct GridLine {
 /// The grid runs from the header down to the bottom of row `rowsShown`.
 [[nodiscard]] std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown,
                                                   bool targetIsPrinter);
+
+/// The same as the window draws it: over the hours that it shows, with a line for each of them
+/// whether or not the design has a tick for it. The quarters are faint, so that the boxes are what
+/// is seen first.
+[[nodiscard]] std::vector<GridLine> windowGridLines(const form::PlanForm& form, int rowsShown,
+                                                    const plan::ShownHours& hours);
 
 /// Draws the grid on a surface.
 void DrawPlanGrid(QPainter& surface, const DrawingTarget& target,

@@ -1,9 +1,9 @@
 #include "paint/PlanPainter.h"
 
-#include "context/AxisLabels.h"
 #include "paint/AbsencePictures.h"
 #include "paint/BoxText.h"
 #include "paint/CellBox.h"
+#include "paint/HourMarks.h"
 #include "paint/Inks.h"
 #include "paint/Overlays.h"
 #include "paint/PlanGrid.h"
@@ -29,10 +29,14 @@ constexpr QColor kCounterFill(30, 45, 75);
 PlanScene sceneOf(const plan::PlanState& state, const plan::PlanContent& content,
                   const DrawingTarget& target)
 {
-    return {state.form,           content,
-            state.layout,         target,
-            state.page.RowsShown, context::axisEnd(state.form, state.slots),
-            state.totals.isOld};
+    return {state.form, content, state.layout, target, state.page.RowsShown, state.totals.isOld};
+}
+
+PlanScene windowSceneOf(const plan::PlanState& state, const plan::PlanContent& content,
+                        const DrawingTarget& target, const plan::ShownHours& hours)
+{
+    return {state.form,         content, state.layout, target, state.page.RowsShown,
+            state.totals.isOld, hours};
 }
 
 PlanPainter::PlanPainter(QPainter& surface, const PlanScene& scene)
@@ -69,21 +73,34 @@ void PlanPainter::paintTicks()
     m_surface.save();
     m_surface.setPen(kHeaderInk);
     m_surface.setFont(planFont(kTextPixels, true));
-    for (const form::Label& tick : m_scene.form.Label1) {
-        const double x = m_scene.target.toPixelsX(tick.place.left);
-        const double top = m_scene.target.toPixelsY(tick.place.top);
-        const double height = m_scene.target.toPixelsY(tick.place.height);
-        m_surface.drawLine(QPointF(x, top + height - 4), QPointF(x, top + height));
-        m_surface.drawText(QRectF(x + 2, top, m_scene.target.toPixelsX(tick.place.width), height),
-                           Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, tick.caption);
+    if (m_scene.hours) {
+        for (const HourMark& mark : hourMarks(m_scene.form, *m_scene.hours)) {
+            paintTick(mark.x, m_scene.form.Label1.front().place, mark.caption);
+        }
+    } else {
+        for (const form::Label& tick : m_scene.form.Label1) {
+            paintTick(tick.place.left, tick.place, tick.caption);
+        }
     }
     m_surface.restore();
+}
+
+void PlanPainter::paintTick(double x, const form::Place& label, const QString& caption)
+{
+    const double left = m_scene.target.onAxis(x);
+    const double top = m_scene.target.toPixelsY(label.top);
+    const double height = m_scene.target.toPixelsY(label.height);
+    m_surface.drawLine(QPointF(left, top + height - 4), QPointF(left, top + height));
+    m_surface.drawText(QRectF(left + 2, top, m_scene.target.toPixelsX(label.width), height),
+                       Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, caption);
 }
 
 void PlanPainter::paintGrid()
 {
     DrawPlanGrid(m_surface, m_scene.target,
-                 planGridLines(m_scene.form, m_scene.rowsShown, m_scene.target.TargetIsPrinter));
+                 m_scene.hours ? windowGridLines(m_scene.form, m_scene.rowsShown, *m_scene.hours)
+                               : planGridLines(m_scene.form, m_scene.rowsShown,
+                                               m_scene.target.TargetIsPrinter));
 }
 
 void PlanPainter::paintBoxes()
@@ -247,7 +264,7 @@ void PlanPainter::paintTotals()
     m_surface.setFont(planFont(kTextPixels, true));
     for (const form::Label& total : m_scene.form.Tot) {
         if (total.visible) {
-            const QRectF place(m_scene.target.toPixelsX(total.place.left), 0,
+            const QRectF place(m_scene.target.onAxis(total.place.left), 0,
                                m_scene.target.toPixelsX(total.place.width), kTotalPixels);
             m_surface.setPen(QPen(m_scene.hasOldTotals ? kGreyedInk : kHeaderInk, 0));
             m_surface.setBrush(m_scene.hasOldTotals ? kGreyedFill : QColor(Qt::white));

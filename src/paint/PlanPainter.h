@@ -6,10 +6,12 @@
 #include "paint/TextRuler.h"
 #include "plan/PlanContent.h"
 #include "plan/PlanState.h"
+#include "plan/ShownHours.h"
 
 #include <QColor>
 #include <QFont>
 #include <QPainter>
+#include <optional>
 
 namespace paint
 {
@@ -21,13 +23,19 @@ struct PlanScene {
     const plan::CellLayout& layout;
     DrawingTarget target;
     int rowsShown = 0;
-    int axisEnd = 0;           ///< twips from the window's left edge to the end of the time axis
     bool hasOldTotals = false; ///< the totals were counted before the last choice
+    /// The part of the time axis that the window shows, and all that it draws otherwise than the
+    /// design has it; pictures that are written to a file have the design's.
+    std::optional<plan::ShownHours> hours = std::nullopt;
 };
 
 /// The scene of a state and of what a refresh worked out from it; both outlive it.
 [[nodiscard]] PlanScene sceneOf(const plan::PlanState& state, const plan::PlanContent& content,
                                 const DrawingTarget& target);
+/// The same for the window, whose target has the first of these hours beside the rooms' names.
+[[nodiscard]] PlanScene windowSceneOf(const plan::PlanState& state,
+                                      const plan::PlanContent& content, const DrawingTarget& target,
+                                      const plan::ShownHours& hours);
 
 /// Draws the plan, band by band, in device pixels from the window's inner top left corner. A
 /// scrolling view moves and clips the painter; nothing here loads, waits or remembers.
@@ -56,6 +64,7 @@ public:
     [[nodiscard]] static double rowsBottom(const PlanScene& scene);
 
 private:
+    void paintTick(double x, const form::Place& label, const QString& caption);
     void paintUnknownCells(const plan::PlanRow& row);
     void paintBox(const plan::PlanRow& row, const plan::PlanBox& box);
     void paintOverlays(const OverlayPlaces& places, const plan::PlanBox& box, form::Colour under);

@@ -32,7 +32,7 @@ protected:
 
     [[nodiscard]] paint::PlanScene scene() const
     {
-        return paint::sceneOf(desk.state, desk.engine.content(), target);
+        return paint::windowSceneOf(desk.state, desk.engine.content(), target, {1620, 19220});
     }
     PlanPicture::Change draw(double ratio = 1) { return picture.draw(scene(), {1500, 200}, ratio); }
     [[nodiscard]] QColor at(int x, int y) const

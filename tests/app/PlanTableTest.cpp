@@ -51,6 +51,20 @@ TEST_F(TheTable, hasARowPerDrawnRoomAndAColumnPerSlot)
     EXPECT_EQ(table().nameOf({0, 0, 1}), "R02, 30 places");
 }
 
+TEST_F(TheTable, liesWhereTheTimeAxisIsMovedTo)
+{
+    paint::DrawingTarget moved;
+    moved.TargetXOffset = -50;
+    const PlanTable there(desk.state, desk.engine.content(), moved);
+    for (const int column : {1, 2, 6}) {
+        const PlanTable::Cell cell = *table().cellAt(0, column);
+        EXPECT_EQ(there.placeOf(cell), table().placeOf(cell).translated(-50, 0)) << column;
+    }
+    EXPECT_EQ(there.placeOf({0, 0, 1}), table().placeOf({0, 0, 1})); // the room stays
+    EXPECT_EQ(words(there.cellUnder({108 + 160 - 50 + 1, 57})), "0/2+2");
+    EXPECT_EQ(words(there.cellUnder({108 + 160 - 50 - 1, 57})), "0/1+1");
+}
+
 TEST_F(TheTable, joinsTheColumnsThatASeanceReachesInto)
 {
     QStringList cells;

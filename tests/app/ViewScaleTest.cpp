@@ -14,9 +14,13 @@ namespace
 class TheScale : public testing::Test
 {
 protected:
-    static constexpr int axisEnd = 19150;
+    static constexpr plan::ShownHours hours{1620, 19150};
 
-    TheScale() { rowHeight(300); }
+    TheScale()
+    {
+        form.Label1[0].place.left = 1620;
+        rowHeight(300);
+    }
 
     void rowHeight(int twips)
     {
@@ -26,12 +30,12 @@ protected:
     /// Twips that a pixel of a view that wide stands for, across.
     [[nodiscard]] double across(int width) const
     {
-        return fitPlan(form, axisEnd, 1, {width, 500}).TargetTwipsPerPixelX;
+        return fitPlan(form, hours, 1, {width, 500}).TargetTwipsPerPixelX;
     }
     /// The same, down, for five rows: 345 + 5 * (height + 68) - 68 twips.
     [[nodiscard]] int down(int height) const
     {
-        return fitPlan(form, axisEnd, 5, {1600, height}).TargetTwipsPerPixelY;
+        return fitPlan(form, hours, 5, {1600, height}).TargetTwipsPerPixelY;
     }
 
     form::PlanForm form;
@@ -50,8 +54,20 @@ TEST_F(TheScale, goesNoFurtherAcrossThanWhatIsLegibleOrOfUse)
     EXPECT_DOUBLE_EQ(across(1112), 20000 / 1112.0); // 17.99
     EXPECT_DOUBLE_EQ(across(1000), 18);
     EXPECT_DOUBLE_EQ(across(2500), 8);
-    EXPECT_DOUBLE_EQ(across(4000), 8);
+    EXPECT_DOUBLE_EQ(across(4000), 5);
+    EXPECT_DOUBLE_EQ(across(5000), 5);
     EXPECT_DOUBLE_EQ(across(0), 18); // a view without a size yet
+}
+
+TEST_F(TheScale, fillsTheWidthWithTheHoursThatAreShown)
+{
+    // From 6h30 to 11h30: 8000 twips behind names of 1620, before 60, 540 and 250.
+    const plan::ShownHours early{1620 - 2400, 1620 + 5600};
+    const paint::DrawingTarget target = fitPlan(form, early, 1, {1047, 500});
+    EXPECT_DOUBLE_EQ(target.TargetTwipsPerPixelX, 10);
+    EXPECT_EQ(target.TargetXOffset, 240); // 6h30 stands where 8h00 would
+    EXPECT_DOUBLE_EQ(target.onAxis(early.from), 162);
+    EXPECT_DOUBLE_EQ(target.onAxis(early.to), 962);
 }
 
 TEST_F(TheScale, showsAllRowsInWholeTwips)
@@ -84,7 +100,7 @@ TEST_F(TheScale, keepsTheTextOfEveryRowHeightLegible)
 
 TEST_F(TheScale, leavesTheOtherPropertiesOfTheScreen)
 {
-    const paint::DrawingTarget target = fitPlan(form, axisEnd, 5, {1600, 400});
+    const paint::DrawingTarget target = fitPlan(form, hours, 5, {1600, 400});
     EXPECT_FALSE(target.TargetIsPrinter);
     EXPECT_EQ(target.TargetXOffset, 0);
     EXPECT_EQ(target.SlotWidth, 2400);

@@ -89,3 +89,21 @@ TEST_F(TheWindow, wrapsItsGroupsOnlyWhereItMust)
     EXPECT_TRUE(test::until([&] { return top("Command1") - top("CbTranche") > 80; }));
     EXPECT_LE(control<QPushButton>("Command4")->width(), 260); // does not stretch
 }
+
+TEST_F(TheWindow, fillsItsWidthWithTheHoursThatHaveSomething)
+{
+    database.execute("UPDATE emplois SET Debut = '7h30' WHERE Salle = 'A2' AND Seance = 'Lundi1'");
+    open({1366, 740});
+    const paint::OverlayPlaces early = overlays(0, 0); // A2
+    const QPoint corner = view()->toViewport(early.ZAbs.topLeft()).toPoint();
+    EXPECT_EQ(corner.x(), static_cast<int>(view()->target().toPixelsX(2040) + 0.5));
+    EXPECT_TRUE(view()->toolTipAt(corner + QPoint(4, 4)).startsWith("A2 – 7h30"));
+    // The last slot ends at 17h15, beside the places.
+    const QPointF end = view()->toViewport({view()->target().onAxis(16840), 0});
+    const double places = view()->target().toPixelsX(form().Cap[1].place.left);
+    EXPECT_NEAR(end.x(), places - view()->target().toPixelsX(60), 2);
+    // On Tuesday nothing is early: the day begins with the first slot.
+    window().forward([this] { form().CbJour.setListIndex(1); });
+    EXPECT_NEAR(view()->target().onAxis(2840), view()->target().toPixelsX(2040), 1);
+    EXPECT_EQ(view()->horizontalScrollBar()->maximum(), 0);
+}

@@ -57,6 +57,18 @@ TEST(OverlayFonts, areAsLargeAsTheTextsWidthAllows)
     EXPECT_LT(smallest.width(text), smaller.width(text));
 }
 
+TEST_F(Overlays, followTheTimeAxisWhereItIsMoved)
+{
+    group("3", "60");
+    const OverlayPlaces before = places();
+    target.TargetXOffset = 40;
+    EXPECT_EQ(places().XAbs, before.XAbs.translated(40, 0));
+    EXPECT_EQ(places().YAbs, before.YAbs.translated(40, 0));
+    EXPECT_EQ(places().ZAbs, before.ZAbs.translated(40, 0));
+    EXPECT_EQ(places().Label2, before.Label2.translated(40, 0));
+    EXPECT_EQ(places().Labelz, before.Labelz.translated(40, 0));
+}
+
 TEST_F(Overlays, makeThePicturesAsHighAsALowRow)
 {
     const double top = 713 / 15.0; // 345 + 368 twips

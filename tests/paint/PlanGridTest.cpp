@@ -1,6 +1,7 @@
 #include "paint/PlanGrid.h"
 
 #include "paint/Canvas.h"
+#include "paint/CellBox.h"
 #include "plan/RoomRows.h"
 #include "support/RuntimeMatchers.h"
 
@@ -9,12 +10,14 @@
 using form::Colour;
 using paint::GridLine;
 using paint::planGridLines;
+using paint::windowGridLines;
 
 namespace
 {
 
 constexpr Colour blue = Colour::fromRgb(0, 0, 180);
 constexpr Colour green = Colour::fromRgb(0, 180, 0);
+constexpr Colour faintGreen = Colour::fromRgb(200, 236, 200);
 constexpr Colour grey = Colour::fromRgb(125, 125, 125);
 
 /// Ticks 1600 twips apart from 1620 on, below a header of 300 twips; rows of 300 twips from 345
@@ -51,6 +54,38 @@ TEST_F(PlanGrid, hasABlueLineAtEveryTick)
     ASSERT_EQ(lines.size(), 12U);
     EXPECT_EQ(lines[0], (GridLine{1620, 300, 1620, 1381, blue}));
     EXPECT_EQ(lines[11], (GridLine{19220, 300, 19220, 1381, blue}));
+}
+
+TEST_F(PlanGrid, coversTheHoursOfTheWindowAndNoOthers)
+{
+    // From 7h30 to 20h00, 1620 - 800 and 1620 + 12 * 1600.
+    const std::vector<GridLine> lines = windowGridLines(form, 2, {820, 20820});
+    const std::vector<GridLine> hours = of(lines, blue);
+    ASSERT_EQ(hours.size(), 13U);
+    EXPECT_EQ(hours[0], (GridLine{1620, 300, 1620, 1381, blue}));
+    EXPECT_EQ(hours[12], (GridLine{20820, 300, 20820, 1381, blue}));
+    const std::vector<GridLine> quarters = of(lines, faintGreen);
+    ASSERT_EQ(quarters.size(), 38U); // two before 8h00, three in each of twelve hours
+    EXPECT_EQ(quarters[0].x1, 820);
+    EXPECT_EQ(quarters[2].x1, 2020);
+    const std::vector<GridLine> rows = of(lines, grey);
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows[0], (GridLine{820, 679, 20820, 679, grey}));
+}
+
+TEST_F(PlanGrid, ofTheWindowIsThereOnlyWhereItIsTicked)
+{
+    EXPECT_TRUE(windowGridLines(form, 30, {1620, 3220}).empty());
+    form.ChkGrille.setChecked(false);
+    EXPECT_TRUE(windowGridLines(form, 2, {1620, 3220}).empty());
+}
+
+TEST_F(PlanGrid, hasQuartersInTheWindowThatAreGreenAndFaint)
+{
+    EXPECT_GT(faintGreen.green(), faintGreen.red());
+    EXPECT_GT(faintGreen.green(), faintGreen.blue());
+    EXPECT_LT(paint::contrastRatio(faintGreen, Colour::fromRgb(255, 255, 255)), 1.5);
+    EXPECT_GT(paint::contrastRatio(faintGreen, Colour::fromRgb(255, 255, 255)), 1.2);
 }
 
 TEST_F(PlanGrid, hasThreeGreenLinesInsideEveryHour)

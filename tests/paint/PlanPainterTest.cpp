@@ -75,6 +75,28 @@ protected:
 
 } // namespace
 
+TEST_F(APaintedPlan, beginsInTheWindowWithTheHoursThatAreShown)
+{
+    desk.form.ChkGrille.design(true);
+    desk.form.Tot[0].visible = true; // the slot from 8h00 on
+    desk.totals.isOld = false;
+    desk.meeting(1, 1).set("Debut", "7h30");
+    desk.draw();
+    DrawingTarget target;
+    target.TargetXOffset = 53; // 7h30 where 8h00 was: at 108
+    const ShownHours hours{820, 20820};
+    const PlanScene scene = windowSceneOf(desk.state, desk.engine.content(), target, hours);
+    Canvas canvas(1500, 400);
+    canvas.draw([&](QPainter& painter) { PlanPainter(painter, scene).paintPlan(); });
+    Canvas totals(1500, 30);
+    totals.draw([&](QPainter& painter) { PlanPainter(painter, scene).paintTotals(); });
+    EXPECT_EQ(canvas.at(110, 50), QColor(250, 230, 120)); // the box
+    EXPECT_FALSE(canvas.isTouched(104, 50));              // not under the names
+    EXPECT_EQ(canvas.at(161, 80), QColor(0, 0, 180));     // 8h00
+    EXPECT_EQ(canvas.at(1441, 69), QColor(0, 0, 180));    // 20h00, which the design has no tick for
+    EXPECT_EQ(totals.at(161, 10), QColor(40, 50, 70));
+}
+
 TEST_F(APaintedPlan, hasItsBoxesAndNothingOutsideThem)
 {
     desk.meeting(1, 1);

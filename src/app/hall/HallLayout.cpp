@@ -1,9 +1,6 @@
 #include "app/hall/HallLayout.h"
 
-#include "context/AxisLabels.h"
-
 #include <algorithm>
-#include <limits>
 
 namespace app
 {
@@ -31,34 +28,6 @@ double scaleFor(QSize screen, double height)
     return std::max(1.0, std::min(screen.height() / height, screen.width() / kNarrowest));
 }
 
-class Extent
-{
-public:
-    void take(double from, double length)
-    {
-        if (length > 0) {
-            m_hours.from = std::min(m_hours.from, from);
-            m_hours.to = std::max(m_hours.to, from + length);
-        }
-    }
-    [[nodiscard]] bool isEmpty() const { return m_hours.from >= m_hours.to; }
-    [[nodiscard]] const HallHours& hours() const { return m_hours; }
-
-private:
-    HallHours m_hours{std::numeric_limits<double>::max(), 0};
-};
-
-void takeSlots(const plan::PlanState& state, Extent& extent)
-{
-    const context::TimeAxis axis = context::screenAxis(state.form);
-    for (int number = 1; number <= context::DaySlots::kSlots; ++number) {
-        if (const auto& slot = state.slots.slot(number)) {
-            runtime::skipOnError(
-                [&] { extent.take(axis.TimeToX(slot->start), axis.widthOf(slot->minutes)); });
-        }
-    }
-}
-
 } // namespace
 
 int hallRoomsFor(QSize screen)
@@ -69,22 +38,11 @@ int hallRoomsFor(QSize screen)
 
 HallHours hallHoursOf(const std::vector<plan::PlanPage>& pages)
 {
-    Extent extent;
+    plan::HoursExtent extent;
     for (const plan::PlanPage& page : pages) {
-        takeSlots(page.state, extent);
-        for (const plan::PlanRow& row : page.content.rows) {
-            for (const plan::PlanBox& box : row.boxes) {
-                extent.take(box.x, box.width);
-            }
-        }
+        extent.take(page.state, page.content);
     }
-    if (!extent.isEmpty()) {
-        return extent.hours();
-    }
-    const form::PlanForm plain;
-    const context::TimeAxis axis = context::screenAxis(plain);
-    const double from = axis.originLeft;
-    return {from, axis.TimeToX(form::PlanForm::tickTime(form::PlanForm::kTicks - 1)) + 0.0};
+    return extent.hours();
 }
 
 HallLayout::HallLayout(QSize screen, int rows, bool hasRemark)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/hall/HallPlan.h"
+#include "plan/ShownHours.h"
 
 #include <QRectF>
 #include <QSize>
@@ -13,15 +14,8 @@ namespace app
 /// from afar; 1 to 18.
 [[nodiscard]] int hallRoomsFor(QSize screen);
 
-/// The stretch of the time axis that has something to show, in twips as the plan has them: from the
-/// earliest box or slot of any page to the end of the latest one. The hours that are marked where
-/// there is neither.
-struct HallHours {
-    double from = 0;
-    double to = 0; ///< behind `from`
-
-    friend bool operator==(const HallHours&, const HallHours&) = default;
-};
+/// What of the time axis has something to show on any of the pages.
+using HallHours = plan::ShownHours;
 [[nodiscard]] HallHours hallHoursOf(const std::vector<plan::PlanPage>& pages);
 
 /// Where everything stands on the screen in the hall. It is laid out in pixels of its own, which

@@ -252,7 +252,7 @@ void HallPainter::paintPlan(const plan::PlanPage& page)
     target.TargetTwipsPerPixelX = twipsPerPixel();
     target.TargetTwipsPerPixelY = kTwips;
     const paint::PlanScene scene{
-        form, page.content, page.state.layout, target, page.state.page.RowsShown, 0, false};
+        form, page.content, page.state.layout, target, page.state.page.RowsShown, false};
     m_surface.save();
     m_surface.setClipRect(m_layout.boxes);
     m_surface.translate(xOf(0), m_layout.boxes.top());
