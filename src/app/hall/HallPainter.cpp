@@ -1,6 +1,7 @@
 #include "app/hall/HallPainter.h"
 
 #include "context/AxisLabels.h"
+#include "context/PageRule.h"
 #include "paint/CellBox.h"
 #include "paint/Inks.h"
 #include "paint/Lettering.h"
