@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <cstdio>
 
 namespace app
@@ -30,7 +31,8 @@ void writeError(const QString& text)
     write(stderr, text + u'\n');
 }
 
-void showFault(QWidget* parent, const QString& text, const QString& beneath)
+void showFault(QWidget* parent, const QString& text, const QString& beneath,
+               const std::optional<WayOut>& wayOut)
 {
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr &&
         QGuiApplication::platformName() != u"offscreen") {
@@ -39,18 +41,24 @@ void showFault(QWidget* parent, const QString& text, const QString& beneath)
         box.setInformativeText(beneath);
         showPlainly(box); // the texts may quote data
         box.setObjectName(QStringLiteral("RunTimeError"));
+        const QAbstractButton* way =
+            wayOut ? box.addButton(wayOut->label, QMessageBox::ActionRole) : nullptr;
         box.exec();
+        if (way != nullptr && box.clickedButton() == way) {
+            wayOut->take();
+        }
     }
 }
 
-void reportRunTimeError(QWidget* parent, const runtime::RunTimeError& error)
+void reportRunTimeError(QWidget* parent, const runtime::RunTimeError& error,
+                        const std::optional<WayOut>& wayOut)
 {
     writeError(error.message());
     QString words = error.explanation();
     if (!error.activity().isEmpty()) {
         words += QStringLiteral("\n\n") + error.activity();
     }
-    showFault(parent, words, error.numberAndText());
+    showFault(parent, words, error.numberAndText(), wayOut);
 }
 
 } // namespace app

@@ -75,7 +75,7 @@ PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
 } // namespace
 
 PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings, FileOpener open)
-    : m_guide(surroundings.applicationFolder + QStringLiteral("/docs/guide.md")),
+    : m_applicationFolder(surroundings.applicationFolder),
       m_hall(std::make_unique<WindowHall>(m_shell, surroundings, this)),
       m_startWindow([] { leaveAtOnce(kDone); }),
       m_shell(std::move(settings), tieToWindow(std::move(surroundings))),
@@ -214,9 +214,11 @@ void PlClasse::addKeys()
 
 int PlClasse::run(const shell::CommandLine& line)
 {
+    m_setup.emplace(m_applicationFolder, line.settingsFile);
     if (!load()) {
         return kFailed;
     }
+    m_setup.reset();
     place();
     show();
     m_isStarting = true;
@@ -338,7 +340,7 @@ void PlClasse::fail(const runtime::RunTimeError& error)
     m_failed = true;
     const Waiting::Pause pause(m_waiting); // an action around this one may be waiting
     m_shell.engine().abandonRefresh();
-    reportRunTimeError(this, error);
+    reportRunTimeError(this, error, m_setup ? m_setup->wayOutOf(error) : std::nullopt);
     QCoreApplication::exit(kFailed);
 }
 
@@ -370,7 +372,7 @@ void PlClasse::processEvents()
 void PlClasse::showHelp()
 {
     if (m_help == nullptr) {
-        m_help = new HelpWindow(m_guide, this);
+        m_help = new HelpWindow(m_applicationFolder + QStringLiteral("/docs/guide.md"), this);
     }
     m_help->show();
     m_help->raise();

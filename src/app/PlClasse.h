@@ -4,6 +4,7 @@
 #include "app/MarkerClicks.h"
 #include "app/Printing.h"
 #include "app/SavedLink.h"
+#include "app/SetupOffer.h"
 #include "app/StartWindow.h"
 #include "app/Waiting.h"
 #include "app/WindowPlacement.h"
@@ -94,7 +95,8 @@ private:
     void keepPlacement();
     void showHelp();
 
-    QString m_guide; ///< path of the guide
+    QString m_applicationFolder;       ///< holds the program and its guide
+    std::optional<SetupOffer> m_setup; ///< only while it starts up
     std::unique_ptr<WindowHall> m_hall;
     Waiting m_waiting;
     StartWindow m_startWindow;

@@ -1,8 +1,10 @@
 // How the window begins with the options of the command line, and how it ends.
 
 #include "app/WindowDesk.h"
+#include "support/TestFolder.h"
 #include "support/WithoutPrivileges.h"
 
+#include <QAbstractButton>
 #include <QFile>
 #include <QThread>
 #include <QTimer>
@@ -47,6 +49,25 @@ protected:
         QTimer::singleShot(0, &window(), [this] { window().close(); });
     }
 
+    /// Puts a program in the place of the one that chooses the database.
+    void installSetup() const
+    {
+        const QString program = setup.path("tempora-setup");
+        writeFile(program, "#!/bin/sh\nexit 0\n");
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+    }
+    /// Of the boxes that are shown from now on.
+    void noteButtons()
+    {
+        onDialog = [this](QDialog& dialog) {
+            for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
+                buttons << button->text();
+            }
+            dialog.reject();
+        };
+    }
+
+    QStringList buttons;   ///< that were noted
     bool timedOut = false; ///< the program did not end
     QStringList messages;  ///< of the boxes that were shown
     std::function<void(QDialog&)> onDialog = [this](QDialog& dialog) {
@@ -123,6 +144,30 @@ TEST_F(WindowsLife, endsWithoutAFaultWhenItIsClosedBeforeTheDatabaseIsAskedAgain
     EXPECT_FALSE(window().isVisible());
     EXPECT_FALSE(window().failed());
     EXPECT_EQ(messages, QStringList());
+}
+
+TEST_F(WindowsLife, offersToChooseAnotherDatabaseWhereItsOwnCannotBeOpened)
+{
+    setup.set("Base", "NulleBase");
+    create();
+    installSetup();
+    noteButtons();
+    EXPECT_EQ(run(), 1);
+    EXPECT_TRUE(buttons.contains("Choisir la base…")) << buttons.join(u'|').toStdString();
+}
+
+TEST_F(WindowsLife, offersNoOtherDatabaseOnceItRuns)
+{
+    create();
+    installSetup();
+    noteButtons();
+    whenItServes([&] {
+        database.execute("ALTER TABLE tranche RENAME TO periodes");
+        window().forward([&] { form().CbTranche.setListIndex(1); });
+    });
+    EXPECT_EQ(run(), 1);
+    ASSERT_FALSE(buttons.isEmpty());
+    EXPECT_FALSE(buttons.contains("Choisir la base…"));
 }
 
 TEST_F(WindowsLife, endsWithABoxAndOneAfterAFault)
