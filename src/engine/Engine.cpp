@@ -2,6 +2,7 @@
 
 #include "context/LoadSlots.h"
 #include "plan/RoomRows.h"
+#include "timetable/NameSearch.h"
 #include "timetable/TimetableReader.h"
 
 #include <utility>
@@ -130,6 +131,12 @@ timetable::Timetable Engine::readTimetable()
 {
     m_database->revive();
     return timetable::readTimetable(m_database->Db(), m_state.period.TrancheIdent);
+}
+
+std::vector<timetable::RoomId> Engine::roomsOf(const timetable::Timetable& timetable,
+                                               const QString& department)
+{
+    return timetable::findRoomsOf(m_database->Db(), timetable, department);
 }
 
 void Engine::placeRoomRows()

@@ -140,6 +140,9 @@ public:
     [[nodiscard]] std::vector<plan::PlanPage> pagesOfEveryRoom(int most) const;
     /// Everything that the database says about the chosen period (see TimetableReader.h).
     [[nodiscard]] timetable::Timetable readTimetable();
+    /// The rooms of a department, as the database compares them: one statement.
+    [[nodiscard]] std::vector<timetable::RoomId> roomsOf(const timetable::Timetable& timetable,
+                                                         const QString& department);
     /// The colours of all rooms, given in their order: of one that is shown its row's, of others
     /// that of the row which they have where pages hold all rooms.
     [[nodiscard]] std::vector<form::Colour> roomColors(const std::vector<QString>& rooms) const;

@@ -41,13 +41,28 @@ std::vector<When> askedDays(const Inquiry& inquiry, const CommandLine& line)
                             line.week ? std::optional(askedWeek(line)) : std::nullopt);
 }
 
-answers::RoomFilter filterOf(const Inquiry& inquiry, const CommandLine& line)
+/// The department as the room table spells it, where it does. The database decides: it may take
+/// other letters for the same.
+QString departmentNamed(Shell& shell, const Inquiry& inquiry, const QString& name)
+{
+    const timetable::Timetable& timetable = inquiry.timetable();
+    if (!timetable.departments().find(name).isNone()) {
+        return name;
+    }
+    const std::vector<timetable::RoomId> rooms = shell.engine().roomsOf(timetable, name);
+    return rooms.empty() ? name : timetable.room(rooms.front()).department.value_or(name);
+}
+
+answers::RoomFilter filterOf(Shell& shell, const Inquiry& inquiry, const CommandLine& line)
 {
     answers::RoomFilter filter;
     if (line.zone.value_or(0) != 0) {
         filter.zone = line.zone;
     }
-    filter.department = line.department;
+    if (line.department) {
+        filter.department = departmentNamed(shell, inquiry, *line.department);
+        filter.spellings = answers::departmentSpellings(inquiry.timetable(), *filter.department);
+    }
     const QString why = inquiry.whyNoRoom(filter);
     if (!why.isEmpty()) {
         const QString option = filter.department ? QStringLiteral("--department : ")
@@ -93,11 +108,12 @@ answers::Subject subjectOf(const Occupancy& occupancy, const AnswerRequest& requ
 }
 
 /// What the line wants to see of an answer; of clashes those of its week and date.
-answers::Narrowing narrowingOf(const Inquiry& inquiry, const CommandLine& line, bool isOfClashes)
+answers::Narrowing narrowingOf(Shell& shell, const Inquiry& inquiry, const CommandLine& line,
+                               bool isOfClashes)
 {
     answers::Narrowing narrowing;
     if (line.zone.value_or(0) != 0 || line.department) {
-        narrowing.rooms = filterOf(inquiry, line);
+        narrowing.rooms = filterOf(shell, inquiry, line);
     }
     narrowing.day = line.day;
     if (isOfClashes) {
@@ -107,25 +123,25 @@ answers::Narrowing narrowingOf(const Inquiry& inquiry, const CommandLine& line, 
     return narrowing;
 }
 
-files::AnswerDocument answerTo(const Inquiry& inquiry, const CommandLine& line)
+files::AnswerDocument answerTo(Shell& shell, const Inquiry& inquiry, const CommandLine& line)
 {
     const AnswerRequest& request = *line.answer;
     switch (request.kind) {
     case files::AnswerKind::FreeRooms:
-        return inquiry.freeRooms(
-            {askedDays(inquiry, line), request.span, request.places, filterOf(inquiry, line)});
+        return inquiry.freeRooms({askedDays(inquiry, line), request.span, request.places,
+                                  filterOf(shell, inquiry, line)});
     case files::AnswerKind::Week:
         return inquiry.weekOf(subjectOf(inquiry.occupancy(), request), weekAskedFor(inquiry, line),
-                              narrowingOf(inquiry, line, false));
+                              narrowingOf(shell, inquiry, line, false));
     case files::AnswerKind::Clashes:
-        return inquiry.clashes(narrowingOf(inquiry, line, true));
+        return inquiry.clashes(narrowingOf(shell, inquiry, line, true));
     case files::AnswerKind::RoomUse:
-        return inquiry.roomUse(weekAskedFor(inquiry, line).week, filterOf(inquiry, line));
+        return inquiry.roomUse(weekAskedFor(inquiry, line).week, filterOf(shell, inquiry, line));
     case files::AnswerKind::Hits:
         break;
     }
     return inquiry.find(request.text, weekAskedFor(inquiry, line),
-                        narrowingOf(inquiry, line, false));
+                        narrowingOf(shell, inquiry, line, false));
 }
 
 /// A calendar is of all that somebody has.
@@ -169,7 +185,7 @@ QString writeAnswer(Shell& shell, const CommandLine& line)
     if (!inquiry.hasCourses()) {
         throw UsageError(QStringLiteral("La période « %1 » n’a aucun cours").arg(inquiry.period()));
     }
-    files::writeWholeFile(request.file, written(format, answerTo(inquiry, line)));
+    files::writeWholeFile(request.file, written(format, answerTo(shell, inquiry, line)));
     return line.date ? inquiry.whyOutside(*line.date) : QString();
 }
 

@@ -32,8 +32,9 @@ using RoomNameId = Id<struct RoomNameTag>; ///< a text in one of the room column
 using ClassId = Id<struct ClassTag>;
 using TeacherId = Id<struct TeacherTag>;
 using SubjectId = Id<struct SubjectTag>;
-using HoldingId = Id<struct HoldingTag>; ///< a holding of an occupancy
-using TextId = Id<struct TextTag>;       ///< any other text, kept as it is stored
+using DepartmentId = Id<struct DepartmentTag>; ///< a text in the room table's column
+using HoldingId = Id<struct HoldingTag>;       ///< a holding of an occupancy
+using TextId = Id<struct TextTag>;             ///< any other text, kept as it is stored
 
 } // namespace timetable
 

@@ -73,6 +73,8 @@ public:
     [[nodiscard]] const Names<TeacherId>& teachers() const { return m_teachers; }
     [[nodiscard]] const Names<ClassId>& classes() const { return m_classes; }
     [[nodiscard]] const Names<SubjectId>& subjects() const { return m_subjects; }
+    /// The departments of the room table.
+    [[nodiscard]] const Names<DepartmentId>& departments() const { return m_departments; }
     [[nodiscard]] const RoomName& roomName(RoomNameId id) const
     {
         return m_roomNames.at(position(id));
@@ -107,6 +109,7 @@ private:
     Names<TeacherId> m_teachers;
     Names<ClassId> m_classes;
     Names<SubjectId> m_subjects;
+    Names<DepartmentId> m_departments;
     TextPool m_texts;
     std::vector<ClassSize> m_sizes; ///< by class
     std::vector<UnreadTable> m_unread;

@@ -3,6 +3,7 @@
 #include "timetable/MeetingColumns.h"
 #include "timetable/NamelessRooms.h"
 #include "timetable/ReadTimes.h"
+#include "timetable/SchoolColumns.h"
 
 #include <algorithm>
 
@@ -23,6 +24,9 @@ void TimetableBuilder::addRoom(const Room& room)
     m_result.m_rooms.push_back(room);
     m_result.m_listedRooms = m_result.m_rooms.size();
     m_rooms.addRoom(room.name);
+    if (room.department) {
+        m_departments.texts.add(*room.department);
+    }
 }
 
 void TimetableBuilder::addSlot(QStringView key, QStringView start, QStringView end)
@@ -113,6 +117,7 @@ Timetable TimetableBuilder::build(const AskNames& ask) &&
     m_result.m_teachers = taken<TeacherId>(m_teachers, inquiry);
     m_result.m_classes = taken<ClassId>(m_classes, inquiry);
     m_result.m_subjects = taken<SubjectId>(m_subjects, inquiry);
+    m_result.m_departments = taken<DepartmentId>(m_departments, inquiry);
     return std::move(m_result);
 }
 
@@ -124,6 +129,10 @@ NameInquiry TimetableBuilder::asked(const AskNames& ask)
     m_sizes.ask(inquiry, m_classes.texts);
     for (NameColumns* names : {&m_teachers, &m_classes, &m_subjects}) {
         askAbout(*names, inquiry);
+    }
+    if (!m_departments.texts.isEmpty()) {
+        m_departments.question =
+            inquiry.add({table::kSalle, column::kDepartement, m_departments.texts});
     }
     inquiry.ask(ask);
     return inquiry;
@@ -157,7 +166,11 @@ void TimetableBuilder::takeRooms(const NameInquiry& inquiry)
             id = RoomNameId();
         }
     };
+    NamelessRooms nameless(m_result.rooms(), m_result.m_roomNames);
     for (Meeting& meeting : m_result.m_meetings) {
+        if (nameless.isAny()) {
+            nameless.settle(meeting);
+        }
         for (MeetingPart& part : meeting.parts) {
             dropUnlessRoom(part.room);
             dropUnlessRoom(part.otherRoom);
@@ -166,11 +179,7 @@ void TimetableBuilder::takeRooms(const NameInquiry& inquiry)
 }
 
 void TimetableBuilder::takeSlots(const NameInquiry& inquiry)
-    NamelessRooms nameless(m_result.rooms(), m_result.m_roomNames);
 {
-        if (nameless.isAny()) {
-            nameless.settle(meeting);
-        }
     m_result.m_slots = m_slots.takeSlots(inquiry);
     std::array<std::vector<SlotKey>, kMeetingKinds> keys;
     for (std::size_t kind = 0; kind < kMeetingKinds; ++kind) {

@@ -80,6 +80,7 @@ private:
     NameColumns m_teachers;
     NameColumns m_classes;
     NameColumns m_subjects;
+    NameColumns m_departments; ///< of the room table, which has one such column
 };
 
 } // namespace timetable

@@ -108,6 +108,28 @@ TEST_P(Answers, takeOnlyTheRoomsThatAreAskedFor)
     EXPECT_EQ(rooms({"--department", "INFO", "--zone", "2"}), QStringList({"B1"}));
 }
 
+TEST_P(Answers, takeADepartmentForTheOneThatTheDatabaseTakesItFor)
+{
+    // The plan compares it so, too: neither product minds case, a server no blanks behind it.
+    database().execute(QStringList("update salle set `Département` = 'Info' where Nom = 'B1'"));
+    const auto rooms = [this](const QString& department) {
+        return each(answer("--free", firstSlot + QStringList{"--department", department})["rooms"],
+                    "room");
+    };
+    EXPECT_EQ(rooms("INFO"), QStringList({"A1", "B1"}));
+    EXPECT_EQ(rooms("Info"), QStringList({"A1", "B1"}));
+    EXPECT_EQ(rooms("info"), QStringList({"A1", "B1"})); // spelt as in no row
+    EXPECT_EQ(
+        each(answer("--week-of", {"--teacher", "Roux", "--department", "inFO"})["items"], "room"),
+        each(answer("--week-of", {"--teacher", "Roux", "--department", "INFO"})["items"], "room"));
+    if (database().usesMySql()) {
+        EXPECT_EQ(rooms("info "), QStringList({"A1", "B1"}));
+    } else {
+        EXPECT_TRUE(refusal(QStringList{"--free", file, "--department", "info "} + firstSlot)
+                        .startsWith("--department : "));
+    }
+}
+
 TEST_P(Answers, countMakeUpsOnTheirDate)
 {
     const QStringList second{"--from", "10h15", "--to", "11h45"};

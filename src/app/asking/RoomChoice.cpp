@@ -62,13 +62,17 @@ RoomChoice::RoomChoice(std::function<void()> changed)
 void RoomChoice::offer(const timetable::Timetable& timetable)
 {
     std::set<int> zones;
-    std::set<QString> departments;
+    std::set<QString> departments; // each once, however it is spelt
+    const auto& names = timetable.departments();
+    m_spellings.clear();
     for (const timetable::Room& room : timetable.rooms()) {
         if (room.zone) {
             zones.insert(*room.zone);
         }
         if (room.department && !room.department->isEmpty()) {
-            departments.insert(*room.department);
+            const QString& first = names.text(names.group(names.find(*room.department)));
+            departments.insert(first);
+            m_spellings[first] = answers::departmentSpellings(timetable, first);
         }
     }
     QStringList numbers;
@@ -87,6 +91,7 @@ bool RoomChoice::chooseZone(int zone)
 }
 
 answers::RoomFilter RoomChoice::filter() const
+        filter.spellings = m_spellings.value(*filter.department);
 {
     answers::RoomFilter filter;
     if (m_zone->currentIndex() > 0) {

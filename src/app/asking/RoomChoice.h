@@ -3,8 +3,10 @@
 #include "answers/RoomFilter.h"
 #include "timetable/Timetable.h"
 
+#include <QHash>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 class QComboBox;
 
@@ -27,6 +29,7 @@ public:
 private:
     QComboBox* m_zone;
     QComboBox* m_department;
+    QHash<QString, std::vector<QString>> m_spellings; ///< by the department as it is offered
 };
 
 } // namespace app
