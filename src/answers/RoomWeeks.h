@@ -27,6 +27,8 @@ struct RoomWeek {
 struct RoomWeeks {
     WeekDays days;              ///< each with an axis of its own
     std::vector<RoomWeek> rows; ///< in the order of the room table
+    /// Whether there are more rooms, and one of all has something: true of sheets.
+    bool isPart = false;
 
     /// Whether no room has anything.
     [[nodiscard]] bool isEmpty() const;

@@ -23,6 +23,7 @@ struct WeekAnswer {
     std::optional<answers::Subject> subject; ///< nothing: all rooms
     answers::AskedWeek week;
     std::vector<timetable::HoldingId> items; ///< as `answers::weekOf` orders them
+    answers::RoomFilter rooms{};             ///< of all rooms: the ones that have a row
 };
 
 using HitList = std::vector<answers::Hit>;

@@ -243,7 +243,7 @@ QString gridHtml(const AnswerDocument& document, const WeekAnswer& answer)
 QString overviewHtml(const AnswerDocument& document, const WeekAnswer& answer)
 {
     const answers::RoomWeeks weeks =
-        answers::roomWeeks(*document.occupancy, answer.week, answer.items);
+        answers::roomWeeks(*document.occupancy, answer.week, answer.items, answer.rooms);
     QString rows;
     for (const answers::RoomWeek& week : weeks.rows) {
         rows += roomRow(week, paint::roomColor(document.roomColors, week.room));

@@ -12,7 +12,8 @@ print::WeekSheets weekSheetsOf(const AnswerDocument& document)
         sheets.week =
             answers::weekGrid(*document.occupancy, answer.subject, answer.week, answer.items);
     } else {
-        sheets.week = answers::roomWeeks(*document.occupancy, answer.week, answer.items);
+        sheets.week =
+            answers::roomWeeks(*document.occupancy, answer.week, answer.items, answer.rooms);
     }
     return sheets;
 }

@@ -137,7 +137,9 @@ void OverviewPainter::paint(QPainter& surface) const
     if (m_weeks.isEmpty()) {
         drawNothingThere(surface, m_target,
                          QRectF(m_left, m_top, m_dayEdges.back() - m_left, m_area.bottom() - m_top),
-                         pixelsOf(m_target, kLargestText));
+                         pixelsOf(m_target, kLargestText),
+                         m_weeks.isPart ? QStringLiteral("Rien cette semaine dans ces salles")
+                                        : QStringLiteral("Rien cette semaine"));
     }
     surface.restore();
 }

@@ -43,7 +43,8 @@ public:
     /// Pixels of the heading: days and hours.
     [[nodiscard]] static double headingHeight(const DrawingTarget& target);
 
-    /// Everything; "Rien cette semaine" in the middle where no room has anything.
+    /// Everything; "Rien cette semaine" in the middle where no room has anything, and that it is so
+    /// in these rooms where others have.
     void paint(QPainter& surface) const;
     /// The days and their hours, at the area's top: a window that scrolls paints it last, moved to
     /// where its own top is.

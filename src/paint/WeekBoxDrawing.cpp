@@ -197,10 +197,9 @@ void drawDenseWeekBox(QPainter& surface, const DrawingTarget& target, const answ
 }
 
 void drawNothingThere(QPainter& surface, const DrawingTarget& target, const QRectF& area,
-                      int pixels)
+                      int pixels, const QString& sentence)
 {
     const Lettering large(target, 2 * pixels);
-    const QString sentence = QStringLiteral("Rien cette semaine");
     QRectF place(0, 0, std::min(area.width(), large.width(sentence) + 2.0 * pixels),
                  2 * large.height());
     place.moveCenter(area.center());

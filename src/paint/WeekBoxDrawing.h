@@ -27,6 +27,6 @@ void drawDenseWeekBox(QPainter& surface, const DrawingTarget& target, const answ
 
 /// Says in the middle of an area that there is nothing.
 void drawNothingThere(QPainter& surface, const DrawingTarget& target, const QRectF& area,
-                      int pixels);
+                      int pixels, const QString& sentence = QStringLiteral("Rien cette semaine"));
 
 } // namespace paint

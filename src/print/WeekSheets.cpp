@@ -58,7 +58,9 @@ answers::RoomWeeks roomsOf(const answers::RoomWeeks& all, std::size_t sheet, std
     const auto first = static_cast<std::ptrdiff_t>(std::min(all.rows.size(), sheet * perSheet));
     const auto last =
         static_cast<std::ptrdiff_t>(std::min(all.rows.size(), (sheet + 1) * perSheet));
-    return {all.days, {all.rows.begin() + first, all.rows.begin() + last}};
+    const bool isPart = sheet > 0 || perSheet < all.rows.size();
+    return {
+        all.days, {all.rows.begin() + first, all.rows.begin() + last}, isPart && !all.isEmpty()};
 }
 
 /// Draws sheets on paper of one size.

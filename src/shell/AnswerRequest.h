@@ -10,7 +10,7 @@ namespace shell
 
 /// A question about the timetable whose answer is written into a file.
 struct AnswerRequest {
-    enum class Who { Room, Teacher, Class, Subject };
+    enum class Who { Room, Teacher, Class, Subject, EveryRoom };
 
     files::AnswerKind kind = files::AnswerKind::FreeRooms;
     QString file;
@@ -20,7 +20,7 @@ struct AnswerRequest {
     int weeksRunning = 1;     ///< 1 upward; more only with a date
     // Week of...
     Who who = Who::Room;
-    QString name;
+    QString name; ///< empty for every room
     // Find
     QString text; ///< not empty
 };

@@ -79,7 +79,8 @@ answers::AskedWeek weekAskedFor(const Inquiry& inquiry, const CommandLine& line)
                      : answers::AskedWeek{askedWeek(line), {}};
 }
 
-answers::Subject subjectOf(const Occupancy& occupancy, const AnswerRequest& request)
+/// Nothing for all rooms.
+std::optional<answers::Subject> subjectOf(const Occupancy& occupancy, const AnswerRequest& request)
 {
     std::optional<answers::Subject> subject;
     QString option;
@@ -100,11 +101,13 @@ answers::Subject subjectOf(const Occupancy& occupancy, const AnswerRequest& requ
         subject = answers::subjectNamed(occupancy, request.name);
         option = QStringLiteral("matter");
         break;
+    case AnswerRequest::Who::EveryRoom:
+        return std::nullopt;
     }
     if (!subject) {
         throw UsageError(QStringLiteral("--%1 : « %2 » n’existe pas").arg(option, request.name));
     }
-    return *subject;
+    return subject;
 }
 
 /// What the line wants to see of an answer; of clashes those of its week and date.

@@ -65,14 +65,14 @@ const std::vector<OptionText>& optionTexts()
          QStringLiteral("relit la base toutes les N secondes, 60 sinon (avec --display)")},
         {"free", answerFile(files::AnswerKind::FreeRooms),
          QStringLiteral("écrit les salles libres (avec --from, --to et --day ou --date)")},
-        {"from", QStringLiteral("HEURE"), QStringLiteral("début, par exemple 9h30 (avec --free)")},
-        {"to", QStringLiteral("HEURE"), QStringLiteral("fin, par exemple 11h00 (avec --free)")},
+        {"from", QStringLiteral("9h30|09:30|14h"), QStringLiteral("début (avec --free)")},
+        {"to", QStringLiteral("11h00|11:00|15h"), QStringLiteral("fin (avec --free)")},
         {"places", QStringLiteral("0..99999"), QStringLiteral("places au moins (avec --free)")},
         {"weeks-running", QStringLiteral("1..60"),
          QStringLiteral("libre tant de semaines de suite (avec --free et --date)")},
         {"week-of", answerFile(files::AnswerKind::Week),
-         QStringLiteral("écrit la semaine d’une salle, d’un enseignant, d’une classe ou d’une "
-                        "matière")},
+         QStringLiteral("écrit la semaine d’une salle, d’un enseignant, d’une classe, d’une "
+                        "matière ou de toutes les salles")},
         {"room", QStringLiteral("NOM"), QStringLiteral("cette salle (avec --week-of)")},
         {"teacher", QStringLiteral("NOM"), QStringLiteral("cet enseignant (avec --week-of)")},
         {"class", QStringLiteral("NOM"), QStringLiteral("cette classe (avec --week-of)")},
@@ -99,7 +99,8 @@ const std::vector<OptionText>& optionTexts()
          QStringLiteral("salles par page")},
         {"every-room",
          {},
-         QStringLiteral("coche « Toutes les salles » : aucune n’est laissée de côté")},
+         QStringLiteral("coche « Toutes les salles » : aucune n’est laissée de côté ; avec "
+                        "--week-of : la semaine de toutes")},
         {"show", QStringLiteral("class,teacher,subject,type,invigilator"),
          QStringLiteral("ce que montrent les cases, exactement")},
         {"subject", QStringLiteral("NOM"), QStringLiteral("ne montre que cette matière")},
@@ -219,20 +220,30 @@ void readWeekOf(const OptionReader& reader, AnswerRequest& request)
             request.name = reader.text(option);
         }
     }
+    if (reader.has("every-room")) {
+        ++names;
+        request.who = Who::EveryRoom;
+    }
     if (names != 1) {
         reader.fail("week-of",
-                    QStringLiteral(
-                        "demande --room, --teacher, --class ou --matter, et un seul d’entre eux"));
+                    QStringLiteral("demande --room, --teacher, --class, --matter ou --every-room, "
+                                   "et un seul d’entre eux"));
+    }
+    if (request.who == Who::EveryRoom &&
+        files::answerFormatOf(request.kind, request.file)->isDated) {
+        reader.fail("every-room", QStringLiteral("ne va pas avec un calendrier (.ics) : il est "
+                                                 "d’une salle, d’un enseignant ou d’une classe"));
     }
 }
 
 /// What says how the plan is shown says nothing of the timetable.
 void refusePlanOptions(const OptionReader& reader, const char* question)
 {
-    for (const char* option : {"mode", "exam-week", "makeup", "neutral", "rooms-per-page",
-                               "every-room", "page", "show", "subject", "counting"}) {
+    for (const char* option : {"mode", "exam-week", "makeup", "neutral", "rooms-per-page", "page",
+                               "show", "subject", "counting"}) {
         reader.exclude(option, {question});
     }
+    reader.exclude("every-room", {"free", "find", "clashes", "use"});
 }
 
 void readAnswer(const OptionReader& reader, CommandLine& line)

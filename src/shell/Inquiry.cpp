@@ -166,7 +166,8 @@ files::AnswerDocument Inquiry::weekOf(const std::optional<answers::Subject>& sub
 {
     files::WeekAnswer answer{subject, week,
                              subject ? answers::weekOf(*m_occupancy, *subject, week)
-                                     : answers::weekOfAll(*m_occupancy, week)};
+                                     : answers::weekOfAll(*m_occupancy, week),
+                             narrowing.rooms};
     narrowing.apply(*m_occupancy, answer.items);
     const QString title =
         subject ? answers::kindWords(*subject) + u' ' + answers::nameOf(timetable(), *subject)

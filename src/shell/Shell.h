@@ -63,7 +63,7 @@ public:
     /// The settings that it was made with, opened anew. Errors: those of Settings::again.
     [[nodiscard]] Settings settingsAgain() const { return m_settings.again(); }
 
-    /// A Monday of some week A, as the setting `SemaineA` has it; no valid date where it is empty.
+    /// A day of some week A, as the setting `SemaineA` has it; no valid date where it is empty.
     /// Error: TypeMismatch for a text that is no date.
     [[nodiscard]] QDate weekA() const;
 

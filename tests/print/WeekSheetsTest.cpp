@@ -108,6 +108,23 @@ TEST(SheetsOfAllRooms, shareTheRoomsAndRepeatTheDays)
     EXPECT_TRUE(pdf.text(2).contains("Page 2 / 2"));
 }
 
+TEST(SheetsOfAllRooms, sayWhereOnlyTheirOwnRoomsHaveNothing)
+{
+    print::WeekSheets sheets = roomSheets(27);
+    auto& weeks = std::get<answers::RoomWeeks>(sheets.week);
+    for (answers::RoomWeek& row : weeks.rows) {
+        row.boxes.clear();
+        row.unknown = {};
+    }
+    const Pdf none(print::pdfOf(sheets));
+    EXPECT_TRUE(none.text(1).contains("Rien cette semaine"));
+    EXPECT_FALSE(none.text(1).contains("dans ces salles"));
+    weeks.rows.back().unknown[0] = "ni heure de début, ni séance";
+    const Pdf one(print::pdfOf(sheets));
+    EXPECT_TRUE(one.text(1).contains("Rien cette semaine dans ces salles"));
+    EXPECT_FALSE(one.text(2).contains("Rien cette semaine"));
+}
+
 TEST(SheetsOfAllRooms, haveNoNumberWhenThereIsOne)
 {
     EXPECT_FALSE(Pdf(print::pdfOf(roomSheets(3))).text().contains("Page"));

@@ -189,6 +189,51 @@ TEST_P(Answers, tellTheWeekOfSomebody)
               "--teacher : « Personne » n’existe pas");
 }
 
+TEST_P(Answers, tellTheWeekOfAllRooms)
+{
+    const auto rooms = [this](const QStringList& further) {
+        QStringList all;
+        const QJsonArray items =
+            answer("--week-of", QStringList{"--every-room"} + further)["items"].toArray();
+        for (const QJsonValue item : items) {
+            all << item["rooms"].toVariant().toStringList().join('+');
+        }
+        all.removeDuplicates();
+        return all;
+    };
+    QStringList all = rooms({});
+    all.sort();
+    EXPECT_EQ(all, QStringList({"A2", "B1", "B2", "C1"}));
+    EXPECT_EQ(rooms({"--zone", "2", "--day", "0"}), QStringList({"B2", "B1"}));
+    EXPECT_TRUE(rooms({"--date", "2025-03-17"}).contains("A2"));
+    const auto write = [this](const char* ending, const QStringList& further) {
+        const QString path = folder.filePath(QLatin1String("all.") + QLatin1String(ending));
+        this->write(QStringList{"--week-of", path, "--every-room"} + further);
+        return path;
+    };
+    const QString page = fileText(write("html", {}));
+    EXPECT_TRUE(page.contains("<h1>Toutes les salles</h1>"));
+    for (const char* room : {"A1", "A2", "B1", "B2", "C1"}) {
+        EXPECT_TRUE(page.contains(QStringLiteral(">%1<").arg(room))) << room;
+    }
+    EXPECT_FALSE(fileText(write("html", {"--zone", "2"})).contains(">A1<"));
+    EXPECT_TRUE(fileText(write("csv", {})).startsWith("Jour;"));
+    QFile pdf(write("pdf", {}));
+    EXPECT_TRUE(pdf.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(pdf.readAll().startsWith("%PDF-"));
+}
+
+TEST_P(Answers, areNoCalendarOfAllRooms)
+{
+    EXPECT_EQ(refusal({"--week-of", folder.filePath("all.ics"), "--every-room"}),
+              "--every-room : ne va pas avec un calendrier (.ics) : il est d’une salle, d’un "
+              "enseignant ou d’une classe");
+    EXPECT_TRUE(refusal({"--week-of", file, "--every-room", "--room", "A1"})
+                    .startsWith("--week-of : demande "));
+    EXPECT_EQ(refusal({"--clashes", file, "--every-room"}),
+              "--every-room : ne va pas avec --clashes");
+}
+
 TEST_P(Answers, areWrittenAsACalendarOfThePeriodOrOfAWeek)
 {
     const QString calendar = folder.filePath("plan.ics");
