@@ -225,8 +225,14 @@ void MinuteBook::nameRooms(const QString& table, const QString& column, int peri
     for (const QStringList& pair : named) {
         BookedPart part = rows.value(pair[0].toInt());
         BookedRoom& room = m_rooms.at(m_roomOfRow.value(pair[1].toInt()));
-        // The plan looks for a room without a name in `Salle` alone.
-        if (part.day < 0 || (room.name.trimmed().isEmpty() && column != "Salle")) {
+        // The plan looks for a room without a name in `Salle`, and shows all of such a row that
+        // names it.
+        const bool isFound =
+            !room.name.isEmpty() || column == "Salle" ||
+            std::any_of(room.parts.begin(), room.parts.end(), [&](const BookedPart& each) {
+                return each.kind == part.kind && each.row == part.row;
+            });
+        if (part.day < 0 || !isFound) {
             continue;
         }
         part.part = column == "XSalle"     ? "A2"

@@ -85,9 +85,7 @@ const ShownHours::Boxes& ShownHours::boxes(const QString& room, const AskedDay& 
 QString ShownHours::textAt(const QString& room, const AskedDay& day, int from, int to)
 {
     constexpr int sunday = 6; // the plan's list of days ends before it
-    // Where a row's `Salle` is empty the plan takes its other empty columns for the nameless room,
-    // too, and may show it in a week in which `Salle` does not hold it.
-    if (day.day == sunday || room.isEmpty() || !m_database.dialect().holds(room)) {
+    if (day.day == sunday || !m_database.dialect().holds(room)) {
         return {};
     }
     for (const Box& box : boxes(room, day)) {
