@@ -91,7 +91,6 @@ bool RoomChoice::chooseZone(int zone)
 }
 
 answers::RoomFilter RoomChoice::filter() const
-        filter.spellings = m_spellings.value(*filter.department);
 {
     answers::RoomFilter filter;
     if (m_zone->currentIndex() > 0) {
@@ -99,6 +98,7 @@ answers::RoomFilter RoomChoice::filter() const
     }
     if (m_department->currentIndex() > 0) {
         filter.department = m_department->currentText();
+        filter.spellings = m_spellings.value(*filter.department);
     }
     return filter;
 }
