@@ -39,8 +39,8 @@ protected:
     QStringList gestures()
     {
         QStringList texts;
-        if (const QMenu* opened = menu()) {
-            const QList<QAction*> actions = opened->actions();
+        if (const QMenu* entries = menu()) {
+            const QList<QAction*> actions = entries->actions();
             for (const QAction* action : actions.mid(actions.size() - 2)) {
                 texts << (action->isEnabled() ? QString() : QString("-")) + action->text();
             }
