@@ -24,6 +24,9 @@ CellNote::CellNote(const QString& text, QWidget* parent) : QFrame(parent, Qt::Po
     setObjectName(QStringLiteral("CellNote"));
     setAttribute(Qt::WA_DeleteOnClose);
     setFrameShape(QFrame::Box);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    setAutoFillBackground(true);
     auto* words = plainLabel(text);
     words->setObjectName(QStringLiteral("CellText"));
     words->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
@@ -49,6 +52,7 @@ void CellNote::showBeside(const QRect& place)
     move(std::max(left, desk.left()), std::max(top, desk.top()));
     show();
     setFocus(Qt::PopupFocusReason);
+    findChild<QLabel*>()->setSelection(0, 0); // read from the beginning
 }
 
 void CellNote::keyPressEvent(QKeyEvent* event)

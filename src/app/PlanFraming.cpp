@@ -155,10 +155,12 @@ void PlanView::paintCursor(QPainter& painter, const Bands& view) const
         const PlanTable words = table();
         const QRectF place = words.placeOf(*cell);
         const auto row = static_cast<std::size_t>(words.rowOf(*cell).index);
-        // A slot that the day lacks has no place of its own.
-        paintRing(painter, view,
-                  place.isEmpty() ? rowAcross(m_engine.form().Salle.at(row).place) : place,
-                  kCursorLine, isInUse ? kFrameWidth : kRestingWidth);
+        // A slot that the day lacks has no place of its own. The ring lies around the cell: it is
+        // to be read.
+        const QRectF ringed =
+            place.isEmpty() ? rowAcross(m_engine.form().Salle.at(row).place) : place;
+        paintRing(painter, view, ringed.adjusted(-2, -2, 2, 2), kCursorLine,
+                  isInUse ? kFrameWidth : kRestingWidth);
     } else if (isInUse && m_focusIsShown) {
         painter.save();
         painter.setPen(QPen(kCursorLine, 2));

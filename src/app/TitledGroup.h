@@ -14,6 +14,8 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    /// Underlines the letter of the title's key, which a style sheet leaves out.
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace app
