@@ -301,7 +301,7 @@ void addSubjectPanel(QLayout* band, PanelBuilder& make, FormMirror& mirror, engi
     grid->addWidget(make.check("Check1", form.Check1,
                                QStringLiteral("Ne montrer que les séances d’une matière")),
                     0, 0, 1, 2);
-    grid->addWidget(make.list("Cb_Mat", form.Cb_Mat, QStringLiteral("Matière montrée"), 14), 1, 0,
+    grid->addWidget(make.list("Cb_Mat", form.Cb_Mat, QStringLiteral("Matière montrée"), 10), 1, 0,
                     1, 2);
     auto* frame = new QWidget;
     frame->setObjectName(QStringLiteral("Frame1"));

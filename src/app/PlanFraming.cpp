@@ -159,7 +159,7 @@ void PlanView::paintCursor(QPainter& painter, const Bands& view) const
         // to be read.
         const QRectF ringed =
             place.isEmpty() ? rowAcross(m_engine.form().Salle.at(row).place) : place;
-        paintRing(painter, view, ringed.adjusted(-2, -2, 2, 2), kCursorLine,
+        paintRing(painter, view, ringed.adjusted(-3, -3, 3, 3), kCursorLine,
                   isInUse ? kFrameWidth : kRestingWidth);
     } else if (isInUse && m_focusIsShown) {
         painter.save();

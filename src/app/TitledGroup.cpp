@@ -37,7 +37,7 @@ void TitledGroup::paintEvent(QPaintEvent* event)
     const int left = label.center().x() - letters.horizontalAdvance(text) / 2 +
                      letters.horizontalAdvance(text.left(at));
     const int width = letters.horizontalAdvance(text.at(at));
-    const int line = label.center().y() - letters.height() / 2 + letters.ascent() + 2;
+    const int line = label.center().y() - letters.height() / 2 + letters.ascent() + 1;
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawLine(left, line, left + width - 1, line);

@@ -58,3 +58,14 @@ TEST(MarkerToolTips, leaveTheOutcomeOpenWithSeveralClasses)
     EXPECT_EQ(ZAbsToolTip(boxOf(QStringLiteral("A\tB")), tuesday), gestures);
     EXPECT_EQ(ZAbsToolTip(boxOf(QStringLiteral("A\tB\t")), tuesday), gestures);
 }
+
+TEST(MarkerToolTips, countTheClassesWhereTheyAreTooManyToBeNamed)
+{
+    const plan::PlanBox box = boxOf(QStringLiteral("L1\tL2\tL3"));
+    EXPECT_EQ(gestureWords(VirtualKey::Shift, box, tuesday, 3),
+              QStringLiteral("enregistrer ou retirer l’absence de chacune des classes L1, L2, L3 "
+                             "le mardi 24/11/2026"));
+    EXPECT_EQ(gestureWords(VirtualKey::Ctrl, box, tuesday, 2),
+              QStringLiteral("enregistrer ou retirer l’absence d’étudiants de chacune des 3 "
+                             "classes le mardi 24/11/2026"));
+}

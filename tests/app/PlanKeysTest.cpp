@@ -156,7 +156,7 @@ TEST_F(ThePlansKeys, drawARingAroundTheCell)
     hands.press({"Down", "Right"}); // a place without a box
     expectCursor("A2, 10h15");
     const QRect place = view()->onScreen(*view()->cursor());
-    const QPoint left = view()->mapFromGlobal(QPoint(place.left() - 1, place.center().y()));
+    const QPoint left = view()->mapFromGlobal(QPoint(place.left() - 2, place.center().y()));
     const auto isRing = [&] {
         const QColor color = view()->grab().toImage().pixelColor(left);
         return color == QColor(16, 42, 110);

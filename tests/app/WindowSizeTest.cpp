@@ -4,6 +4,7 @@
 #include <QStyleOptionComboBox>
 
 using test::TheWindow;
+using test::until;
 
 TEST_F(TheWindow, fitsAScreenOf1366PixelsWhateverItShows)
 {
@@ -20,6 +21,17 @@ TEST_F(TheWindow, fitsAScreenOf1366PixelsWhateverItShows)
     EXPECT_LE(width(), screenWidth);
     form().OpExam().select();
     EXPECT_LE(width(), screenWidth);
+}
+
+TEST_F(TheWindow, keepsItsGroupsWhereTheyAreWhenOneSubjectIsShown)
+{
+    open();
+    const auto* group = control<QWidget>("Check1")->parentWidget();
+    const int width = group->width();
+    window().forward([this] { form().Check1.setChecked(true); });
+    ASSERT_TRUE(until([this] { return control<QComboBox>("Cb_Mat")->isVisible(); }));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(group->width(), width);
 }
 
 TEST_F(TheWindow, showsTheNameOfAPeriodWhole)
