@@ -75,6 +75,12 @@ void AnswerWindow::tell(const QString& sentence, bool isWarning)
     m_status->style()->polish(m_status);
 }
 
+void AnswerWindow::tellSaved(const QString& path)
+{
+    tell(savedWords(path));
+    m_saved->offer(path);
+}
+
 void AnswerWindow::exportAnswer(files::AnswerKind kind, const files::AnswerDocument& document)
 {
     QStringList filters;
@@ -103,8 +109,7 @@ void AnswerWindow::exportAnswer(files::AnswerKind kind, const files::AnswerDocum
             throw files::ExportError(open + QStringLiteral(" : le fichier n’est pas écrit."));
         }
         files::writeWholeFile(path, format.write(document));
-        tell(savedWords(path));
-        m_saved->offer(path);
+        tellSaved(path);
     } catch (const files::ExportError& error) {
         QMessageBox box(QMessageBox::Warning, windowTitle(), QString::fromUtf8(error.what()),
                         QMessageBox::Ok, this);

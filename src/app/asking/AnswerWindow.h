@@ -44,6 +44,8 @@ protected:
     /// The line at the bottom: a sentence, and when the timetable was read. A warning is one that
     /// nobody should overlook.
     void tell(const QString& sentence, bool isWarning = false);
+    /// Tells there of a file that was saved, with a link that opens it.
+    void tellSaved(const QString& path);
     /// Lets the user choose a file, and writes the answer into it.
     void exportAnswer(files::AnswerKind kind, const files::AnswerDocument& document);
 

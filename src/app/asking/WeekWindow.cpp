@@ -480,7 +480,11 @@ void WeekWindow::print()
         printOn(printer, [this](QPrinter& target) {
             print::printWeek(target, files::weekSheetsOf(*m_document));
         });
-        tell(QStringLiteral("Imprimé : %1").arg(m_document->title));
+        if (printer.outputFileName().isEmpty()) {
+            tell(QStringLiteral("Imprimé : %1").arg(m_document->title));
+        } else {
+            tellSaved(printer.outputFileName());
+        }
     } catch (const runtime::RunTimeError& error) {
         showFault(this, QStringLiteral("La semaine n’a pas pu être imprimée."),
                   error.activity().isEmpty() ? error.text() : error.activity());

@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -167,5 +168,25 @@ TEST_F(TheWeeks, areExportedAsTheCommandLineWritesThem)
     auto* link = control<app::WeekWindow>("WeekWindow")->findChild<QToolButton*>("OpenSaved");
     ASSERT_TRUE(until([&] { return link->isVisible(); }));
     hands.click(link);
+    EXPECT_TRUE(until([&] { return opened == QStringList({path}); }));
+}
+
+TEST_F(TheWeeks, areOfferedToBeOpenedOnceTheyArePrintedIntoAFile)
+{
+    open();
+    ASSERT_NE(asked(), nullptr);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("semaine.pdf");
+    const DialogAnswer answers([&](QDialog& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>("filename"); // of "Print to File (PDF)"
+        ASSERT_NE(name, nullptr);
+        name->setText(path);
+        dialog.accept();
+    });
+    auto* week = control<app::WeekWindow>("WeekWindow");
+    hands.click(week->findChild<QPushButton*>("PrintWeek"));
+    ASSERT_TRUE(until([&] { return week->findChild<QToolButton*>("OpenSaved")->isVisible(); }));
+    EXPECT_TRUE(fileText(path).startsWith("%PDF"));
+    hands.click(week->findChild<QToolButton*>("OpenSaved"));
     EXPECT_TRUE(until([&] { return opened == QStringList({path}); }));
 }
