@@ -1,6 +1,7 @@
 #include "app/HelpWindow.h"
 
 #include "app/HelpSearch.h"
+#include "app/ScreenFit.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
@@ -56,7 +57,7 @@ HelpWindow::HelpWindow(const QString& guide, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->addWidget(m_chapters);
     row->addLayout(right, 1);
-    resize(kChapterWidth + kTextWidth, kHeight);
+    resize(fittingScreen({kChapterWidth + kTextWidth, kHeight}, *this));
 
     open(m_guide);
     m_text->setFocus();

@@ -2,6 +2,7 @@
 
 #include "app/PaletteSample.h"
 #include "app/PlainTexts.h"
+#include "app/ScreenFit.h"
 #include "appearance/Palette.h"
 
 #include <QDialogButtonBox>
@@ -22,6 +23,7 @@ namespace
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kColumns = 2;
 constexpr QSize kItemMargin(18, 34); // around a sample, with room for its name
+constexpr int kListEdge = 60;        // its scroll bar and the dialog's margins
 constexpr int kHeight = 540;
 constexpr QColor kEdge(170, 178, 192);
 
@@ -93,7 +95,8 @@ PaletteGallery::PaletteGallery(Offer offer, QWidget* parent)
     column->addWidget(hint);
     column->addWidget(m_list, 1);
     column->addWidget(buttons);
-    resize(kColumns * (kSampleSize.width() + kItemMargin.width()) + 60, kHeight);
+    resize(fittingScreen(
+        {kColumns * (kSampleSize.width() + kItemMargin.width()) + kListEdge, kHeight}, *this));
     m_list->setFocus();
 }
 

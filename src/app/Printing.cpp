@@ -2,6 +2,7 @@
 
 #include "app/PlainTexts.h"
 #include "app/PrinterOutput.h"
+#include "app/ScreenFit.h"
 #include "engine/Engine.h"
 #include "plan/FaultWords.h"
 #include "plan/PlanPage.h"
@@ -13,7 +14,6 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QScreen>
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -77,8 +77,7 @@ void showPreview(QWidget* window, QPrinter& printer, const std::function<void(QP
     QPrintPreviewDialog dialog(&printer, window);
     dialog.setWindowTitle(QStringLiteral("Aperçu avant impression"));
     constexpr QSize wanted(1100, 760);
-    constexpr QSize frame(16, 48); // what a window manager puts around it, at most about
-    dialog.resize(wanted.boundedTo(dialog.screen()->availableSize() - frame));
+    dialog.resize(fittingScreen(wanted, dialog));
     std::exception_ptr fault;
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, [&](QPrinter* target) {
         try {

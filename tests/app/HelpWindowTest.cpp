@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -102,6 +103,13 @@ TEST(HelpWindow, opensWhatIsNewAndReturns)
     EXPECT_EQ(textOf(window).accessibleName(), "Guide");
 }
 
+TEST(HelpWindow, isNoLargerThanItsScreen)
+{
+    const HelpWindow window(longGuide(), nullptr);
+    EXPECT_LE(window.width(), window.screen()->availableSize().width() - 16);
+    EXPECT_LE(window.height(), window.screen()->availableSize().height() - 48);
+}
+
 TEST(HelpWindow, saysThatTheGuideIsMissing)
 {
     const QString path = test::processFolder() + QStringLiteral("/none.md");
@@ -123,6 +131,7 @@ TEST(ShippedGuide, hasWhatIsNewBesideIt)
 TEST(ShippedGuide, hasPicturesThatShipAndFitTheWindow)
 {
     HelpWindow window(shippedGuide, nullptr);
+    window.resize(1120, 680); // as it opens where the screen has room
     window.show();
     QFile file(shippedGuide);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
