@@ -184,6 +184,20 @@ TEST_P(TheStaleOptions, tellADateOutsideTheExamWeekAndThatChoosingTheDayDoesNotH
     EXPECT_TRUE(stale().isEmpty());
 }
 
+TEST_P(TheStaleOptions, tellAnExamWeekThatDoesNotBeginOnAMonday)
+{
+    database().execute("update dat_exam set Semaine1='2025-06-12' where Tranche=1");
+    form.OpExam().select(); // a Thursday, and its second day is a Friday
+    EXPECT_EQ(stale().dayGap, (StaleOptions::DayGap{0, QDate(2025, 6, 13), false, std::nullopt}));
+    EXPECT_FALSE(stale().isMended); // Monday lies before the week
+    desk.engine.chooseDayAgain();
+    EXPECT_EQ(stale().dayGap,
+              (StaleOptions::DayGap{0, QDate(2025, 6, 9), false, QDate(2025, 6, 12)}));
+    EXPECT_EQ(sentence(),
+              "Le plan montre les examens de la semaine du 12/06/2025, mais les absences "
+              "iraient au lundi 09/06/2025.");
+}
+
 TEST_P(TheStaleOptions, tellAReturnToTeaching)
 {
     form.CbJour.setListIndex(1);
