@@ -15,7 +15,7 @@ namespace app
 namespace
 {
 
-constexpr int kFieldWidth = 260;
+constexpr int kFieldWidth = 232; // what it is for, when it is empty
 // Black letters can be read on both.
 constexpr QColor kPlace(255, 235, 150);
 constexpr QColor kCurrentPlace(255, 165, 60);
@@ -43,12 +43,12 @@ HelpSearch::HelpSearch(QTextBrowser* text)
     m_field->setPlaceholderText(QStringLiteral("Chercher dans l’aide (Ctrl+F)"));
     m_field->setAccessibleName(QStringLiteral("Chercher dans l’aide"));
     m_field->setClearButtonEnabled(true);
-    m_field->setMaximumWidth(kFieldWidth);
+    m_field->setFixedWidth(kFieldWidth);
     m_field->installEventFilter(this);
     m_count->setObjectName(QStringLiteral("HelpCount"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_field, 1);
+    row->addWidget(m_field);
     row->addWidget(m_previous);
     row->addWidget(m_next);
     row->addWidget(m_count, 1);
