@@ -22,9 +22,9 @@ constexpr double kPadding = 1.5;
 // Boxes lower than this hold one line: the label then stands beside the text, on half the box.
 constexpr double kOneLine = 18;
 
-form::Font labelFont()
+form::Font fontOf(const CapacityLabel& label)
 {
-    return {QStringLiteral("Arial"), 7, true};
+    return {label.fontName, 7, true};
 }
 
 } // namespace
@@ -38,11 +38,19 @@ CapacityLabel capacityLabel(const plan::PlanBox& box, const QString& places)
     return {box.group ? kGroup : kFits, QString::number(size) + u'/' + places};
 }
 
+std::optional<CapacityLabel> othersLabel(const plan::PlanBox& box, const QString& fontName)
+{
+    const int others = box.cell.CellRowCount - 1;
+    return others > 0
+               ? std::optional(CapacityLabel{kGroup, u'+' + QString::number(others), fontName})
+               : std::nullopt;
+}
+
 QRectF capacityPlace(const paint::DrawingTarget& target, const QRectF& box,
                      const CapacityLabel& label)
 {
     const double point = target.PixelsPerPoint;
-    const form::Font font = labelFont();
+    const form::Font font = fontOf(label);
     const QFontMetricsF metrics(paperFont(font, target, font.points));
     const double most = box.height() < kOneLine * point ? box.width() / 2 : box.width();
     const double width =
@@ -68,7 +76,7 @@ void drawCapacity(QPainter& surface, const paint::DrawingTarget& target, const Q
     surface.fillRect(place, paint::toColor(label.color));
     surface.fillRect(within(kFrame * point), Qt::white);
     surface.setPen(Qt::black);
-    drawFitted(surface, target, labelFont(), within((kFrame + kPadding / 2) * point),
+    drawFitted(surface, target, fontOf(label), within((kFrame + kPadding / 2) * point),
                Qt::AlignCenter, label.text);
     surface.restore();
 }

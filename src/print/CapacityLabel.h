@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QRectF>
 #include <QString>
+#include <optional>
 
 namespace print
 {
@@ -16,12 +17,18 @@ namespace print
 struct CapacityLabel {
     form::Colour color; ///< of the frame; the text is black
     QString text;       ///< "students/places", "Dépassement students/places" when over-full
+    QString fontName = QStringLiteral("Arial");
 };
 
 /// Blue for a single class that fits, red for an over-full room, pale grey for several classes
 /// that fit. The group counter on the screen decides, so that paper and screen never disagree: it
 /// stands over boxes of several classes and over over-full rooms only.
 [[nodiscard]] CapacityLabel capacityLabel(const plan::PlanBox& box, const QString& places);
+
+/// "+3": how many groups are in a box beside the one that its text tells, as "S. Groupées" asks;
+/// nothing for a single one.
+[[nodiscard]] std::optional<CapacityLabel> othersLabel(const plan::PlanBox& box,
+                                                       const QString& fontName);
 
 /// Where the label lies inside its box, in device pixels: the lower right corner.
 [[nodiscard]] QRectF capacityPlace(const paint::DrawingTarget& target, const QRectF& box,

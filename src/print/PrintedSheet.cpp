@@ -124,6 +124,17 @@ void printRowLabel(QPainter& surface, const DrawingTarget& target, const form::L
                label.caption);
 }
 
+/// In a corner of the box: how many other groups there are, or what "Imprimer Capacité" asks for
+/// while "S. Groupées" is not ticked.
+std::optional<CapacityLabel> labelOf(const form::PlanForm& form, const plan::PlanRow& row,
+                                     const plan::PlanBox& box)
+{
+    if (form.Check3.isChecked()) {
+        return othersLabel(box, form.Label20.font.name);
+    }
+    return form.Opt_Cap.isChecked() ? std::optional(capacityLabel(box, row.places)) : std::nullopt;
+}
+
 void printBox(QPainter& surface, const DrawingTarget& target, const Sheet& sheet,
               const plan::PlanRow& row, form::Colour color, const plan::PlanBox& box)
 {
@@ -136,16 +147,17 @@ void printBox(QPainter& surface, const DrawingTarget& target, const Sheet& sheet
     style.hatched = box.makeUp;
     style.rowHeight = form.Salle.front().place.height;
     style.textFormat = sheet.page.state.layout.CellTextFormat;
-    if (form.Check3.isChecked() || !form.Opt_Cap.isChecked()) {
+    const std::optional<CapacityLabel> label = labelOf(form, row, box);
+    if (!label) {
         paint::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
         return;
     }
     const QRectF place = paint::boxRectangle(target, x, y, box.minutes, style.rowHeight);
-    const CapacityLabel label = capacityLabel(box, row.places);
-    const QRectF corner = capacityPlace(target, place, label);
-    style.reserved = reservedByCapacity(target, place, corner);
+    const QRectF corner = capacityPlace(target, place, *label);
+    style.reserved = form.Check3.isChecked() ? QMarginsF(0, 0, corner.width(), 0)
+                                             : reservedByCapacity(target, place, corner);
     paint::DrawCellBox(surface, target, style, x, y, box.minutes, box.cell.CellText);
-    drawCapacity(surface, target, corner, label);
+    drawCapacity(surface, target, corner, *label);
 }
 
 } // namespace

@@ -38,6 +38,17 @@ TEST(CapacityLabel, isBlueForASingleClassThatFits)
     EXPECT_EQ(label.text, "30/30");
 }
 
+TEST(CapacityLabel, tellsHowManyOtherGroupsThereAre)
+{
+    plan::PlanBox box;
+    EXPECT_EQ(print::othersLabel(box, "Serif"), std::nullopt);
+    box.cell.CellRowCount = 4;
+    ASSERT_TRUE(print::othersLabel(box, "Serif").has_value());
+    EXPECT_EQ(print::othersLabel(box, "Serif")->text, "+3");
+    EXPECT_EQ(print::othersLabel(box, "Serif")->color, grey);
+    EXPECT_EQ(print::othersLabel(box, "Serif")->fontName, "Serif");
+}
+
 TEST(CapacityLabel, isRedForAnOverfullRoom)
 {
     PlanDesk desk(3);

@@ -171,6 +171,21 @@ TEST(PrintedSheet, printsCapacitiesOnlyInsteadOfTheGroupCounter)
     }
 }
 
+TEST(PrintedSheet, saysInACornerHowManyOtherGroupsThereAre)
+{
+    PlanDesk desk(3);
+    desk.meeting(1, 1).set("Classe", ".");
+    desk.meeting(1, 1).set("Classe", ".");
+    desk.meeting(1, 2).set("Classe", ".");
+    const QColor frame(220, 220, 220);
+    const Canvas canvas = bodyOf(desk);
+    const QRect corner(first.right() - 20, first.bottom() - 16, 18, 14);
+    EXPECT_GT(canvas.count(frame, corner), 20);
+    EXPECT_EQ(canvas.count(frame, corner.translated(second.left() - first.left(), 0)), 0); // alone
+    desk.tick(desk.form.Check3, false);
+    EXPECT_EQ(bodyOf(desk).count(frame, corner), 0);
+}
+
 TEST(PrintedSheet, printsCapacitiesInTheirColours)
 {
     PlanDesk desk(3);
