@@ -22,7 +22,7 @@ QString outcome(const QStringList& classes, bool absent, const QString& absence,
     }
     if (classes.size() > 1) {
         return QStringLiteral("enregistrer ou retirer ") + absence +
-               QStringLiteral(" de chacune des classes ") + classes.join(QStringLiteral(", "));
+               QStringLiteral(" de chacune des classes ") + plan::fewNames(classes);
     }
     return (absent ? QStringLiteral("retirer ") : QStringLiteral("enregistrer ")) + absence +
            QStringLiteral(" de la classe ") + classes.value(0);
@@ -47,12 +47,6 @@ QString ZAbsToolTip(const plan::PlanBox& box, QDate day)
     constexpr qsizetype all = std::numeric_limits<qsizetype>::max();
     return QStringLiteral("Maj + clic : ") + gestureWords(VirtualKey::Shift, box, day, all) +
            QStringLiteral("\nCtrl + clic : ") + gestureWords(VirtualKey::Ctrl, box, day, all);
-}
-
-QString XAbsToolTip(const plan::PlanBox& box, QDate day)
-{
-    return (box.classAbsent ? QStringLiteral("Classe absente\n") : QString()) +
-           ZAbsToolTip(box, day);
 }
 
 } // namespace absences

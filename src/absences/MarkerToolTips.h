@@ -9,13 +9,10 @@
 namespace absences
 {
 
-/// Tooltip of `XAbs`, the class-absence picture: whether the class is absent, then the gestures.
-/// Plain text of several lines, like that of the band. `day` is the marker's `Jour`.
-[[nodiscard]] QString XAbsToolTip(const plan::PlanBox& box, QDate day);
-
-/// Tooltip of `ZAbs`, the band over the whole box: what a click with Shift or Ctrl does there, and
-/// to which date, which need not be the shown day's. With several classes each is toggled by
-/// itself, so only the key is told and not the outcome.
+/// What a click with Shift or Ctrl does on a box, and to which date, which need not be the shown
+/// day's: `day` is the marker's `Jour`. With several classes each is toggled by itself, so only the
+/// key is told and not the outcome. Plain text of two lines, the end of the tooltip that all of a
+/// box has.
 [[nodiscard]] QString ZAbsToolTip(const plan::PlanBox& box, QDate day);
 
 /// What one gesture does, "enregistrer l’absence de la classe L1 le lundi 17/03/2025". More classes

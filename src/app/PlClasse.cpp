@@ -143,6 +143,7 @@ void PlClasse::buildContent(const FileOpener& open)
     m_view = new PlanView(
         m_shell, [this](const std::function<void()>& action) { forward(action); },
         [this](int marker) { m_clicks.click(marker); });
+    m_view->setClock([this] { return m_hall->now(); });
     m_absences = std::make_unique<AbsenceMenu>(
         m_shell.engine(), *m_view,
         [this](int marker, absences::VirtualKey key) { m_clicks.clickHolding(marker, key); });

@@ -158,6 +158,8 @@ QString PlanTable::nameOf(const Cell& cell) const
     }
     QStringList parts{row.room, timeWords(box->cell.CellStart, box->minutes)};
     parts += plan::writtenLines(plan::SanitizeCellText(box->cell.CellText));
+    const QString week = plan::weekLetter(*box);
+    parts << (week.isEmpty() ? QString() : QStringLiteral("semaine ") + week);
     parts += plan::groupWords(m_state.form, *box);
     parts += plan::remarkWords(m_state.form, *box);
     return inOneLine(parts);

@@ -2,12 +2,61 @@
 
 #include "plan/BoxLines.h"
 #include "plan/BoxWords.h"
+#include "plan/ClassList.h"
 #include "plan/RoomRows.h"
+#include "plan/RowLanes.h"
 
 #include <QStringList>
 
 namespace app
 {
+
+namespace
+{
+
+/// What the two labels say, and what a click on the counter does.
+QStringList groupLines(const plan::PlanRow& row, const plan::PlanBox& box)
+{
+    const lookup::RoomCell& cell = box.cell;
+    QStringList lines;
+    if (cell.CellRowCount != 1) {
+        lines << box.group->counter + QStringLiteral(" groupes : ") +
+                     plan::fewNames(plan::classWords(cell.CellClassList));
+    }
+    if (box.group->overfull) {
+        lines << box.group->sizeLabel + QStringLiteral(" : inscrits %1, prévus %2, places %3")
+                                            .arg(cell.CellStudents)
+                                            .arg(cell.CellCapacity)
+                                            .arg(row.places);
+    } else {
+        lines << QStringLiteral("Nombre d'étudiants : ") + box.group->sizeLabel;
+    }
+    return lines
+           << QStringLiteral("Compteur %1 : Cliquez Pour Plus de Détails").arg(box.group->counter);
+}
+
+QStringList absenceLines(const plan::PlanBox& box)
+{
+    QStringList lines;
+    if (box.classAbsent) {
+        lines << QStringLiteral("Classe absente");
+    }
+    if (box.studentAbsent) {
+        lines << QStringLiteral("Étudiants : %1 Absent")
+                     .arg(plan::fewNames(plan::classWords(box.cell.CellClassList)));
+    }
+    return lines;
+}
+
+/// "10h00 à 11h30, L2 INFO".
+QString overlapWords(const plan::PlanBox& box)
+{
+    const QString when = plan::stretchWords(box.cell.CellStart, QStringLiteral(" à "), box.minutes);
+    return QStringList{when, plan::writtenLines(box.cell.CellText).value(0)}.join(
+        QStringLiteral(", "));
+}
+
+} // namespace
 
 QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const plan::PlanBox& box)
 {
@@ -15,7 +64,20 @@ QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const p
     QStringList lines;
     lines << QStringLiteral("%1 – %2, %3 min").arg(row.room, cell.CellStart, cell.CellDuration);
     lines += plan::writtenLines(cell.CellText);
-    lines += plan::remarkWords(form, box);
+    const QString week = plan::weekLetter(box);
+    if (!week.isEmpty()) {
+        lines << QStringLiteral("Semaine ") + week;
+    }
+    if (box.makeUp) {
+        lines << QStringLiteral("Rattrapage");
+    }
+    if (box.group && form.Check3.isChecked()) {
+        lines += groupLines(row, box);
+    }
+    lines += absenceLines(box);
+    for (const plan::PlanBox* other : plan::overlapping(row, box)) {
+        lines << QStringLiteral("En même temps : ") + overlapWords(*other);
+    }
     return lines.join(u'\n');
 }
 

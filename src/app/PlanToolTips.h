@@ -10,8 +10,8 @@
 namespace app
 {
 
-/// Of a box: room, start and length, its text without the cuts that a narrow box makes, and what
-/// hatching, red label and pictures say.
+/// Of a box, wherever in it the mouse is: room, start and length, its text without the cuts that a
+/// narrow box makes, its week, what hatching, labels and pictures say, and what overlaps it.
 [[nodiscard]] QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row,
                                  const plan::PlanBox& box);
 

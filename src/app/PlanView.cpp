@@ -7,7 +7,10 @@
 #include "app/PlanKeys.h"
 #include "app/PlanToolTips.h"
 #include "app/ViewScale.h"
+#include "app/WrappedText.h"
 #include "context/PageRule.h"
+#include "paint/HourMarks.h"
+#include "plan/EmptyPlace.h"
 #include "plan/RoomRows.h"
 #include "shell/Shell.h"
 
@@ -28,6 +31,7 @@ namespace app
 namespace
 {
 
+constexpr std::chrono::seconds kClockStep{5}; // that its line is behind at most
 constexpr QColor kBandEdge(190, 196, 208);
 // Laid over what is out of date: enough of it stays to be read.
 constexpr QColor kVeil(245, 246, 249, 150);
@@ -43,6 +47,15 @@ PlanView::PlanView(shell::Shell& shell, Forward forward, MarkerClick markerClick
     viewport()->setMouseTracking(true);
     setMinimumHeight(160);
     offerPlanToScreenReaders();
+    auto* clock = new QTimer(this);
+    connect(clock, &QTimer::timeout, this, [this] { followClock(); });
+    clock->start(kClockStep);
+}
+
+void PlanView::setClock(std::function<QDateTime()> now)
+{
+    m_now = std::move(now);
+    viewport()->update();
 }
 
 PlanView::~PlanView() = default;
@@ -237,6 +250,8 @@ void PlanView::paintEvent(QPaintEvent* event)
         copy(view.totals, m_picture.totals(), QPoint(view.totals.x() + scrollX, 0));
         painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
     }
+    paintLights(painter, view);
+    paintClock(painter, view);
     paintFrame(painter, view);
     paintCursor(painter, view);
     if (m_isOutOfDate) {
@@ -377,22 +392,15 @@ QString PlanView::toolTipAt(QPoint point) const
         return {};
     }
     const PlanHit hit = hitPlan(form, m_engine.content(), m_target, toPlan(point));
-    const auto day = [&] { return m_engine.markers().at(hit.box->marker).Jour; };
-    switch (hit.part) {
-    case PlanHit::Part::Nothing:
-        return {};
-    case PlanHit::Part::Counter:
-        return QStringLiteral("Cliquez Pour Plus de Détails");
-    case PlanHit::Part::Size:
-        return QStringLiteral("Nombre d'étudiants");
-    case PlanHit::Part::YAbs:
-        return hit.box->absentToolTip; // empty when no students were absent
-    case PlanHit::Part::XAbs:
-        return absences::XAbsToolTip(*hit.box, day());
-    case PlanHit::Part::Box:
-        break;
+    if (hit.box != nullptr) {
+        return boxText(*hit.row, *hit.box);
     }
-    return boxText(*hit.row, *hit.box);
+    const PlanTable words = table();
+    const auto room = words.roomAtHeight(toPlan(point).y());
+    const double minute = paint::minuteAt(form, m_target.fromAxis(toPlan(point).x()));
+    return room ? plan::emptyPlaceWords(m_engine.state(), words.rowOf(*room),
+                                        static_cast<int>(std::floor(minute)))
+                : QString();
 }
 
 QString PlanView::boxText(const plan::PlanRow& row, const plan::PlanBox& box) const
@@ -445,13 +453,19 @@ std::optional<PlanTable::Cell> PlanView::cellUnder(QPoint screenPoint) const
 
 bool PlanView::viewportEvent(QEvent* event)
 {
+    if (event->type() == QEvent::MouseMove) {
+        light(litAt(dynamic_cast<const QMouseEvent&>(*event).position().toPoint()));
+    } else if (event->type() == QEvent::Leave) {
+        light({});
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto& help = dynamic_cast<const QHelpEvent&>(*event);
         const QString text = toolTipAt(help.pos());
         if (text.isEmpty()) {
             QToolTip::hideText();
         } else {
-            QToolTip::showText(help.globalPos(), plainToolTip(text), viewport());
+            QToolTip::showText(help.globalPos(), plainToolTip(wrapped(text, QToolTip::font())),
+                               viewport());
         }
         return true;
     }

@@ -6,6 +6,7 @@
 #include "paint/PlanPainter.h"
 
 #include <QAbstractScrollArea>
+#include <QDateTime>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -50,6 +51,9 @@ public:
         std::function<void(const Spot& spot, QPoint screenPoint)> showMenu;
     };
     void setAsking(Asking asking) { m_asking = std::move(asking); }
+
+    /// What tells the time for the line of the clock, which stands on today's plan.
+    void setClock(std::function<QDateTime()> now);
 
     /// Frames the box of a room's slot, or its row for slot 0 and where no box is, and brings it
     /// into view. The next drawing, a click or Escape takes the frame away.
@@ -147,6 +151,14 @@ private:
         std::uint64_t refresh = 0; ///< of which drawing
     };
 
+    /// What is under the mouse: its row, row 0 included, and the hour of the day.
+    struct Lit {
+        std::optional<int> row;
+        std::optional<int> hour;
+
+        friend bool operator==(const Lit&, const Lit&) = default;
+    };
+
     /// The page as `openAtTop` tells one from another.
     struct PageShown {
         std::int32_t start = 0;
@@ -164,6 +176,13 @@ private:
                    int width) const;
     /// The whole row of a room's label, in device pixels, unscrolled.
     [[nodiscard]] QRectF rowAcross(const form::Place& room) const;
+    [[nodiscard]] Lit litAt(QPoint point) const;
+    void light(const Lit& lit);
+    void paintLights(QPainter& painter, const Bands& view) const;
+    /// Where the line of the clock stands, in minutes since midnight; nothing on another day.
+    [[nodiscard]] std::optional<int> clockMinute() const;
+    void followClock();
+    void paintClock(QPainter& painter, const Bands& view) const;
     /// The greyed room, where its name or places lie there; empty elsewhere.
     [[nodiscard]] QString greyedRoomAt(QPoint point) const;
     /// The room whose name or places lie there, the greyed one included; empty elsewhere.
@@ -201,6 +220,9 @@ private:
     std::optional<Frame> m_frame;
     std::unique_ptr<PlanKeys> m_keys;
     bool m_focusIsShown = false; ///< the keyboard has led here
+    Lit m_lit;
+    std::function<QDateTime()> m_now = [] { return QDateTime::currentDateTime(); };
+    std::optional<int> m_clockMinute; ///< that was drawn last
     bool m_isOutOfDate = false;
     std::uint64_t m_shownRefresh = 0; ///< of which refresh the picture is
     std::size_t m_shownRows = 0;      ///< how many of its rows are in the picture

@@ -13,21 +13,21 @@ namespace app
 namespace
 {
 
-constexpr double kMostTwipsAcross = 18.0;
+constexpr double kMostTwipsAcross = 19.0;
 // A day of few hours fills the view as well; one of fewer than four would be stretched out of
 // shape.
 constexpr double kFewestTwipsAcross = 5.0;
 constexpr int kFewestTwipsDown = 9;
 
 /// How many twips a pixel may stand for so that the rows' text stays legible: a row of three lines
-/// needs 38 pixels, one of two 33 (an exam adds a line), one of a single line 13.
+/// needs 35 pixels, one of two 30 (an exam adds a line), one of a single line 13.
 int mostTwipsDown(int rowHeight)
 {
     if (rowHeight >= plan::CellLayout::kThreeLinesHeight) {
-        return rowHeight / 38;
+        return rowHeight / 35;
     }
     if (rowHeight >= plan::CellLayout::kTwoLinesHeight) {
-        return rowHeight / 33;
+        return rowHeight / 30;
     }
     return rowHeight >= plan::CellLayout::kOneLineHeight ? rowHeight / 17 : rowHeight / 13;
 }
@@ -43,6 +43,7 @@ paint::DrawingTarget fitPlan(const form::PlanForm& form, const plan::ShownHours&
     const double across = plan::widthWithPlaces(form, end);
     target.TargetTwipsPerPixelX =
         std::clamp(across / std::max(1, view.width()), kFewestTwipsAcross, kMostTwipsAcross);
+    target.hasHints = true;
     target.TargetXOffset =
         runtime::nearestInteger(target.toPixelsX(origin) - target.toPixelsX(hours.from));
     const form::Place& model = form.Salle.front().place;

@@ -28,6 +28,7 @@ public:
     void composeRoomB();
     void composeSecondRoomB();
     [[nodiscard]] QString finish(const SeanceTypeShortNames& typeNames);
+    [[nodiscard]] timetable::Week week() const;
 
 private:
     [[nodiscard]] std::optional<db::Value> field(const QString& column);
@@ -45,6 +46,10 @@ private:
     const DisplayOptions& m_options;
     std::optional<MissingStep>& m_missing;
     bool m_addsSubject = false;
+    // Which weeks the blocks so far are held in.
+    bool m_isEveryWeek = false;
+    bool m_isWeekA = false;
+    bool m_isWeekB = false;
     QString m_text;
 };
 
@@ -130,6 +135,7 @@ void Composer::composeRoomA()
     if (!meets || !isRoom(column::kSalle)) {
         return;
     }
+    (nature == timetable::nature::kAlternating ? m_isWeekA : m_isEveryWeek) = true;
     if (m_options.showClass) {
         append({}, column::kClasse, m_options.separator);
     }
@@ -153,6 +159,7 @@ void Composer::composeSecondRoomA()
     if (!isRoom(column::kXSalle)) { // whatever the week: the part follows its course
         return;
     }
+    m_isEveryWeek = true;
     if (m_options.showClass && m_text.isEmpty()) {
         append({}, column::kClasse, m_options.separator);
     }
@@ -171,6 +178,7 @@ void Composer::composeRoomB()
     if (!isRoom(column::kSalleB) || !(m_options.everyWeek || m_options.showsWeekB)) {
         return;
     }
+    m_isWeekB = true;
     separateOccupants();
     if (m_options.showClass) {
         append({}, column::kClasse);
@@ -190,6 +198,7 @@ void Composer::composeSecondRoomB()
     if (!isRoom(column::kXSalleB) || !(m_options.everyWeek || m_options.showsWeekB)) {
         return;
     }
+    m_isWeekB = true;
     separateOccupants();
     if (m_options.showClass) {
         append({}, column::kClasse);
@@ -219,10 +228,19 @@ QString Composer::finish(const SeanceTypeShortNames& typeNames)
     return m_text + m_options.separator;
 }
 
+timetable::Week Composer::week() const
+{
+    if (m_isEveryWeek || m_options.exam || m_isWeekA == m_isWeekB) {
+        return timetable::Week::Every;
+    }
+    return m_isWeekA ? timetable::Week::A : timetable::Week::B;
+}
+
 } // namespace
 
-QString composeCellText(const db::Row& row, const QString& room, const DisplayOptions& options,
-                        const SeanceTypeShortNames& typeNames, std::optional<MissingStep>& missing)
+ComposedText composeCellText(const db::Row& row, const QString& room, const DisplayOptions& options,
+                             const SeanceTypeShortNames& typeNames,
+                             std::optional<MissingStep>& missing)
 {
     Composer composer(row, room, options, missing);
     composer.composeRoomA();
@@ -231,7 +249,8 @@ QString composeCellText(const db::Row& row, const QString& room, const DisplayOp
         composer.composeRoomB();
         composer.composeSecondRoomB();
     }
-    return composer.finish(typeNames);
+    const QString text = composer.finish(typeNames);
+    return {text, composer.week()};
 }
 
 } // namespace lookup

@@ -2,6 +2,7 @@
 
 #include "db/Recordset.h"
 #include "runtime/RunTimeError.h"
+#include "timetable/Week.h"
 
 #include <QString>
 #include <array>
@@ -36,12 +37,19 @@ struct MissingStep {
     bool isSubject = false; ///< it would have added a subject
 };
 
+/// What a box tells of a row.
+struct ComposedText {
+    QString text;
+    /// In which week all of it is held; `Every` also for the courses of both weeks side by side.
+    timetable::Week week = timetable::Week::Every;
+};
+
 /// The text of a room's box, composed from the first timetable row found for it. A field that the
 /// table lacks leaves its step out, and is told in `missing`, the first of them unless a subject is
 /// among them; a null adds nothing.
-[[nodiscard]] QString composeCellText(const db::Row& row, const QString& room,
-                                      const DisplayOptions& options,
-                                      const SeanceTypeShortNames& typeNames,
-                                      std::optional<MissingStep>& missing);
+[[nodiscard]] ComposedText composeCellText(const db::Row& row, const QString& room,
+                                           const DisplayOptions& options,
+                                           const SeanceTypeShortNames& typeNames,
+                                           std::optional<MissingStep>& missing);
 
 } // namespace lookup

@@ -94,7 +94,10 @@ RoomCell OccupancyLookup::cellOf(const db::Recordset& rows, const QString& room,
     cell.CellDuration = QString::number(timetable::kUsualLength.value);
     skipOnError([&] { cell.CellStart = m_view.tickTimes.value(SlotIndex(seanceKey)); });
     std::optional<MissingStep> missing;
-    cell.CellText = composeCellText(rows.first(), room, m_view.options, m_view.typeNames, missing);
+    const ComposedText composed =
+        composeCellText(rows.first(), room, m_view.options, m_view.typeNames, missing);
+    cell.CellText = composed.text;
+    cell.week = composed.week;
     const bool hadText = !cell.CellText.isEmpty();
     keepFacts(cell, rows, room);
     if (rows.recordCount() == 1) {

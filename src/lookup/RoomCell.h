@@ -1,5 +1,7 @@
 #pragma once
 
+#include "timetable/Week.h"
+
 #include <QString>
 #include <cstdint>
 
@@ -24,6 +26,9 @@ struct RoomCell {
     QString CellClassList;         ///< class names joined by tabs
     std::int16_t CellStudents = 0; ///< students registered in the classes
     std::int16_t CellCapacity = 0; ///< declared size of the classes
+
+    /// The week in which that what the text tells is held, where it is not held every week.
+    timetable::Week week = timetable::Week::Every;
 
     /// The question got no answer, or one that does not say what the box shows: the room is not
     /// free.

@@ -22,28 +22,22 @@ double widest(const TextRuler& ruler, const QStringList& lines)
 namespace
 {
 
-struct Setting {
-    int pixels = 0;
-    QStringList lines;
-    bool fits = true;
-};
-
 /// The largest font, down to the smallest legible one, with which all lines fit the area: as they
 /// are written if possible, else broken between words.
-Setting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& area,
-                bool wordBreak)
+TextSetting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& area,
+                    bool wordBreak, int largest, double leading)
 {
     const MeasuredWords words(ruler, lines);
     const MeasuredWords::Extent written{static_cast<int>(lines.size()), widest(ruler, lines)};
-    Setting setting{kSmallestText, lines, false};
-    const int start = std::max(ruler.font().pixelSize(), kSmallestText);
+    TextSetting setting{kSmallestText, lines, false};
+    const int start = std::max(largest, kSmallestText);
     (void)fittingSize(start, kSmallestText, [&](int pixels) {
         // The area as it looks at the ruler's own size.
         const double scale = static_cast<double>(ruler.font().pixelSize()) / pixels;
         const double width = area.width() * scale;
         const double height = (area.height() + 1) * scale;
         const auto fits = [&](const MeasuredWords::Extent& set) {
-            return ruler.height() * set.lines <= height && set.width <= width;
+            return leading * ruler.height() * set.lines <= height && set.width <= width;
         };
         if (!wordBreak && fits(written)) {
             setting = {pixels, lines};
@@ -55,7 +49,7 @@ Setting fitText(const TextRuler& ruler, const QStringList& lines, const QRectF& 
     return setting;
 }
 
-void drawLines(QPainter& surface, const QRectF& area, const Setting& setting,
+void drawLines(QPainter& surface, const QRectF& area, const TextSetting& setting,
                Qt::Alignment alignment, const TextRuler& ruler)
 {
     const double scale = static_cast<double>(setting.pixels) / ruler.font().pixelSize();
@@ -94,16 +88,32 @@ bool holdsText(const QRectF& area)
 
 } // namespace
 
-void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
-                 const TextRuler& ruler)
+TextSetting fitBoxText(const QRectF& area, const QString& text, int format, const TextRuler& ruler,
+                       int largest, double leading)
 {
     const QStringList written = plan::writtenLines(text);
     if (written.isEmpty() || !holdsText(area)) {
-        return;
+        return {};
     }
-    const bool wordBreak = format == plan::CellLayout::kWordBreak;
-    drawLines(surface, area, fitText(ruler, written, area, wordBreak),
-              wordBreak ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignCenter, ruler);
+    return fitText(ruler, written, area, format == plan::CellLayout::kWordBreak, largest, leading);
+}
+
+void drawBoxText(QPainter& surface, const QRectF& area, const TextSetting& setting, int format,
+                 const TextRuler& ruler)
+{
+    if (!setting.lines.isEmpty()) {
+        drawLines(surface, area, setting,
+                  format == plan::CellLayout::kWordBreak ? Qt::AlignLeft | Qt::AlignTop
+                                                         : Qt::AlignCenter,
+                  ruler);
+    }
+}
+
+void drawBoxText(QPainter& surface, const QRectF& area, const QString& text, int format,
+                 const TextRuler& ruler)
+{
+    drawBoxText(surface, area, fitBoxText(area, text, format, ruler, ruler.font().pixelSize()),
+                format, ruler);
 }
 
 void drawLabelText(QPainter& surface, const QRectF& area, const QString& text,
@@ -111,8 +121,8 @@ void drawLabelText(QPainter& surface, const QRectF& area, const QString& text,
 {
     const QStringList written = plan::writtenLines(text);
     if (!written.isEmpty() && holdsText(area)) {
-        drawLines(surface, area, fitText(ruler, written, area, false), side | Qt::AlignVCenter,
-                  ruler);
+        drawLines(surface, area, fitText(ruler, written, area, false, ruler.font().pixelSize(), 1),
+                  side | Qt::AlignVCenter, ruler);
     }
 }
 

@@ -151,6 +151,8 @@ void drawBox(QPainter& surface, const DrawingTarget& target, const BoxStyle& sty
     const QString shown = plan::SanitizeCellText(text);
     if (target.TargetIsPrinter) {
         PrinterCellText(surface, target, room, shown, style.textFormat);
+    } else if (style.ruler != nullptr && style.setting != nullptr) {
+        drawBoxText(surface, room, *style.setting, style.textFormat, *style.ruler);
     } else if (style.ruler != nullptr) {
         drawBoxText(surface, room, shown, style.textFormat, *style.ruler);
     } else {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "form/Colour.h"
+#include "paint/BoxText.h"
 #include "paint/DrawingTarget.h"
 #include "paint/TextRuler.h"
 #include "plan/CellLayout.h"
@@ -23,6 +24,8 @@ struct BoxStyle {
     /// Device pixels that small labels over the box take from its text, at each side.
     QMarginsF reserved;
     bool tight = false; ///< hardly any room between frame and text: boxes that have none to spare
+    /// How the text is set; without one, as large as it fits.
+    const TextSetting* setting = nullptr;
     /// Measures the box texts of a whole page; without one the painter's font serves.
     const TextRuler* ruler = nullptr;
 };

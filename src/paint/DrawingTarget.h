@@ -26,11 +26,20 @@ struct DrawingTarget {
     /// starts from the painter's font.
     int FontSize = 0;
 
+    /// The window's own: boxes that overlap share the height of their row, and a box that is held
+    /// in one week alone says in a corner in which.
+    bool hasHints = false;
+
     friend bool operator==(const DrawingTarget&, const DrawingTarget&) = default;
 
     [[nodiscard]] double toPixelsX(double twips) const { return twips / TargetTwipsPerPixelX; }
     /// Where a position on the time axis lies.
     [[nodiscard]] double onAxis(double twips) const { return toPixelsX(twips) + TargetXOffset; }
+    /// The position on the time axis that lies there.
+    [[nodiscard]] double fromAxis(double pixels) const
+    {
+        return (pixels - TargetXOffset) * TargetTwipsPerPixelX;
+    }
     [[nodiscard]] double toPixelsY(double twips) const { return twips / TargetTwipsPerPixelY; }
     /// A rectangle in twips as it lies on the target, without the boxes' offset.
     [[nodiscard]] QRectF toPixels(const QRectF& twips) const

@@ -13,6 +13,8 @@ namespace paint
 inline constexpr QColor kHeaderInk(40, 50, 70);    ///< titles, hours and totals on the screen
 inline constexpr QColor kFrameInk(60, 60, 60);     ///< the frames of boxes and labels
 inline constexpr QColor kGreyedInk(130, 130, 130); ///< what is there but does not count now
+/// The same in the window, where it is read from a screen in a lit room.
+inline constexpr QColor kReadableGreyedInk(100, 100, 100);
 /// Points that the line of a frame is wide on paper: the thinnest that every printer shows.
 inline constexpr double kFrameLine = 0.5;
 

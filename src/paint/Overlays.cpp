@@ -2,6 +2,7 @@
 
 #include "paint/CellBox.h"
 #include "paint/Inks.h"
+#include "plan/BoxWords.h"
 
 #include <algorithm>
 
@@ -21,6 +22,8 @@ constexpr double kOneLinePixels = 26;
 // A label no wider than this share of its box stands beside the text as well.
 constexpr double kSideLabelShare = 0.3;
 
+// Pixels around the letter of a week.
+constexpr double kTagMargin = 6;
 // A label that lies over more than this share of a picture hides it.
 constexpr double kHidingShare = 0.25;
 
@@ -30,7 +33,32 @@ bool hides(const QRectF& label, const QRectF& picture)
     return common.width() * common.height() > kHidingShare * picture.width() * picture.height();
 }
 
+/// In the upper left corner, or beside the counter that stands there.
+QRectF weekPlace(const form::PlanForm& form, const OverlayPlaces& places, const plan::PlanBox& box,
+                 const OverlayFonts& fonts)
+{
+    const GlyphFont& font = fonts.fitting(plan::weekLetter(box), places.ZAbs.width());
+    const bool isBesideCounter = box.group && form.Check3.isChecked() && !box.group->atRight;
+    const double left = isBesideCounter ? places.Label2.right() : places.ZAbs.left();
+    const double width =
+        std::min(font.width(plan::weekLetter(box)) + kTagMargin, places.ZAbs.right() - left);
+    return {left, places.ZAbs.top(), std::max(0.0, width),
+            std::min(font.height(), places.ZAbs.height())};
+}
+
 } // namespace
+
+RowShare shareOf(const form::PlanForm& form, const DrawingTarget& target, int row,
+                 const plan::PlanBox& box)
+{
+    const int top = form.Salle.at(static_cast<std::size_t>(row)).place.top;
+    const int height = form.Salle.front().place.height;
+    if (!target.hasHints) {
+        return {top, height};
+    }
+    const int from = height * box.lane / box.lanes;
+    return {top + from, height * (box.lane + 1) / box.lanes - from};
+}
 
 OverlayFonts::OverlayFonts()
 {
@@ -51,19 +79,18 @@ const GlyphFont& OverlayFonts::fitting(const QString& text, double width) const
 OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& target, int row,
                             const plan::PlanBox& box, const OverlayFonts& fonts)
 {
-    const form::Place& room = form.Salle.at(static_cast<std::size_t>(row)).place;
-    const int rowHeight = form.Salle.front().place.height;
-    const int size = std::min(rowHeight, kPictureSize);
+    const RowShare share = shareOf(form, target, row, box);
+    const int size = std::min(share.height, kPictureSize);
     const double right = box.x + box.width;
     const auto picture = [&](double left) {
-        return QRectF(target.onAxis(left), target.toPixelsY(room.top), target.toPixelsX(size),
+        return QRectF(target.onAxis(left), target.toPixelsY(share.top), target.toPixelsX(size),
                       target.toPixelsY(size));
     };
     OverlayPlaces places;
     places.YAbs = picture(right - size);
     places.XAbs = picture(right - kClassPictureStep * size);
-    places.ZAbs =
-        boxArea(target, target.toPixelsX(box.x), target.toPixelsY(room.top), box.width, rowHeight);
+    places.ZAbs = boxArea(target, target.toPixelsX(box.x), target.toPixelsY(share.top), box.width,
+                          share.height);
     if (box.group) {
         const GlyphFont& font = fonts.fitting({}, places.ZAbs.width());
         const double height = std::min(font.height(), places.ZAbs.height());
@@ -77,6 +104,9 @@ OverlayPlaces overlayPlaces(const form::PlanForm& form, const DrawingTarget& tar
         places.Label2 = QRectF(left, places.ZAbs.top(), counter, height);
         places.Labelz =
             QRectF(places.ZAbs.right() - size2, places.ZAbs.bottom() - height, size2, height);
+    }
+    if (target.hasHints && !plan::weekLetter(box).isEmpty()) {
+        places.week = weekPlace(form, places, box, fonts);
     }
     return places;
 }
@@ -132,6 +162,9 @@ QMarginsF reservedByOverlays(const form::PlanForm& form, const OverlayPlaces& pl
         if (!besideText) {
             reserved.setBottom(places.Labelz.height());
         }
+    }
+    if (!places.week.isEmpty()) {
+        reserved.setLeft(places.week.right() - places.ZAbs.left());
     }
     return reserved;
 }

@@ -32,7 +32,16 @@ struct OverlayPlaces {
     QRectF ZAbs;   ///< click band over the whole box
     QRectF Label2; ///< group counter; empty without one
     QRectF Labelz; ///< number of students, or the overflow; empty without one
+    QRectF week;   ///< the letter of its week; empty without one
 };
+
+/// What a box takes of the height of its row, in twips.
+struct RowShare {
+    int top = 0;
+    int height = 0;
+};
+[[nodiscard]] RowShare shareOf(const form::PlanForm& form, const DrawingTarget& target, int row,
+                               const plan::PlanBox& box);
 
 /// `row` is the row of the page the box stands in. The labels have a place whether or not
 /// "S. Groupées" shows them. Who asks for many boxes makes the fonts once.

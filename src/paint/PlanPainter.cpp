@@ -7,7 +7,10 @@
 #include "paint/Inks.h"
 #include "paint/Overlays.h"
 #include "paint/PlanGrid.h"
+#include "paint/RowTexts.h"
 #include "paint/UnknownMark.h"
+#include "plan/BoxLines.h"
+#include "plan/BoxWords.h"
 #include "plan/RoomRows.h"
 
 #include <QColor>
@@ -19,7 +22,11 @@ namespace
 {
 
 constexpr int kTextPixels = 13;
+constexpr int kPlacesPixels = 12; // of a room's places beside its name
+constexpr double kBesideName = 6; // pixels between the two
+constexpr int kSmallestName = 10; // that a name shrinks to for them
 constexpr int kTotalPixels = 20;
+constexpr QMarginsF kLabelMargins(5, 0, 5, 0);
 constexpr QColor kGreyedFill(236, 236, 236);
 constexpr QColor kOverfullFill(178, 24, 32);
 constexpr QColor kCounterFill(30, 45, 75);
@@ -41,7 +48,8 @@ PlanScene windowSceneOf(const plan::PlanState& state, const plan::PlanContent& c
 
 PlanPainter::PlanPainter(QPainter& surface, const PlanScene& scene)
     : m_surface(surface), m_scene(scene), m_ruler(planFont(kTextPixels)),
-      m_labelRuler(planFont(kTextPixels, true)), m_rowZeroRuler(rowZeroFont())
+      m_labelRuler(planFont(kTextPixels, true)), m_rowZeroRuler(rowZeroFont()),
+      m_placesRuler(planFont(kPlacesPixels))
 {
 }
 
@@ -119,8 +127,17 @@ void PlanPainter::paintBoxesOf(const plan::PlanRow& row)
     m_surface.save();
     m_surface.setFont(planFont(kTextPixels));
     paintUnknownCells(row);
+    std::vector<LaidOutBox> boxes;
+    boxes.reserve(row.boxes.size());
     for (const plan::PlanBox& box : row.boxes) {
-        paintBox(row, box);
+        boxes.push_back(layOut(row, box));
+    }
+    const std::vector<TextSetting> texts = textsOf(row, boxes);
+    for (std::size_t index = 0; index < boxes.size(); ++index) {
+        if (!texts.empty()) {
+            boxes[index].style.setting = &texts[index];
+        }
+        paintBox(boxes[index], row.boxes[index]);
     }
     m_surface.restore();
 }
@@ -135,22 +152,50 @@ void PlanPainter::paintUnknownCells(const plan::PlanRow& row)
     }
 }
 
-void PlanPainter::paintBox(const plan::PlanRow& row, const plan::PlanBox& box)
+PlanPainter::LaidOutBox PlanPainter::layOut(const plan::PlanRow& row,
+                                            const plan::PlanBox& box) const
 {
-    const form::Place& room = m_scene.form.Salle[static_cast<std::size_t>(row.index)].place;
-    const OverlayPlaces places = drawnPlaces(
+    LaidOutBox laidOut;
+    laidOut.places = drawnPlaces(
         m_scene.form, overlayPlaces(m_scene.form, m_scene.target, row.index, box, m_overlayFonts),
         box);
-    BoxStyle style;
+    laidOut.share = shareOf(m_scene.form, m_scene.target, row.index, box);
+    BoxStyle& style = laidOut.style;
     style.fill = row.color;
     style.hatched = box.makeUp;
-    style.rowHeight = m_scene.form.Salle.front().place.height;
+    style.rowHeight = laidOut.share.height;
     style.textFormat = m_scene.layout.CellTextFormat;
     style.ruler = &m_ruler;
-    style.reserved = reservedByOverlays(m_scene.form, places, box);
-    DrawCellBox(m_surface, m_scene.target, style, m_scene.target.toPixelsX(box.x),
-                m_scene.target.toPixelsY(room.top), box.minutes, box.cell.CellText);
-    paintOverlays(places, box, row.color);
+    style.reserved = reservedByOverlays(m_scene.form, laidOut.places, box);
+    return laidOut;
+}
+
+/// In the window in one size; none where each has the size that it has room for.
+std::vector<TextSetting> PlanPainter::textsOf(const plan::PlanRow& row,
+                                              const std::vector<LaidOutBox>& boxes) const
+{
+    if (!m_scene.hours) {
+        return {};
+    }
+    const DrawingTarget& target = m_scene.target;
+    std::vector<RowText> texts;
+    texts.reserve(boxes.size());
+    for (std::size_t index = 0; index < boxes.size(); ++index) {
+        const plan::PlanBox& box = row.boxes[index];
+        const QRect place =
+            boxRectangle(target, target.toPixelsX(box.x), target.toPixelsY(boxes[index].share.top),
+                         box.minutes, boxes[index].share.height);
+        texts.push_back({textRectangle(target, boxes[index].style, place),
+                         plan::SanitizeCellText(box.cell.CellText)});
+    }
+    return fitRowTexts(texts, m_scene.layout.CellTextFormat, m_ruler);
+}
+
+void PlanPainter::paintBox(const LaidOutBox& laidOut, const plan::PlanBox& box)
+{
+    DrawCellBox(m_surface, m_scene.target, laidOut.style, m_scene.target.toPixelsX(box.x),
+                m_scene.target.toPixelsY(laidOut.share.top), box.minutes, box.cell.CellText);
+    paintOverlays(laidOut.places, box, laidOut.style.fill);
 }
 
 void PlanPainter::paintOverlays(const OverlayPlaces& places, const plan::PlanBox& box,
@@ -162,12 +207,15 @@ void PlanPainter::paintOverlays(const OverlayPlaces& places, const plan::PlanBox
     if (box.studentAbsent) {
         paintStudentAbsent(m_surface, places.YAbs);
     }
-    if (!box.group || !m_scene.form.Check3.isChecked()) {
-        return;
-    }
     // The labels are dark: on a row as dark as that they would have no end.
     const bool isEdged = toColor(readableOn(under)) == Qt::white;
     m_surface.setPen(Qt::white);
+    if (!places.week.isEmpty()) {
+        paintOverlayLabel(places.week, kHeaderInk, isEdged, plan::weekLetter(box));
+    }
+    if (!box.group || !m_scene.form.Check3.isChecked()) {
+        return;
+    }
     paintOverlayLabel(places.Label2, kCounterFill, isEdged, box.group->counter);
     paintOverlayLabel(places.Labelz, box.group->overfull ? kOverfullFill : kCounterFill, isEdged,
                       box.group->sizeLabel);
@@ -203,14 +251,48 @@ void PlanPainter::paintOverlayLabel(const QRectF& place, const QColor& fill, boo
     }
 }
 
+QColor PlanPainter::greyedInk() const
+{
+    return m_scene.hours ? kReadableGreyedInk : kGreyedInk;
+}
+
+/// Row 0 is the room before the first drawn one: greyed, so that nobody takes it for free.
+void PlanPainter::fillRowLabel(const QRectF& place, const form::Label& label, bool isRowZero)
+{
+    m_surface.fillRect(place, isRowZero ? kGreyedFill : toColor(label.backColor));
+    m_surface.setPen(isRowZero ? greyedInk() : toColor(readableOn(label.backColor)));
+}
+
 void PlanPainter::paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side)
 {
     const QRectF place = m_scene.target.toPixels(label.place);
-    // Row 0 is the room before the first drawn one: greyed, so that nobody takes it for free.
-    m_surface.fillRect(place, isRowZero ? kGreyedFill : toColor(label.backColor));
-    m_surface.setPen(isRowZero ? kGreyedInk : toColor(readableOn(label.backColor)));
-    drawLabelText(m_surface, place.marginsRemoved(QMarginsF(5, 0, 5, 0)), label.caption, side,
+    fillRowLabel(place, label, isRowZero);
+    drawLabelText(m_surface, place.marginsRemoved(kLabelMargins), label.caption, side,
                   isRowZero ? m_rowZeroRuler : m_labelRuler);
+}
+
+void PlanPainter::paintName(std::size_t row)
+{
+    const form::Label& label = m_scene.form.Salle[row];
+    const QString& places = m_scene.form.Cap[row].caption;
+    const bool isRowZero = row == 0;
+    if (!m_scene.hours || places.isEmpty()) {
+        paintRowLabel(label, isRowZero, Qt::AlignLeft);
+        return;
+    }
+    const QRectF place = m_scene.target.toPixels(label.place);
+    const QRectF room = place.marginsRemoved(kLabelMargins);
+    const QRectF name = room.adjusted(0, 0, -m_placesRuler.width(places) - kBesideName, 0);
+    const TextRuler& ruler = isRowZero ? m_rowZeroRuler : m_labelRuler;
+    const TextSetting setting = fitBoxText(name, label.caption, plan::CellLayout::kCentredLines,
+                                           ruler, ruler.font().pixelSize());
+    // A long name is worth more than its places, which stand at the row's end as well.
+    const bool hasRoom = setting.fits && setting.pixels >= kSmallestName;
+    fillRowLabel(place, label, isRowZero);
+    drawLabelText(m_surface, hasRoom ? name : room, label.caption, Qt::AlignLeft, ruler);
+    if (hasRoom) {
+        drawLabelText(m_surface, room, places, Qt::AlignRight, m_placesRuler);
+    }
 }
 
 void PlanPainter::paintRows(const std::vector<int>& rows)
@@ -224,13 +306,13 @@ void PlanPainter::paintRows(const std::vector<int>& rows)
         }
     }
     m_surface.save();
-    for (const auto& [labels, side] : {std::pair(&m_scene.form.Salle, Qt::AlignLeft),
-                                       std::pair(&m_scene.form.Cap, Qt::AlignRight)}) {
-        for (const int row : rows) {
-            const form::Label& label = labels->at(static_cast<std::size_t>(row));
-            if (label.visible) {
-                paintRowLabel(label, row == 0, side);
-            }
+    for (const int row : rows) {
+        const auto index = static_cast<std::size_t>(row);
+        if (m_scene.form.Salle.at(index).visible) {
+            paintName(index);
+        }
+        if (m_scene.form.Cap.at(index).visible) {
+            paintRowLabel(m_scene.form.Cap[index], row == 0, Qt::AlignRight);
         }
     }
     m_surface.restore();
@@ -241,7 +323,7 @@ void PlanPainter::paintRoomLabels()
     m_surface.save();
     for (std::size_t row = 0; row < m_scene.form.Salle.size(); ++row) {
         if (m_scene.form.Salle[row].visible) {
-            paintRowLabel(m_scene.form.Salle[row], row == 0, Qt::AlignLeft);
+            paintName(row);
         }
     }
     m_surface.restore();
@@ -266,7 +348,7 @@ void PlanPainter::paintTotals()
         if (total.visible) {
             const QRectF place(m_scene.target.onAxis(total.place.left), 0,
                                m_scene.target.toPixelsX(total.place.width), kTotalPixels);
-            m_surface.setPen(QPen(m_scene.hasOldTotals ? kGreyedInk : kHeaderInk, 0));
+            m_surface.setPen(QPen(m_scene.hasOldTotals ? greyedInk() : kHeaderInk, 0));
             m_surface.setBrush(m_scene.hasOldTotals ? kGreyedFill : QColor(Qt::white));
             m_surface.drawRect(place.adjusted(0.5, 0.5, -1.5, -0.5));
             m_surface.drawText(place, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "form/PlanForm.h"
+#include "paint/CellBox.h"
 #include "paint/DrawingTarget.h"
 #include "paint/Overlays.h"
 #include "paint/TextRuler.h"
@@ -66,11 +67,25 @@ public:
 private:
     void paintTick(double x, const form::Place& label, const QString& caption);
     void paintUnknownCells(const plan::PlanRow& row);
-    void paintBox(const plan::PlanRow& row, const plan::PlanBox& box);
+    /// A box before it is drawn.
+    struct LaidOutBox {
+        OverlayPlaces places;
+        RowShare share;
+        BoxStyle style;
+    };
+    [[nodiscard]] LaidOutBox layOut(const plan::PlanRow& row, const plan::PlanBox& box) const;
+    [[nodiscard]] std::vector<TextSetting> textsOf(const plan::PlanRow& row,
+                                                   const std::vector<LaidOutBox>& boxes) const;
+    void paintBox(const LaidOutBox& laidOut, const plan::PlanBox& box);
     void paintOverlays(const OverlayPlaces& places, const plan::PlanBox& box, form::Colour under);
     void paintOverlayLabel(const QRectF& place, const QColor& fill, bool isEdged,
                            const QString& text);
     void paintRowLabel(const form::Label& label, bool isRowZero, Qt::AlignmentFlag side);
+    /// A room's name; in the window with its places, so that nobody looks for them at the far end
+    /// of the row.
+    void paintName(std::size_t row);
+    [[nodiscard]] QColor greyedInk() const;
+    void fillRowLabel(const QRectF& place, const form::Label& label, bool isRowZero);
     [[nodiscard]] static QFont rowZeroFont();
 
     QPainter& m_surface;
@@ -78,6 +93,7 @@ private:
     TextRuler m_ruler;
     TextRuler m_labelRuler;
     TextRuler m_rowZeroRuler;
+    TextRuler m_placesRuler;
     OverlayFonts m_overlayFonts;
 };
 

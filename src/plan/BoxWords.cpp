@@ -41,6 +41,14 @@ QStringList groupWords(const form::PlanForm& form, const PlanBox& box)
     return words;
 }
 
+QString weekLetter(const PlanBox& box)
+{
+    if (box.cell.week == timetable::Week::Every || box.cell.CellRowCount != 1 || box.makeUp) {
+        return {};
+    }
+    return box.cell.week == timetable::Week::A ? QStringLiteral("A") : QStringLiteral("B");
+}
+
 QStringList remarkWords(const form::PlanForm& form, const PlanBox& box)
 {
     QStringList words;

@@ -21,6 +21,10 @@ namespace plan
 /// classes. The blanks in a class's name do not break.
 [[nodiscard]] QStringList groupWords(const form::PlanForm& form, const PlanBox& box);
 
+/// "A" or "B" where what the box tells is held in that week alone; empty for several rows, whose
+/// others may be held in the other week, and for a make-up, which has a date.
+[[nodiscard]] QString weekLetter(const PlanBox& box);
+
 /// What hatching, the red label and the absence pictures say.
 [[nodiscard]] QStringList remarkWords(const form::PlanForm& form, const PlanBox& box);
 

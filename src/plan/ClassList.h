@@ -13,6 +13,9 @@ namespace plan
 /// The same in one line, without blanks around the names and without empty ones, for reading.
 [[nodiscard]] QStringList classWords(const QString& classes);
 
+/// Names in a sentence: a dozen of them, and how many others there are.
+[[nodiscard]] QString fewNames(const QStringList& names);
+
 /// The class that decides a box's markers: the first of the list, trimmed.
 [[nodiscard]] QString firstClass(const QString& classes);
 

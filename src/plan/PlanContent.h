@@ -28,6 +28,9 @@ struct PlanBox {
     bool classAbsent = false; ///< `XAbs` shows the picture of `Image5`
     bool studentAbsent = false; ///< `YAbs` shows the picture of `Image6`
     QString absentToolTip;      ///< tooltip of `YAbs`
+    /// Where the window draws it: boxes of a row that overlap share its height, from above.
+    int lane = 0;
+    int lanes = 1; ///< how many share it
 
     friend bool operator==(const PlanBox&, const PlanBox&) = default;
 };
@@ -43,6 +46,25 @@ struct UnknownCell {
     friend bool operator==(const UnknownCell&, const UnknownCell&) = default;
 };
 
+/// A row of the timetable that no box tells of, because of what boxes show, of the chosen week or
+/// of the subject.
+struct UntoldCell {
+    QString start;   ///< empty where it is not known
+    int minutes = 0; ///< length
+
+    friend bool operator==(const UntoldCell&, const UntoldCell&) = default;
+};
+
+/// What was asked about a row that shows nothing.
+enum class Asked {
+    Courses,
+    CoursesAndMakeUps,
+    Exams,
+};
+
+/// Slots of the day that a refresh asks about; the totals line has room for one more.
+constexpr int kAskedSlots = 10;
+
 struct PlanRow {
     int index = 0; ///< row of the page, 1 upward
     QString room;
@@ -50,6 +72,8 @@ struct PlanRow {
     form::Colour color;
     std::vector<PlanBox> boxes;
     std::vector<UnknownCell> unknown;
+    std::vector<UntoldCell> untold = {};
+    Asked asked = Asked::Courses;
 
     friend bool operator==(const PlanRow&, const PlanRow&) = default;
 };

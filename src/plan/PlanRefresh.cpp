@@ -3,8 +3,10 @@
 #include "context/AxisLabels.h"
 #include "plan/CellNumbers.h"
 #include "plan/ClassList.h"
+#include "plan/RowLanes.h"
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
+#include "runtime/TimeOfDay.h"
 
 #include <QScopedValueRollback>
 #include <utility>
@@ -17,12 +19,22 @@ namespace
 using runtime::leadingNumber;
 using runtime::nearestInteger;
 
-// Slots that a refresh asks about; the totals line has room for one more.
-constexpr int kSlots = 10;
 // A row takes the colour two entries further on than the one where a random colour is stored:
 // entries 0 and 1 of a palette are not meant for rows.
 constexpr int kColorStep = 2;
 constexpr form::Colour kPlainRow = form::Colour::fromRgb(215, 215, 215);
+
+/// Something was found that composes no text.
+void noteUntold(PlanRow& row, const lookup::RoomCell& cell)
+{
+    if (!cell.CellText.isEmpty() || cell.isUnknown || cell == lookup::RoomCell()) {
+        return;
+    }
+    const double minutes = leadingNumber(cell.CellDuration);
+    const bool isKnown = minutes >= 1 && minutes <= runtime::kMinutesOfDay;
+    row.untold.push_back(isKnown ? UntoldCell{cell.CellStart, nearestInteger(minutes)}
+                                 : UntoldCell{});
+}
 
 } // namespace
 
@@ -154,7 +166,7 @@ void PlanRefresh::prepareQuestions()
         rooms << m_state.page.room(row).name;
     }
     QStringList keys;
-    for (int slot = 1; slot <= kSlots; ++slot) {
+    for (int slot = 1; slot <= kAskedSlots; ++slot) {
         keys << seanceKey(slot);
     }
     const lookup::View view = viewOf(m_state);
@@ -172,15 +184,15 @@ void PlanRefresh::prepareQuestions()
 void PlanRefresh::drawRow(int row)
 {
     const context::RoomPage::Room room = m_state.page.room(row);
-    PlanRow planRow{row, room.name, room.places, rowColor(row), {}, {}};
+    PlanRow planRow{row, room.name, room.places, rowColor(row), {}, {}, {}, askedNow()};
     m_state.form.Salle[static_cast<std::size_t>(row)].backColor = planRow.color;
     m_state.form.Cap[static_cast<std::size_t>(row)].backColor = planRow.color;
     lookup::OccupancyLookup lookup(m_sources.rows, viewOf(m_state));
     QString durationBefore;
-    for (int slot = 1; slot <= kSlots; ++slot) {
+    for (int slot = 1; slot <= kAskedSlots; ++slot) {
         try {
             bool makeUp = false;
-            lookup::RoomCell cell = lookUp(lookup, room.name, slot, makeUp);
+            lookup::RoomCell cell = lookUp(lookup, planRow, slot, makeUp);
             countSlot(planRow, slot, cell, durationBefore);
             durationBefore = cell.CellDuration;
             if (!cell.CellText.isEmpty()) {
@@ -194,23 +206,35 @@ void PlanRefresh::drawRow(int row)
             throw;
         }
     }
+    assignLanes(planRow);
     m_content.rows.push_back(std::move(planRow));
     if (m_counting) {
         m_state.totals.addRoom(m_state.form, teachersOnly());
     }
 }
 
+Asked PlanRefresh::askedNow() const
+{
+    const form::PlanForm& form = m_state.form;
+    if (!form.OpEns().isSelected()) {
+        return Asked::Exams;
+    }
+    return form.Check2.isChecked() ? Asked::CoursesAndMakeUps : Asked::Courses;
+}
+
 /// With "Date", a free slot is asked about again among the make-ups.
-lookup::RoomCell PlanRefresh::lookUp(lookup::OccupancyLookup& lookup, const QString& room, int slot,
+lookup::RoomCell PlanRefresh::lookUp(lookup::OccupancyLookup& lookup, PlanRow& row, int slot,
                                      bool& makeUp) const
 {
     const QString tranche = QString::number(m_state.period.TrancheIdent);
     const QString key = seanceKey(slot);
-    lookup::RoomCell cell = *lookup.RoomOccupancy(room, key, tranche, false);
+    lookup::RoomCell cell = *lookup.RoomOccupancy(row.room, key, tranche, false);
+    noteUntold(row, cell);
     if (cell.CellText.isEmpty() && m_state.form.Check2.isChecked()) {
         makeUp = true;
         const bool isUnknown = cell.isUnknown;
-        if (auto found = lookup.RoomOccupancy(room, key, tranche, true)) {
+        if (auto found = lookup.RoomOccupancy(row.room, key, tranche, true)) {
+            noteUntold(row, *found);
             cell = std::move(*found);
             cell.isUnknown |= isUnknown;
         }

@@ -78,8 +78,9 @@ private:
     [[nodiscard]] QString seanceKey(int slot) const;
     void drawRow(int row);
     [[nodiscard]] form::Colour rowColor(int row);
-    [[nodiscard]] lookup::RoomCell lookUp(lookup::OccupancyLookup& lookup, const QString& room,
-                                          int slot, bool& makeUp) const;
+    [[nodiscard]] Asked askedNow() const;
+    [[nodiscard]] lookup::RoomCell lookUp(lookup::OccupancyLookup& lookup, PlanRow& row, int slot,
+                                          bool& makeUp) const;
     void drawSlot(PlanRow& planRow, int slot, lookup::RoomCell cell, bool makeUp);
     void countSlot(const PlanRow& planRow, int slot, const lookup::RoomCell& cell,
                    const QString& durationBefore);

@@ -54,6 +54,55 @@ TEST(BoxToolTip, saysInWordsWhatTheBoxShowsInPictures)
               "B1 – 8h30, 90 min\nL1 A\nDupont\nRattrapage\nClasse absente");
 }
 
+TEST(BoxToolTip, explainsTheLabels)
+{
+    plan::PlanRow row = rowOfB1();
+    row.places = "32";
+    plan::PlanBox& box = row.boxes[0];
+    box.cell.CellRowCount = 2;
+    box.cell.CellClassList = "L1 A\tL1 B";
+    box.cell.CellStudents = 20;
+    box.group = plan::groupCounterOf(box.cell, row.places, true);
+    const QString start = "B1 – 8h30, 90 min\nL1 A\nDupont";
+    EXPECT_EQ(boxToolTip(usual, row, box), start +
+                                               "\n2 groupes : L1 A, L1 B\nNombre d'étudiants : 20\n"
+                                               "Compteur 2 : Cliquez Pour Plus de Détails");
+    box.cell.CellStudents = 32;
+    box.cell.CellCapacity = 35;
+    box.group = plan::groupCounterOf(box.cell, row.places, true);
+    EXPECT_EQ(boxToolTip(usual, row, box),
+              start + "\n2 groupes : L1 A, L1 B\n"
+                      "Dépassement 32/32 : inscrits 32, prévus 35, places 32\n"
+                      "Compteur 2 : Cliquez Pour Plus de Détails");
+    form::PlanForm plain;
+    plain.Check3.setChecked(false); // no labels to explain
+    EXPECT_EQ(boxToolTip(plain, row, box), start);
+}
+
+TEST(BoxToolTip, tellsTheWeekOfABoxThatStandsAlone)
+{
+    plan::PlanRow row = rowOfB1();
+    row.boxes[0].cell.week = timetable::Week::B;
+    EXPECT_EQ(boxToolTip(usual, row, row.boxes[0]), "B1 – 8h30, 90 min\nL1 A\nDupont\nSemaine B");
+}
+
+TEST(BoxToolTip, tellsWhatIsThereAtTheSameTime)
+{
+    plan::PlanRow row = rowOfB1();
+    plan::PlanBox other = row.boxes[0];
+    row.boxes[0].width = 2400;
+    other.x = 1600; // an hour later
+    other.width = 2400;
+    other.minutes = 90;
+    other.cell.CellStart = "9h30";
+    other.cell.CellText = "L2 INFO\r\nMartin\r\n";
+    row.boxes.push_back(other);
+    EXPECT_EQ(boxToolTip(usual, row, row.boxes[0]),
+              "B1 – 8h30, 90 min\nL1 A\nDupont\nEn même temps : 9h30 à 11h00, L2 INFO");
+    row.boxes[1].x = 2400;
+    EXPECT_EQ(boxToolTip(usual, row, row.boxes[0]), "B1 – 8h30, 90 min\nL1 A\nDupont");
+}
+
 TEST(RoomToolTip, isTheRoomAtThisHeight)
 {
     const plan::PlanState rows = threeRows();

@@ -1,6 +1,8 @@
 // The plan under the mouse: what its tooltips tell.
 
 #include "app/WindowDesk.h"
+#include "paint/HourMarks.h"
+#include "plan/RoomRows.h"
 
 using namespace test;
 
@@ -39,23 +41,53 @@ TEST_F(ThePlansToolTips, tellWhatIsRecordedAndWhatAClickDoes)
     const QString gestures =
         "Maj + clic : retirer l’absence de la classe G1 le lundi 17/03/2025\n"
         "Ctrl + clic : retirer l’absence d’étudiants de la classe G1 le lundi 17/03/2025";
-    EXPECT_EQ(toolTipsOfG1.XAbs, "Classe absente\n" + gestures);
-    EXPECT_EQ(toolTipsOfG1.YAbs, "G1 Absent");
     EXPECT_EQ(toolTipsOfG1.ZAbs, "A2 – 8h30, 90 min\nG1\nDupont/Durand\n[Algèbre]\n"
-                                 "Classe absente\nÉtudiants absents\n\n" +
+                                 "Classe absente\nÉtudiants : G1 Absent\n\n" +
                                      gestures);
+    EXPECT_EQ(toolTipsOfG1.XAbs, toolTipsOfG1.ZAbs);
+    EXPECT_EQ(toolTipsOfG1.YAbs, toolTipsOfG1.ZAbs);
 }
 
-TEST_F(ThePlansToolTips, areEmptyAtTheTriangleWithoutAbsentStudents)
+TEST_F(ThePlansToolTips, areTheSameWhereverInTheBoxTheMouseIs)
+{
+    database.execute("UPDATE salle SET places = 40 WHERE Nom = 'B1'"); // too few for G2 and G3
+    open();
+    const paint::OverlayPlaces places = overlays(1, 0); // B1 at 14h00
+    const auto at = [this](QPointF planPoint) {
+        return view()->toolTipAt(view()->toViewport(planPoint).toPoint());
+    };
+    const QString text = at(places.ZAbs.center());
+    EXPECT_TRUE(text.startsWith("B1 – 14h00, 180 min")) << text.toStdString();
+    EXPECT_TRUE(text.contains("Dépassement 2/40 : inscrits 2, prévus 55, places 40"))
+        << text.toStdString();
+    for (const QRectF& part : {places.XAbs, places.YAbs, places.Label2, places.Labelz}) {
+        EXPECT_EQ(at(part.center()), text);
+    }
+}
+
+TEST_F(ThePlansToolTips, tellHowLongAnEmptyPlaceIsFree)
 {
     open();
-    const ToolTips toolTipsOfG1 = toolTips(0, 0);
-    EXPECT_EQ(toolTipsOfG1.YAbs, "");
-    EXPECT_EQ(
-        toolTipsOfG1.XAbs,
-        "Classe absente\n"
-        "Maj + clic : retirer l’absence de la classe G1 le lundi 17/03/2025\n"
-        "Ctrl + clic : enregistrer l’absence d’étudiants de la classe G1 le lundi 17/03/2025");
+    const auto at = [this](int row, double minute) {
+        const form::Place& room = form().Salle.at(static_cast<std::size_t>(row)).place;
+        const QPointF point(view()->target().onAxis(paint::positionOf(form(), minute)),
+                            view()->target().toPixelsY(room.top + room.height / 2));
+        return view()->toolTipAt(view()->toViewport(point).toPoint());
+    };
+    // A2 is taken from 8h30 to 10h00, the last slot ends at 17h15. On Monday, 17 March, it has a
+    // make-up from 10h15 on, which nobody has asked about.
+    EXPECT_EQ(at(1, 660),
+              "A2, 40 places, libre de 10h00 à 17h15\nRattrapages et examens non compris");
+    window().forward([this] {
+        form().Check2.setChecked(true);
+        form().Check3.setChecked(false); // draws the plan with the make-ups
+    });
+    EXPECT_EQ(at(1, 720), "A2, 40 places, libre de 11h45 à 17h15\nExamens non compris");
+    EXPECT_EQ(at(1, 605), "A2, 40 places, libre de 10h00 à 10h15\nExamens non compris");
+    window().forward([this] { form().XOpCl.setChecked(false); });
+    window().forward([this] { form().XOpEns.setChecked(false); });
+    window().forward([this] { form().XpMat.setChecked(false); });
+    EXPECT_EQ(at(1, 540), "A2, 40 places"); // a box that shows nothing is not drawn
 }
 
 TEST_F(ThePlansToolTips, leaveTheOutcomeOpenForSeveralClasses)
@@ -68,8 +100,9 @@ TEST_F(ThePlansToolTips, leaveTheOutcomeOpenForSeveralClasses)
                              "G2, G3 le lundi 17/03/2025\n"
                              "Ctrl + clic : enregistrer ou retirer l’absence d’étudiants de "
                              "chacune des classes G2, G3 le lundi 17/03/2025";
-    EXPECT_EQ(toolTipsOfBoth.XAbs, gestures);
-    EXPECT_EQ(toolTipsOfBoth.YAbs, "G2\tG3 Absent");
+    EXPECT_TRUE(toolTipsOfBoth.ZAbs.contains("Étudiants : G2, G3 Absent"));
+    EXPECT_EQ(toolTipsOfBoth.XAbs, toolTipsOfBoth.ZAbs);
+    EXPECT_EQ(toolTipsOfBoth.YAbs, toolTipsOfBoth.ZAbs);
     EXPECT_TRUE(toolTipsOfBoth.ZAbs.endsWith("\n\n" + gestures))
         << toolTipsOfBoth.ZAbs.toStdString();
 }
@@ -131,4 +164,69 @@ TEST_F(ThePlansToolTips, sayThatTheTotalsWereCountedBeforeTheLastChoice)
               "Choisir le jour les compte à nouveau.");
     window().forward([this] { form().CbJour.setListIndex(0); });
     EXPECT_EQ(view()->toolTipAt(overTheFirstTotal()), "");
+}
+
+namespace
+{
+
+/// The window on today's plan: Wednesday, 19 March 2025.
+class TheClock : public TheWindow
+{
+protected:
+    void openToday(const QTime& time)
+    {
+        open();
+        window().forward([this] { form().Today.press(); });
+        ASSERT_EQ(form().DTPicker1.value(), QDate(2025, 3, 19));
+        view()->setClock([this, time] { return QDateTime(m_today, time); });
+    }
+    /// Whether the red line crosses the gap below the first row at this minute of the day.
+    [[nodiscard]] bool hasLineAt(double minute)
+    {
+        const form::Place& row = form().Salle[1].place;
+        const QPointF point(view()->target().onAxis(paint::positionOf(form(), minute)),
+                            view()->target().toPixelsY(row.top + row.height + plan::kRowGap / 2));
+        const QImage image = view()->viewport()->grab().toImage();
+        const double ratio = image.devicePixelRatio();
+        const QColor color = image.pixelColor((view()->toViewport(point) * ratio).toPoint());
+        return color.red() > 180 && color.green() < 60 && color.blue() < 80;
+    }
+
+    QDate m_today{2025, 3, 19};
+};
+
+} // namespace
+
+TEST_F(TheClock, hasItsLineOnTodaysPlanAlone)
+{
+    openToday(QTime(12, 0));
+    EXPECT_TRUE(hasLineAt(720));
+    EXPECT_FALSE(hasLineAt(760));
+    window().forward([this] { form().DayAfter.press(); });
+    EXPECT_FALSE(hasLineAt(720));
+    window().forward([this] { form().DayBefore.press(); });
+    EXPECT_TRUE(hasLineAt(720));
+    m_today = m_today.addDays(1);
+    EXPECT_FALSE(hasLineAt(720));
+}
+
+TEST_F(TheWindow, lightsTheRowAndTheHourUnderTheMouse)
+{
+    open();
+    const auto pictureAt = [this](QPoint point) {
+        hands.moveTo(view()->viewport()->mapToGlobal(point));
+        return view()->viewport()->grab().toImage();
+    };
+    const form::Place& row = form().Salle[2].place;
+    const QPoint name = QPointF(3, view()->target().toPixelsY(row.top + row.height / 2)).toPoint();
+    const QPoint place(
+        static_cast<int>(view()->target().onAxis(paint::positionOf(form(), 630))), // 10h30
+        name.y());
+    const QPoint hour(static_cast<int>(view()->target().onAxis(paint::positionOf(form(), 650))), 2);
+    const QColor dark = view()->viewport()->grab().toImage().pixelColor(name);
+    const QColor darkHour = view()->viewport()->grab().toImage().pixelColor(hour);
+    EXPECT_TRUE(test::until([&] { return pictureAt(place).pixelColor(name) != dark; }));
+    EXPECT_NE(pictureAt(place).pixelColor(hour), darkHour);
+    const QPoint below(place.x(), view()->viewport()->height() - 3);
+    EXPECT_TRUE(test::until([&] { return pictureAt(below).pixelColor(name) == dark; }));
 }

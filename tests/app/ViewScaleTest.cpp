@@ -51,12 +51,12 @@ TEST_F(TheScale, showsTheWholeTimeAxisAndThePlacesBehindIt)
 
 TEST_F(TheScale, goesNoFurtherAcrossThanWhatIsLegibleOrOfUse)
 {
-    EXPECT_DOUBLE_EQ(across(1112), 20000 / 1112.0); // 17.99
-    EXPECT_DOUBLE_EQ(across(1000), 18);
+    EXPECT_DOUBLE_EQ(across(1053), 20000 / 1053.0); // 18.99
+    EXPECT_DOUBLE_EQ(across(1000), 19);
     EXPECT_DOUBLE_EQ(across(2500), 8);
     EXPECT_DOUBLE_EQ(across(4000), 5);
     EXPECT_DOUBLE_EQ(across(5000), 5);
-    EXPECT_DOUBLE_EQ(across(0), 18); // a view without a size yet
+    EXPECT_DOUBLE_EQ(across(0), 19); // a view without a size yet
 }
 
 TEST_F(TheScale, fillsTheWidthWithTheHoursThatAreShown)
@@ -87,10 +87,10 @@ TEST_F(TheScale, goesNoFurtherDownThanWhatIsOfUse)
 
 TEST_F(TheScale, keepsTheTextOfEveryRowHeightLegible)
 {
-    // Pixels that a row needs: 38 for three lines, 33 for two, 17 for an ordinary one, 13 for a
+    // Pixels that a row needs: 35 for three lines, 30 for two, 17 for an ordinary one, 13 for a
     // low one.
     for (const auto& [height, most] :
-         {std::pair(700, 18), std::pair(699, 21), std::pair(400, 12), std::pair(399, 23),
+         {std::pair(700, 20), std::pair(699, 23), std::pair(400, 13), std::pair(399, 23),
           std::pair(300, 17), std::pair(299, 23), std::pair(200, 15)}) {
         rowHeight(height);
         EXPECT_EQ(down(10), most) << height;

@@ -119,3 +119,66 @@ TEST_F(TheWindow, fillsItsWidthWithTheHoursThatHaveSomething)
     EXPECT_NEAR(view()->target().onAxis(2840), view()->target().toPixelsX(2040), 1);
     EXPECT_EQ(view()->horizontalScrollBar()->maximum(), 0);
 }
+
+namespace
+{
+
+/// Nineteen rooms with classes, teachers and subjects in their boxes.
+class NineteenRooms : public TheWindow
+{
+protected:
+    NineteenRooms()
+    {
+        for (int room = 1; room <= 30; ++room) {
+            database.execute(QString("INSERT INTO salle (Nom, Zone, places) VALUES ('S%1', 1, 30)")
+                                 .arg(room, 2, 10, QChar('0')));
+        }
+    }
+    /// Rows that are seen whole below the greyed one.
+    [[nodiscard]] int rowsInSight()
+    {
+        int rows = 0;
+        const double bottom = view()->viewport()->height();
+        for (std::size_t row = 1; row <= 19; ++row) {
+            const QRectF place = view()->target().toPixels(form().Salle[row].place);
+            rows += place.bottom() <= bottom ? 1 : 0;
+        }
+        return rows;
+    }
+    void showParts(int parts)
+    {
+        window().forward([this, parts] {
+            form().XOpCl.setChecked(parts >= 1);
+            form().XOpEns.setChecked(parts >= 2);
+            form().XpMat.setChecked(parts >= 3);
+            form().Total_L_P.setText("19");
+        });
+        ASSERT_EQ(window().shell().engine().state().page.RowsShown, 19);
+    }
+    /// Pixels that a row is high.
+    [[nodiscard]] double rowHeight()
+    {
+        return view()->target().toPixelsY(form().Salle[1].place.height);
+    }
+};
+
+} // namespace
+
+TEST_F(NineteenRooms, showThirteenOfTheirRowsOnASmallScreen)
+{
+    open({1366, 740});
+    for (const int parts : {3, 2, 1}) {
+        showParts(parts);
+        EXPECT_GE(rowsInSight(), 13) << parts;
+    }
+}
+
+TEST_F(NineteenRooms, showAllTheirRowsWithLegibleTextsOnAFullScreen)
+{
+    open({1920, 1050});
+    for (const auto& [parts, least] : {std::pair(3, 35), std::pair(2, 30), std::pair(1, 17)}) {
+        showParts(parts);
+        EXPECT_EQ(rowsInSight(), 19) << parts;
+        EXPECT_GE(rowHeight(), least) << parts;
+    }
+}

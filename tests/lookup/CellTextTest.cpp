@@ -25,7 +25,7 @@ protected:
 
     [[nodiscard]] QString text()
     {
-        return lookup::composeCellText(meeting.row(), "A1", options, types, missing);
+        return lookup::composeCellText(meeting.row(), "A1", options, types, missing).text;
     }
     void weekA()
     {
@@ -129,13 +129,13 @@ TEST_F(CellText, hasNoSeparatorBehindTheTeachersWhileInvigilatorsAreShown)
 
 TEST_F(CellText, isEmptyForAnotherRoom)
 {
-    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A2", options, types, missing), "");
+    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A2", options, types, missing).text, "");
 }
 
 TEST_F(CellText, comparesRoomsExactly)
 {
-    EXPECT_EQ(lookup::composeCellText(meeting.row(), "a1", options, types, missing), "");
-    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A1 ", options, types, missing), "");
+    EXPECT_EQ(lookup::composeCellText(meeting.row(), "a1", options, types, missing).text, "");
+    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A1 ", options, types, missing).text, "");
 }
 
 TEST_F(CellText, showsAnEveryWeekRowInEveryWeek)
@@ -298,4 +298,30 @@ TEST_F(CellText, showsOnlyTheRoomOfAnExamItself)
     EXPECT_EQ(text(), "GC1| Dupont| [Algèbre]|");
     meeting.set("Salle", "A2");
     EXPECT_EQ(text(), "");
+}
+
+TEST_F(CellText, knowsTheOnlyWeekInWhichItIsHeld)
+{
+    const auto week = [this] {
+        return lookup::composeCellText(meeting.row(), "A1", options, types, missing).week;
+    };
+    EXPECT_EQ(week(), timetable::Week::Every);
+    meeting.set("newnature", "10/20");
+    EXPECT_EQ(week(), timetable::Week::A);
+    withB();
+    EXPECT_EQ(week(), timetable::Week::Every); // both stand side by side
+    weekB();
+    EXPECT_EQ(week(), timetable::Week::B);
+    meeting.set("XSalle", "A1"); // whatever the week
+    EXPECT_EQ(week(), timetable::Week::Every);
+    meeting.null("XSalle").null("Salle").null("SalleB").set("XSalleB", "A1");
+    EXPECT_EQ(week(), timetable::Week::B);
+}
+
+TEST_F(CellText, ofAnExamHasNoWeek)
+{
+    exam();
+    meeting.set("newnature", "10/20");
+    EXPECT_EQ(lookup::composeCellText(meeting.row(), "A1", options, types, missing).week,
+              timetable::Week::Every);
 }

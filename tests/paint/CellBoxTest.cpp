@@ -1,7 +1,10 @@
 #include "paint/CellBox.h"
 
 #include "paint/Canvas.h"
+#include "plan/RowColors.h"
 #include "support/RuntimeMatchers.h"
+
+#include <array>
 
 using namespace paint;
 using namespace plan;
@@ -224,4 +227,64 @@ TEST(ReadableInk, isMeasuredFrom1To21)
     EXPECT_NEAR(contrastRatio(navy, navy), 1.0, 1e-9);
     // Linear value of 118 is 0.1812: (1 + 0.05) / (0.1812 + 0.05)
     EXPECT_NEAR(contrastRatio(white, Colour::fromRgb(118, 118, 118)), 4.54, 0.01);
+}
+
+namespace
+{
+
+/// What F2 makes of random colours, and of the ends of the range.
+std::vector<Colour> paleColours()
+{
+    plan::RowColors colors(runtime::RandomSource(7));
+    colors.PaleColors = true;
+    colors.fillRandomly();
+    std::vector<Colour> pale;
+    for (int index = 0; index < plan::RowColors::kColors; ++index) {
+        pale.push_back(colors.at(index));
+    }
+    constexpr std::array<std::int16_t, 2> ends{0, 255};
+    for (std::int16_t red : ends) {
+        for (std::int16_t green : ends) {
+            std::int16_t blue = 0;
+            pale.push_back(colors.MakeColor(red, green, blue));
+        }
+    }
+    return pale;
+}
+
+constexpr double readable = 4.5; // for text of this size, by the guidelines for the web
+
+} // namespace
+
+TEST(PaleColours, keepTheTextReadableOnEveryRow)
+{
+    for (const Colour colour : paleColours()) {
+        EXPECT_GE(contrastRatio(colour, readableOn(colour)), readable) << colour.value;
+    }
+}
+
+TEST(PaleColours, keepTheTextReadableOverTheCrossesOfAMakeUp)
+{
+    for (const Colour colour : paleColours()) {
+        const Canvas canvas = drawn(filled(colour, true), {});
+        for (int x = inside.left(); x <= inside.right(); x += 3) {
+            const QColor under = canvas.at(x, inside.center().y());
+            EXPECT_GE(contrastRatio(Colour::fromRgb(under.red(), under.green(), under.blue()),
+                                    readableOn(colour)),
+                      readable)
+                << colour.value;
+        }
+    }
+}
+
+TEST(AnyColour, keepsTheTextReadable)
+{
+    for (int red = 0; red < 256; red += 15) {
+        for (int green = 0; green < 256; green += 15) {
+            for (int blue = 0; blue < 256; blue += 15) {
+                const Colour colour = Colour::fromRgb(red, green, blue);
+                ASSERT_GE(contrastRatio(colour, readableOn(colour)), readable) << colour.value;
+            }
+        }
+    }
 }

@@ -98,3 +98,18 @@ TEST(RemarkWords, areNoneForAPlainBox)
 {
     EXPECT_EQ(remarkWords(shown, PlanBox()), QStringList());
 }
+
+TEST(WeekLetter, isThatOfTheOnlyWeekOfASingleCourse)
+{
+    plan::PlanBox box;
+    EXPECT_EQ(plan::weekLetter(box), "");
+    box.cell.week = timetable::Week::A;
+    EXPECT_EQ(plan::weekLetter(box), "A");
+    box.cell.week = timetable::Week::B;
+    EXPECT_EQ(plan::weekLetter(box), "B");
+    box.makeUp = true;
+    EXPECT_EQ(plan::weekLetter(box), "");
+    box.makeUp = false;
+    box.cell.CellRowCount = 2;
+    EXPECT_EQ(plan::weekLetter(box), "");
+}

@@ -36,3 +36,17 @@ TEST(ClassList, isReadWithoutBlanksAndEmptyNames)
     EXPECT_EQ(classWords(" GC1 \t\tGC2"), (QStringList{"GC1", "GC2"}));
     EXPECT_EQ(classWords(""), QStringList());
 }
+
+TEST(FewNames, areADozenAndTheNumberOfTheOthers)
+{
+    QStringList names;
+    for (int number = 1; number <= 12; ++number) {
+        names << QString::number(number);
+    }
+    EXPECT_EQ(plan::fewNames(names), "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12");
+    names << "13";
+    EXPECT_EQ(plan::fewNames(names), "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 et 1 autre");
+    names << "14";
+    EXPECT_EQ(plan::fewNames(names), "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 et 2 autres");
+    EXPECT_EQ(plan::fewNames({}), "");
+}

@@ -3,6 +3,7 @@
 #include "context/AxisLabels.h"
 #include "context/PageRule.h"
 #include "paint/CellBox.h"
+#include "paint/ClockLine.h"
 #include "paint/Inks.h"
 #include "paint/Lettering.h"
 #include "paint/PlanPainter.h"
@@ -28,7 +29,6 @@ constexpr QColor kRemarkGround(255, 214, 120);
 constexpr QColor kRemarkText(60, 40, 0);
 constexpr QColor kHourLine(214, 220, 229);
 constexpr QColor kPastVeil(255, 255, 255, 165);
-constexpr QColor kClockLine(208, 2, 27);
 
 int mostRows(const HallPlan& plan)
 {
@@ -54,13 +54,6 @@ QString dayWords(QDate day)
         words[0] = words[0].toUpper();
     }
     return words;
-}
-
-QString clockWords(int minute)
-{
-    return QStringLiteral("%1:%2")
-        .arg(minute / kMinutesPerHour, 2, 10, QLatin1Char('0'))
-        .arg(minute % kMinutesPerHour, 2, 10, QLatin1Char('0'));
 }
 
 QString weekWords(timetable::Week week)
@@ -152,7 +145,7 @@ void HallPainter::paintHeader()
     const double titleWidth = header.width() - clockWidth - pagesWidth - 3 * margin;
     write(m_surface, {margin, 6, titleWidth, 36}, 28, true, dayWords(day), Qt::AlignLeft);
     write(m_surface, {header.width() - clockWidth - margin, 4, clockWidth, header.height() - 8}, 46,
-          true, clockWords(m_moment.minute), Qt::AlignRight);
+          true, paint::clockText(m_moment.minute), Qt::AlignRight);
     m_surface.setPen(kHeaderNote);
     QStringList notes{m_plan.establishment, m_plan.zone, weekWords(m_plan.week)};
     notes.removeAll(QString());
@@ -345,31 +338,12 @@ void HallPainter::paintPast(const plan::PlanPage& page)
     }
 }
 
-/// With the time above it; none before the first hour that is shown and after the last.
 void HallPainter::paintClockLine()
 {
-    if (!m_moment.line) {
-        return;
+    if (m_moment.line) {
+        paint::drawClockLine(m_surface, xOfMinute(*m_moment.line), m_layout.hours, m_layout.boxes,
+                             *m_moment.line);
     }
-    constexpr double width = 2;
-    constexpr double badge = 46;
-    const double x = xOfMinute(*m_moment.line);
-    if (x < m_layout.boxes.left() || x > m_layout.boxes.right()) {
-        return;
-    }
-    m_surface.fillRect(
-        QRectF(x - width / 2, m_layout.hours.bottom(), width, m_layout.boxes.height()), kClockLine);
-    const QRectF place(
-        std::clamp(x - badge / 2, m_layout.hours.left(), m_layout.hours.right() - badge),
-        m_layout.hours.top() + 1, badge, m_layout.hours.height() - 2);
-    m_surface.save();
-    m_surface.setRenderHint(QPainter::Antialiasing);
-    m_surface.setPen(Qt::NoPen);
-    m_surface.setBrush(kClockLine);
-    m_surface.drawRoundedRect(place, 3, 3);
-    m_surface.restore();
-    m_surface.setPen(Qt::white);
-    write(m_surface, place, 14, true, clockWords(*m_moment.line), Qt::AlignHCenter);
 }
 
 } // namespace app

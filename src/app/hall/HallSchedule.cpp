@@ -1,5 +1,7 @@
 #include "app/hall/HallSchedule.h"
 
+#include "paint/ClockLine.h"
+
 namespace app
 {
 namespace
@@ -36,9 +38,7 @@ HallMoment HallSchedule::at(const QDateTime& now, QDate shownDay, int pages) con
     moment.minute = now.time().hour() * kMinutesPerHour + now.time().minute();
     moment.page = pageAfter(m_began.secsTo(now), m_pace.secondsAPage, pages);
     moment.past = pastOf(shownDay, moment.today);
-    if (moment.past == HallPast::UntilClock) {
-        moment.line = moment.minute;
-    }
+    moment.line = paint::clockMinute(now, shownDay);
     return moment;
 }
 

@@ -54,10 +54,15 @@ void WindowHall::leave()
     }
 }
 
+QDateTime WindowHall::now() const
+{
+    return nowOf(m_surroundings);
+}
+
 std::unique_ptr<HallDisplay> WindowHall::makeDisplay()
 {
     HallDisplay::Ties ties;
-    ties.now = [this] { return nowOf(m_surroundings); };
+    ties.now = [this] { return now(); };
     ties.left = [this] { m_window->activateWindow(); };
     ties.failed = [this](const std::exception_ptr& fault) { tell(m_window, fault); };
     return std::make_unique<HallDisplay>(makeReader(), shell::DisplayRequest(), std::move(ties));

@@ -4,6 +4,7 @@
 #include "engine/Surroundings.h"
 #include "shell/Shell.h"
 
+#include <QDateTime>
 #include <QWidget>
 #include <memory>
 
@@ -26,6 +27,8 @@ public:
     void show();
     /// Takes the screen away where it is shown.
     void leave();
+    /// What the clock says, on the day that it is for the program.
+    [[nodiscard]] QDateTime now() const;
     /// Null until it is first shown.
     [[nodiscard]] HallDisplay* display() const { return m_display.get(); }
 
