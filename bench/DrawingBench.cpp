@@ -24,11 +24,8 @@ shell::Shell& fullPage()
     return *program;
 }
 
-void paintPage(benchmark::State& state)
+void paint(benchmark::State& state, const paint::PlanScene& scene)
 {
-    const engine::Engine& engine = fullPage().engine();
-    const paint::PlanScene scene =
-        paint::sceneOf(engine.state(), engine.content(), paint::DrawingTarget());
     QImage image(1366, 620, QImage::Format_RGB32);
     for ([[maybe_unused]] auto iteration : state) {
         image.fill(Qt::white);
@@ -44,7 +41,25 @@ void paintPage(benchmark::State& state)
     state.counters["rows"] = static_cast<double>(scene.content.rows.size());
     state.counters["boxes"] = static_cast<double>(boxes);
 }
+
+/// As a picture that is written to a file.
+void paintPage(benchmark::State& state)
+{
+    const engine::Engine& engine = fullPage().engine();
+    paint(state, paint::sceneOf(engine.state(), engine.content(), paint::DrawingTarget()));
+}
 BENCHMARK(paintPage)->Unit(benchmark::kMillisecond);
+
+/// As the window does, with the hours that have something over the same width.
+void paintWindow(benchmark::State& state)
+{
+    const engine::Engine& engine = fullPage().engine();
+    paint::DrawingTarget target;
+    target.hasHints = true;
+    paint(state, paint::windowSceneOf(engine.state(), engine.content(), target,
+                                      plan::shownHours(engine.state(), engine.content())));
+}
+BENCHMARK(paintWindow)->Unit(benchmark::kMillisecond);
 
 void refreshPage(benchmark::State& state)
 {

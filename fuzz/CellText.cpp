@@ -107,7 +107,7 @@ void checkText(fuzz::Input& input)
     types.fill(QStringLiteral("TP"));
     std::optional<lookup::MissingStep> missing;
     const QString text =
-        lookup::composeCellText(rowOf(allColumns(), values), room, options, types, missing);
+        lookup::composeCellText(rowOf(allColumns(), values), room, options, types, missing).text;
     constexpr qsizetype ownSigns = 150;
     require(text.size() <= 2 * length + ownSigns, "a text is made of the row's fields", text);
     require(text.endsWith(options.separator) || text.isEmpty(), "a text ends", text);
@@ -115,8 +115,9 @@ void checkText(fuzz::Input& input)
         return value.toJoinedText() == room;
     });
     require(isThere || text.isEmpty(), "another room has no text", room, text);
-    require(!options.exam || lookup::composeCellText(rowOf(examColumns(), values), room, options,
-                                                     types, missing) == text,
+    require(!options.exam ||
+                lookup::composeCellText(rowOf(examColumns(), values), room, options, types, missing)
+                        .text == text,
             "an exam is held in one room", text);
     checkLines(text);
 }

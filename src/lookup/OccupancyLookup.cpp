@@ -171,6 +171,17 @@ void OccupancyLookup::keepClasses(RoomCell& cell, const db::Recordset& rows)
             cell.CellClassList += className;
         }
         addSizes(cell, row);
+        keepTime(cell, row);
+    }
+}
+
+void OccupancyLookup::keepTime(RoomCell& cell, const db::Row& row)
+{
+    CellTime time;
+    keepText(time.start, row, column::kDebut);
+    keepText(time.duration, row, column::kDuree);
+    if (time != CellTime{cell.CellStart, cell.CellDuration}) {
+        cell.otherTimes.push_back(time);
     }
 }
 

@@ -64,6 +64,7 @@ private:
     void keepFacts(RoomCell& cell, const db::Recordset& rows, const QString& room) const;
     void keepOneClass(RoomCell& cell, const db::Row& row);
     void keepClasses(RoomCell& cell, const db::Recordset& rows);
+    static void keepTime(RoomCell& cell, const db::Row& row);
     void addSizes(RoomCell& cell, const db::Row& row);
     void filterBySubject(RoomCell& cell) const;
 

@@ -4,9 +4,18 @@
 
 #include <QString>
 #include <cstdint>
+#include <vector>
 
 namespace lookup
 {
+
+/// When a row is there, as stored.
+struct CellTime {
+    QString start;
+    QString duration; ///< minutes
+
+    friend bool operator==(const CellTime&, const CellTime&) = default;
+};
 
 /// What one occupancy lookup yields: who and what is in a room during a slot.
 struct RoomCell {
@@ -29,6 +38,9 @@ struct RoomCell {
 
     /// The week in which that what the text tells is held, where it is not held every week.
     timetable::Week week = timetable::Week::Every;
+
+    /// The times of further rows that have others than the first, which the box is drawn with.
+    std::vector<CellTime> otherTimes;
 
     /// The question got no answer, or one that does not say what the box shows: the room is not
     /// free.

@@ -47,7 +47,7 @@ struct UnknownCell {
 };
 
 /// A row of the timetable that no box tells of, because of what boxes show, of the chosen week or
-/// of the subject.
+/// of the subject, or that is there at another time than the box of its group.
 struct UntoldCell {
     QString start;   ///< empty where it is not known
     int minutes = 0; ///< length

@@ -24,16 +24,22 @@ using runtime::nearestInteger;
 constexpr int kColorStep = 2;
 constexpr form::Colour kPlainRow = form::Colour::fromRgb(215, 215, 215);
 
-/// Something was found that composes no text.
+UntoldCell untoldCell(const QString& start, const QString& duration)
+{
+    const double minutes = leadingNumber(duration);
+    const bool isKnown = minutes >= 1 && minutes <= runtime::kMinutesOfDay;
+    return isKnown ? UntoldCell{start, nearestInteger(minutes)} : UntoldCell{};
+}
+
+/// What was found and composes no text, and rows that are there at other times than their box.
 void noteUntold(PlanRow& row, const lookup::RoomCell& cell)
 {
-    if (!cell.CellText.isEmpty() || cell.isUnknown || cell == lookup::RoomCell()) {
-        return;
+    if (cell.CellText.isEmpty() && !cell.isUnknown && cell != lookup::RoomCell()) {
+        row.untold.push_back(untoldCell(cell.CellStart, cell.CellDuration));
     }
-    const double minutes = leadingNumber(cell.CellDuration);
-    const bool isKnown = minutes >= 1 && minutes <= runtime::kMinutesOfDay;
-    row.untold.push_back(isKnown ? UntoldCell{cell.CellStart, nearestInteger(minutes)}
-                                 : UntoldCell{});
+    for (const lookup::CellTime& time : cell.otherTimes) {
+        row.untold.push_back(untoldCell(time.start, time.duration));
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "form/PlanForm.h"
 #include "paint/Overlays.h"
 #include "plan/RoomRows.h"
+#include "plan/RowLanes.h"
 
 #include <gtest/gtest.h>
 
@@ -138,4 +139,25 @@ TEST_F(ThePoint, meetsNothingInAHiddenRow)
     form.Salle[1].visible = false;
     EXPECT_EQ(partAt(300, 57), Part::Nothing);
     EXPECT_EQ(partAt(110, 80), Part::Box);
+}
+
+TEST_F(ThePoint, isInTheBoxThatHasThisPartOfTheRowsHeight)
+{
+    plan::PlanBox second = first();
+    second.x += 800;
+    second.marker = 7;
+    content.rows[0].boxes.push_back(second);
+    plan::assignLanes(content.rows[0]);
+    paint::DrawingTarget target;
+    target.hasHints = true;
+    // Both are there from 322 to 428; the upper ten pixels are the first one's.
+    const auto markerAt = [&](double x, double y) {
+        const PlanHit hit = hitPlan(form, content, target, {x, y});
+        return hit.box == nullptr ? -1 : hit.box->marker;
+    };
+    EXPECT_EQ(markerAt(350, 48), 0);
+    EXPECT_EQ(markerAt(350, 57), 0);
+    EXPECT_EQ(markerAt(350, 58), 7);
+    EXPECT_EQ(markerAt(350, 67), 7);
+    EXPECT_EQ(markerAt(300, 60), -1); // below the first one, before the second
 }

@@ -65,6 +65,16 @@ TEST_F(TheTable, liesWhereTheTimeAxisIsMovedTo)
     EXPECT_EQ(words(there.cellUnder({108 + 160 - 50 - 1, 57})), "0/1+1");
 }
 
+TEST_F(TheTable, saysInWhichWeekAloneABoxIs)
+{
+    const QString before = table().nameOf(*table().cellAt(1, 1));
+    desk.rows = {};
+    desk.meeting(2, 1).set("Classe", "GC2").set("newnature", "10/20");
+    desk.draw();
+    EXPECT_FALSE(before.contains("semaine"));
+    EXPECT_EQ(table().nameOf(*table().cellAt(1, 1)), before + ", semaine A");
+}
+
 TEST_F(TheTable, joinsTheColumnsThatASeanceReachesInto)
 {
     QStringList cells;

@@ -72,6 +72,15 @@ TEST_F(UntoldCells, haveNoTimeWhereTheSubjectHidesThem)
     EXPECT_EQ(untold(), (std::vector<UntoldCell>{{QString(), 0}}));
 }
 
+TEST_F(UntoldCells, areGroupsThatAreThereLongerThanTheirBox)
+{
+    desk.meeting(1, 2);
+    desk.meeting(1, 2).set("Classe", "GC2");
+    EXPECT_TRUE(untold().empty());
+    desk.meeting(1, 2).set("Classe", "GC3").set("Durée", "180");
+    EXPECT_EQ(untold(), (std::vector<UntoldCell>{{"9h30", 180}}));
+}
+
 TEST_F(UntoldCells, areThoseOfACourseBeneathAMakeUpToo)
 {
     desk.meeting(1, 2).null("Salle").set("YSalle", "R01");
