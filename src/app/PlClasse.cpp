@@ -74,7 +74,8 @@ PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
 
 } // namespace
 
-PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings, FileOpener open)
+PlClasse::PlClasse(shell::Settings settings, engine::Surroundings surroundings,
+                   const FileOpener& open)
     : m_applicationFolder(surroundings.applicationFolder),
       m_hall(std::make_unique<WindowHall>(m_shell, surroundings, this)),
       m_startWindow([] { leaveAtOnce(kDone); }),

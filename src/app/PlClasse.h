@@ -37,7 +37,7 @@ class PlClasse : public QMainWindow
 public:
     /// `applicationFolder` holds `app_data` and `Styles`. `open` opens files that were saved.
     PlClasse(shell::Settings settings, engine::Surroundings surroundings,
-             FileOpener open = desktopOpener());
+             const FileOpener& open = desktopOpener());
     ~PlClasse() override;
 
     /// The whole life of the window: starts up, shows, plays the choices of the command line and
