@@ -19,7 +19,9 @@ constexpr int kHour = 60;
 // Over names and hours, which are dark on light or light on dark: their contrast stays.
 constexpr QColor kLight(66, 133, 244, 44);
 constexpr QColor kLightEdge(66, 133, 244);
-constexpr int kEdge = 2; // pixels
+constexpr int kEdge = 2;          // pixels
+constexpr double kClockRoom = 23; // of half an hour's caption, and of half the clock's
+constexpr int kTickHeight = 5;
 
 } // namespace
 
@@ -109,6 +111,15 @@ void PlanView::paintClock(QPainter& painter, const Bands& view) const
     const double end = std::min(axisEnd() - horizontalScrollBar()->value(),
                                 static_cast<double>(view.boxes.right() + 1));
     const double bottom = paint::PlanPainter::rowsBottom(scene()) - verticalScrollBar()->value();
+    // An hour that the time would cover in part is not written.
+    for (const paint::HourMark& mark : paint::hourMarks(m_engine.form(), m_hours)) {
+        const double left = m_target.onAxis(mark.x) - horizontalScrollBar()->value() + 1;
+        if (left < x + kClockRoom && left + 2 * kClockRoom > x - kClockRoom) {
+            painter.fillRect(
+                QRectF(left, view.ticks.top(), 2 * kClockRoom, view.ticks.height() - kTickHeight),
+                PlanPicture::kBandFill);
+        }
+    }
     QRectF boxes(view.boxes);
     boxes.setRight(end);
     boxes.setBottom(std::min(boxes.bottom(), bottom));

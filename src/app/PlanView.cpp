@@ -250,8 +250,8 @@ void PlanView::paintEvent(QPaintEvent* event)
         copy(view.totals, m_picture.totals(), QPoint(view.totals.x() + scrollX, 0));
         painter.drawLine(0, view.totals.top(), viewport()->width(), view.totals.top());
     }
-    paintLights(painter, view);
     paintClock(painter, view);
+    paintLights(painter, view);
     paintFrame(painter, view);
     paintCursor(painter, view);
     if (m_isOutOfDate) {

@@ -17,7 +17,8 @@ struct RowText {
 
 /// How the texts of a row are set, in their order: those that can be read in it have one size, the
 /// largest in which all of these fit. A text that would make the others too small has a size of
-/// its own. `format` is one of CellLayout's two.
+/// its own, and lines that do not fit below each other go on in one another. `format` is one of
+/// CellLayout's two.
 [[nodiscard]] std::vector<TextSetting> fitRowTexts(const std::vector<RowText>& texts, int format,
                                                    const TextRuler& ruler);
 

@@ -67,3 +67,14 @@ TEST(RowTexts, standCloserBeforeTheyShrink)
     EXPECT_TRUE(close.fits);
     EXPECT_EQ(close.lines.size(), 3);
 }
+
+TEST(RowTexts, goOnInOneLineWhereThereIsNoRoomForAnother)
+{
+    const RowText low{QRectF(0, 0, 142, 22), "L1 PHYS A\nMessaoudi K.\nTopologie"};
+    const int format = plan::CellLayout::kCentredLines;
+    const TextSetting setting = fitRowTexts({low}, format, ruler()).front();
+    EXPECT_TRUE(setting.fits);
+    EXPECT_EQ(setting.lines, QStringList({"L1 PHYS A Messaoudi K.", "Topologie"}));
+    const RowText narrow{QRectF(0, 0, 30, 22), low.text}; // too narrow in any way
+    EXPECT_EQ(fitRowTexts({narrow}, format, ruler()).front().lines.size(), 3);
+}
