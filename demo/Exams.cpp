@@ -2,6 +2,7 @@
 
 #include "demo/Classes.h"
 #include "demo/Draw.h"
+#include "demo/ExamTeachers.h"
 #include "demo/WeekBook.h"
 
 #include <algorithm>
@@ -226,6 +227,7 @@ std::vector<Exam> makeExams(const Faculty& faculty, const Period& period)
         exams.insert(exams.end(), planned.exams().begin(), planned.exams().end());
     }
     std::stable_sort(exams.begin(), exams.end(), comesBefore);
+    shareOutTeachers(faculty, exams);
     return exams;
 }
 

@@ -132,7 +132,7 @@ TEST(DemoStatements, areTheSameFromEveryCompilerAndPlatform)
         hash.addData(statement.toUtf8());
     }
     EXPECT_EQ(hash.result().toHex().toStdString(),
-              "2dd6b5b627d7fd55a408d2342a4907fee0da18b33604f6a5557660d4ac1d203c");
+              "7e15de22e26a75831fd2d74ae0555d358768d1191aff1f2ac94e327d6bf9dd29");
 }
 
 TEST(DemoStatements, differForAnotherSeed)
