@@ -17,13 +17,15 @@ namespace app
 namespace
 {
 
-// What is looked for: seen on every row colour, by the light line around the dark one.
+// What is looked for: seen on every row colour, by the light line around the dark one. Both lie
+// around the box, so that they cover none of its words.
 constexpr QColor kFrameLine(178, 34, 34);
 constexpr QColor kFrameHalo(255, 255, 255);
 constexpr int kFrameWidth = 3;
 // The cell of the keyboard, told from the frame by its colour; thin while the keys go elsewhere.
 constexpr QColor kCursorLine(16, 42, 110);
 constexpr int kRestingWidth = 1;
+constexpr int kHaloWidth = kFrameWidth + 2; ///< a pixel on either side of the line
 
 } // namespace
 
@@ -132,10 +134,12 @@ void PlanView::paintRing(QPainter& painter, const Bands& view, const QRectF& pla
                                         : place.left() - horizontalScrollBar()->value(),
                          place.top() - verticalScrollBar()->value());
     painter.save();
-    painter.setClipRect(beginsWithName ? view.boxes.united(view.names) : view.boxes);
+    const QRect rows = beginsWithName ? view.boxes.united(view.names) : view.boxes;
+    painter.setClipRect(rows.adjusted(-kHaloWidth, -kHaloWidth, kHaloWidth, kHaloWidth));
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF ring = QRectF(corner, place.size()).adjusted(1, 1, -1, -1);
-    painter.setPen(QPen(kFrameHalo, width + 3));
+    const double outside = width / 2.0; // what it surrounds is to be read
+    const QRectF ring = QRectF(corner, place.size()).adjusted(-outside, -outside, outside, outside);
+    painter.setPen(QPen(kFrameHalo, width + 2));
     painter.drawRoundedRect(ring, 3, 3);
     painter.setPen(QPen(line, width));
     painter.drawRoundedRect(ring, 3, 3);
@@ -155,12 +159,10 @@ void PlanView::paintCursor(QPainter& painter, const Bands& view) const
         const PlanTable words = table();
         const QRectF place = words.placeOf(*cell);
         const auto row = static_cast<std::size_t>(words.rowOf(*cell).index);
-        // A slot that the day lacks has no place of its own. The ring lies around the cell: it is
-        // to be read.
-        const QRectF ringed =
-            place.isEmpty() ? rowAcross(m_engine.form().Salle.at(row).place) : place;
-        paintRing(painter, view, ringed.adjusted(-3, -3, 3, 3), kCursorLine,
-                  isInUse ? kFrameWidth : kRestingWidth);
+        // A slot that the day lacks has no place of its own.
+        paintRing(painter, view,
+                  place.isEmpty() ? rowAcross(m_engine.form().Salle.at(row).place) : place,
+                  kCursorLine, isInUse ? kFrameWidth : kRestingWidth);
     } else if (isInUse && m_focusIsShown) {
         painter.save();
         painter.setPen(QPen(kCursorLine, 2));

@@ -3,6 +3,7 @@
 #include "answers/ClashSentence.h"
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
+#include "app/asking/AskingFields.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -58,10 +59,7 @@ ClashesWindow::ClashesWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     m_list->header()->resizeSection(1, 230);
     auto* column = new QVBoxLayout(this);
     auto* fields = new QHBoxLayout;
-    auto* caption = new QLabel(QStringLiteral("&Montrer")); // a caption of our own, with its key
-    caption->setBuddy(m_kind);
-    fields->addWidget(caption);
-    fields->addWidget(m_kind);
+    addField(fields, QStringLiteral("&Montrer"), m_kind);
     fields->addStretch();
     column->addLayout(fields);
     column->addWidget(m_list, 1);

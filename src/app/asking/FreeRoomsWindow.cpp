@@ -4,6 +4,7 @@
 #include "answers/Words.h"
 #include "app/DateField.h"
 #include "app/PlainTexts.h"
+#include "app/asking/AskingFields.h"
 #include "app/asking/RoomChoice.h"
 #include "runtime/FrenchDate.h"
 #include "timetable/ReadTimes.h"
@@ -47,14 +48,6 @@ QComboBox* timeList(const QString& name, const QString& accessibleName)
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setMinimumContentsLength(6);
     return list;
-}
-
-void addField(QHBoxLayout* row, const QString& caption, QWidget* field)
-{
-    auto* label = new QLabel(caption); // a caption of our own, with its key
-    label->setBuddy(field);
-    row->addWidget(label);
-    row->addWidget(field);
 }
 
 } // namespace
@@ -108,11 +101,7 @@ void FreeRoomsWindow::buildFields()
     m_isDated->setObjectName(QStringLiteral("AskedByDate"));
     setPlainToolTip(m_isDated, QStringLiteral("Demander une date : ses rattrapages et ses examens "
                                               "comptent"));
-    m_date = new DateField;
-    m_date->setObjectName(QStringLiteral("AskedDate"));
-    m_date->setAccessibleName(QStringLiteral("Date"));
-    m_date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    m_date->setCalendarPopup(true);
+    m_date = dateField(QStringLiteral("AskedDate"), QStringLiteral("Date"));
     m_date->setEnabled(false);
     m_from = timeList(QStringLiteral("AskedFrom"), QStringLiteral("De"));
     m_to = timeList(QStringLiteral("AskedTo"), QStringLiteral("À"));
@@ -120,11 +109,7 @@ void FreeRoomsWindow::buildFields()
     m_places->setObjectName(QStringLiteral("AskedPlaces"));
     m_places->setAccessibleName(QStringLiteral("Places au moins"));
     m_places->setRange(0, kMostPlaces);
-    m_week = new QComboBox;
-    m_week->setObjectName(QStringLiteral("AskedWeek"));
-    m_week->setAccessibleName(QStringLiteral("Semaine"));
-    m_week->addItems({QStringLiteral("Toute semaine"), QStringLiteral("Semaine A"),
-                      QStringLiteral("Semaine B")});
+    m_week = weekList(QStringLiteral("AskedWeek"));
     m_weeksRunning = new QSpinBox;
     m_weeksRunning->setObjectName(QStringLiteral("AskedWeeksRunning"));
     m_weeksRunning->setAccessibleName(QStringLiteral("Semaines de suite"));

@@ -1,10 +1,9 @@
 #include "app/asking/RoomChoice.h"
 
-#include "app/PlainTexts.h"
+#include "app/asking/AskingFields.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <set>
 
@@ -46,14 +45,8 @@ RoomChoice::RoomChoice(std::function<void()> changed)
     m_department->addItem(QStringLiteral("Tous"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    const auto add = [row](const QString& caption, QComboBox* list) {
-        auto* label = new QLabel(caption); // a caption of our own, with its key
-        label->setBuddy(list);
-        row->addWidget(label);
-        row->addWidget(list);
-    };
-    add(QStringLiteral("&Zone"), m_zone);
-    add(QStringLiteral("Dé&partement"), m_department);
+    addField(row, QStringLiteral("&Zone"), m_zone);
+    addField(row, QStringLiteral("Dé&partement"), m_department);
     row->addStretch();
     connect(m_zone, &QComboBox::currentIndexChanged, this, changed);
     connect(m_department, &QComboBox::currentIndexChanged, this, changed);

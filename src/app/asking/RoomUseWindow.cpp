@@ -2,6 +2,7 @@
 
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
+#include "app/asking/AskingFields.h"
 #include "app/asking/RoomChoice.h"
 #include "app/asking/ShareBar.h"
 #include "files/ShareShade.h"
@@ -25,7 +26,8 @@ namespace
 {
 
 constexpr QSize kSize(900, 690);
-constexpr int kGridHeight = 250;
+constexpr int kGridHeight = 250; ///< unless its rows need more
+constexpr int kRowSpace = 4;     ///< pixels of a row besides its text
 constexpr int kBarWidth = 170;
 
 /// Sorted by what its cell means: numbers and shares by their size.
@@ -52,18 +54,14 @@ bool isShade(const files::TableColumn& column)
 
 RoomUseWindow::RoomUseWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     : AnswerWindow(desk, std::move(ties), QStringLiteral("Occupation des salles"), parent),
-      m_week(new QComboBox), m_rooms(new RoomChoice([this] { changed(); })),
+      m_week(weekList(QStringLiteral("UseWeek"))), m_rooms(new RoomChoice([this] { changed(); })),
       m_slots(new QTableWidget), m_lists(new QTabWidget), m_notes(plainLabel())
 {
     setObjectName(QStringLiteral("RoomUseWindow"));
-    m_week->setObjectName(QStringLiteral("UseWeek"));
-    m_week->setAccessibleName(QStringLiteral("Semaine"));
-    m_week->addItems({QStringLiteral("Toute semaine"), QStringLiteral("Semaine A"),
-                      QStringLiteral("Semaine B")});
     m_slots->setObjectName(QStringLiteral("UseBySlot"));
     m_slots->setAccessibleName(QStringLiteral("Occupation par jour et par créneau"));
     m_slots->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_slots->setMaximumHeight(kGridHeight);
+    m_slots->verticalHeader()->setMinimumSectionSize(m_slots->fontMetrics().height() + kRowSpace);
     m_lists->setObjectName(QStringLiteral("UseLists"));
     m_notes->setWordWrap(true);
     m_notes->setObjectName(QStringLiteral("UseNotes"));
@@ -81,10 +79,7 @@ RoomUseWindow::RoomUseWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
 QLayout* RoomUseWindow::fieldRow()
 {
     auto* row = new QHBoxLayout;
-    auto* caption = new QLabel(QStringLiteral("&Semaine")); // a caption of our own, with its key
-    caption->setBuddy(m_week);
-    row->addWidget(caption);
-    row->addWidget(m_week);
+    addField(row, QStringLiteral("&Semaine"), m_week);
     row->addWidget(m_rooms);
     row->addStretch();
     return row;
@@ -185,6 +180,12 @@ void RoomUseWindow::showGrid(const files::TableSection& section)
     }
     m_slots->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_slots->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    // The last row is the mean of all others: it must not lie below the edge.
+    const int rows = m_slots->rowCount() * m_slots->verticalHeader()->minimumSectionSize();
+    const int need =
+        m_slots->horizontalHeader()->sizeHint().height() + rows + 2 * m_slots->frameWidth();
+    m_slots->setMinimumHeight(need);
+    m_slots->setMaximumHeight(std::max(need, kGridHeight));
 }
 
 void RoomUseWindow::addList(const files::TableSection& section)

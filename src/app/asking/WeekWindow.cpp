@@ -5,6 +5,7 @@
 #include "app/ErrorReport.h"
 #include "app/PlainTexts.h"
 #include "app/PrinterOutput.h"
+#include "app/asking/AskingFields.h"
 #include "app/asking/OverviewView.h"
 #include "app/asking/ShownDay.h"
 #include "app/asking/WeekView.h"
@@ -119,21 +120,12 @@ void WeekWindow::buildFields()
     m_name->setMinimumContentsLength(22);
     m_name->completer()->setCompletionMode(QCompleter::PopupCompletion);
     m_name->completer()->setFilterMode(Qt::MatchContains);
-    m_week = new QComboBox;
-    m_week->setObjectName(QStringLiteral("WeekWeek"));
-    m_week->setAccessibleName(QStringLiteral("Semaine"));
-    m_week->addItems({QStringLiteral("Toute semaine"), QStringLiteral("Semaine A"),
-                      QStringLiteral("Semaine B")});
+    m_week = weekList(QStringLiteral("WeekWeek"));
     m_isDated = new QCheckBox(QStringLiteral("Semaine d&u"));
     m_isDated->setObjectName(QStringLiteral("WeekByDate"));
     setPlainToolTip(m_isDated, QStringLiteral("Montrer la semaine d’une date, avec ses rattrapages "
                                               "et ses examens"));
-    m_date = new DateField;
-    m_date->setObjectName(QStringLiteral("WeekDate"));
-    m_date->setAccessibleName(QStringLiteral("Un jour de la semaine"));
-    m_date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    m_date->setCalendarPopup(true);
-    m_date->setDate(QDate::currentDate());
+    m_date = dateField(QStringLiteral("WeekDate"), QStringLiteral("Un jour de la semaine"));
     m_date->setEnabled(false);
     m_isList = new QCheckBox(QStringLiteral("En &liste"));
     m_isList->setObjectName(QStringLiteral("WeekAsList"));
@@ -153,13 +145,7 @@ void WeekWindow::buildFields()
 QLayout* WeekWindow::fieldRow()
 {
     auto* row = new QHBoxLayout;
-    const auto add = [row](const QString& caption, QWidget* field) {
-        auto* label = new QLabel(caption); // a caption of our own, with its key
-        label->setBuddy(field);
-        row->addWidget(label);
-        row->addWidget(field);
-    };
-    add(QStringLiteral("Semaine &de"), m_kind);
+    addField(row, QStringLiteral("Semaine &de"), m_kind);
     row->addWidget(m_name, 1);
     const auto arrow = [&](const QString& text, const char* name, const QString& help, int step) {
         auto* button = new QPushButton(text);
