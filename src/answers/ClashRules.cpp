@@ -18,8 +18,8 @@ bool ClashRules::areOneCourse(HoldingId left, HoldingId right) const
 
 bool ClashRules::shareRoom(HoldingId left, HoldingId right) const
 {
-    const std::array<RoomNameId, 2>& ones = m_occupancy.holding(left).rooms;
-    const std::array<RoomNameId, 2>& others = m_occupancy.holding(right).rooms;
+    const std::array<RoomNameId, 2>& ones = facts(left).rooms;
+    const std::array<RoomNameId, 2>& others = facts(right).rooms;
     if (ones.front() == others.front()) { // as most do that are compared
         return true;
     }

@@ -20,6 +20,8 @@ public:
     {
         return m_facts[static_cast<std::size_t>(id.index())];
     }
+    /// Of all holdings, by their ids.
+    [[nodiscard]] const std::vector<HoldingFacts>& allFacts() const { return m_facts; }
 
     [[nodiscard]] bool clashOverRoom(timetable::HoldingId left, timetable::HoldingId right) const;
     [[nodiscard]] bool clashOverTeacher(timetable::HoldingId left,
@@ -34,7 +36,7 @@ private:
     [[nodiscard]] bool shareRoom(timetable::HoldingId left, timetable::HoldingId right) const;
 
     const timetable::Occupancy& m_occupancy;
-    std::vector<HoldingFacts> m_facts; ///< by the holding's id
+    std::vector<HoldingFacts> m_facts;
 };
 
 } // namespace answers

@@ -152,13 +152,13 @@ void Search::searchCrowds(const timetable::Room& room, const std::vector<DiaryDa
 {
     for (const DiaryDay& day : diary) {
         if (!day.date.isValid()) {
-            add(ClashKind::Overfull, room.name, day, crowds(m_occupancy, day.courses, room.places),
-                room.places);
+            add(ClashKind::Overfull, room.name, day,
+                crowds(m_occupancy, m_rules.allFacts(), day.courses, room.places), room.places);
             continue;
         }
         for (const std::vector<HoldingId>& held : {day.makeUps, day.exams}) {
-            add(ClashKind::Overfull, room.name, day, crowds(m_occupancy, held, room.places),
-                room.places);
+            add(ClashKind::Overfull, room.name, day,
+                crowds(m_occupancy, m_rules.allFacts(), held, room.places), room.places);
         }
     }
 }
@@ -197,7 +197,7 @@ void Search::searchRooms()
         if (holders.empty() || isHeldAsAnEqualOne(id, holders)) {
             continue;
         }
-        const std::vector<DiaryDay> diary = diaryOf(m_occupancy, lists[index]);
+        const std::vector<DiaryDay> diary = diaryOf(m_occupancy, m_rules.allFacts(), lists[index]);
         searchDiary(
             rooms[index].name, diary, {ClashKind::Room, ClashKind::MakeupRoom},
             [this](HoldingId left, HoldingId right) { return m_rules.clashOverRoom(left, right); });
@@ -211,8 +211,8 @@ void Search::searchNames(const Names<NameId>& names,
                          Rule rule)
 {
     for (std::size_t index = 0; index < lists.size(); ++index) {
-        searchDiary(names.text(NameId(static_cast<int>(index))), diaryOf(m_occupancy, lists[index]),
-                    kinds, rule);
+        searchDiary(names.text(NameId(static_cast<int>(index))),
+                    diaryOf(m_occupancy, m_rules.allFacts(), lists[index]), kinds, rule);
     }
 }
 

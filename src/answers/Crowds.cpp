@@ -8,19 +8,20 @@ namespace
 {
 
 using timetable::ClassId;
-using timetable::Holding;
 using timetable::HoldingId;
 using timetable::MinuteOfDay;
 using timetable::Occupancy;
 using timetable::Week;
 
 /// The times at which somebody comes or goes, each once.
-std::vector<MinuteOfDay> momentsOf(const Occupancy& occupancy, std::span<const HoldingId> held)
+std::vector<MinuteOfDay> momentsOf(const std::vector<HoldingFacts>& facts,
+                                   std::span<const HoldingId> held)
 {
     std::vector<MinuteOfDay> moments;
     for (const HoldingId id : held) {
-        moments.push_back(occupancy.holding(id).time->start);
-        moments.push_back(occupancy.holding(id).time->end());
+        const HoldingFacts& holding = facts[static_cast<std::size_t>(id.index())];
+        moments.push_back(holding.start);
+        moments.push_back(holding.end);
     }
     std::sort(moments.begin(), moments.end());
     moments.erase(std::unique(moments.begin(), moments.end()), moments.end());
@@ -31,24 +32,23 @@ std::vector<MinuteOfDay> momentsOf(const Occupancy& occupancy, std::span<const H
 class Counting
 {
 public:
-    Counting(const Occupancy& occupancy, std::span<const HoldingId> held, Week week)
-        : m_occupancy(occupancy), m_held(held), m_week(week)
+    Counting(const timetable::Timetable& timetable, const std::vector<HoldingFacts>& facts,
+             std::span<const HoldingId> held, Week week)
+        : m_timetable(timetable), m_facts(facts), m_held(held), m_week(week)
     {
     }
 
     /// Must be called with later and later moments.
     void goTo(MinuteOfDay moment)
     {
-        std::erase_if(m_present, [&](std::size_t position) {
-            return m_occupancy.holding(m_held[position]).time->end() <= moment;
-        });
+        std::erase_if(m_present,
+                      [&](std::size_t position) { return factsAt(position).end <= moment; });
         for (; m_next < m_held.size(); ++m_next) {
-            const Holding& holding = m_occupancy.holding(m_held[m_next]);
-            if (moment < holding.time->start) {
+            const HoldingFacts& holding = factsAt(m_next);
+            if (moment < holding.start) {
                 break;
             }
-            const bool hasClass = !m_occupancy.meetingOf(holding).className.isNone();
-            if (hasClass && timetable::shareWeek(holding.weeks, m_week)) {
+            if (!holding.className.isNone() && timetable::shareWeek(holding.weeks, m_week)) {
                 m_present.push_back(m_next);
             }
         }
@@ -58,24 +58,27 @@ public:
 
     [[nodiscard]] int students()
     {
-        const timetable::Timetable& timetable = m_occupancy.timetable();
         std::vector<ClassId>& classes = m_classes;
         classes.clear();
         int students = 0;
         for (const std::size_t position : m_present) {
-            const Holding& holding = m_occupancy.holding(m_held[position]);
-            const ClassId each =
-                timetable.classes().group(m_occupancy.meetingOf(holding).className);
+            const ClassId each = factsAt(position).className;
             if (std::find(classes.begin(), classes.end(), each) == classes.end()) {
                 classes.push_back(each);
-                students += timetable.sizeOf(each).students.value_or(0);
+                students += m_timetable.sizeOf(each).students.value_or(0);
             }
         }
         return students;
     }
 
 private:
-    const Occupancy& m_occupancy;
+    [[nodiscard]] const HoldingFacts& factsAt(std::size_t position) const
+    {
+        return m_facts[static_cast<std::size_t>(m_held[position].index())];
+    }
+
+    const timetable::Timetable& m_timetable;
+    const std::vector<HoldingFacts>& m_facts;
     std::span<const HoldingId> m_held;
     Week m_week;
     std::size_t m_next = 0; ///< who comes next
@@ -85,16 +88,16 @@ private:
 
 } // namespace
 
-std::vector<ClashGroup> crowds(const Occupancy& occupancy, std::span<const HoldingId> held,
-                               int places)
+std::vector<ClashGroup> crowds(const Occupancy& occupancy, const std::vector<HoldingFacts>& facts,
+                               std::span<const HoldingId> held, int places)
 {
     if (places <= 0 || held.empty()) {
         return {};
     }
-    const std::vector<MinuteOfDay> moments = momentsOf(occupancy, held);
+    const std::vector<MinuteOfDay> moments = momentsOf(facts, held);
     ClashGroups groups(held);
     for (const Week week : {Week::A, Week::B}) {
-        Counting room(occupancy, held, week);
+        Counting room(occupancy.timetable(), facts, held, week);
         for (std::size_t index = 0; index + 1 < moments.size(); ++index) {
             room.goTo(moments[index]);
             const int students = room.students();

@@ -16,7 +16,8 @@ using timetable::MeetingKind;
 using timetable::Occupancy;
 
 /// What tells days apart, in their order: 0 to 6 for the teaching weeks, more for any date.
-qint64 dayKey(const Holding& holding)
+template <typename Held>
+qint64 dayKey(const Held& holding)
 {
     constexpr qint64 dates = qint64(1) << 40; // more than any date's distance from day 0
     return holding.date.isValid() ? dates + holding.date.toJulianDay() : holding.day;
@@ -86,22 +87,20 @@ std::vector<HoldingId> inDiaryOrder(const Occupancy& occupancy)
     return order;
 }
 
-std::vector<DiaryDay> diaryOf(const Occupancy& occupancy, const std::vector<HoldingId>& holdings)
+std::vector<DiaryDay> diaryOf(const Occupancy& occupancy, const std::vector<HoldingFacts>& facts,
+                              const std::vector<HoldingId>& holdings)
 {
     std::vector<DiaryDay> diary;
     qint64 latest = -1;
     for (const HoldingId id : holdings) {
-        const Holding& holding = occupancy.holding(id);
+        const HoldingFacts& holding = facts[static_cast<std::size_t>(id.index())];
         if (const qint64 day = dayKey(holding); day != latest) {
             latest = day;
             const bool isDate = holding.date.isValid();
             diary.push_back(
                 {isDate ? timetable::dayOf(holding.date) : holding.day, holding.date, {}, {}, {}});
         }
-        // Only what has no date is a course: most need not be looked up.
-        listOf(diary.back(),
-               holding.date.isValid() ? occupancy.meetingOf(holding).kind : MeetingKind::Course)
-            .push_back(id);
+        listOf(diary.back(), holding.kind).push_back(id);
     }
     addCourses(occupancy, diary);
     return diary;

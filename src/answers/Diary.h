@@ -1,6 +1,6 @@
 #pragma once
 
-#include "timetable/Occupancy.h"
+#include "answers/HoldingFacts.h"
 
 #include <QDate>
 #include <vector>
@@ -23,7 +23,9 @@ struct DiaryDay {
 
 /// Puts holdings into days: those of the teaching weeks, then the dates of make-ups and exams. Days
 /// without anything are left out. Requires: some of `inDiaryOrder`, in this order, each once.
+/// `facts` are those of the occupancy.
 [[nodiscard]] std::vector<DiaryDay> diaryOf(const timetable::Occupancy& occupancy,
+                                            const std::vector<HoldingFacts>& facts,
                                             const std::vector<timetable::HoldingId>& holdings);
 
 /// The order of a diary: the teaching weeks by day, then dates; by start; as they were read.

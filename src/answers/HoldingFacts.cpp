@@ -16,6 +16,9 @@ std::vector<HoldingFacts> factsOf(const timetable::Occupancy& occupancy)
         facts.part = holding.part;
         facts.kind = meeting.kind;
         facts.weeks = holding.weeks;
+        facts.day = holding.day;
+        facts.date = holding.date;
+        facts.rooms = holding.rooms;
         if (holding.time) {
             facts.start = holding.time->start;
             facts.end = holding.time->end();

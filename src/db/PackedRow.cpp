@@ -1,6 +1,7 @@
 #include "db/PackedRow.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace db
 {
@@ -38,9 +39,7 @@ QChar unescaped(QStringView row, qsizetype& position)
     }
 }
 
-} // namespace
-
-QString packed(Packing packing, const QStringList& columns)
+QString packedWhole(Packing packing, const QStringList& columns)
 {
     if (packing == Packing::Json) {
         return QStringLiteral("json_array(") + columns.join(u',') + u')';
@@ -52,6 +51,31 @@ QString packed(Packing packing, const QStringList& columns)
     }
     return QStringLiteral("concat_ws('") + kSeparator + QStringLiteral("',") + fields.join(u',') +
            u')';
+}
+
+} // namespace
+
+QString packed(Packing packing, const PackedColumns& columns)
+{
+    const QString all = packedWhole(packing, columns.names);
+    const QStringList rest = columns.names.mid(columns.usual);
+    if (rest.isEmpty()) {
+        return all;
+    }
+    // Each by itself: a server may not know how to compare one with another.
+    const QString areNull = rest.join(QStringLiteral(" is null and ")) + QStringLiteral(" is null");
+    return QStringLiteral("case when ") + areNull + QStringLiteral(" then ") +
+           packedWhole(packing, columns.names.mid(0, columns.usual)) + QStringLiteral(" else ") +
+           all + QStringLiteral(" end");
+}
+
+bool PackedRow::endsAt(std::size_t field)
+{
+    if (field != m_usualCount) {
+        return false;
+    }
+    std::fill(m_fields.begin() + static_cast<std::ptrdiff_t>(field), m_fields.end(), QStringView());
+    return true;
 }
 
 bool PackedRow::unpack(const QString& row)
@@ -73,7 +97,7 @@ bool PackedRow::unpackSeparated(QStringView row)
         m_fields[field] = text.size() == 1 && text.front() == kNull ? QStringView() : text;
         start = end + 1;
     }
-    return field == m_fields.size() && start == row.size() + 1;
+    return start == row.size() + 1 && (field == m_fields.size() || endsAt(field));
 }
 
 bool PackedRow::unpackJson(QStringView row)
@@ -87,9 +111,10 @@ bool PackedRow::unpackJson(QStringView row)
         m_unescaped.reserve(row.size()); // so that it never moves under the fields
     }
     qsizetype position = 0;
-    for (QStringView& field : m_fields) {
+    for (std::size_t number = 0; number < m_fields.size(); ++number) {
+        QStringView& field = m_fields[number];
         if (position >= row.size() - 1) {
-            return false;
+            return position == row.size() - 1 && endsAt(number);
         }
         ++position; // the bracket or the comma
         if (row[position] == u'"') {

@@ -13,7 +13,7 @@ using field::kRoom;
 using field::kSubject;
 using field::of;
 
-// Those of `emplois` come first, the one that `ratrap` has besides stands last.
+// Those that most rows have come first, the one that `ratrap` has besides `emplois` stands last.
 constexpr std::array kMakeUpColumns{
     FieldColumn{of(Part::A, kRoom), column::kSalle},
     FieldColumn{of(Part::A, kOtherRoom), column::kYSalle},
@@ -21,6 +21,11 @@ constexpr std::array kMakeUpColumns{
     FieldColumn{of(Part::A, kFirstTeacher + 1), column::kEnseignant2},
     FieldColumn{of(Part::A, kFirstTeacher + 2), column::kEnseignant3},
     FieldColumn{of(Part::A, kSubject), column::kMatiere},
+    FieldColumn{field::kSlot, column::kSeance},
+    FieldColumn{field::kNature, column::kNewNature},
+    FieldColumn{field::kClass, column::kClasse},
+    FieldColumn{field::kStart, column::kDebut},
+    FieldColumn{field::kLength, column::kDuree},
     FieldColumn{of(Part::SecondA, kRoom), column::kXSalle},
     FieldColumn{of(Part::SecondA, kFirstTeacher), column::kXEnseignant1},
     FieldColumn{of(Part::SecondA, kFirstTeacher + 1), column::kXEnseignant2},
@@ -37,13 +42,10 @@ constexpr std::array kMakeUpColumns{
     FieldColumn{of(Part::SecondB, kFirstTeacher + 1), column::kXEnseignant2B},
     FieldColumn{of(Part::SecondB, kFirstTeacher + 2), column::kXEnseignant3B},
     FieldColumn{of(Part::SecondB, kSubject), column::kXMatiereB},
-    FieldColumn{field::kSlot, column::kSeance},
-    FieldColumn{field::kNature, column::kNewNature},
-    FieldColumn{field::kClass, column::kClasse},
-    FieldColumn{field::kStart, column::kDebut},
-    FieldColumn{field::kLength, column::kDuree},
     FieldColumn{field::kDate, column::kDateX},
 };
+
+constexpr std::size_t kUsualOfCourse = 11;
 
 constexpr std::array kExamColumns{
     FieldColumn{of(Part::A, kRoom), column::kSalle},
@@ -84,6 +86,12 @@ std::span<const FieldColumn> columnsOf(MeetingKind kind)
         break;
     }
     return std::span(kMakeUpColumns).first(kMakeUpColumns.size() - 1);
+}
+
+std::size_t usualColumns(MeetingKind kind)
+{
+    // A make-up's date is never null.
+    return kind == MeetingKind::Course ? kUsualOfCourse : columnsOf(kind).size();
 }
 
 SqlName columnOf(std::size_t field)

@@ -53,6 +53,9 @@ struct FieldColumn {
 [[nodiscard]] SqlName tableOf(MeetingKind kind);
 /// The fields that it has, each with its column.
 [[nodiscard]] std::span<const FieldColumn> columnsOf(MeetingKind kind);
+/// How many of them at the front most rows have; the others are those of the second part of week A
+/// and of both parts of week B, in nearly all rows nulls.
+[[nodiscard]] std::size_t usualColumns(MeetingKind kind);
 /// The column of a field. Requires: a field that some table has.
 [[nodiscard]] SqlName columnOf(std::size_t field);
 

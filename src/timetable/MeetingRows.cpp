@@ -42,15 +42,16 @@ QString MeetingRows::source() const
 bool MeetingRows::readPacked(MeetingTaker& taker)
 {
     const std::span<const FieldColumn> columns = columnsOf(m_kind);
+    const std::size_t usual = usualColumns(m_kind);
     const std::optional<db::Packing> packing = m_connection.packing();
     if (!packing) {
         return false;
     }
     db::Recordset rows;
     try {
-        rows =
-            m_connection.open(QStringLiteral("select ") + db::packed(*packing, namesOf(columns)) +
-                              QStringLiteral(" as packed") + source());
+        rows = m_connection.open(QStringLiteral("select ") +
+                                 db::packed(*packing, {namesOf(columns), qsizetype(usual)}) +
+                                 QStringLiteral(" as packed") + source());
     } catch (const runtime::RunTimeError& error) {
         if (error.number() != runtime::ErrorNumber::StatementRefused) {
             throw;
@@ -58,7 +59,7 @@ bool MeetingRows::readPacked(MeetingTaker& taker)
         return false;
     }
     taker.expect(rows.rows().size());
-    db::PackedRow packedRow(*packing, columns.size());
+    db::PackedRow packedRow(*packing, columns.size(), usual);
     MeetingTexts texts;
     for (const db::Row& row : rows.rows()) {
         const db::Value whole = row.field(0);

@@ -67,7 +67,7 @@ TEST_P(AConnection, bringsRowsAsOneTextEach)
                         "insert into t values (1, null), (2, 'deux')"});
     const Packing packing = connection().packing().value();
     const Recordset rows =
-        connection().open("select " + packed(packing, {"a", "b"}) + " from t where " +
+        connection().open("select " + packed(packing, {{"a", "b"}}) + " from t where " +
                           connection().metByMost(QStringLiteral("a>0")) + " order by a");
     ASSERT_EQ(rows.recordCount(), 2);
     PackedRow row(packing, 2);

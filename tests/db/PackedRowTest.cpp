@@ -32,13 +32,45 @@ QString separated(const QStringList& fields)
 
 TEST(PackedRow, asksSqliteForAnArray)
 {
-    EXPECT_EQ(packed(Packing::Json, {"Salle", "Durée"}), QStringLiteral("json_array(Salle,Durée)"));
+    EXPECT_EQ(packed(Packing::Json, {{"Salle", "Durée"}}),
+              QStringLiteral("json_array(Salle,Durée)"));
 }
 
 TEST(PackedRow, asksAServerForSeparatedFields)
 {
-    EXPECT_EQ(packed(Packing::Separated, {"Salle", "Durée"}),
+    EXPECT_EQ(packed(Packing::Separated, {{"Salle", "Durée"}}),
               QStringLiteral("concat_ws('\u001f',ifnull(Salle,'\u001e'),ifnull(Durée,'\u001e'))"));
+}
+
+TEST(PackedRow, asksForTheUsualColumnsAloneWhereTheOthersAreNull)
+{
+    EXPECT_EQ(packed(Packing::Json, {{"a", "b", "c"}, 1}),
+              QStringLiteral("case when b is null and c is null then json_array(a) else "
+                             "json_array(a,b,c) end"));
+    EXPECT_EQ(packed(Packing::Separated, {{"a", "b"}, 1}),
+              QStringLiteral("case when b is null then concat_ws('\u001f',ifnull(a,'\u001e')) else "
+                             "concat_ws('\u001f',ifnull(a,'\u001e'),ifnull(b,'\u001e')) end"));
+}
+
+TEST(PackedRow, takesARowOfTheUsualFieldsForOneWithNulls)
+{
+    for (const Packing packing : {Packing::Json, Packing::Separated}) {
+        const bool isJson = packing == Packing::Json;
+        PackedRow packed(packing, 4, 2);
+        const auto fields = [&](const QString& json, const QString& texts) {
+            return packed.unpack(isJson ? json : texts);
+        };
+        ASSERT_TRUE(fields(R"(["a","b","c","d"])", separated({"a", "b", "c", "d"})));
+        EXPECT_EQ(packed.fields()[3], QStringView(u"d"));
+        ASSERT_TRUE(fields(R"(["e","f"])", separated({"e", "f"})));
+        EXPECT_EQ(packed.fields()[0], QStringView(u"e"));
+        EXPECT_EQ(packed.fields()[1], QStringView(u"f"));
+        EXPECT_TRUE(packed.fields()[2].isNull()); // not the row's before
+        EXPECT_TRUE(packed.fields()[3].isNull());
+        EXPECT_FALSE(fields(R"(["a","b","c"])", separated({"a", "b", "c"})));
+        EXPECT_FALSE(fields(R"(["a"])", separated({"a"})));
+        EXPECT_FALSE(fields(R"(["a","b","c","d","e"])", separated({"a", "b", "c", "d", "e"})));
+    }
 }
 
 TEST(PackedRow, takesAnArrayApart)

@@ -38,6 +38,19 @@ TEST(MeetingFields, ofACourseAreTwentySevenAndOfAMakeUpOneMore)
     EXPECT_EQ(columnIn(MeetingKind::MakeUp, field::kDate), QStringLiteral("DateX"));
 }
 
+TEST(MeetingFields, thatMostRowsHaveComeFirst)
+{
+    const std::size_t usual = usualColumns(MeetingKind::Course);
+    std::size_t number = 0;
+    for (const FieldColumn& each : columnsOf(MeetingKind::Course)) {
+        const bool isOfAnotherPart =
+            each.field >= field::of(Part::SecondA, 0) && each.field < field::kSlot;
+        EXPECT_EQ(number++ >= usual, isOfAnotherPart) << QString(each.column).toStdString();
+    }
+    EXPECT_EQ(usualColumns(MeetingKind::MakeUp), 28U);
+    EXPECT_EQ(usualColumns(MeetingKind::Exam), 10U);
+}
+
 TEST(MeetingFields, ofAnExamAreOneRoomItsTeachersAndItsWeek)
 {
     EXPECT_EQ(columnsOf(MeetingKind::Exam).size(), 10U);
