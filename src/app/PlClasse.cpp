@@ -208,6 +208,7 @@ void PlClasse::addKeys()
     const std::vector<QWidget*> options = m_options->groups();
     groups.insert(groups.end(), options.begin(), options.end());
     groups.push_back(findChild<QWidget*>(QStringLiteral("FaultBar")));
+    groups.push_back(findChild<QWidget*>(QStringLiteral("StaleBar")));
     groups.push_back(m_view);
     groups.push_back(statusBar());
     new FocusGroups(*this, std::move(groups));

@@ -12,6 +12,7 @@
 #include "paint/HourMarks.h"
 #include "plan/EmptyPlace.h"
 #include "plan/RoomRows.h"
+#include "plan/SlotColumns.h"
 #include "shell/Shell.h"
 
 #include <QContextMenuEvent>
@@ -397,10 +398,13 @@ QString PlanView::toolTipAt(QPoint point) const
     }
     const PlanTable words = table();
     const auto room = words.roomAtHeight(toPlan(point).y());
-    const double minute = paint::minuteAt(form, m_target.fromAxis(toPlan(point).x()));
-    return room ? plan::emptyPlaceWords(m_engine.state(), words.rowOf(*room),
-                                        static_cast<int>(std::floor(minute)))
-                : QString();
+    return room ? emptyText(words.rowOf(*room), toPlan(point).x()) : QString();
+}
+
+QString PlanView::emptyText(const plan::PlanRow& row, double x) const
+{
+    const double minute = paint::minuteAt(m_engine.form(), m_target.fromAxis(x));
+    return plan::emptyPlaceWords(m_engine.state(), row, static_cast<int>(std::floor(minute)));
 }
 
 QString PlanView::boxText(const plan::PlanRow& row, const plan::PlanBox& box) const
@@ -414,7 +418,11 @@ QString PlanView::fullText(const PlanTable::Cell& cell) const
     const PlanTable words = table();
     const plan::PlanBox* box = words.boxOf(cell);
     if (box == nullptr) {
-        return words.nameOf(cell);
+        const plan::PlanRow& row = words.rowOf(cell);
+        const QRectF place = words.placeOf(cell);
+        const bool isKnown =
+            cell.column > 0 && !place.isEmpty() && !plan::isUnknown(row, words.slotOf(cell));
+        return isKnown ? emptyText(row, place.center().x()) : words.nameOf(cell);
     }
     const QString text = boxText(words.rowOf(cell), *box);
     return box->group && m_engine.form().Check3.isChecked()

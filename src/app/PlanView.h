@@ -107,7 +107,7 @@ public:
     [[nodiscard]] QPointF toViewport(QPointF planPoint) const;
     /// The tooltip at a point of the viewport; empty where there is none.
     [[nodiscard]] QString toolTipAt(QPoint point) const;
-    /// All that is to be read of a cell: a box's tooltip and the classes behind its counter.
+    /// All that is to be read of a cell: its tooltip, and the classes behind a box's counter.
     [[nodiscard]] QString fullText(const PlanTable::Cell& cell) const;
 
     /// The plan in words, to be asked at once and not kept.
@@ -189,6 +189,8 @@ private:
     [[nodiscard]] QString roomAt(QPoint point) const;
     [[nodiscard]] std::optional<Spot> spotAt(QPoint point) const;
     [[nodiscard]] QString boxText(const plan::PlanRow& row, const plan::PlanBox& box) const;
+    /// Of a place without a box; `x` is in device pixels of the plan, unscrolled.
+    [[nodiscard]] QString emptyText(const plan::PlanRow& row, double x) const;
     /// Where the hours that are shown end, in device pixels, unscrolled.
     [[nodiscard]] double axisEnd() const { return m_target.onAxis(m_hours.to); }
     [[nodiscard]] plan::ShownHours hoursWanted() const;

@@ -69,7 +69,7 @@ protected:
         EXPECT_EQ(recorded("etud_abs"), ofStudents);
     }
 
-    static inline const QStringList none;
+    static inline const QStringList kNone;
 };
 
 } // namespace
@@ -81,15 +81,15 @@ TEST_P(TheAbsenceMenu, recordsAndTakesBackAsTheClicksDo)
               QStringList({"Retirer l’absence de la &classe G1 le lundi 17/03/2025\tMaj+clic",
                            "Enregistrer l’absence d’étu&diants de la classe G1 le lundi "
                            "17/03/2025\tCtrl+clic"}));
-    choose("c", none, none);
+    choose("c", kNone, kNone);
     EXPECT_TRUE(until([this] { // the picture goes, too
         return !window().shell().engine().content().rows.front().boxes.front().classAbsent;
     }));
-    choose("c", {"G1"}, none);
+    choose("c", {"G1"}, kNone);
     choose("d", {"G1"}, {"G1"});
     EXPECT_EQ(view()->table().nameOf(*view()->cursor()),
               "A2, 8h30 à 10h00, G1, Dupont/Durand, Algèbre, Classe absente, Étudiants absents");
-    choose("d", {"G1"}, none);
+    choose("d", {"G1"}, kNone);
 }
 
 TEST_P(TheAbsenceMenu, togglesEachClassOfABox)
@@ -102,7 +102,7 @@ TEST_P(TheAbsenceMenu, togglesEachClassOfABox)
                            "lundi 17/03/2025\tMaj+clic",
                            "Enregistrer ou retirer l’absence d’étu&diants de chacune des classes "
                            "G2, G3 le lundi 17/03/2025\tCtrl+clic"}));
-    choose("c", {"G1", "G2", "G3"}, none);
+    choose("c", {"G1", "G2", "G3"}, kNone);
     choose("d", {"G1", "G2", "G3"}, {"G2", "G3"});
     choose("c", {"G1"}, {"G2", "G3"});
 }
@@ -142,7 +142,7 @@ TEST_P(TheAbsenceMenu, marksAClassFromTheStartOfTheWindowWithoutAMouse)
         const auto cell = view()->cursor();
         return cell && view()->table().nameOf(*cell).startsWith("B2, 10h15 à 11h45, G2, Petit");
     }));
-    choose("c", {"G1", "G2"}, none);
+    choose("c", {"G1", "G2"}, kNone);
     EXPECT_EQ(database.read("select Classe, Debut from abscence where Datex = '2025-03-31'"),
               (QList<QStringList>{{"G2", "10h15"}}));
     EXPECT_TRUE(until([this] {

@@ -5,6 +5,7 @@
 
 #include "app/WindowDesk.h"
 
+#include <QAccessible>
 #include <QMenu>
 #include <QScrollBar>
 
@@ -178,6 +179,11 @@ TEST_F(ThePlansKeys, openTheTextOfABox)
     EXPECT_EQ(note(), view()->toolTipAt(view()->viewport()->mapFromGlobal(inBox)));
     EXPECT_TRUE(note().startsWith("A2 – 8h30, 90 min\nG1\nDupont/Durand\n[Algèbre]"))
         << note().toStdString();
+    auto* words = control<QLabel>("CellText"); // a screen reader reads what has the focus
+    EXPECT_TRUE(until([&] { return words->hasFocus(); }));
+    const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(words);
+    EXPECT_EQ(read->text(QAccessible::Name), note());
+    EXPECT_TRUE(read->state().focused);
     hands.press({"Escape"});
     EXPECT_TRUE(until([this] { return note().isEmpty(); }));
     expectCursor(seanceOfA2); // the first Escape was the text's
@@ -204,7 +210,11 @@ TEST_F(ThePlansKeys, openTheWordsOfAnEmptyPlaceAndNothingWithoutACursor)
     begin();
     hands.press({"Return", "Down", "Right", "Return"});
     ASSERT_TRUE(until([this] { return !note().isEmpty(); }));
-    EXPECT_EQ(note(), "A2, 10h15 à 11h45, pas de case");
+    EXPECT_EQ(note(), "A2, 40 places, libre de 10h00 à 17h15\nRattrapages et examens non compris");
+    hands.press({"Escape"});
+    ASSERT_TRUE(until([this] { return note().isEmpty() && view()->hasFocus(); }));
+    hands.press({"Home", "Return"});
+    EXPECT_TRUE(until([this] { return note() == "A2, 40 places"; }));
 }
 
 TEST_F(ThePlansKeys, openTheMenuOfTheCell)
