@@ -37,8 +37,8 @@ public:
     {
         QString text;
         runtime::skipOnError([&] {
-            text =
-                db::BuildConnectString(QStringLiteral("fuzz"), true, m_folder.path()).ConnectString;
+            text = db::BuildConnectString(QStringLiteral("fuzz"), true, {m_folder.path(), {}})
+                       .ConnectString;
         });
         return text;
     }

@@ -23,13 +23,13 @@ namespace
 void checkChoice(const Settings& settings)
 {
     const shell::DatabaseChoice choice =
-        shell::chooseDatabase(settings, false, QStringLiteral("/app"));
+        shell::chooseDatabase(settings, false, {QStringLiteral("/app"), {}});
     require(choice.strings.ConnectString.startsWith(u"DSN="), "a data source is opened",
             choice.strings.ConnectString);
     require(!choice.nameInMessages().contains(u';'), "messages name the data source alone",
             choice.nameInMessages());
     try {
-        static_cast<void>(shell::chooseDatabase(settings, true, QStringLiteral("/nowhere")));
+        static_cast<void>(shell::chooseDatabase(settings, true, {QStringLiteral("/nowhere"), {}}));
         require(false, "there is no PHP file");
     } catch (const RunTimeError& error) {
         require(error.number() == runtime::ErrorNumber::FileNotFound, "the PHP file is missing",
