@@ -9,19 +9,19 @@ source "$project/scripts/common.sh"
 
 work=$project/run/pictures
 images=$project/docs/images
-bin=$project/build/bin
+bin=${1:-$project/build/bin} # or a folder of programs that are built
 day=2026-11-17 # a Tuesday; the demo faculty lives around it
 makeup_day=2026-11-24
 week_a=2026-09-07 # so that the day is of week A
 day_options=(--date "$day" --week A)
 
 # The window's parts at 1366x768, as width x height + left + top.
-readonly panels_day=424x110+4+58
-readonly panel_boxes=114x110+429+58
-readonly panel_rooms=186x110+544+58
-readonly panel_page=146x110+731+58
-readonly panel_subject=179x110+994+58
-readonly panel_print=188x110+1174+58
+readonly panels_day=462x108+4+57
+readonly panel_boxes=112x108+468+57
+readonly panel_rooms=186x108+583+57
+readonly panel_page=146x108+770+57
+readonly panel_subject=136x108+1033+57
+readonly panel_print=188x108+1171+57
 
 prepare() {
     # shellcheck disable=SC2154 # common.sh sets it
@@ -29,8 +29,10 @@ prepare() {
     rm -rf "$work"
     mkdir -p "$work/odbc" "$images"
     use_private_folders "$work"
-    configure "$project/build" -D CMAKE_BUILD_TYPE=Release -D TEMPORA_TESTS=OFF
-    build "$project/build" tempora tempora-demo
+    if [[ $bin == "$project/build/bin" ]]; then
+        configure "$project/build" release
+        build "$project/build" tempora tempora-demo
+    fi
     "$bin/tempora-demo" --sqlite "$work/demo.sqlite" --date "$day"
     export ODBCSYSINI=$work/odbc ODBCINI=$work/odbc/odbc.ini
     printf '[SQLite3]\nDriver=%s\n' \
@@ -162,7 +164,7 @@ ask() {
     import -window "$window" "$work/free.png"
     xdotool key Escape
     sleep 0.5
-    xdotool mousemove 60 545 click --repeat 2 --delay 60 1 # the name of "Atelier 1"
+    xdotool mousemove 45 508 click --repeat 2 --delay 60 1 # the name of "Atelier 1"
     window=$(opened '^Semaine' 1000x600)
     import -window "$window" "$work/week.png"
     xdotool key ctrl+shift+w
@@ -185,21 +187,21 @@ take_shots() {
     for palette in Accessible Contraste Gris Automne Jardin Océan Pastel; do
         shot "palette-$palette" "$palette" 29 "${day_options[@]}"
     done
-    act() { xdotool mousemove 258 325 click 1; } # the counter of a box of five classes
+    act() { xdotool mousemove 256 306 click 1; } # the counter of a box of five classes
     shot details Pastel 14 "${day_options[@]}"
     act() { # a box of one class; its tooltip takes a while
-        xdotool mousemove 190 593 mousemove_relative 2 0
+        xdotool mousemove 190 585 mousemove_relative 2 0
         sleep 1.5
     }
     shot tip Pastel 14 "${day_options[@]}"
     act() {
-        xdotool mousemove 190 593
+        xdotool mousemove 190 585
         press shift
         xdotool mousemove 700 740
     }
     shot class-absent Pastel 14 "${day_options[@]}"
     act() {
-        xdotool mousemove 190 593
+        xdotool mousemove 190 585
         press shift # takes it back
         press ctrl
         xdotool mousemove 700 740
@@ -212,7 +214,7 @@ take_shots() {
 # The window with numbers on its parts.
 numbered_window() {
     local marks=() number=0 place part
-    for place in 470,38 375,150 92,210 455,180 300,551 1320,189 577,728 760,756; do
+    for place in 470,38 395,140 92,245 455,180 240,547 1320,245 577,728 760,756; do
         number=$((number + 1))
         marks+=(-fill '#c01020' -stroke white -strokewidth 2
             -draw "circle $place $((${place%,*} + 14)),${place#*,}"
@@ -229,7 +231,7 @@ box_variants() {
     local shown variants=()
     for shown in class class,teacher class,teacher,subject,type; do
         variants+=("$(beside "$(cut "boxes-$shown" "$panel_boxes")" \
-            "$(cut "boxes-$shown" 540x112+0+188)")")
+            "$(cut "boxes-$shown" 540x118+0+221)")")
     done
     below "${variants[@]}"
 }
@@ -246,8 +248,8 @@ palette_samples() {
 
 # gesture KEY SHOT: a box, the key to hold, and the box afterwards.
 gesture() {
-    beside "$(cut plan 148x44+117+568)" "$(key "$1")" "$(words 15 '+ clic  →')" \
-        "$(cut "$2" 148x44+117+568)"
+    beside "$(cut plan 148x40+118+566)" "$(key "$1")" "$(words 15 '+ clic  →')" \
+        "$(cut "$2" 148x40+118+566)"
 }
 
 printed_sheet() {
@@ -265,14 +267,14 @@ make_pictures() {
     keep fenetre "$(numbered_window)"
     keep bulle "$(cut tip 620x150+100+567)"
     keep jour "$(cut plan "$panels_day")"
-    keep rattrapage "$(below "$(cut makeup 296x110+4+58)" "$(cut makeup 480x86+877+313)")"
+    keep rattrapage "$(below "$(cut makeup 334x108+4+57)" "$(cut makeup 480x82+872+297)")"
     keep examen "$(cut exam 770x297+0+58)"
     keep cases "$(box_variants)"
-    keep salles "$(beside "$(cut rooms "$panel_rooms")" "$(cut rooms 540x212+0+483)")"
-    keep page "$(beside "$(cut plan "$panel_page")" "$(cut plan 540x143+0+170)")"
-    keep depassement "$(below "$(cut plan 572x44+592+611)" "$(cut details 190x150+580+269)")"
+    keep salles "$(beside "$(cut rooms "$panel_rooms")" "$(cut rooms 540x194+0+488)")"
+    keep page "$(beside "$(cut plan "$panel_page")" "$(cut plan 540x132+0+166)")"
+    keep depassement "$(below "$(cut plan 572x40+592+566)" "$(cut details 190x150+580+269)")"
     keep totaux "$(cut counted 770x93+0+652)"
-    keep matiere "$(beside "$(cut subject "$panel_subject")" "$(cut subject 540x128+0+525)")"
+    keep matiere "$(beside "$(cut subject "$panel_subject")" "$(cut subject 540x118+0+488)")"
     keep impression "$(cut plan "$panel_print")"
     keep feuille "$(printed_sheet)"
     keep palettes "$(palette_samples)"
