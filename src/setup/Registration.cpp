@@ -40,6 +40,15 @@ QString lineOf(const char* variable, const QString& value)
     return u'$' + QLatin1String(variable) + QStringLiteral("=\"") + value + QStringLiteral("\";\n");
 }
 
+/// Before a password comes to stand in it: a file that is written anew keeps the rights it has.
+void keepForOwner(const QString& path)
+{
+    if (QFile file(path); !file.exists() && !file.open(QIODevice::WriteOnly)) {
+        throw RunTimeError(ErrorNumber::PathFileAccess);
+    }
+    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
 void writePhpFile(const Server& server, const QString& applicationFolder)
 {
     const QString folder = folderOfServers(applicationFolder);
@@ -48,12 +57,12 @@ void writePhpFile(const Server& server, const QString& applicationFolder)
         if (!QDir().mkpath(folder)) {
             throw RunTimeError(ErrorNumber::PathFileAccess);
         }
+        keepForOwner(path);
         try {
             files::writeWholeFile(path, phpFileOf(server));
         } catch (const files::ExportError& error) {
             throw RunTimeError(ErrorNumber::PathFileAccess, QString::fromUtf8(error.what()));
         }
-        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     });
 }
 
