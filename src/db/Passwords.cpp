@@ -12,6 +12,29 @@ namespace
 constexpr auto kAnyCase =
     QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption;
 
+/// What may be the password in the text that is put together of a PHP file's values, or a part of
+/// it. Another value may hold the words between which it stands, and so may the password: then no
+/// one can tell where it begins and ends, and all between any two of them is taken.
+QStringList betweenWordsOfPhpFile(const QString& connectString)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^DRIVER=\\{MySQL ODBC 3\\.51 Driver\\};SERVER="));
+    static const QRegularExpression words(QStringLiteral(";PASSWORD=|;port="));
+    constexpr qsizetype around = 2; // the text before the first word and behind the last one
+    if (!form.match(connectString).hasMatch()) {
+        return {};
+    }
+    QStringList pieces = connectString.split(words);
+    if (pieces.size() <= around) {
+        return {};
+    }
+    pieces = pieces.mid(1, pieces.size() - around);
+    if (pieces.size() > 1) {
+        pieces << QStringLiteral(";PASSWORD=") << QStringLiteral(";port=");
+    }
+    return pieces;
+}
+
 /// The values that stand behind the words for a password, as far as they may go.
 QStringList writtenIn(const QString& connectString)
 {
@@ -27,7 +50,7 @@ QStringList writtenIn(const QString& connectString)
             "(?=;\\s*(?:DRIVER|DSN|FILEDSN|SERVER|HOST|DATABASE|DB|USER|UID|PORT|SOCKET|"
             "OPTIONS?|CHARSET|\\w*TIMEOUT|(?:SSL|TLS)\\w*|\\w*PASSWORD\\w*|PWD)\\s*=|;?$)"),
         kAnyCase);
-    QStringList values;
+    QStringList values = betweenWordsOfPhpFile(connectString);
     for (const QRegularExpression& form : {ofPhpFile, anyForm}) {
         auto matches = form.globalMatch(connectString);
         while (matches.hasNext()) {

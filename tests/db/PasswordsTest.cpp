@@ -69,6 +69,22 @@ TEST(Passwords, areFoundInPartsThatLookLikeWordsOfTheirOwn)
     EXPECT_FALSE(ofFile.contains(QStringLiteral("db")));
 }
 
+TEST(Passwords, areFoundWhereTheValuesOfTheFileHoldItsOwnWords)
+{
+    const auto server = [](const char* host, const char* password, const char* port) {
+        return passwordsIn(QStringLiteral("DRIVER={MySQL ODBC 3.51 Driver};SERVER=%1;DATABASE=b;"
+                                          "USER=u;PASSWORD=%2;port=%3OPTION=35")
+                               .arg(QString::fromUtf8(host), QString::fromUtf8(password),
+                                    QString::fromUtf8(port)));
+    };
+    // The brace of the host's takes in all up to the one of the password.
+    EXPECT_TRUE(server(";PASSWORD={", "=}", "3306").contains(QStringLiteral("=}")));
+    EXPECT_TRUE(server("db", ";", "1;PORT=2").contains(QStringLiteral(";")));
+    EXPECT_TRUE(server("db", "ab", "1;port=2").contains(QStringLiteral("ab")));
+    // Nothing but such a word: a text that holds it is left out.
+    EXPECT_TRUE(server("db", ";port=", "3306").contains(QStringLiteral(";port=")));
+}
+
 TEST(Passwords, areFoundHoweverLongTheyAre)
 {
     const QString password(100'000, u'a');
