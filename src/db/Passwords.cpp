@@ -63,7 +63,8 @@ QStringList writtenIn(const QString& connectString)
 /// The text without blanks and quotes around it.
 QString bare(QString text)
 {
-    static const QRegularExpression around(QStringLiteral("^[\\s\"']+|[\\s\"']+$"));
+    static const QRegularExpression around(QStringLiteral("^[\\s\"']+|[\\s\"']+$"),
+                                           QRegularExpression::UseUnicodePropertiesOption);
     return text.remove(around);
 }
 

@@ -101,6 +101,7 @@ TEST(Passwords, areNotFoundWhereThereIsNone)
     EXPECT_EQ(passwords("SERVER=;DATABASE=;USER=;PASSWORD=;port=3306OPTION=35"), QStringList());
     EXPECT_EQ(passwordsIn(ofPhpFile(QString())), QStringList());
     EXPECT_EQ(passwordsIn(ofPhpFile(QStringLiteral(" "))), QStringList());
+    EXPECT_EQ(passwordsIn(ofPhpFile(QStringLiteral("\u00a0 \u00a0 "))), QStringList());
 }
 
 TEST(ADriversText, isShownWhenNoPasswordStandsInIt)
