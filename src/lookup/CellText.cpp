@@ -3,6 +3,8 @@
 #include "runtime/RunTimeError.h"
 #include "timetable/MeetingColumns.h"
 
+#include <array>
+
 namespace lookup
 {
 namespace
@@ -11,6 +13,20 @@ namespace
 namespace column = timetable::column;
 
 using runtime::skipOnError;
+
+/// A column of a person's name, told where the tested one holds something.
+struct Further {
+    timetable::SqlName tested;
+    timetable::SqlName shown;
+};
+
+/// The columns of a course that is held in week B.
+struct CourseOfWeekB {
+    timetable::SqlName room;
+    timetable::SqlName firstTeacher;
+    std::array<Further, 2> furtherTeachers;
+    timetable::SqlName subject;
+};
 
 /// Composes one box text, block by block: a course can hold up to four rooms that show something,
 /// and the same room can be its A room and its B room.
@@ -40,6 +56,7 @@ private:
     void separate();
     void separateOccupants();
     void composeInvigilators();
+    void composeWeekB(const CourseOfWeekB& course);
 
     const db::Row& m_row;
     const QString& m_room;
@@ -173,9 +190,9 @@ void Composer::composeSecondRoomA()
 
 // No separator stands inside the B blocks: they may follow an A occupant on the same line.
 
-void Composer::composeRoomB()
+void Composer::composeWeekB(const CourseOfWeekB& course)
 {
-    if (!isRoom(column::kSalleB) || !(m_options.everyWeek || m_options.showsWeekB)) {
+    if (!isRoom(course.room) || !(m_options.everyWeek || m_options.showsWeekB)) {
         return;
     }
     m_isWeekB = true;
@@ -184,31 +201,32 @@ void Composer::composeRoomB()
         append({}, column::kClasse);
     }
     if (m_options.showTeachers) {
-        append(QStringLiteral("  "), column::kEnseignant1b);
-        // An alternating pair has as many teachers in week B as in week A, so the A columns tell
-        // whether there is a second and a third.
-        appendIfFilled(column::kEnseignant2, column::kEnseignant2b);
-        appendIfFilled(column::kEnseignant3, column::kEnseignant3b);
+        append(QStringLiteral("  "), course.firstTeacher);
+        for (const Further& teacher : course.furtherTeachers) {
+            appendIfFilled(teacher.tested, teacher.shown);
+        }
     }
-    appendSubject(column::kMatiereb);
+    appendSubject(course.subject);
+}
+
+void Composer::composeRoomB()
+{
+    // An alternating pair has as many teachers in week B as in week A, so the A columns tell
+    // whether there is a second and a third.
+    composeWeekB({column::kSalleB,
+                  column::kEnseignant1b,
+                  {{{column::kEnseignant2, column::kEnseignant2b},
+                    {column::kEnseignant3, column::kEnseignant3b}}},
+                  column::kMatiereb});
 }
 
 void Composer::composeSecondRoomB()
 {
-    if (!isRoom(column::kXSalleB) || !(m_options.everyWeek || m_options.showsWeekB)) {
-        return;
-    }
-    m_isWeekB = true;
-    separateOccupants();
-    if (m_options.showClass) {
-        append({}, column::kClasse);
-    }
-    if (m_options.showTeachers) {
-        append(QStringLiteral("  "), column::kXEnseignant1B);
-        appendIfFilled(column::kXEnseignant2B, column::kXEnseignant2B);
-        appendIfFilled(column::kXEnseignant3B, column::kXEnseignant3B);
-    }
-    appendSubject(column::kXMatiereB);
+    composeWeekB({column::kXSalleB,
+                  column::kXEnseignant1B,
+                  {{{column::kXEnseignant2B, column::kXEnseignant2B},
+                    {column::kXEnseignant3B, column::kXEnseignant3B}}},
+                  column::kXMatiereB});
 }
 
 QString Composer::finish(const SeanceTypeShortNames& typeNames)
