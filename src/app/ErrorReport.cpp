@@ -41,8 +41,9 @@ void showFault(QWidget* parent, const QString& text, const QString& beneath,
         box.setInformativeText(beneath);
         showPlainly(box); // the texts may quote data
         box.setObjectName(QStringLiteral("RunTimeError"));
-        const QAbstractButton* way =
-            wayOut ? box.addButton(wayOut->label, QMessageBox::ActionRole) : nullptr;
+        QPushButton* way = wayOut ? box.addButton(wayOut->label, QMessageBox::ActionRole) : nullptr;
+        box.setDefaultButton(way); // whoever has nothing to show yet gets on with Enter
+        box.setEscapeButton(QMessageBox::Ok);
         box.exec();
         if (way != nullptr && box.clickedButton() == way) {
             wayOut->take();

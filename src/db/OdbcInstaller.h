@@ -15,6 +15,8 @@ namespace db
 [[nodiscard]] bool registerSource(const QString& name, const QString& driver);
 /// What the manager says of the last failure.
 [[nodiscard]] QString installerFault();
+/// The file in which the manager keeps the user's data sources; empty where that is none.
+[[nodiscard]] QString usersFile();
 /// Leaves a copy of what holds the user's data sources, where that is a file that has none so far,
 /// and makes it its owner's alone: a password may come to stand in it.
 void prepareUsersFile();

@@ -2,10 +2,11 @@
 
 #include "db/OdbcApi.h"
 
-#include <QDir>
 #include <QFile>
 #include <array>
 #include <odbcinst.h> // its narrow functions: they pass bytes on as they are
+#include <pwd.h>
+#include <unistd.h>
 
 namespace db
 {
@@ -15,13 +16,19 @@ namespace
 constexpr const char* kFile = "odbc.ini"; ///< by this name the manager knows the user's, too
 constexpr std::size_t kMostBytes = 65535;
 
+} // namespace
+
+/// As the manager has it: the home of the account, whatever HOME says (sudo keeps the caller's).
 QString usersFile()
 {
     const QString told = qEnvironmentVariable("ODBCINI");
-    return told.isEmpty() ? QDir::homePath() + QStringLiteral("/.odbc.ini") : told;
+    if (!told.isEmpty()) {
+        return told;
+    }
+    const passwd* account = getpwuid(getuid());
+    return account == nullptr ? QString()
+                              : QFile::decodeName(account->pw_dir) + QStringLiteral("/.odbc.ini");
 }
-
-} // namespace
 
 QStringList driversOfManager()
 {

@@ -66,6 +66,11 @@ QString installerFault()
     return isTold ? QString::fromWCharArray(words.data()) : QString();
 }
 
+QString usersFile()
+{
+    return {};
+}
+
 /// The registry is the user's own, and keeps what else stands there.
 void prepareUsersFile() {}
 

@@ -6,6 +6,8 @@
 
 #include <QAbstractButton>
 #include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QThread>
 #include <QTimer>
 
@@ -63,11 +65,17 @@ protected:
             for (const QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
                 buttons << button->text();
             }
+            if (const auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+                onEnter = box->defaultButton() != nullptr ? box->defaultButton()->text() : "";
+                onEscape = box->escapeButton() != nullptr ? box->escapeButton()->text() : "";
+            }
             dialog.reject();
         };
     }
 
     QStringList buttons;   ///< that were noted
+    QString onEnter;       ///< the button of the last box that a press of Enter takes
+    QString onEscape;      ///< and one of Esc
     bool timedOut = false; ///< the program did not end
     QStringList messages;  ///< of the boxes that were shown
     std::function<void(QDialog&)> onDialog = [this](QDialog& dialog) {
@@ -154,6 +162,8 @@ TEST_F(WindowsLife, offersToChooseAnotherDatabaseWhereItsOwnCannotBeOpened)
     noteButtons();
     EXPECT_EQ(run(), 1);
     EXPECT_TRUE(buttons.contains("Choisir la base…")) << buttons.join(u'|').toStdString();
+    EXPECT_EQ(onEnter, "Choisir la base…");
+    EXPECT_EQ(onEscape, "OK");
 }
 
 TEST_F(WindowsLife, offersNoOtherDatabaseOnceItRuns)

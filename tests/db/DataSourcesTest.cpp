@@ -1,9 +1,13 @@
 #include "db/DataSources.h"
 
+#include "db/OdbcInstaller.h"
 #include "support/OwnDataSources.h"
 #include "support/RuntimeMatchers.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
+#include <pwd.h>
+#include <unistd.h>
 
 using namespace db;
 using runtime::ErrorNumber;
@@ -61,6 +65,14 @@ TEST_F(DataSources, leaveACopyOfTheFirstFileAndKeepTheirOwnForTheUser)
               test::OwnDataSources::usersText());
     const auto rights = QFileInfo(machine().path(QStringLiteral("odbc.ini"))).permissions();
     EXPECT_FALSE(rights & (QFileDevice::ReadGroup | QFileDevice::ReadOther));
+}
+
+TEST_F(DataSources, lieInTheHomeOfTheAccountWhateverTheEnvironmentSays)
+{
+    const auto home = qScopeGuard([before = qgetenv("HOME")] { qputenv("HOME", before); });
+    qputenv("HOME", "/nowhere");
+    qunsetenv("ODBCINI");
+    EXPECT_EQ(usersFile(), QString::fromLocal8Bit(getpwuid(getuid())->pw_dir) + "/.odbc.ini");
 }
 
 TEST_F(DataSources, takeNoValueOfSeveralLines)
