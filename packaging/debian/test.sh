@@ -28,7 +28,7 @@ say "Making a Debian to install ${package##*/} in (some minutes) ..."
 make_previous
 log=$out/test.log
 if ! as_root mmdebstrap --variant=apt --format=null \
-    --include=openbox,sqlite3,xauth,xdotool,xvfb \
+    --include=openbox,procps,xdotool,xvfb \
     --customize-hook="cp '$out/previous.deb' '$package' '$project/packaging/debian/use.sh' \"\$1/root/\"" \
     --customize-hook="mv \"\$1/root/${package##*/}\" \"\$1/root/tempora.deb\"" \
     --customize-hook='chroot "$1" /root/use.sh >&2' \
