@@ -109,7 +109,8 @@ void checkText(fuzz::Input& input)
     const QString text =
         lookup::composeCellText(rowOf(allColumns(), values), room, options, types, missing).text;
     constexpr qsizetype ownSigns = 150;
-    require(text.size() <= 2 * length + ownSigns, "a text is made of the row's fields", text);
+    constexpr qsizetype courses = 3; // each tells the class: one of the A rooms, two of week B
+    require(text.size() <= courses * length + ownSigns, "a text is made of the row's fields", text);
     require(text.endsWith(options.separator) || text.isEmpty(), "a text ends", text);
     const bool isThere = std::any_of(values.begin(), values.end(), [&](const db::Value& value) {
         return value.toJoinedText() == room;
