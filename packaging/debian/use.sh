@@ -25,7 +25,8 @@ await() {
 nothing_runs() { ! pgrep -u tester -x tempora; }
 
 apt-get -q update
-apt-get -q -y install /root/previous.deb
+# As on any Debian; the one made here leaves out what is only recommended, the databases' drivers.
+apt-get -q -y -o APT::Install-Recommends=true install /root/previous.deb
 [[ $(version) == 0.9.0-1 ]] || fail "the previous version is $(version)"
 mkdir -p /etc/tempora/app_data
 printf '$host="db.example.org";\n' >/etc/tempora/app_data/SaKalo.php
@@ -42,12 +43,16 @@ user 'tempora --version' | grep -q '^Tempora ' || fail "--version"
 # The window, on a screen of its own. The first start has no data source: Enter leads from the message
 # to the program that chooses the database, and through its two pages to the plan.
 shown() { user "DISPLAY=:5 xdotool search --onlyvisible --name '$1'"; }
-press() { user "DISPLAY=:5 xdotool search --onlyvisible --name '$1' windowfocus --sync key Return"; }
+press() {
+    user "DISPLAY=:5 xdotool search --onlyvisible --name '$1' windowactivate --sync" &&
+        user 'DISPLAY=:5 xdotool key Return'
+}
 # By Enter, for as long as there are pages.
 led_to_the_plan() { shown 'Planning des Classes' || { press 'choisir la base' && false; }; }
 user 'Xvfb :5 -screen 0 1366x768x24 >/dev/null 2>&1 & echo $! >~/xvfb.pid'
 await test -e /tmp/.X11-unix/X5
 user 'DISPLAY=:5 openbox >/dev/null 2>&1 & echo $! >~/openbox.pid'
+await user 'DISPLAY=:5 xdotool getactivewindow || DISPLAY=:5 xdotool get_desktop'
 user 'DISPLAY=:5 tempora >/dev/null 2>&1 &'
 await shown '^Tempora$'
 press '^Tempora$'
