@@ -1,6 +1,6 @@
 #include "app/MarkerClicks.h"
 
-#include "absences/GestureWords.h"
+#include "absences/DoneWords.h"
 #include "absences/HeldKey.h"
 #include "app/KeyState.h"
 #include "app/PlanView.h"
@@ -60,7 +60,7 @@ void MarkerClicks::mark(int marker, const std::shared_ptr<absences::AsyncKeyStat
                         const QString& otherwise)
 {
     m_forward([this, marker, keys, otherwise] {
-        const QString done = absences::gestureWords(m_engine.clickMarker(marker, *keys));
+        const QString done = absences::doneWords(m_engine.clickMarker(marker, *keys));
         tell(done.isEmpty() ? otherwise : done);
     });
 }

@@ -9,6 +9,6 @@ namespace absences
 
 /// What a click has done, in a French sentence: "Absence de 4 classes enregistrée, mardi 24/11
 /// (refaire le geste pour annuler)". Empty where it has done nothing.
-[[nodiscard]] QString gestureWords(const std::vector<Toggled>& done);
+[[nodiscard]] QString doneWords(const std::vector<Toggled>& done);
 
 } // namespace absences

@@ -1,4 +1,4 @@
-#include "absences/GestureWords.h"
+#include "absences/DoneWords.h"
 
 #include <QLocale>
 
@@ -35,7 +35,7 @@ QString words(const Toggled& toggled)
 
 } // namespace
 
-QString gestureWords(const std::vector<Toggled>& done)
+QString doneWords(const std::vector<Toggled>& done)
 {
     QStringList sentences;
     bool isRecorded = false;

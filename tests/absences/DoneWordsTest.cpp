@@ -1,8 +1,8 @@
-#include "absences/GestureWords.h"
+#include "absences/DoneWords.h"
 
 #include <gtest/gtest.h>
 
-using absences::gestureWords;
+using absences::doneWords;
 using absences::Toggled;
 
 namespace
@@ -22,49 +22,49 @@ Toggled students(const QStringList& recorded, const QStringList& takenBack = {})
 
 } // namespace
 
-TEST(GestureWords, countSeveralClasses)
+TEST(DoneWords, countSeveralClasses)
 {
-    EXPECT_EQ(gestureWords({classes({"A", "B", "C", "D"})}),
+    EXPECT_EQ(doneWords({classes({"A", "B", "C", "D"})}),
               "Absence de 4 classes enregistrée, mardi 24/11 (refaire le geste pour annuler)");
 }
 
-TEST(GestureWords, nameASingleClass)
+TEST(DoneWords, nameASingleClass)
 {
-    EXPECT_EQ(gestureWords({classes({"G1"})}),
+    EXPECT_EQ(doneWords({classes({"G1"})}),
               "Absence de G1 enregistrée, mardi 24/11 (refaire le geste pour annuler)");
-    EXPECT_EQ(gestureWords({students({"G1"})}),
+    EXPECT_EQ(doneWords({students({"G1"})}),
               "Absence d’étudiants de G1 enregistrée, mardi 24/11 (refaire le geste pour annuler)");
 }
 
-TEST(GestureWords, tellWhatWasTakenBack)
+TEST(DoneWords, tellWhatWasTakenBack)
 {
-    EXPECT_EQ(gestureWords({classes({}, {"G1"})}), "Absence de G1 retirée, mardi 24/11");
-    EXPECT_EQ(gestureWords({students({}, {"A", "B"})}),
+    EXPECT_EQ(doneWords({classes({}, {"G1"})}), "Absence de G1 retirée, mardi 24/11");
+    EXPECT_EQ(doneWords({students({}, {"A", "B"})}),
               "Absence d’étudiants de 2 classes retirée, mardi 24/11");
 }
 
-TEST(GestureWords, tellBothWhereClassesDiffered)
+TEST(DoneWords, tellBothWhereClassesDiffered)
 {
-    EXPECT_EQ(gestureWords({classes({"B", "C"}, {"A"})}),
+    EXPECT_EQ(doneWords({classes({"B", "C"}, {"A"})}),
               "Absence de 2 classes enregistrée, celle de A retirée, mardi 24/11 (refaire le geste "
               "pour annuler)");
 }
 
-TEST(GestureWords, tellBothGesturesOfOneClick)
+TEST(DoneWords, tellBothGesturesOfOneClick)
 {
     EXPECT_EQ(
-        gestureWords({students({"A"}), classes({}, {"A"})}),
+        doneWords({students({"A"}), classes({}, {"A"})}),
         "Absence d’étudiants de A enregistrée ; absence de A retirée, mardi 24/11 (refaire le "
         "geste pour annuler)");
 }
 
-TEST(GestureWords, sayThatAClassHasNoName)
+TEST(DoneWords, sayThatAClassHasNoName)
 {
-    EXPECT_EQ(gestureWords({classes({""})}), "Absence de la classe sans nom enregistrée, mardi "
-                                             "24/11 (refaire le geste pour annuler)");
+    EXPECT_EQ(doneWords({classes({""})}), "Absence de la classe sans nom enregistrée, mardi "
+                                          "24/11 (refaire le geste pour annuler)");
 }
 
-TEST(GestureWords, areEmptyWhereNothingWasDone)
+TEST(DoneWords, areEmptyWhereNothingWasDone)
 {
-    EXPECT_EQ(gestureWords({}), QString());
+    EXPECT_EQ(doneWords({}), QString());
 }
