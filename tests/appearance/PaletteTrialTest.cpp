@@ -1,5 +1,6 @@
 // A palette that is tried on another table, and the way back to "Défaut".
 
+#include "appearance/IdlePlan.h"
 #include "appearance/Palette.h"
 
 #include <QFile>
@@ -12,15 +13,6 @@ using form::Colour;
 
 namespace
 {
-
-class IdlePlan : public context::PlanActions
-{
-public:
-    void RefreshPlan() override {}
-    void PlaceRoomRows() override {}
-    void Command2_Click() override {}
-    void Command3_Click() override {}
-};
 
 /// A folder of palettes.
 class PaletteTrial : public testing::Test
@@ -65,7 +57,7 @@ TEST_F(PaletteTrial, isNoneWhereTheFileIsNone)
 
 TEST_F(PaletteTrial, isForgottenWithTheDefault)
 {
-    IdlePlan plan;
+    test::IdlePlan plan;
     form::PlanForm form;
     plan::RowColors colors(runtime::RandomSource(1));
     QString answer = fourColors();

@@ -1,3 +1,4 @@
+#include "appearance/IdlePlan.h"
 #include "appearance/Palette.h"
 #include "appearance/PaletteFile.h"
 #include "paint/CellBox.h"
@@ -18,20 +19,11 @@ using form::Colour;
 namespace
 {
 
-class IdlePlan : public context::PlanActions
-{
-public:
-    void RefreshPlan() override {}
-    void PlaceRoomRows() override {}
-    void Command2_Click() override {}
-    void Command3_Click() override {}
-};
-
 /// The table of row colours after the load of one palette.
 struct LoadedPalette {
     explicit LoadedPalette(const QString& path)
     {
-        IdlePlan plan;
+        test::IdlePlan plan;
         const auto cancel = [](const QString&, const QString&) { return QString(); };
         appearance::Palette(colors, form, plan, QString(), cancel).Charger_Palette(path);
     }
