@@ -55,14 +55,14 @@ QString roomWords(const PlanRow& row)
            (row.places == u"1" ? QStringLiteral(" place") : QStringLiteral(" places"));
 }
 
-QString weekWords(const form::PlanForm& form)
+} // namespace
+
+QString chosenWeekWords(const form::PlanForm& form)
 {
     return form.OptA().isSelected()   ? QStringLiteral(" en semaine A")
            : form.OptB().isSelected() ? QStringLiteral(" en semaine B")
                                       : QString();
 }
-
-} // namespace
 
 std::optional<DayStretch> emptyStretch(const PlanState& state, const PlanRow& row, int minute)
 {
@@ -105,10 +105,10 @@ QString emptyPlaceWords(const PlanState& state, const PlanRow& row, int minute)
         return roomWords(row) + QStringLiteral(", pas d’examen") + when +
                QStringLiteral("\nCours et rattrapages non compris");
     case Asked::Courses:
-        return roomWords(row) + QStringLiteral(", libre") + when + weekWords(state.form) +
+        return roomWords(row) + QStringLiteral(", libre") + when + chosenWeekWords(state.form) +
                QStringLiteral("\nRattrapages et examens non compris");
     case Asked::CoursesAndMakeUps:
-        return roomWords(row) + QStringLiteral(", libre") + when + weekWords(state.form) +
+        return roomWords(row) + QStringLiteral(", libre") + when + chosenWeekWords(state.form) +
                QStringLiteral("\nExamens non compris");
     }
     return roomWords(row);

@@ -25,6 +25,9 @@ struct DayStretch {
 [[nodiscard]] std::optional<DayStretch> emptyStretch(const PlanState& state, const PlanRow& row,
                                                      int minute);
 
+/// " en semaine A", where one week of the two is chosen; empty for both.
+[[nodiscard]] QString chosenWeekWords(const form::PlanForm& form);
+
 /// "Salle 106, 60 places, libre de 9h30 à 11h00" and what that leaves open; the room and its places
 /// alone where nothing is known.
 [[nodiscard]] QString emptyPlaceWords(const PlanState& state, const PlanRow& row, int minute);

@@ -1,6 +1,7 @@
 #include "plan/EmptyPlan.h"
 
 #include "context/PageRule.h"
+#include "plan/EmptyPlace.h"
 
 #include <algorithm>
 
@@ -57,7 +58,7 @@ bool showsAnything(const form::PlanForm& form)
            (form.OpExam().isSelected() && form.xOpExam.isChecked());
 }
 
-QString noBoxReason(const PlanState& state)
+QString noBoxReason(const PlanState& state, const PlanContent& content)
 {
     const form::PlanForm& form = state.form;
     if (form.CbJour.listIndex() < 0) {
@@ -73,9 +74,18 @@ QString noBoxReason(const PlanState& state)
     const QString what = isExam ? QStringLiteral("Aucun examen") : QStringLiteral("Aucune séance");
     const QString subject =
         form.Check1.isChecked() ? QStringLiteral(" de « %1 »").arg(form.Cb_Mat.text()) : QString();
-    const QString week = isExam ? QStringLiteral(" de cette semaine d’examen") : QString();
-    return QStringLiteral("%1%2 dans ces salles le %3%4.")
-        .arg(what, subject, form.CbJour.text().toLower(), week);
+    const QString week =
+        isExam ? QStringLiteral(" de cette semaine d’examen") : chosenWeekWords(form);
+    const bool isUntold = std::any_of(content.rows.begin(), content.rows.end(),
+                                      [](const PlanRow& row) { return !row.untold.empty(); });
+    const QString shown = isUntold ? QStringLiteral(" à montrer") : QString();
+    const QString others =
+        !isUntold ? QString()
+        : isExam  ? QStringLiteral(" D’autres examens y sont, que ces choix ne montrent pas.")
+                  : QStringLiteral(" D’autres séances y sont, que ces choix ne montrent pas.");
+    return QStringLiteral("%1%2%3 dans ces salles le %4%5.")
+               .arg(what, subject, shown, form.CbJour.text().toLower(), week) +
+           others;
 }
 
 } // namespace
@@ -92,7 +102,7 @@ QString emptyPlanReason(const PlanState& state, const PlanContent& content)
     const bool isEmpty =
         std::all_of(content.rows.begin(), content.rows.end(),
                     [](const PlanRow& row) { return row.boxes.empty() && row.unknown.empty(); });
-    return isWhole && isEmpty ? noBoxReason(state) : QString();
+    return isWhole && isEmpty ? noBoxReason(state, content) : QString();
 }
 
 } // namespace plan

@@ -114,7 +114,31 @@ TEST_P(TheEmptyPlan, namesADayWithoutCourses)
     form.CbJour.setListIndex(1);
     EXPECT_EQ(reason(), QString());
     form.Check1.setChecked(true); // Algèbre
-    EXPECT_EQ(reason(), "Aucune séance de « Algèbre » dans ces salles le mardi.");
+    EXPECT_EQ(reason(), "Aucune séance de « Algèbre » à montrer dans ces salles le mardi. D’autres "
+                        "séances y sont, que ces choix ne montrent pas.");
+}
+
+TEST_P(TheEmptyPlan, namesTheChosenWeekAndTellsWhatIsHeldInTheOther)
+{
+    form.OptA().select();
+    form.CbJour.setListIndex(2);
+    EXPECT_EQ(reason(), "Aucune séance dans ces salles le mercredi en semaine A.");
+    database().execute("update emplois set newnature='10/20' where Seance='Mardi2'");
+    form.OptB().select();
+    form.CbJour.setListIndex(1);
+    EXPECT_EQ(reason(), "Aucune séance à montrer dans ces salles le mardi en semaine B. D’autres "
+                        "séances y sont, que ces choix ne montrent pas.");
+    form.OptFixe().select();
+    EXPECT_EQ(reason(), QString());
+}
+
+TEST_P(TheEmptyPlan, doesNotSayThatARoomIsEmptyThatNoBoxTells)
+{
+    database().execute("update emplois set Salle=null, YSalle='A2' where Seance='Mardi2'");
+    form.CbJour.setListIndex(1);
+    EXPECT_EQ(reason(),
+              "Aucune séance à montrer dans ces salles le mardi. D’autres séances y sont, "
+              "que ces choix ne montrent pas.");
 }
 
 TEST_P(TheEmptyPlan, namesADayWithoutExams)
