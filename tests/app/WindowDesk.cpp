@@ -1,10 +1,26 @@
 #include "app/WindowDesk.h"
 
+#include <QTimer>
+
 namespace test
 {
+namespace
+{
+
+/// A window that was left while no event loop ran leaves its wish to end behind, which the next
+/// loop would obey: a message box would close as soon as it opens. Only a loop of the application
+/// itself takes the wish away.
+void forgetFormerEnd()
+{
+    QTimer::singleShot(0, QCoreApplication::instance(), [] { QCoreApplication::exit(); });
+    static_cast<void>(QApplication::exec());
+}
+
+} // namespace
 
 void TheWindow::create()
 {
+    forgetFormerEnd();
     engine::Surroundings environment;
     environment.applicationFolder = setup.applicationFolder();
     environment.today = [] { return QDate(2025, 3, 19); };
