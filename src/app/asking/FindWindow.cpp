@@ -4,6 +4,7 @@
 #include "answers/WeekBox.h"
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
+#include "app/asking/AskingFields.h"
 #include "app/asking/ShownDay.h"
 
 #include <QHBoxLayout>
@@ -81,7 +82,9 @@ FindWindow::FindWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     m_list->header()->resizeSection(2, 130);
 
     auto* column = new QVBoxLayout(this);
-    column->addWidget(m_text);
+    auto* words = new QHBoxLayout;
+    addField(words, QStringLiteral("&Qui ou quoi"), m_text);
+    column->addLayout(words);
     column->addWidget(m_list, 1);
     column->addWidget(statusLine());
     auto* buttons = new QHBoxLayout;

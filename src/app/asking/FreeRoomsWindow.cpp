@@ -59,7 +59,9 @@ FreeRoomsWindow::FreeRoomsWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     buildFields();
     buildList();
     auto* column = new QVBoxLayout(this);
-    column->addWidget(m_line);
+    auto* words = new QHBoxLayout;
+    addField(words, QStringLiteral("En quelques &mots"), m_line);
+    column->addLayout(words);
     column->addLayout(fieldRows());
     column->addWidget(m_list, 1);
     column->addWidget(statusLine());
@@ -88,8 +90,7 @@ void FreeRoomsWindow::buildFields()
     m_line = new QLineEdit;
     m_line->setObjectName(QStringLiteral("QuickQuestion"));
     m_line->setAccessibleName(QStringLiteral("Salle cherchée, en quelques mots"));
-    m_line->setPlaceholderText(
-        QStringLiteral("En quelques mots : mardi 9h30 40 places   ou   24/11 14h-16h zone 2"));
+    m_line->setPlaceholderText(QStringLiteral("mardi 9h30 40 places   ou   24/11 14h-16h zone 2"));
     m_line->setClearButtonEnabled(true);
     m_day = new QComboBox;
     m_day->setObjectName(QStringLiteral("AskedDay"));
@@ -97,7 +98,7 @@ void FreeRoomsWindow::buildFields()
     for (const QString& name : runtime::frenchDayNames()) {
         m_day->addItem(name);
     }
-    m_isDated = new QCheckBox(QStringLiteral("Le"));
+    m_isDated = new QCheckBox(QStringLiteral("&Le"));
     m_isDated->setObjectName(QStringLiteral("AskedByDate"));
     setPlainToolTip(m_isDated, QStringLiteral("Demander une date : ses rattrapages et ses examens "
                                               "comptent"));
@@ -146,7 +147,7 @@ QLayout* FreeRoomsWindow::fieldRows()
     when->addWidget(m_date);
     addField(when, QStringLiteral("&De"), m_from);
     addField(when, QStringLiteral("&à"), m_to);
-    addField(when, QStringLiteral("P&laces"), m_places);
+    addField(when, QStringLiteral("Pla&ces"), m_places);
     when->addStretch();
     auto* which = new QHBoxLayout;
     addField(which, QStringLiteral("&Semaine"), m_week);

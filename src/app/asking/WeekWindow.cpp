@@ -117,7 +117,7 @@ void WeekWindow::buildFields()
     m_name->setAccessibleName(QStringLiteral("Nom"));
     m_name->setEditable(true);
     m_name->setInsertPolicy(QComboBox::NoInsert);
-    m_name->setMinimumContentsLength(22);
+    m_name->setMinimumContentsLength(12);
     m_name->completer()->setCompletionMode(QCompleter::PopupCompletion);
     m_name->completer()->setFilterMode(Qt::MatchContains);
     m_week = weekList(QStringLiteral("WeekWeek"));
@@ -146,7 +146,8 @@ QLayout* WeekWindow::fieldRow()
 {
     auto* row = new QHBoxLayout;
     addField(row, QStringLiteral("Semaine &de"), m_kind);
-    row->addWidget(m_name, 1);
+    addField(row, QStringLiteral("&Nom"), m_name);
+    row->setStretchFactor(m_name, 1);
     const auto arrow = [&](const QString& text, const char* name, const QString& help, int step) {
         auto* button = new QPushButton(text);
         button->setObjectName(QString::fromLatin1(name));
@@ -159,7 +160,7 @@ QLayout* WeekWindow::fieldRow()
     arrow(QStringLiteral("◀"), "PreviousName", QStringLiteral("Précédent (flèche gauche)"), -1);
     arrow(QStringLiteral("▶"), "NextName", QStringLiteral("Suivant (flèche droite)"), 1);
     row->addSpacing(12);
-    row->addWidget(m_week);
+    addField(row, QStringLiteral("&Semaine"), m_week);
     row->addWidget(m_isDated);
     row->addWidget(m_date);
     row->addStretch();
