@@ -98,7 +98,8 @@ run_tests() {
 
 # mariadb-server would bring a system service that starts at once; the tests start servers of their
 # own and need only the programs, which lie in the two core packages.
-packages=("${build_packages[@]}" appstream bash-completion ccache desktop-file-utils libbenchmark-dev libgtest-dev libpaper1 libsm-dev lld man-db
+packages=("${build_packages[@]}" appstream at-spi2-core bash-completion ccache dbus-daemon
+    desktop-file-utils libbenchmark-dev libgtest-dev libpaper1 libsm-dev lld man-db
     mariadb-client-core mariadb-server-core openbox poppler-utils python3-icalendar tzdata
     xdotool xvfb)
 preset="test"

@@ -10,6 +10,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTimer>
 #include <algorithm>
 
 namespace app
@@ -225,7 +226,8 @@ void PlanView::focusInEvent(QFocusEvent* event)
         m_focusIsShown = false;
     }
     if (cursor()) {
-        tellScreenReadersOfCursor(*this);
+        // The toolkit tells of the plan as a whole after this: the cell has the last word.
+        QTimer::singleShot(0, this, [this] { tellScreenReadersOfCursor(*this); });
     }
     viewport()->update();
 }
