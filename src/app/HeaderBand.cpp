@@ -3,6 +3,7 @@
 #include "app/ElidedLabel.h"
 #include "app/FormMirror.h"
 #include "app/Mnemonics.h"
+#include "app/PlainTexts.h"
 #include "engine/Engine.h"
 #include "print/Heading.h"
 
@@ -57,8 +58,9 @@ HeaderBand::HeaderBand(engine::Engine& engine, FormMirror& mirror, QAction* help
     auto* dates = new QHBoxLayout;
     dates->setSpacing(6);
     for (int index = 0; index < 4; ++index) {
-        auto* date = label(QStringLiteral("Label4_%1").arg(index),
-                           index % 2 == 1 ? QStringLiteral("date") : QStringLiteral("note"));
+        auto* date = plainLabel(); // half a date is none: what is beside gives way
+        date->setObjectName(QStringLiteral("Label4_%1").arg(index));
+        date->setProperty("role", index % 2 == 1 ? QStringLiteral("date") : QStringLiteral("note"));
         mirror.bind(date, form.Label4.at(static_cast<std::size_t>(index)));
         dates->addWidget(date);
     }

@@ -52,6 +52,18 @@ TEST_F(TheHeaderBand, tellsThePeriodWithItsDates)
     EXPECT_EQ(text("Label4_1"), "16/SEPTEMBRE/2024");
 }
 
+TEST_F(TheHeaderBand, keepsItsDatesWholeHoweverNarrowItIs)
+{
+    for (const char* name : {"Label4_0", "Label4_1", "Label4_2", "Label4_3"}) {
+        const auto* date = band().findChild<QLabel*>(name);
+        ASSERT_NE(date, nullptr);
+        EXPECT_GE(date->minimumSizeHint().width(),
+                  date->fontMetrics().horizontalAdvance(date->text()))
+            << name;
+    }
+    EXPECT_LT(band().minimumSizeHint().width(), 900);
+}
+
 TEST_F(TheHeaderBand, tellsTheExamWeekWithThePeriod)
 {
     desk.form().OpExam().select();
