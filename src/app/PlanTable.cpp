@@ -162,6 +162,9 @@ QString PlanTable::nameOf(const Cell& cell) const
     parts << (week.isEmpty() ? QString() : QStringLiteral("semaine ") + week);
     parts += plan::groupWords(m_state.form, *box);
     parts += plan::remarkWords(m_state.form, *box);
+    for (const QString& other : plan::overlapWords(row, *box)) {
+        parts << plan::SanitizeCellText(other);
+    }
     return inOneLine(parts);
 }
 

@@ -4,7 +4,6 @@
 #include "plan/BoxWords.h"
 #include "plan/ClassList.h"
 #include "plan/RoomRows.h"
-#include "plan/RowLanes.h"
 
 #include <QStringList>
 
@@ -48,14 +47,6 @@ QStringList absenceLines(const plan::PlanBox& box)
     return lines;
 }
 
-/// "10h00 à 11h30, L2 INFO".
-QString overlapWords(const plan::PlanBox& box)
-{
-    const QString when = plan::stretchWords(box.cell.CellStart, QStringLiteral(" à "), box.minutes);
-    return QStringList{when, plan::writtenLines(box.cell.CellText).value(0)}.join(
-        QStringLiteral(", "));
-}
-
 } // namespace
 
 QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const plan::PlanBox& box)
@@ -75,9 +66,7 @@ QString boxToolTip(const form::PlanForm& form, const plan::PlanRow& row, const p
         lines += groupLines(row, box);
     }
     lines += absenceLines(box);
-    for (const plan::PlanBox* other : plan::overlapping(row, box)) {
-        lines << QStringLiteral("En même temps : ") + overlapWords(*other);
-    }
+    lines += plan::overlapWords(row, box);
     return lines.join(u'\n');
 }
 

@@ -1,6 +1,8 @@
 #include "plan/BoxWords.h"
 
+#include "plan/BoxLines.h"
 #include "plan/ClassList.h"
+#include "plan/RowLanes.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/TimeOfDay.h"
 
@@ -47,6 +49,18 @@ QString weekLetter(const PlanBox& box)
         return {};
     }
     return box.cell.week == timetable::Week::A ? QStringLiteral("A") : QStringLiteral("B");
+}
+
+QStringList overlapWords(const PlanRow& row, const PlanBox& box)
+{
+    QStringList words;
+    for (const PlanBox* other : overlapping(row, box)) {
+        QStringList parts{
+            stretchWords(other->cell.CellStart, QStringLiteral(" à "), other->minutes)};
+        parts += writtenLines(other->cell.CellText).mid(0, 1);
+        words << QStringLiteral("En même temps : ") + parts.join(QStringLiteral(", "));
+    }
+    return words;
 }
 
 QStringList remarkWords(const form::PlanForm& form, const PlanBox& box)

@@ -25,6 +25,10 @@ namespace plan
 /// others may be held in the other week, and for a make-up, which has a date.
 [[nodiscard]] QString weekLetter(const PlanBox& box);
 
+/// "En même temps : 10h00 à 11h30, L2 INFO" for each box of the row that is there at the same time
+/// as this one of its boxes, with which it shares the height of the row.
+[[nodiscard]] QStringList overlapWords(const PlanRow& row, const PlanBox& box);
+
 /// What hatching, the red label and the absence pictures say.
 [[nodiscard]] QStringList remarkWords(const form::PlanForm& form, const PlanBox& box);
 

@@ -75,6 +75,25 @@ TEST_F(TheTable, saysInWhichWeekAloneABoxIs)
     EXPECT_EQ(table().nameOf(*table().cellAt(1, 1)), before + ", semaine A");
 }
 
+TEST_F(TheTable, saysWhatElseIsInTheRoomAtTheSameTime)
+{
+    desk.rows = {};
+    desk.meeting(1, 1).set("Durée", "120"); // from 8h00, half an hour into the next
+    desk.meeting(1, 2).set("Classe", "GC2");
+    desk.draw();
+    const auto ends = [this](int column, const QString& words) {
+        const QString name = table().nameOf(*table().cellAt(0, column));
+        EXPECT_TRUE(name.endsWith(words)) << name.toStdString();
+    };
+    ends(1, ", En même temps : 9h30 à 11h00, GC2 Dupont Algèbre");
+    ends(2, ", En même temps : 8h00 à 10h00, GC1 Dupont Algèbre");
+    desk.rows = {};
+    desk.meeting(1, 1).set("Durée", "90"); // to the minute
+    desk.meeting(1, 2).set("Classe", "GC2");
+    desk.draw();
+    EXPECT_FALSE(table().words().join('\n').contains("En même temps"));
+}
+
 TEST_F(TheTable, joinsTheColumnsThatASeanceReachesInto)
 {
     QStringList cells;
