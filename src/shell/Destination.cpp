@@ -68,7 +68,8 @@ Destination Destination::of(const timetable::Occupancy& occupancy, timetable::Ho
             break;
         }
     }
-    destination.day = holding.day;
+    // The window counts the days of an exam week from its first one, whichever that is.
+    destination.day = meeting.kind == MeetingKind::Exam ? meeting.slot.day : holding.day;
     destination.date = holding.date;
     destination.slot = meeting.slot.number;
     destination.examWeek = meeting.examWeek;

@@ -13,7 +13,8 @@ namespace shell
 struct Destination {
     timetable::MeetingKind kind = timetable::MeetingKind::Course;
     QString room;                ///< as the room table spells it
-    int day = timetable::kNoDay; ///< 0 to 6; no day: the one that is shown
+    /// 0 to 6, of an exam counted from the first day of its week; no day: the one that is shown
+    int day = timetable::kNoDay;
     QDate date;                  ///< of what has one, or was asked about by date
     int slot = 0;                ///< the box's, counting from 1; 0 for the row alone
     int examWeek = 0;            ///< of exams: 1 to 3

@@ -36,13 +36,14 @@ void Occupancy::place(int position)
         break;
     case MeetingKind::MakeUp:
         common.date = meeting.date;
-        common.day = meeting.date.isValid() ? dayOf(meeting.date) : kNoDay;
         break;
     case MeetingKind::Exam:
         common.date =
             m_timetable->examWeeks().date(meeting.examWeek, meeting.slot.day).value_or(QDate());
-        common.day = common.date.isValid() ? meeting.slot.day : kNoDay;
         break;
+    }
+    if (common.date.isValid()) {
+        common.day = dayOf(common.date);
     }
     if (common.day != kNoDay) {
         common.time = timeOf(meeting, common.day);

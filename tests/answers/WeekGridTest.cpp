@@ -75,6 +75,17 @@ TEST_F(TheGrid, tellsOnceWhatHasNoKnownTime)
     EXPECT_FALSE(week.isEmpty());
 }
 
+TEST_F(TheGrid, hasAnExamInTheColumnOfItsDate)
+{
+    school.draft().examWeeks(QDate(2027, 1, 7), {}, {}); // a Thursday
+    ClashRow row{"Mardi1", "R1", "L1"};                  // the second day of that week
+    row.week = "1";
+    school.exam(row);
+    const WeekGrid week = grid({Week::Every, QDate(2027, 1, 4)});
+    ASSERT_EQ(week.boxes.size(), 1);
+    EXPECT_EQ(week.days.at(static_cast<std::size_t>(week.boxes[0].day)).title, "Vendredi 08/01");
+}
+
 TEST_F(TheGrid, ofADateHasItsDates)
 {
     EXPECT_EQ(grid({Week::Every, QDate(2026, 11, 26)}).days[1].title, "Mardi 24/11");

@@ -22,6 +22,7 @@ protected:
         m_desk->start();
     }
     shell::Shell& shell() { return m_desk->shell(); }
+    void execute(const QString& statement) { m_database.execute(statement); }
     form::PlanForm& form() { return shell().form(); }
     /// Where the meeting of this room, day and subject is to be seen.
     shell::Destination of(const QString& room, int day, const QString& subject,
@@ -101,6 +102,17 @@ TEST_F(TheDestination, ofAnExamIsItsExamWeek)
     shell::travel(shell(), of("A2", 1, "Chimie"));
     EXPECT_TRUE(form().OpEns().isSelected());
     EXPECT_TRUE(box("A2", 2).contains("Chimie"));
+}
+
+TEST_F(TheDestination, ofAnExamCountsTheDaysOfItsWeekAsTheWindowDoes)
+{
+    execute("update dat_exam set Semaine1 = '2025-06-05'"); // a Thursday
+    const shell::Destination exam = of("A2", 3, "Algèbre", MeetingKind::Exam);
+    EXPECT_EQ(exam.date, QDate(2025, 6, 5));
+    EXPECT_EQ(exam.day, 0); // "Lundi" is the first day of the exam week
+    shell::travel(shell(), exam);
+    EXPECT_EQ(form().CbJour.listIndex(), 0);
+    EXPECT_TRUE(box("A2", 1).contains("Algèbre"));
 }
 
 TEST_F(TheDestination, ofTheOtherWeekChangesTheWeek)

@@ -181,6 +181,19 @@ TEST_F(DaysOfARow, ofAnExamAreTheDayOfItsExamWeek)
     EXPECT_EQ(held(occupancy, When::weekday(2)), 0U);
 }
 
+TEST_F(DaysOfARow, ofAnExamAreItsDatesWhereItsWeekDoesNotBeginOnAMonday)
+{
+    m_draft.slot("Vendredi1", "8h30", "10h00");
+    m_draft.examWeeks(QDate(2027, 1, 7), QDate(2027, 1, 11), QDate(2026, 11, 9)); // a Thursday
+    exam("Mardi1", "1");                                                          // its second day
+    const Occupancy occupancy = m_draft.occupancy();
+    const auto found = occupancy.holders(RoomId(0), When::date({2027, 1, 8}));
+    ASSERT_EQ(found.size(), 1U);
+    const Holder holder = occupancy.describe(occupancy.holding(found[0]));
+    EXPECT_EQ(holder.day, 4); // a Friday, and at the hour of Friday's slot
+    EXPECT_EQ(holder.time, (TimeSpan{{510}, {90}}));
+}
+
 TEST_F(DaysOfARow, ofExamsAndCoursesMayBeTheSame)
 {
     exam("Samedi2", "3"); // the control week lies within the period
