@@ -8,6 +8,7 @@ namespace answers
 using timetable::HoldingId;
 using timetable::RoomId;
 using timetable::RoomNameId;
+using timetable::Week;
 
 bool ClashRules::areOneCourse(HoldingId left, HoldingId right) const
 {
@@ -16,10 +17,14 @@ bool ClashRules::areOneCourse(HoldingId left, HoldingId right) const
     return one.start == other.start && one.teacher == other.teacher && one.subject == other.subject;
 }
 
-bool ClashRules::shareRoom(HoldingId left, HoldingId right) const
+Week ClashRules::commonWeeks(HoldingId left, HoldingId right) const
 {
-    const std::array<RoomNameId, 2>& ones = facts(left).rooms;
-    const std::array<RoomNameId, 2>& others = facts(right).rooms;
+    const Week weeks = facts(left).weeks;
+    return weeks == Week::Every ? facts(right).weeks : weeks;
+}
+
+bool ClashRules::shareRoom(const RoomNames& ones, const RoomNames& others) const
+{
     if (ones.front() == others.front()) { // as most do that are compared
         return true;
     }
@@ -39,23 +44,41 @@ bool ClashRules::shareRoom(HoldingId left, HoldingId right) const
     });
 }
 
-bool ClashRules::clashOverRoom(HoldingId left, HoldingId right) const
+std::optional<Week> ClashRules::weeksApart(HoldingId left, HoldingId right) const
 {
-    return facts(left).meeting != facts(right).meeting && !areOneCourse(left, right);
+    const HoldingFacts& one = facts(left);
+    const HoldingFacts& other = facts(right);
+    if (shareRoom(one.rooms, other.rooms)) {
+        return std::nullopt;
+    }
+    const Week common = commonWeeks(left, right);
+    const bool hasMoreInA = one.roomsInA != one.rooms || other.roomsInA != other.rooms;
+    if (common == Week::B || !hasMoreInA || !shareRoom(one.roomsInA, other.roomsInA)) {
+        return common;
+    }
+    return common == Week::Every ? std::optional(Week::B) : std::nullopt;
 }
 
-bool ClashRules::clashOverTeacher(HoldingId left, HoldingId right) const
+std::optional<Week> ClashRules::clashOverRoom(HoldingId left, HoldingId right) const
+{
+    const bool isClash = facts(left).meeting != facts(right).meeting && !areOneCourse(left, right);
+    return isClash ? std::optional(commonWeeks(left, right)) : std::nullopt;
+}
+
+std::optional<Week> ClashRules::clashOverTeacher(HoldingId left, HoldingId right) const
 {
     const HoldingFacts& one = facts(left);
     const HoldingFacts& other = facts(right);
     const bool isOnePart = one.meeting == other.meeting && one.part == other.part;
-    return !isOnePart && !shareRoom(left, right);
+    return isOnePart ? std::nullopt : weeksApart(left, right);
 }
 
-bool ClashRules::clashOverClass(HoldingId left, HoldingId right) const
+std::optional<Week> ClashRules::clashOverClass(HoldingId left, HoldingId right) const
 {
-    return facts(left).meeting != facts(right).meeting &&
-           !(areOneCourse(left, right) && shareRoom(left, right));
+    if (facts(left).meeting == facts(right).meeting) {
+        return std::nullopt;
+    }
+    return areOneCourse(left, right) ? weeksApart(left, right) : commonWeeks(left, right);
 }
 
 } // namespace answers

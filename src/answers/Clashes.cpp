@@ -30,12 +30,8 @@ struct Kinds {
     ClashKind withMakeUp;
 };
 
-Week commonWeek(Week left, Week right)
-{
-    return left == Week::Every ? right : left;
-}
-
-/// Those that clash in pairs by `rule`. The candidates are of one day, by start.
+/// Those that clash in pairs by `rule`, which tells in which weeks. The candidates are of one day,
+/// by start.
 template <typename Rule>
 std::vector<ClashGroup> clashing(const ClashRules& rules, std::span<const HoldingId> candidates,
                                  Rule rule)
@@ -53,15 +49,19 @@ std::vector<ClashGroup> clashing(const ClashRules& rules, std::span<const Holdin
         });
         for (const std::size_t position : present) {
             const HoldingFacts& there = rules.facts(candidates[position]);
-            if (timetable::shareWeek(there.weeks, coming.weeks) &&
-                rule(candidates[position], candidates[next])) {
-                if (!groups) {
-                    groups.emplace(candidates);
-                }
-                groups->join(position, next,
-                             {commonWeek(there.weeks, coming.weeks),
-                              timetable::between(coming.start, std::min(there.end, coming.end))});
+            if (!timetable::shareWeek(there.weeks, coming.weeks)) {
+                continue;
             }
+            const std::optional<Week> weeks = rule(candidates[position], candidates[next]);
+            if (!weeks) {
+                continue;
+            }
+            if (!groups) {
+                groups.emplace(candidates);
+            }
+            groups->join(
+                position, next,
+                {*weeks, timetable::between(coming.start, std::min(there.end, coming.end))});
         }
         present.push_back(next);
     }
@@ -136,7 +136,7 @@ void Search::searchDiary(const QString& name, const std::vector<DiaryDay>& diary
                          const Kinds& kinds, Rule rule)
 {
     const auto withMakeUp = [&](HoldingId left, HoldingId right) {
-        return (isMakeUp(left) || isMakeUp(right)) && rule(left, right);
+        return isMakeUp(left) || isMakeUp(right) ? rule(left, right) : std::nullopt;
     };
     for (const DiaryDay& day : diary) {
         const bool isDate = day.date.isValid();

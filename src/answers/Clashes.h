@@ -54,7 +54,8 @@ struct Clash {
 ///   common course. They do not clash over their room, nor over their class where they share a
 ///   room; over their teachers they do.
 /// - The parts of one row do not clash over a room or the class. Over a teacher they do, unless
-///   they share a room: nobody is in two rooms then. The two rooms of one part are no clash.
+///   they share a room: nobody is in two rooms then. The two rooms of one part are no clash. Of
+///   an alternating course with two rooms, which rooms these are is a matter of the week.
 /// - In a room are at one moment the students of all classes there, each class once: of courses,
 ///   of make-ups and of exams each on their own. A room without places is never too full, and none
 ///   is where the students cannot be read (see Timetable::unread).

@@ -2,6 +2,24 @@
 
 namespace answers
 {
+namespace
+{
+
+/// Lets the last two know of each other where they are the two rooms of one part, which follow one
+/// another.
+void joinPart(std::vector<HoldingFacts>& all)
+{
+    if (all.size() < 2) {
+        return;
+    }
+    HoldingFacts& last = all.back();
+    HoldingFacts& before = all[all.size() - 2];
+    if (before.meeting == last.meeting && before.part == last.part) {
+        before.roomsInA = last.roomsInA = {before.rooms.front(), last.rooms.front()};
+    }
+}
+
+} // namespace
 
 std::vector<HoldingFacts> factsOf(const timetable::Occupancy& occupancy)
 {
@@ -18,7 +36,7 @@ std::vector<HoldingFacts> factsOf(const timetable::Occupancy& occupancy)
         facts.weeks = holding.weeks;
         facts.day = holding.day;
         facts.date = holding.date;
-        facts.rooms = holding.rooms;
+        facts.rooms = facts.roomsInA = holding.rooms;
         if (holding.time) {
             facts.start = holding.time->start;
             facts.end = holding.time->end();
@@ -26,6 +44,7 @@ std::vector<HoldingFacts> factsOf(const timetable::Occupancy& occupancy)
         facts.teacher = timetable.teachers().group(part.teachers.front());
         facts.subject = timetable.subjects().group(part.subject);
         facts.className = timetable.classes().group(meeting.className);
+        joinPart(all);
     }
     return all;
 }

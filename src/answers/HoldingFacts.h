@@ -20,6 +20,9 @@ struct HoldingFacts {
     int day = timetable::kNoDay; ///< as `Holding` has it, and the next two
     QDate date;
     std::array<timetable::RoomNameId, 2> rooms;
+    /// All rooms of its part in week A: of an alternating course, whose two rooms are two holdings,
+    /// the other one as well. In week B it has `rooms` alone.
+    std::array<timetable::RoomNameId, 2> roomsInA;
     timetable::MinuteOfDay start; ///< midnight where the time is not known, as is `end`
     timetable::MinuteOfDay end;
     timetable::TeacherId teacher; ///< the first one of its part

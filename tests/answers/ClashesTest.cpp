@@ -175,6 +175,31 @@ TEST_F(ClashesOfCourses, overATeacherAreNoneWhereARoomIsShared)
     EXPECT_EQ(school.told(), QStringList());
 }
 
+TEST_F(ClashesOfCourses, ofAlternatingCoursesAreNoneWhereTheirPartsShareARoom)
+{
+    // R1 in week A and R2 every week, with two classes and once with the same one in two rows.
+    ClashRow row{"Lundi1", "R1", "L1", "Durand", "Algèbre"};
+    row.nature = "10/20";
+    row.yRoom = "R2";
+    school.course(row);
+    school.course(row);
+    row.className = "L2";
+    school.course(row);
+    EXPECT_EQ(school.told(), QStringList());
+}
+
+TEST_F(ClashesOfCourses, ofAlternatingCoursesAreOfTheWeeksInWhichTheirPartsShareNone)
+{
+    ClashRow row{"Lundi1", "R1", "L1", "Durand", "Algèbre"};
+    row.nature = "10/20";
+    row.yRoom = "R2"; // in week B there alone
+    school.course(row);
+    row.nature = "00"; // in R1 every week
+    row.yRoom = {};
+    school.course(row);
+    EXPECT_EQ(school.told(), QStringList({"1 Durand 0 B L1+L1", "2 L1 0 B L1+L1"}));
+}
+
 TEST_F(ClashesOfCourses, overATeacherCountRoomsThatTheRoomTableDoesNotKnow)
 {
     school.course({"Lundi1", "Annexe", "L1", "Durand"});

@@ -139,6 +139,31 @@ private:
         const auto& part = m_occupancy.meetingOf(holding).part(holding.part);
         return m_occupancy.timetable().teachers().text(part.teachers[0]);
     }
+    [[nodiscard]] bool isIn(Week week, std::size_t index) const
+    {
+        return m_holders[index].weeks == week || m_holders[index].weeks == Week::Every;
+    }
+    /// All rooms that the holder's part of its row has in that week.
+    [[nodiscard]] QStringList roomsOfPart(std::size_t index, Week week) const
+    {
+        QStringList rooms;
+        for (std::size_t other = 0; other < m_holders.size(); ++other) {
+            const bool isSamePart =
+                m_occupancy.holdings()[other].meeting == m_occupancy.holdings()[index].meeting &&
+                m_holders[other].part == m_holders[index].part;
+            rooms += isSamePart && isIn(week, other) ? m_holders[other].rooms : QStringList();
+        }
+        return rooms;
+    }
+    /// Whether both are there in that week, in rooms of their own.
+    [[nodiscard]] bool areApartIn(Week week, std::size_t left, std::size_t right) const
+    {
+        const QStringList others = roomsOfPart(right, week);
+        const QStringList ones = roomsOfPart(left, week);
+        return isIn(week, left) && isIn(week, right) &&
+               std::none_of(ones.begin(), ones.end(),
+                            [&others](const QString& room) { return others.contains(room); });
+    }
     void compare(std::size_t leftIndex, std::size_t rightIndex)
     {
         const Holder& left = m_holders[leftIndex];
@@ -154,9 +179,8 @@ private:
             m_occupancy.holdings()[leftIndex].meeting == m_occupancy.holdings()[rightIndex].meeting;
         const bool isCommon = leftStart == rightStart && left.subject == right.subject &&
                               firstTeacher(leftIndex) == firstTeacher(rightIndex);
-        const bool shareRoom =
-            std::any_of(left.rooms.begin(), left.rooms.end(),
-                        [&right](const QString& room) { return right.rooms.contains(room); });
+        const bool shareRoom = !areApartIn(Week::A, leftIndex, rightIndex) &&
+                               !areApartIn(Week::B, leftIndex, rightIndex);
         const bool withMakeUp =
             left.kind == MeetingKind::MakeUp || right.kind == MeetingKind::MakeUp;
         const auto add = [&](int kind, const QString& name) {
