@@ -94,6 +94,15 @@ std::size_t usualColumns(MeetingKind kind)
     return kind == MeetingKind::Course ? kUsualOfCourse : columnsOf(kind).size();
 }
 
+bool isIndispensable(MeetingKind kind, std::size_t field)
+{
+    if (field < field::kSlot) {
+        const std::size_t ofPart = field % field::kPartFields;
+        return ofPart == kRoom || ofPart == kOtherRoom;
+    }
+    return field != field::kClass && (field != field::kNature || kind == MeetingKind::Course);
+}
+
 SqlName columnOf(std::size_t field)
 {
     const auto isOfField = [field](const FieldColumn& each) { return each.field == field; };

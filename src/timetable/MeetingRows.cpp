@@ -19,13 +19,18 @@ QStringList namesOf(std::span<const FieldColumn> columns)
     return names;
 }
 
-/// Where the columns of a result stand; -1 for a column that it does not have.
-std::vector<int> positionsOf(std::span<const FieldColumn> columns, const db::Columns& result)
+/// Where the columns of a result stand; -1 for a column that it does not have and need not have.
+std::vector<int> positionsOf(MeetingKind kind, const db::Columns& result)
 {
     std::vector<int> positions;
-    for (const FieldColumn& each : columns) {
+    for (const FieldColumn& each : columnsOf(kind)) {
         int& position = positions.emplace_back(-1);
         runtime::skipOnError([&] { position = result.position(each.column); });
+        if (position < 0 && isIndispensable(kind, each.field)) {
+            throw runtime::RunTimeError(
+                runtime::ErrorNumber::ItemNotFound,
+                QStringLiteral("la colonne « %1 » manque").arg(QString(each.column)));
+        }
     }
     return positions;
 }
@@ -83,7 +88,7 @@ void MeetingRows::readAll(MeetingTaker& taker)
     }
     taker.expect(rows.rows().size());
     const std::span<const FieldColumn> columns = columnsOf(m_kind);
-    const std::vector<int> positions = positionsOf(columns, *rows.columns());
+    const std::vector<int> positions = positionsOf(m_kind, *rows.columns());
     std::vector<QString> kept(columns.size());
     MeetingTexts texts;
     for (const db::Row& row : rows.rows()) {

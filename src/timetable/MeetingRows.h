@@ -35,7 +35,8 @@ public:
     /// come through. Rows that were taken by then do not count.
     /// Errors: TableMissing, DatabaseFailure.
     [[nodiscard]] bool readPacked(MeetingTaker& taker);
-    /// All columns that the table has. Errors: any of the database.
+    /// All columns that the table has. Errors: any of the database; ItemNotFound where there are
+    /// rows and the table lacks a column that is indispensable (see `isIndispensable`).
     void readAll(MeetingTaker& taker);
 
 private:

@@ -110,7 +110,8 @@ private:
     void readStudents();
     void readCapacities();
 
-    /// Runs `read`; a table that the database refuses to read is noted, and told by false.
+    /// Runs `read`; a table that the database refuses to read, or that lacks a column without which
+    /// it says nothing, is noted, and told by false.
     template <typename Read>
     bool unlessRefused(SqlName table, Read read)
     {
@@ -119,7 +120,8 @@ private:
             return true;
         } catch (const RunTimeError& error) {
             if (error.number() != ErrorNumber::TableMissing &&
-                error.number() != ErrorNumber::StatementRefused) {
+                error.number() != ErrorNumber::StatementRefused &&
+                error.number() != ErrorNumber::ItemNotFound) {
                 throw;
             }
             m_builder.addUnread({table, error.text()});

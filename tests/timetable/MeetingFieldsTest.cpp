@@ -60,6 +60,22 @@ TEST(MeetingFields, ofAnExamAreOneRoomItsTeachersAndItsWeek)
     EXPECT_EQ(columnIn(MeetingKind::Exam, field::of(Part::A, field::kOtherRoom)), QString());
 }
 
+TEST(MeetingFields, areIndispensableWhereTheySayWhichRoomIsHeldAndWhen)
+{
+    QStringList indispensable;
+    for (const FieldColumn& each : columnsOf(MeetingKind::Course)) {
+        if (isIndispensable(MeetingKind::Course, each.field)) {
+            indispensable << each.column;
+        }
+    }
+    EXPECT_EQ(indispensable, QStringList({"Salle", "YSalle", "Seance", "newnature", "Debut",
+                                          "Durée", "XSalle", "SalleB", "YSalleB", "XSalleB"}));
+    EXPECT_TRUE(isIndispensable(MeetingKind::MakeUp, field::kDate));
+    EXPECT_FALSE(isIndispensable(MeetingKind::MakeUp, field::kNature)); // it has no week
+    EXPECT_TRUE(isIndispensable(MeetingKind::Exam, field::kExamWeek));
+    EXPECT_FALSE(isIndispensable(MeetingKind::Exam, field::kClass));
+}
+
 TEST(MeetingFields, haveAColumnEach)
 {
     for (const MeetingKind kind : {MeetingKind::Course, MeetingKind::MakeUp, MeetingKind::Exam}) {

@@ -1,5 +1,6 @@
 #include "timetable/MeetingRows.h"
 
+#include "runtime/RunTimeError.h"
 #include "support/RuntimeMatchers.h"
 #include "support/Timetable.h"
 
@@ -130,8 +131,8 @@ TEST_P(TheRows, ofExamsHaveTheirWeek)
 
 TEST_P(TheRows, comeColumnByColumnWhereOneIsMissing)
 {
-    add({{"Tranche", 1}, {"Salle", "A1"}, {"XSalle", "A2"}});
-    database().execute("alter table emplois drop column XSalle");
+    add({{"Tranche", 1}, {"Salle", "A1"}, {"matière", "Algèbre"}});
+    database().execute("alter table emplois drop column `matière`");
     Rows packed;
     EXPECT_FALSE(readPacked(packed));
     EXPECT_TRUE(packed.taken.empty());
@@ -139,7 +140,26 @@ TEST_P(TheRows, comeColumnByColumnWhereOneIsMissing)
     readAll(all);
     ASSERT_EQ(all.taken.size(), 1U);
     EXPECT_EQ(all.taken[0][kSalle], QString("A1"));
-    EXPECT_EQ(all.taken[0][kXSalle], std::nullopt);
+    EXPECT_EQ(all.taken[0][kSubject], std::nullopt);
+}
+
+TEST_P(TheRows, areAFaultWithoutAColumnThatSaysWhichRoomIsHeld)
+{
+    database().execute("alter table emplois drop column XSalle");
+    Rows none;
+    readAll(none); // no row, and nothing that it would not say
+    EXPECT_TRUE(none.taken.empty());
+    add({{"Tranche", 1}, {"Salle", "A1"}});
+    Rows packed;
+    EXPECT_FALSE(readPacked(packed));
+    try {
+        Rows all;
+        readAll(all);
+        ADD_FAILURE() << "the rows were taken";
+    } catch (const runtime::RunTimeError& error) {
+        EXPECT_EQ(error.number(), runtime::ErrorNumber::ItemNotFound);
+        EXPECT_EQ(error.text(), "la colonne « XSalle » manque");
+    }
 }
 
 TEST_P(TheRows, areNotTakenForPackedWhereTheyDoNotComeApart)

@@ -210,8 +210,8 @@ TEST_P(ReadingATimetable, leavesEmptyWhatAMissingColumnWouldHold)
     tables().row("ratrap", {{"Tranche", 1}, {"Salle", "A1"}, {"DateX", QDate(2026, 11, 16)}});
     tables().row("examen", {{"Tranche", 1}, {"Salle", "A1"}, {"Semaine", 1}});
     for (const QString sql :
-         {"alter table emplois drop column XSalle", "alter table emplois drop column `Durée`",
-          "alter table ratrap drop column `XMatièreB`",
+         {"alter table emplois drop column XEnseignant1",
+          "alter table emplois drop column `matière`", "alter table ratrap drop column `XMatièreB`",
           "alter table examen drop column Enseignant3", "alter table salle drop column places",
           "alter table salle drop column Zone", "alter table salle drop column `Département`",
           "alter table classe drop column Capacite"}) {
@@ -285,6 +285,20 @@ TEST_P(ReadingATimetable, tellsWhichTablesItCouldNotRead)
     EXPECT_EQ(timetable.examWeeks(), ExamWeeks()); // not the usual ones: it may have its own
     EXPECT_EQ(timetable.sizeOf(ClassId(0)), (ClassSize{ClassId(0), std::nullopt, std::nullopt}));
     EXPECT_EQ(onMonday(timetable, "A2"), QStringList{"G1 510+90"});
+}
+
+TEST_P(ReadingATimetable, takesNoTableForReadThatDoesNotSayWhichRoomsAreHeld)
+{
+    createTinyFaculty(database());
+    database().execute(
+        {"alter table ratrap drop column DateX", "alter table examen drop column Salle"});
+    const timetable::Timetable timetable = read();
+    EXPECT_EQ(timetable.unread(),
+              (std::vector<UnreadTable>{{"ratrap", "la colonne « DateX » manque"},
+                                        {"examen", "la colonne « Salle » manque"}}));
+    EXPECT_EQ(onMonday(timetable, "A2"), QStringList{"G1 510+90"});
+    database().execute("alter table emplois drop column SalleB");
+    EXPECT_THROW(std::ignore = read(), runtime::RunTimeError);
 }
 
 TEST_P(ReadingATimetable, tellsThatStudentsHaveNoClassToBeCountedBy)
@@ -383,7 +397,7 @@ TEST_P(ReadingATimetable, takesTwelveStatementsAtMostWhereNothingComesAsItShould
 
 TEST_P(ReadingATimetable, triesOneTableAloneWhereCoursesDoNotComePacked)
 {
-    tables().statement("alter table emplois drop column XSalle");
+    tables().statement("alter table emplois drop column XEnseignant1");
     addCourse({{"Seance", "Lundi1"}, {"Classe", "c1"}});
     tables().row("ratrap", {{"Tranche", 1}, {"Classe", "c2"}});
     tables().row("examen", {{"Tranche", 1}, {"Classe", "c3"}});
