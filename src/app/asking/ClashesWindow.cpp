@@ -36,6 +36,15 @@ QString when(const answers::Clash& clash)
                : words + QStringLiteral(", ") + answers::weekWords(clash.weeks);
 }
 
+/// What a row is called: whoever walks down the first column hears many of one kind in a row.
+QString aloud(const answers::Clash& clash)
+{
+    QStringList words{answers::kindWords(clash.kind) + QStringLiteral(" : ") + clash.name,
+                      when(clash)};
+    words.removeAll(QString());
+    return words.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 ClashesWindow::ClashesWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
@@ -139,6 +148,7 @@ void ClashesWindow::list(const shell::Inquiry& inquiry)
             new QTreeWidgetItem(m_list, {answers::kindWords(clash.kind), when(clash),
                                          answers::clashSentence(inquiry.occupancy(), clash)});
         item->setData(0, kClashRole, static_cast<int>(index));
+        item->setData(0, Qt::AccessibleTextRole, aloud(clash));
         item->setToolTip(2, plainToolTip(item->text(2)));
     }
     m_list->setCurrentItem(

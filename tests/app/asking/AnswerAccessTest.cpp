@@ -126,6 +126,23 @@ TEST_F(TheAnswersAloud, sayTheirResultsAsTheyCome)
         until([&] { return spoken(*answers).startsWith("Personne ni rien ne porte ce nom"); }));
 }
 
+TEST_F(TheAnswersAloud, callEachClashByItsNameAndTime)
+{
+    database.execute(
+        {"insert into emplois (Tranche, Seance, Salle, Classe, Enseignant1, newnature, "
+         "Debut) values (1, 'Mardi2', 'A2', 'G2', 'Petit', '00', '10h15')",
+         "insert into emplois (Tranche, Seance, Salle, newnature) values "
+         "(1, 'Jeudi9', 'B2', '00')"});
+    open();
+    ASSERT_NE(askByMenu("AskClashes", "ClashesWindow"), nullptr);
+    ASSERT_TRUE(until([&] { return rows("Clashes").size() == 2; }));
+    const auto* list = access(control<QTreeWidget>("Clashes"))->tableInterface();
+    EXPECT_EQ(list->cellAt(0, 0)->text(QAccessible::Name),
+              "Salle en double : A2, mardi 10h15–11h45");
+    EXPECT_EQ(list->cellAt(1, 0)->text(QAccessible::Name), "Heure inconnue : B2, jeudi");
+    EXPECT_TRUE(rows("Clashes")[0].startsWith("Salle en double|")); // to the eye as before
+}
+
 TEST_F(TheAnswersAloud, sayHowManyRoomsAreFree)
 {
     open();
