@@ -1,8 +1,11 @@
 #include "db/AccessProduct.h"
 
+#include "db/DatabaseError.h"
 #include "db/DialectDate.h"
 #include "db/ResultReader.h"
 #include "db/Session.h"
+
+#include <QRegularExpression>
 
 namespace db
 {
@@ -23,7 +26,24 @@ bool isDateColumn(const ColumnName& name, Session& session)
     return isDateType(ResultReader(statement).columnType(1));
 }
 
+/// Whether the word stands in the statement, outside its texts.
+bool choosesByCase(const QString& sql)
+{
+    static const QRegularExpression text(QStringLiteral("'(?:[^']|'')*'"));
+    return sql.contains(u"case when ") &&
+           QString(sql).remove(text).contains(QStringLiteral("case when "));
+}
+
 } // namespace
+
+QString AccessProduct::adapted(const QString& sql) const
+{
+    if (choosesByCase(sql)) {
+        throw DatabaseError(Failure::Refused, runtime::ErrorNumber::StatementRefused,
+                            QStringLiteral("Access does not know CASE."));
+    }
+    return sql;
+}
 
 bool AccessProduct::deleteFirst(const QString& sql, Session& session) const
 {

@@ -9,6 +9,9 @@ namespace db
 class AccessProduct : public Product
 {
 public:
+    /// The statement as it is. Error: StatementRefused for one that chooses by "case", which Access
+    /// does not have: whoever can ask otherwise does so at once, and nothing is sent in vain.
+    [[nodiscard]] QString adapted(const QString& sql) const override;
     /// Through a keyset-driven cursor that compares values, the one kind through which the driver
     /// writes.
     bool deleteFirst(const QString& sql, Session& session) const override;

@@ -128,6 +128,19 @@ TEST_F(TheDriverOfAccess, isNotAskedForWhatItDoesNotKnow)
     EXPECT_EQ(connection.statementCount(), 0);
 }
 
+TEST_F(TheDriverOfAccess, isNotSentWhatChoosesByCase)
+{
+    Connection connection = connect();
+    EXPECT_EQ(test::errorNumberOf([&] {
+                  static_cast<void>(connection.open(
+                      "select case when a is null then 0 else (a='x')*1 end from t"));
+              }),
+              ErrorNumber::StatementRefused);
+    EXPECT_EQ(connection.statementCount(), 0);
+    static_cast<void>(connection.open("select * from t where a='case when '"));
+    EXPECT_EQ(sent(), QStringList("select * from t where a='case when '"));
+}
+
 TEST_F(TheDriverOfAccess, deletesTheFirstRowThroughACursor)
 {
     Connection connection = connect();
