@@ -35,9 +35,9 @@ void OdbcConfiguration::addBrokenSource(const QString& name)
     addSource(name, QStringLiteral("Driver=/nowhere/libmissing.so\n"));
 }
 
-void OdbcConfiguration::addSource(const QString& name, const QString& entries)
+void OdbcConfiguration::addSource(const QString& name, const QString& lines)
 {
-    m_sources += QStringLiteral("[%1]\n%2\n").arg(name, entries);
+    m_sources += QStringLiteral("[%1]\n%2\n").arg(name, lines);
     writeFile(QFile::decodeName(qgetenv("ODBCINI")), m_sources);
 }
 

@@ -19,9 +19,11 @@ public:
     /// Adds a data source whose driver library does not exist.
     void addBrokenSource(const QString& name);
 
+    /// Adds a data source as the lines say, "Driver=…" among them.
+    void addSource(const QString& name, const QString& lines);
+
 private:
     OdbcConfiguration();
-    void addSource(const QString& name, const QString& entries);
 
     QString m_sources;
 };
