@@ -1,5 +1,6 @@
 #include "app/PlatformTexts.h"
 
+#include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 
@@ -8,8 +9,14 @@ namespace app
 
 bool loadFrenchTexts(QTranslator& translator)
 {
-    return translator.load(QLocale(QLocale::French), QStringLiteral("qtbase"), QStringLiteral("_"),
-                           QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/translations");
+    for (const QString& folder : {QLibraryInfo::path(QLibraryInfo::TranslationsPath), beside}) {
+        if (translator.load(QLocale(QLocale::French), QStringLiteral("qtbase"), QStringLiteral("_"),
+                            folder)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace app

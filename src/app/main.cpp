@@ -1,4 +1,5 @@
 #include "app/Application.h"
+#include "app/CommonControls.h"
 #include "app/EndSignal.h"
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
@@ -132,7 +133,7 @@ int runDisplay(app::EndSignal& signal, const shell::CommandLine& line)
         std::rethrow_exception(fault);
     }
     if (display.isReading()) {
-        std::quick_exit(code); // the driver may be waiting for minutes; there is nothing to save
+        std::_Exit(code); // the driver may be waiting for minutes; there is nothing to save
     }
     return code;
 }
@@ -295,6 +296,7 @@ void Program::startToolkit()
 
 int main(int argc, char* argv[])
 {
+    static_cast<void>(app::initCommonControls());
     hushToolkit();
     QCoreApplication::setApplicationName(QStringLiteral("Tempora"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));

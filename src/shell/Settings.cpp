@@ -1,6 +1,7 @@
 #include "shell/Settings.h"
 
 #include "runtime/RunTimeError.h"
+#include "shell/UserStore.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,23 +14,6 @@ namespace shell
 {
 namespace
 {
-
-#ifdef Q_OS_WIN
-std::unique_ptr<QSettings> openPerUser()
-{
-    // Where the platform's GetSetting and SaveSetting keep them: an existing installation keeps
-    // its settings.
-    return std::make_unique<QSettings>(
-        QStringLiteral("HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\Tempora"),
-        QSettings::NativeFormat);
-}
-#else
-std::unique_ptr<QSettings> openPerUser()
-{
-    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                       QStringLiteral("Tempora"));
-}
-#endif
 
 QString path(Settings::Section section, const QString& key)
 {
@@ -77,7 +61,7 @@ Settings& Settings::operator=(Settings&&) noexcept = default;
 
 Settings Settings::perUser()
 {
-    return Settings(openPerUser());
+    return Settings(openUserStore());
 }
 
 Settings Settings::fromFile(const QString& path)

@@ -1,6 +1,7 @@
 // tempora-setup: where the timetable is, for people who know nothing of data sources. A program of
 // its own, as it writes settings that the plan's program never writes.
 
+#include "app/CommonControls.h"
 #include "app/ErrorReport.h"
 #include "app/ExitCode.h"
 #include "app/PlatformTexts.h"
@@ -88,6 +89,7 @@ int runSetup()
 
 int main(int argc, char* argv[])
 {
+    static_cast<void>(app::initCommonControls());
     QCoreApplication::setApplicationName(QStringLiteral("Tempora"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TEMPORA_VERSION));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

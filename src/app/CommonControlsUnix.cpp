@@ -1,0 +1,12 @@
+#include "app/CommonControls.h"
+
+namespace app
+{
+
+/// The toolkit brings all controls along.
+bool initCommonControls()
+{
+    return true;
+}
+
+} // namespace app
