@@ -272,9 +272,11 @@ TEST_P(Reading, keepsAFieldThatIsNoDateAsItStands)
     // MariaDB's date without a date, SQLite's text in a date column.
     const QString noDate =
         database().usesMySql() ? QStringLiteral("0000-00-00") : QStringLiteral("demain");
-    database().execute({QStringLiteral("create table t (d date)"),
-                        (database().usesMySql() ? QStringLiteral("set sql_mode='';") : QString()) +
-                            QStringLiteral("insert into t values ('%1')").arg(noDate)});
+    QStringList statements{QStringLiteral("create table t (d date)")};
+    if (database().usesMySql()) {
+        statements << QStringLiteral("set sql_mode=''");
+    }
+    database().execute(statements << QStringLiteral("insert into t values ('%1')").arg(noDate));
     const Value value = single(QStringLiteral("select d from t"));
     EXPECT_EQ(value, Value(noDate));
     EXPECT_EQ(errorNumberOf([&] { return value.toDate(); }), ErrorNumber::TypeMismatch);

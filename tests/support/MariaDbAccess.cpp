@@ -1,6 +1,5 @@
 #include "support/MariaDbAccess.h"
 
-#include "support/ChildProgram.h"
 #include "support/OdbcConfiguration.h"
 
 #include <QStringList>
@@ -9,21 +8,6 @@ namespace test
 {
 
 const QString MariaDbAccess::kAdministrator = QStringLiteral("administrator");
-
-QByteArray MariaDbAccess::runScript(const QString& statements, const QString& database) const
-{
-    QStringList arguments = {QStringLiteral("--no-defaults"),
-                             QStringLiteral("--host=127.0.0.1"),
-                             QStringLiteral("--port=%1").arg(m_port),
-                             QStringLiteral("--user=") + kAdministrator,
-                             QStringLiteral("--default-character-set=utf8mb4"),
-                             QStringLiteral("--batch"),
-                             QStringLiteral("--skip-column-names")};
-    if (!database.isEmpty()) {
-        arguments << database;
-    }
-    return runProgram(findProgram(QStringLiteral("mariadb")), arguments, statements.toUtf8());
-}
 
 void MariaDbAccess::createAccount(const QString& user, const QString& password,
                                   const QString& grants) const

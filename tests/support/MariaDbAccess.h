@@ -19,8 +19,9 @@ public:
     [[nodiscard]] quint16 port() const { return m_port; }
 
     /// Runs statements, each ended by a semicolon, as administrator in the database (or in none)
-    /// with the command line client, which shares nothing with the program's own access. Returns
-    /// its tab-separated output without headings. Throws std::runtime_error when one fails.
+    /// with the command line client, which shares nothing with the program's own access; on Windows
+    /// by ODBC's plain functions. Returns its tab-separated output without headings. Throws
+    /// std::runtime_error when one fails.
     QByteArray runScript(const QString& statements, const QString& database = {}) const;
 
     /// Creates an account that may connect from this machine with that password; `grants` like

@@ -13,6 +13,14 @@ OdbcConfiguration& OdbcConfiguration::instance()
     return configuration;
 }
 
+#ifdef _WIN32
+/// Under Wine the machine's own manager is asked, with the environment in which the program began:
+/// whoever runs the tests has made the folder, for this process alone.
+OdbcConfiguration::OdbcConfiguration()
+{
+    writeFile(QFile::decodeName(qgetenv("ODBCINI")), QString());
+}
+#else
 OdbcConfiguration::OdbcConfiguration()
 {
     const QString folder = processFolder() + QStringLiteral("/odbc");
@@ -24,6 +32,7 @@ OdbcConfiguration::OdbcConfiguration()
     qputenv("ODBCSYSINI", QFile::encodeName(folder));
     qputenv("ODBCINI", QFile::encodeName(sourcesFile));
 }
+#endif
 
 void OdbcConfiguration::addSqliteSource(const QString& name, const QString& file)
 {

@@ -1,14 +1,13 @@
 #include "support/TestDatabase.h"
 
-#include "support/ChildProgram.h"
 #include "support/MariaDbServer.h"
 #include "support/OdbcConfiguration.h"
+#include "support/SqliteClient.h"
 #include "support/TestFolder.h"
 
-#include <QDir>
+#include <QCoreApplication>
 #include <QFile>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace test
 {
@@ -18,21 +17,9 @@ namespace
 const QString user = QStringLiteral("planning");
 const QString password = QStringLiteral("mot-de-passe");
 
-// Separators that no text of a test holds.
-constexpr QChar fieldEnd(0x1f);
-constexpr QChar rowEnd(0x1e);
-
 QString script(const QStringList& statements)
 {
     return statements.join(QStringLiteral(";\n")) + QStringLiteral(";\n");
-}
-
-QByteArray runSqlite(const QString& file, const QStringList& options, const QString& statements)
-{
-    return runProgram(findProgram(QStringLiteral("sqlite3")),
-                      QStringList{QStringLiteral("-batch"), QStringLiteral("-bail")} + options +
-                          QStringList{file},
-                      statements.toUtf8());
 }
 
 /// Undoes what the MariaDB client does to a field so that it stays on its line.
@@ -53,18 +40,13 @@ QString unescaped(const QString& field)
     return text;
 }
 
-QList<QStringList> rowsOf(QString output, QChar betweenFields, QChar behindRow)
+QList<QStringList> rowsOf(const QString& output)
 {
     QList<QStringList> rows;
-    if (output.endsWith(behindRow)) {
-        output.chop(1);
-    } else if (output.isEmpty()) {
-        return rows;
+    for (const QString& line : output.chopped(output.endsWith(u'\n') ? 1 : 0).split(u'\n')) {
+        rows << line.split(u'\t');
     }
-    for (const QString& line : output.split(behindRow)) {
-        rows << line.split(betweenFields);
-    }
-    return rows;
+    return output.isEmpty() ? QList<QStringList>() : rows;
 }
 
 } // namespace
@@ -72,7 +54,7 @@ QList<QStringList> rowsOf(QString output, QChar betweenFields, QChar behindRow)
 TestDatabase::TestDatabase(DatabaseKind kind) : m_kind(kind)
 {
     static int counter = 0; // with the process's number: a server may be shared with others
-    m_name = QStringLiteral("base%1_%2").arg(getpid()).arg(++counter);
+    m_name = QStringLiteral("base%1_%2").arg(QCoreApplication::applicationPid()).arg(++counter);
     if (kind == DatabaseKind::Sqlite) {
         createSqlite();
     } else {
@@ -149,7 +131,8 @@ void TestDatabase::execute(const QStringList& statements)
 {
     if (m_kind == DatabaseKind::Sqlite) {
         // Nobody needs the file after a power cut.
-        runSqlite(m_file, {}, QStringLiteral("PRAGMA synchronous = off;\n") + script(statements));
+        executeOnSqlite(m_file,
+                        QStringList{QStringLiteral("PRAGMA synchronous = off")} + statements);
     } else {
         static_cast<void>(MariaDbServer::shared().runScript(script(statements), m_name));
     }
@@ -158,15 +141,10 @@ void TestDatabase::execute(const QStringList& statements)
 QList<QStringList> TestDatabase::read(const QString& query) const
 {
     if (m_kind == DatabaseKind::Sqlite) {
-        const QByteArray output = runSqlite(m_file,
-                                            {QStringLiteral("-nullvalue"), QStringLiteral("NULL"),
-                                             QStringLiteral("-separator"), QString(fieldEnd),
-                                             QStringLiteral("-newline"), QString(rowEnd)},
-                                            script({query}));
-        return rowsOf(QString::fromUtf8(output), fieldEnd, rowEnd);
+        return readFromSqlite(m_file, query);
     }
     const QByteArray output = MariaDbServer::shared().runScript(script({query}), m_name);
-    QList<QStringList> rows = rowsOf(QString::fromUtf8(output), u'\t', u'\n');
+    QList<QStringList> rows = rowsOf(QString::fromUtf8(output));
     for (QStringList& row : rows) {
         for (QString& field : row) {
             field = unescaped(field);

@@ -1,13 +1,13 @@
 #include "support/TestFolder.h"
 
+#include "support/ProcessLife.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <cerrno>
-#include <csignal>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace test
 {
@@ -16,16 +16,11 @@ namespace
 
 const QString prefix = QStringLiteral("process-");
 
-bool isAlive(const QString& processId)
-{
-    return kill(processId.toInt(), 0) == 0 || errno == EPERM;
-}
-
 void removeFoldersOfDeadProcesses()
 {
     const QDir shared(sharedFolder());
     for (const QString& name : shared.entryList({prefix + u'*'}, QDir::Dirs)) {
-        if (!isAlive(name.mid(prefix.size()))) {
+        if (!isAlive(name.mid(prefix.size()).toLongLong())) {
             QDir(shared.filePath(name)).removeRecursively();
         }
     }
@@ -35,7 +30,9 @@ void removeFoldersOfDeadProcesses()
 class ProcessFolder
 {
 public:
-    ProcessFolder() : m_path(sharedFolder() + u'/' + prefix + QString::number(getpid()))
+    ProcessFolder()
+        : m_path(sharedFolder() + u'/' + prefix +
+                 QString::number(QCoreApplication::applicationPid()))
     {
         removeFoldersOfDeadProcesses();
         QDir().mkpath(m_path);
