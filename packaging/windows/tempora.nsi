@@ -1,0 +1,84 @@
+; The installer: for the user who runs it alone, so that no rights are asked for and app_data beside the
+; program can be written. makensis -DVERSION=1.0.0 -DFILES=FOLDER -DICON=FILE.ico -DOUT=FILE.exe
+Unicode true
+SetCompressor /SOLID lzma
+RequestExecutionLevel user
+
+!include MUI2.nsh
+
+!define KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tempora"
+
+Name "Tempora"
+OutFile "${OUT}"
+InstallDir "$LOCALAPPDATA\Programs\Tempora"
+InstallDirRegKey HKCU "${KEY}" "InstallLocation"
+BrandingText "Tempora ${VERSION}"
+
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey /LANG=1036 "ProductName" "Tempora"
+VIAddVersionKey /LANG=1036 "FileDescription" "Installateur de Tempora"
+VIAddVersionKey /LANG=1036 "FileVersion" "${VERSION}"
+VIAddVersionKey /LANG=1036 "LegalCopyright" "The Tempora authors, MIT License"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_FINISHPAGE_RUN "$INSTDIR\tempora-setup.exe"
+!define MUI_FINISHPAGE_RUN_TEXT "Choisir la base maintenant"
+!define MUI_FINISHPAGE_SHOWREADME "$INSTDIR\Lisez-moi.txt"
+!define MUI_FINISHPAGE_SHOWREADME_TEXT "Montrer Lisez-moi"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "French"
+
+; What an earlier version has put there and this one does not bring: all but what is the user's.
+!macro RemoveProgram
+  Delete "$INSTDIR\tempora.exe"
+  Delete "$INSTDIR\tempora-setup.exe"
+  Delete "$INSTDIR\tempora-demo.exe"
+  Delete "$INSTDIR\Lisez-moi.txt"
+  RMDir /r "$INSTDIR\demonstration"
+  RMDir /r "$INSTDIR\docs"
+  RMDir /r "$INSTDIR\licences"
+  RMDir /r "$INSTDIR\translations"
+  ; The palettes by their names: users keep palettes of their own beside them.
+  !include "${FILES}/../palettes.nsh"
+  RMDir "$INSTDIR\Styles"
+!macroend
+
+Section
+  !insertmacro RemoveProgram
+  SetOutPath "$INSTDIR"
+  File /r "${FILES}/*"
+  WriteUninstaller "$INSTDIR\desinstaller.exe"
+  CreateDirectory "$SMPROGRAMS\Tempora"
+  CreateShortcut "$SMPROGRAMS\Tempora\Tempora.lnk" "$INSTDIR\tempora.exe"
+  CreateShortcut "$SMPROGRAMS\Tempora\Choisir la base.lnk" "$INSTDIR\tempora-setup.exe"
+  CreateShortcut "$SMPROGRAMS\Tempora\Lisez-moi.lnk" "$INSTDIR\Lisez-moi.txt"
+  CreateShortcut "$DESKTOP\Tempora.lnk" "$INSTDIR\tempora.exe"
+  WriteRegStr HKCU "${KEY}" "DisplayName" "Tempora"
+  WriteRegStr HKCU "${KEY}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${KEY}" "DisplayIcon" "$INSTDIR\tempora.exe"
+  WriteRegStr HKCU "${KEY}" "Publisher" "The Tempora authors"
+  WriteRegStr HKCU "${KEY}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${KEY}" "UninstallString" '"$INSTDIR\desinstaller.exe"'
+  WriteRegStr HKCU "${KEY}" "QuietUninstallString" '"$INSTDIR\desinstaller.exe" /S'
+  WriteRegDWORD HKCU "${KEY}" "NoModify" 1
+  WriteRegDWORD HKCU "${KEY}" "NoRepair" 1
+SectionEnd
+
+; The settings, the data source and app_data stay.
+Section "Uninstall"
+  !insertmacro RemoveProgram
+  Delete "$INSTDIR\desinstaller.exe"
+  RMDir "$INSTDIR"
+  Delete "$SMPROGRAMS\Tempora\Tempora.lnk"
+  Delete "$SMPROGRAMS\Tempora\Choisir la base.lnk"
+  Delete "$SMPROGRAMS\Tempora\Lisez-moi.lnk"
+  RMDir "$SMPROGRAMS\Tempora"
+  Delete "$DESKTOP\Tempora.lnk"
+  DeleteRegKey HKCU "${KEY}"
+SectionEnd
