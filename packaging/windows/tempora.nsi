@@ -1,6 +1,6 @@
 ; The installer: for the user who runs it alone, so that no rights are asked for and app_data beside the
 ; program can be written. makensis -DVERSION=1.0.0 -DFILES=FOLDER -DICON=FILE.ico -DOUT=FILE.exe
-Unicode true
+Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 

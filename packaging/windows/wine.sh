@@ -19,6 +19,11 @@ make_prefix() {
     mkdir -p "$WINEPREFIX"
     "$wine" wineboot.exe -i >/dev/null 2>&1
     "$wine" winecfg.exe -v win10 >/dev/null 2>&1
+    local link
+    while IFS= read -r link; do # the user's own folders are nobody's business here
+        rm "$link"
+        mkdir "$link"
+    done < <(find "$WINEPREFIX/drive_c/users" -type l)
     cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     local font
     for font in Arial "Segoe UI" Tahoma "MS Shell Dlg" "MS Shell Dlg 2"; do

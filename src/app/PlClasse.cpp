@@ -69,7 +69,7 @@ PrintDialogs pausing(const PrintDialogs& dialogs, Waiting& waiting)
 /// nothing may be taken from it; nor is there anything to be saved.
 [[noreturn]] void leaveAtOnce(int code)
 {
-    std::quick_exit(code);
+    std::_Exit(code);
 }
 
 } // namespace

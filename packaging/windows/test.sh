@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# Installs the program with the installer under Wine, looks, and removes it again: what the user has put
+# beside the program and the settings must stay. Run packaging/windows/package.sh before.
+set -euo pipefail
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
+# shellcheck source=scripts/common.sh
+source "$project/scripts/common.sh"
+# shellcheck source=packaging/windows/common.sh
+source "$project/packaging/windows/common.sh"
+# shellcheck source=packaging/windows/wine.sh
+source "$project/packaging/windows/wine.sh"
+
+settings='HKCU\Software\VB and VBA Program Settings\Tempora\Settings'
+entry='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Tempora'
+screen=
+
+end_all() {
+    end_wine
+    [[ -z $screen ]] || kill "$screen" 2>/dev/null || true
+}
+
+# A screen of its own: the installer makes windows even when it shows none.
+open_screen() {
+    local number
+    mkdir -p "$windows/test"
+    rm -f "$windows/test/display"
+    mkfifo "$windows/test/display"
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$windows/test/display" 2>/dev/null &
+    screen=$!
+    read -r number <"$windows/test/display"
+    export DISPLAY=:$number
+}
+
+is_there() { [[ -e $1 ]] || fail "Missing: $1"; }
+is_gone() { [[ ! -e $1 ]] || fail "Still there: $1"; }
+has_key() { "$wine" reg.exe query "$1" >/dev/null 2>&1; }
+
+ensure_packages "${wine_packages[@]}"
+installer=$(find "$windows" -maxdepth 1 -name 'tempora-*-installateur.exe')
+[[ -n $installer ]] || fail "There is no installer: run packaging/windows/package.sh"
+trap end_all EXIT
+make_prefix
+open_screen
+user=$(find "$WINEPREFIX/drive_c/users" -mindepth 1 -maxdepth 1 ! -name Public)
+place=$user/AppData/Local/Programs/Tempora
+menu="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Tempora"
+rm -rf "$place"
+
+say "Installing ..."
+"$wine" "$installer" /S
+for file in tempora.exe tempora-setup.exe tempora-demo.exe Lisez-moi.txt Styles/Pastel.mpl \
+    docs/guide.md docs/images/plan.png translations/qtbase_fr.qm licences/LGPL-3.0-only.txt \
+    licences/Relier.txt demonstration/faculte.sqlite desinstaller.exe; do
+    is_there "$place/$file"
+done
+is_there "$menu/Tempora.lnk"
+is_there "$user/Desktop/Tempora.lnk"
+has_key "$entry" || fail "Windows does not know that it is installed."
+
+say "Removing ..."
+mkdir "$place/app_data"
+touch "$place/app_data/SaKalo.php" "$place/Styles/Mienne.mpl"
+"$wine" reg.exe add "$settings" /v Total_L_P /d 19 /f >/dev/null 2>&1
+"$wine" "$place/desinstaller.exe" /S # goes on as a copy of itself
+"$WINESERVER" -w
+is_there "$place/app_data/SaKalo.php"
+is_there "$place/Styles/Mienne.mpl"
+[[ $(find "$place" -type f | wc -l) == 2 ]] || fail "More than the user's own is left in $place"
+is_gone "$menu"
+is_gone "$user/Desktop/Tempora.lnk"
+! has_key "$entry" || fail "Windows believes that it is still installed."
+has_key "$settings" || fail "The settings are gone."
+rm -rf "$place"
+say "Installed and removed; what is the user's stayed."
