@@ -12,10 +12,10 @@ fail() {
 version() { dpkg-query -W -f '${Version}' tempora; }
 user() { runuser -l tester -c "$1"; }
 
-# Waits until a command succeeds, for half a minute at most.
+# Waits until a command succeeds, for two minutes at most.
 await() {
     local tries
-    for ((tries = 0; tries < 60; ++tries)); do
+    for ((tries = 0; tries < 240; ++tries)); do
         if "$@" >/dev/null 2>&1; then return; fi
         sleep 0.5
     done
@@ -36,37 +36,40 @@ apt-get -q -y install /root/tempora.deb
 [[ -s /etc/tempora/app_data/SaKalo.php ]] || fail "the upgrade lost the server's file"
 say "upgraded to $(version); the server's file is still there"
 
-useradd --create-home --shell /bin/bash tester
+# A number that nobody has on the machine that this Debian runs on: it sees the same processes.
+useradd --create-home --shell /bin/bash --uid 64321 tester
+trap 'pkill -u tester || true' EXIT
 user 'tempora --version' | grep -q '^Tempora ' || fail "--version"
 [[ -n $(find /usr/lib -name libsqlite3odbc.so) ]] || fail "the SQLite driver did not come along"
 
 # The window, on a screen of its own. The first start has no data source: Enter leads from the message
 # to the program that chooses the database, and through its two pages to the plan.
-shown() { user "DISPLAY=:5 xdotool search --onlyvisible --name '$1'"; }
+shown() { user "$on_screen xdotool search --onlyvisible --name '$1'"; }
 press() {
-    user "DISPLAY=:5 xdotool search --onlyvisible --name '$1' windowactivate --sync" &&
-        user 'DISPLAY=:5 xdotool key Return'
+    user "$on_screen xdotool search --onlyvisible --name '$1' windowactivate --sync" &&
+        user "$on_screen xdotool key Return"
 }
 # By Enter, for as long as there are pages.
 led_to_the_plan() { shown 'Planning des Classes' || { press 'choisir la base' && false; }; }
-user 'Xvfb :5 -screen 0 1366x768x24 >/dev/null 2>&1 & echo $! >~/xvfb.pid'
-await test -e /tmp/.X11-unix/X5
-user 'DISPLAY=:5 openbox >/dev/null 2>&1 & echo $! >~/openbox.pid'
-await user 'DISPLAY=:5 xdotool getactivewindow || DISPLAY=:5 xdotool get_desktop'
-user 'DISPLAY=:5 tempora >/dev/null 2>&1 &'
+user 'Xvfb -displayfd 3 -screen 0 1366x768x24 3>~/screen >/dev/null 2>&1 &'
+await test -s /home/tester/screen
+on_screen=DISPLAY=:$(cat /home/tester/screen)
+user "$on_screen openbox >/dev/null 2>&1 &"
+await user "$on_screen xdotool get_desktop"
+user "$on_screen tempora >/dev/null 2>&1 &"
 await shown '^Tempora$'
 press '^Tempora$'
 await shown 'choisir la base'
 await led_to_the_plan
 grep -q '^\[MonKalo\]' /home/tester/.odbc.ini || fail "no data source was written"
 grep -q '^Toutes_Salles=True' /home/tester/.config/Tempora.ini || fail "no settings were written"
-user 'pkill -TERM -x tempora'
+user 'pkill -u tester -TERM -x tempora'
 await nothing_runs
 say "the first start made a demo faculty and opened its plan"
 
-user 'DISPLAY=:5 tempora >~/tempora.log 2>&1 &'
+user "$on_screen tempora >~/tempora.log 2>&1 &"
 await shown 'Planning des Classes'
-user 'pkill -TERM -x tempora'
+user 'pkill -u tester -TERM -x tempora'
 await nothing_runs
 [[ ! -s /home/tester/tempora.log ]] || fail "the window said: $(cat /home/tester/tempora.log)"
 say "the window opened again, and ended without a word"
@@ -91,7 +94,6 @@ apt-get -q -y purge tempora
 [[ -s /etc/tempora/app_data/SaKalo.php ]] || fail "the removal took the server's file along"
 [[ -s /home/tester/.config/Tempora.ini ]] || fail "the removal took the user's settings along"
 rm -r /etc/tempora
-user 'kill $(cat ~/openbox.pid) $(cat ~/xvfb.pid)'
 left=$(find /usr /etc /var/lib -xdev -name '*tempora*' -not -path '/usr/share/doc/*' -not -path '*/dpkg/*')
 [[ -z $left ]] || fail "left behind: $left"
 say "removed; settings and the server's file stayed"
