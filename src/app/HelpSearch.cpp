@@ -1,6 +1,7 @@
 #include "app/HelpSearch.h"
 
 #include "app/PlainTexts.h"
+#include "app/WindowStyle.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -40,7 +41,7 @@ HelpSearch::HelpSearch(QTextBrowser* text)
                         QStringLiteral("Occurrence suivante (F3 ou Entrée)")))
 {
     m_field->setObjectName(QStringLiteral("HelpWanted"));
-    m_field->setPlaceholderText(QStringLiteral("Chercher dans l’aide (Ctrl+F)"));
+    setHint(m_field, QStringLiteral("Chercher dans l’aide (Ctrl+F)"));
     m_field->setAccessibleName(QStringLiteral("Chercher dans l’aide"));
     m_field->setClearButtonEnabled(true);
     m_field->setFixedWidth(kFieldWidth);

@@ -4,6 +4,7 @@
 #include "paint/PlanPainter.h"
 #include "plan/PlanState.h"
 #include "plan/RoomRows.h"
+#include "plan/ShownHours.h"
 
 #include <QPainter>
 #include <array>
@@ -94,8 +95,9 @@ QPixmap paletteSample(const plan::RowColors& colors, double ratio)
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::white);
     QPainter painter(&picture);
-    const paint::PlanScene scene = paint::sceneOf(state, content, target);
-    paint::PlanPainter(painter, scene).paintPlan();
+    // Like the window, with its faint lines.
+    const plan::ShownHours hours = plan::shownHours(state, content);
+    paint::PlanPainter(painter, paint::windowSceneOf(state, content, target, hours)).paintPlan();
     return picture;
 }
 

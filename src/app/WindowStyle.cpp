@@ -3,6 +3,7 @@
 #include "app/PlanPicture.h"
 
 #include <QEvent>
+#include <QLineEdit>
 #include <QPalette>
 #include <QWidget>
 #include <array>
@@ -52,12 +53,26 @@ SchemeColors SchemeColors::dark()
     colors.amber = {92, 66, 8};
     colors.amberInk = {255, 232, 184};
     colors.amberLit = {120, 88, 20};
+    colors.mark = {130, 146, 172};
     return colors;
 }
 
 SchemeColors SchemeColors::of(const QPalette& palette)
 {
     return palette.color(QPalette::Window).lightness() < kMiddleLightness ? dark() : light();
+}
+
+QColor hintInk()
+{
+    return {128, 134, 142};
+}
+
+void setHint(QLineEdit* field, const QString& hint)
+{
+    field->setPlaceholderText(hint);
+    QPalette palette = field->palette();
+    palette.setColor(QPalette::PlaceholderText, hintInk());
+    field->setPalette(palette);
 }
 
 QString windowStyleSheet(const SchemeColors& colors)
@@ -103,7 +118,15 @@ QStatusBar QLabel { color: @ink; padding: 0 6px; }
 QStatusBar::item { border: none; }
 QToolTip { font-size: 12px; }
 )");
-    const std::array<std::pair<const char*, QColor>, 13> names{{
+    if (colors.mark.isValid()) { // as large as the style draws those that are chosen
+        sheet += QStringLiteral(R"(
+QCheckBox::indicator:unchecked { width: 12px; height: 12px; border: 1px solid @mark;
+                                 background: @window; }
+QRadioButton::indicator:unchecked { width: 12px; height: 12px; border: 1px solid @mark;
+                                    border-radius: 7px; background: @window; }
+)");
+    }
+    const std::array<std::pair<const char*, QColor>, 14> names{{
         {"@window", colors.window},
         {"@panel", colors.panel},
         {"@group", colors.group},
@@ -117,6 +140,7 @@ QToolTip { font-size: 12px; }
         {"@amberInk", colors.amberInk},
         {"@amberLit", colors.amberLit},
         {"@amber", colors.amber},
+        {"@mark", colors.mark},
     }};
     for (const auto& [name, color] : names) {
         sheet.replace(QLatin1String(name), color.name());

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+class QLineEdit;
 class QPalette;
 class QWidget;
 
@@ -26,6 +27,7 @@ struct SchemeColors {
     QColor amber;    ///< the line about options that the plan does not follow
     QColor amberInk; ///< its text
     QColor amberLit; ///< its button under the mouse
+    QColor mark; ///< edge of an option that is not chosen; invalid where the style's own is seen
 
     [[nodiscard]] static SchemeColors light();
     [[nodiscard]] static SchemeColors dark();
@@ -37,6 +39,13 @@ struct SchemeColors {
 
 /// Colours, spacing and fonts of the window.
 [[nodiscard]] QString windowStyleSheet(const SchemeColors& colors);
+
+/// For hints and for what is out of reach, on the fields of either scheme. The toolkit's own stays
+/// black on some desktops that are dark.
+[[nodiscard]] QColor hintInk();
+
+/// Tells in an empty field what it is for.
+void setHint(QLineEdit* field, const QString& hint);
 
 /// Keeps a window, and those that open over it, in the style of the system's scheme, also when that
 /// changes meanwhile.

@@ -45,6 +45,13 @@ TEST(PaletteSample, givesEachRowTheColourThatThePlanGivesIt)
     EXPECT_EQ(count[qRgb(200, 200, 200)], 0); // nobody's row
 }
 
+TEST(PaletteSample, hasTheFaintLinesOfTheWindow)
+{
+    std::map<QRgb, int> count = pixels(app::paletteSample(fourColors(), 1).toImage());
+    EXPECT_EQ(count[qRgb(0, 180, 0)], 0);
+    EXPECT_GT(count[qRgb(200, 236, 200)], 100);
+}
+
 TEST(PaletteSample, isAsSharpAsTheScreen)
 {
     const QPixmap sample = app::paletteSample(fourColors(), 2);

@@ -1,6 +1,7 @@
 #include "app/WindowStyle.h"
 
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QPalette>
 #include <QRegularExpression>
 #include <QWidget>
@@ -50,6 +51,27 @@ private:
 };
 
 } // namespace
+
+TEST(SchemeColors, showAnOptionThatIsNotChosenInTheDark)
+{
+    const SchemeColors dark = SchemeColors::dark();
+    EXPECT_GE(contrast(dark.mark, dark.group), 3); // what a mark needs
+    EXPECT_GE(contrast(dark.mark, dark.window), 3);
+    EXPECT_TRUE(app::windowStyleSheet(dark).contains("QCheckBox::indicator:unchecked"));
+    EXPECT_FALSE(app::windowStyleSheet(dark).contains('@'));
+    EXPECT_FALSE(app::windowStyleSheet(SchemeColors::light()).contains("indicator:unchecked"));
+}
+
+TEST(Hint, isReadInTheFieldsOfBothSchemes)
+{
+    QLineEdit field;
+    app::setHint(&field, "mardi 9h30");
+    EXPECT_EQ(field.placeholderText(), "mardi 9h30");
+    const QColor ink = field.palette().color(QPalette::PlaceholderText);
+    for (const QColor& ground : {QColor(Qt::white), QColor(35, 38, 41)}) {
+        EXPECT_GE(contrast(ink, ground), 3.5) << ground.name().toStdString();
+    }
+}
 
 TEST(SchemeColors, areReadableInBothSchemes)
 {

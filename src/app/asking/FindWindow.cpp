@@ -4,6 +4,7 @@
 #include "answers/WeekBox.h"
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
+#include "app/WindowStyle.h"
 #include "app/asking/AskingFields.h"
 #include "app/asking/ShownDay.h"
 
@@ -72,8 +73,8 @@ FindWindow::FindWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     setObjectName(QStringLiteral("FindWindow"));
     m_text->setObjectName(QStringLiteral("SearchText"));
     m_text->setAccessibleName(QStringLiteral("Enseignant, classe, salle ou matière"));
-    m_text->setPlaceholderText(
-        QStringLiteral("Enseignant, classe, salle ou matière : trois lettres suffisent"));
+    setHint(m_text,
+            QStringLiteral("Enseignant, classe, salle ou matière : trois lettres suffisent"));
     m_text->setClearButtonEnabled(true);
     m_list->setObjectName(QStringLiteral("Found"));
     m_list->setIndentation(12);

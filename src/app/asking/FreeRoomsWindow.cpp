@@ -4,6 +4,7 @@
 #include "answers/Words.h"
 #include "app/DateField.h"
 #include "app/PlainTexts.h"
+#include "app/WindowStyle.h"
 #include "app/asking/AskingFields.h"
 #include "app/asking/RoomChoice.h"
 #include "runtime/FrenchDate.h"
@@ -90,7 +91,7 @@ void FreeRoomsWindow::buildFields()
     m_line = new QLineEdit;
     m_line->setObjectName(QStringLiteral("QuickQuestion"));
     m_line->setAccessibleName(QStringLiteral("Salle cherchée, en quelques mots"));
-    m_line->setPlaceholderText(QStringLiteral("mardi 9h30 40 places   ou   24/11 14h-16h zone 2"));
+    setHint(m_line, QStringLiteral("mardi 9h30 40 places   ou   24/11 14h-16h zone 2"));
     m_line->setClearButtonEnabled(true);
     m_day = new QComboBox;
     m_day->setObjectName(QStringLiteral("AskedDay"));
@@ -386,7 +387,7 @@ void FreeRoomsWindow::list(const shell::Inquiry& inquiry, const answers::FreeRoo
         for (const answers::HeldRoom& held : answer.taken) {
             add(held.room,
                 QStringLiteral("prise : ") + answers::holdersWords(inquiry.occupancy(), held.by))
-                ->setForeground(2, palette().color(QPalette::PlaceholderText));
+                ->setForeground(2, hintInk());
         }
     }
     for (const answers::HeldRoom& held : answer.unknown) { // never left out: it may be free
