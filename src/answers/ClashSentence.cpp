@@ -2,6 +2,7 @@
 
 #include "answers/Words.h"
 
+#include <QHash>
 #include <QStringList>
 #include <algorithm>
 #include <array>
@@ -103,16 +104,45 @@ QString holderWords(const Holder& holder, ClashKind kind)
     }
 }
 
-/// Adds the subject where several holders have the same words.
-void tellApart(QStringList& words, const std::vector<Holder>& holders)
+/// Holders that have the same words so far.
+struct Alike {
+    int count = 0;
+    QString more; ///< what could be added to the words of the first one
+    bool differ = false;
+};
+
+/// Adds what `wordsOf` a holder are where several have the same words: if these differ, or always.
+template <typename WordsOf>
+void tellApartBy(QStringList& words, const std::vector<Holder>& holders, bool always,
+                 WordsOf wordsOf)
 {
-    const QStringList before = words;
+    QHash<QString, Alike> groups;
+    QStringList more;
+    for (std::size_t index = 0; index < holders.size(); ++index) {
+        more << wordsOf(holders[index]);
+        Alike& group = groups[words[static_cast<qsizetype>(index)]];
+        group.more = group.count++ == 0 ? more.last() : group.more;
+        group.differ = group.differ || group.more != more.last();
+    }
     for (qsizetype index = 0; index < words.size(); ++index) {
-        const QString subject = forSubject(holders[static_cast<std::size_t>(index)]);
-        if (before.count(before[index]) > 1 && !before[index].endsWith(subject)) {
-            words[index] += subject;
+        const Alike group = groups.value(words[index]);
+        const bool isWanted = group.count > 1 && (always || group.differ);
+        if (isWanted && !words[index].endsWith(more[index])) {
+            words[index] += more[index];
         }
     }
+}
+
+/// Adds the subject where several holders have the same words, and what of their hours and weeks
+/// still tells them apart.
+void tellApart(QStringList& words, const std::vector<Holder>& holders)
+{
+    tellApartBy(words, holders, true, forSubject);
+    tellApartBy(words, holders, false, [](const Holder& holder) {
+        return holder.time ? fromToWords(*holder.time) : QString();
+    });
+    tellApartBy(words, holders, false,
+                [](const Holder& holder) { return u' ' + weekWords(holder.weeks); });
 }
 
 /// All holders in brackets.

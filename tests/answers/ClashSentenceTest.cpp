@@ -73,6 +73,29 @@ TEST_F(TheSentence, namesTheSubjectWhereTheWordsWouldRepeat)
                       "avec Durand pour Chimie, L1 B avec Durand, L1 A avec Durand pour Algèbre).");
 }
 
+TEST_F(TheSentence, namesHoursAndWeeksWhereAllElseIsTheSame)
+{
+    school.course({"Lundi1", "Amphi B", "L1 A", "Durand", "Analyse"});
+    school.course({"Lundi1", "Amphi B", "L1 A", "Durand", "Analyse", "8h30"});
+    EXPECT_EQ(sentences().value(0),
+              "Salle Amphi B, lundi de 8h30 à 9h30 : deux séances à la fois (L1 A avec Durand pour "
+              "Analyse de 8h00 à 9h30, L1 A avec Durand pour Analyse de 8h30 à 10h00).");
+}
+
+TEST_F(TheSentence, namesTheWeeksOfTheTwoRoomsOfARow)
+{
+    // The same room twice, in week A and every week, and somebody else.
+    ClashRow row{"Lundi1", "TP 1", "L1 A", "Durand", "Analyse"};
+    row.nature = "10/20";
+    row.yRoom = "TP 1";
+    school.course(row);
+    school.course({"Lundi1", "TP 1", "L2 B", "Petit"});
+    EXPECT_EQ(
+        sentences().value(0),
+        "Salle TP 1, lundi de 8h00 à 9h30 : plusieurs séances à la fois (L1 A avec Durand pour "
+        "Analyse semaine A, L1 A avec Durand pour Analyse toute semaine, L2 B avec Petit).");
+}
+
 TEST_F(TheSentence, tellsOfAClass)
 {
     school.course({.key = "Samedi1",
