@@ -189,7 +189,7 @@ QString writeAnswer(Shell& shell, const CommandLine& line)
         throw UsageError(QStringLiteral("La période « %1 » n’a aucun cours").arg(inquiry.period()));
     }
     files::writeWholeFile(request.file, written(format, answerTo(shell, inquiry, line)));
-    return line.date ? inquiry.whyOutside(*line.date) : QString();
+    return line.date ? inquiry.whyOutside(*line.date, request.weeksRunning) : QString();
 }
 
 } // namespace shell

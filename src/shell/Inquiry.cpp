@@ -93,14 +93,18 @@ QString Inquiry::whyOpen(bool isDated, bool isClashes) const
     return {};
 }
 
-QString Inquiry::whyOutside(QDate date) const
+QString Inquiry::whyOutside(QDate date, int weeks) const
 {
     const auto& period = timetable().period();
-    if (!period || period->holds(date)) {
-        return {};
+    for (int number = 0; period && number < weeks; ++number) {
+        const QDate day = date.addDays(qint64{number} * timetable::kDaysOfWeek);
+        if (!period->holds(day)) {
+            return QStringLiteral(
+                       "Le %1 est hors de la période « %2 » : aucun cours ne compte ce jour-là.")
+                .arg(day.toString(QStringLiteral("dd/MM/yyyy")), m_period);
+        }
     }
-    return QStringLiteral("Le %1 est hors de la période « %2 » : aucun cours ne compte ce jour-là.")
-        .arg(date.toString(QStringLiteral("dd/MM/yyyy")), m_period);
+    return {};
 }
 
 QString Inquiry::whyNoRoom(const answers::RoomFilter& filter) const

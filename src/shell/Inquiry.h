@@ -36,9 +36,10 @@ public:
     /// Make-ups and exams play a part on dates and in clashes, students in clashes; the use of
     /// seats says itself where it lacks them.
     [[nodiscard]] QString whyOpen(bool isDated, bool isClashes = false) const;
-    /// That a date lies outside the period, whose courses then do not count, as a sentence; empty
-    /// where it does not.
-    [[nodiscard]] QString whyOutside(QDate date) const;
+    /// That a date, or the same day of one of the weeks running from there on, lies outside the
+    /// period, whose courses then do not count: a sentence about the first such day; empty where
+    /// there is none.
+    [[nodiscard]] QString whyOutside(QDate date, int weeks = 1) const;
     /// Why no room can meet the filter; empty where one does.
     [[nodiscard]] QString whyNoRoom(const answers::RoomFilter& filter) const;
 

@@ -399,6 +399,10 @@ TEST_P(Answers, tellWhereADateIsOutsideThePeriod)
     EXPECT_EQ(told("2025-06-07"),
               "Le 07/06/2025 est hors de la période « Printemps » : aucun cours "
               "ne compte ce jour-là.");
+    const shell::CommandLine line =
+        shell::CommandLine::parse({"tempora", "--free", file, "--from", "8h30", "--to", "10h",
+                                   "--date", "2025-05-30", "--weeks-running", "3"});
+    EXPECT_TRUE(shell::writeAnswer(desk.shell(), line).startsWith("Le 13/06/2025 est hors de la"));
 }
 
 TEST_P(Answers, areWrittenInTheFormThatTheFileAsksFor)

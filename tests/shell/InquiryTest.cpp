@@ -74,6 +74,15 @@ TEST_P(TheInquiry, saysThatADateLiesOutsideThePeriod)
               "jour-là.");
 }
 
+TEST_P(TheInquiry, saysWhichOfTheWeeksRunningIsTheFirstOutsideThePeriod)
+{
+    const Inquiry asked = inquiry();
+    EXPECT_EQ(asked.whyOutside(QDate(2025, 5, 26), 2), ""); // the period ends on 6 June
+    EXPECT_EQ(asked.whyOutside(QDate(2025, 5, 26), 5),
+              "Le 09/06/2025 est hors de la période « Printemps » : aucun cours ne compte ce "
+              "jour-là.");
+}
+
 TEST_P(TheInquiry, saysWhyNoRoomIsLeft)
 {
     const Inquiry asked = inquiry();

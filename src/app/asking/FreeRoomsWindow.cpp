@@ -414,7 +414,9 @@ void FreeRoomsWindow::list(const shell::Inquiry& inquiry, const answers::FreeRoo
     if (!unread.isEmpty()) {
         sentence += QStringLiteral("  ·  pas compris : « %1 »").arg(unread);
     }
-    const QString outside = m_isDated->isChecked() ? inquiry.whyOutside(m_date->date()) : QString();
+    const QString outside = m_isDated->isChecked()
+                                ? inquiry.whyOutside(m_date->date(), m_weeksRunning->value())
+                                : QString();
     if (!outside.isEmpty()) {
         sentence = outside + QStringLiteral(" ") + sentence;
     }
