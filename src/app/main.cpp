@@ -50,12 +50,15 @@ void hushToolkit()
     });
 }
 
-/// An export draws in memory, with the same fonts whether or not there is a display.
+/// An export draws in memory, with the same fonts whether or not there is a display. On Windows the
+/// platform that draws nowhere else has no fonts, and the window's own needs no window.
 void drawInMemory()
 {
+#ifndef Q_OS_WIN
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+#endif
 }
 
 shell::Settings openSettings(const shell::CommandLine& line)
