@@ -12,12 +12,12 @@ namespace shell
 /// What somebody wants to see on the plan.
 struct Destination {
     timetable::MeetingKind kind = timetable::MeetingKind::Course;
-    QString room;                ///< as the room table spells it
+    QString room; ///< as the room table spells it
     /// 0 to 6, of an exam counted from the first day of its week; no day: the one that is shown
     int day = timetable::kNoDay;
-    QDate date;                  ///< of what has one, or was asked about by date
-    int slot = 0;                ///< the box's, counting from 1; 0 for the row alone
-    int examWeek = 0;            ///< of exams: 1 to 3
+    QDate date;       ///< of what has one, or was asked about by date
+    int slot = 0;     ///< the box's, counting from 1; 0 for the row alone
+    int examWeek = 0; ///< of exams: 1 to 3
     timetable::Week weeks = timetable::Week::Every; ///< those in which it is held
     QString subject; ///< of the box; a plan of another subject would not show it
 

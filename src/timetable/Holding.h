@@ -21,8 +21,8 @@ struct Holding {
     Part part = Part::A;
     std::array<RoomNameId, 2> rooms; ///< the second is nothing where one is held
     Week weeks = Week::Every;
-    int day = kNoDay; ///< 0 to 6; of what has a date, this date's
-    QDate date;       ///< of make-ups and exams; no valid date for a course
+    int day = kNoDay;             ///< 0 to 6; of what has a date, this date's
+    QDate date;                   ///< of make-ups and exams; no valid date for a course
     std::optional<TimeSpan> time; ///< nothing where the start is not known
 };
 
