@@ -33,6 +33,9 @@ public:
     static constexpr char kQuery = 0x03;
     static constexpr char kPrepare = 0x16;
     static constexpr char kExecute = 0x17;
+    // Those that nobody waits for: the proxy may see them after what the program does next.
+    static constexpr char kQuit = 0x01;
+    static constexpr char kCloseStatement = 0x19;
 
     /// Throws std::runtime_error when no port is to be had.
     CuttingProxy(quint16 serverPort, Judge judge);
