@@ -63,7 +63,11 @@ SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
     layout->addWidget(m_present);
     addChoice(*layout, SourceKind::Demo,
               QStringLiteral("&Essayer avec une faculté de démonstration"),
-              QStringLiteral("Une faculté inventée, pour voir. Rien d’autre n’est nécessaire."));
+              setup::driverFor(SourceKind::Demo, m_wizard.ties().drivers).isEmpty()
+                  ? QStringLiteral("Une faculté inventée, pour voir. Il y faut le pilote ODBC de "
+                                   "SQLite, qui manque sur ce poste.")
+                  : QStringLiteral("Une faculté inventée, pour voir. Rien d’autre n’est "
+                                   "nécessaire."));
     addChoice(*layout, SourceKind::SqliteFile, QStringLiteral("Ma base (&fichier SQLite)"),
               QStringLiteral("Un fichier sur ce poste ou sur un disque partagé."));
     addChoice(*layout, SourceKind::Server, QStringLiteral("Ma base (&MariaDB ou MySQL)"),

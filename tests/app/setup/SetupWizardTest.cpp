@@ -182,6 +182,9 @@ TEST_F(TheSetup, saysWhichDriverIsMissing)
 {
     ties().drivers = QStringList{};
     show();
+    const auto* demo = wizard->currentPage()->findChild<QRadioButton*>("Kind0");
+    ASSERT_NE(demo, nullptr);
+    EXPECT_TRUE(demo->accessibleDescription().contains("Il y faut le pilote ODBC de SQLite"));
     go(QWizard::NextButton);
     ASSERT_TRUE(shows("Told", "Le pilote ODBC de SQLite n’est pas installé"));
 }
