@@ -1,5 +1,6 @@
 #include "answers/ClashSentence.h"
 
+#include "answers/HolderWords.h"
 #include "answers/Words.h"
 
 #include <QHash>
@@ -39,13 +40,13 @@ QString nameWords(const Clash& clash)
     switch (clash.kind) {
     case ClashKind::Teacher:
     case ClashKind::MakeupTeacher:
-        return QStringLiteral("Enseignant ") + clash.name;
+        return titled(QStringLiteral("Enseignant"), clash.name);
     case ClashKind::Class:
     case ClashKind::MakeupClass:
-        return QStringLiteral("Classe ") + clash.name;
+        return titled(QStringLiteral("Classe"), clash.name);
     default:
-        return QStringLiteral("Salle ") +
-               (clash.name.isEmpty() ? QStringLiteral("sans nom") : clash.name);
+        return titled(QStringLiteral("Salle"),
+                      clash.name.isEmpty() ? QStringLiteral("sans nom") : clash.name);
     }
 }
 
@@ -150,8 +151,8 @@ QString holdersWords(const Occupancy& occupancy, const Clash& clash)
 {
     QStringList all;
     std::vector<Holder> holders;
-    for (const HoldingId id : clash.holders) {
-        holders.push_back(occupancy.describe(occupancy.holding(id)));
+    for (const timetable::Holding& holding : holdersOf(occupancy, clash)) {
+        holders.push_back(occupancy.describe(holding));
         all << holderWords(holders.back(), clash.kind);
     }
     if (clash.kind == ClashKind::Overfull) {
@@ -201,8 +202,10 @@ QString faultWords(const Occupancy& occupancy, const Clash& clash)
     case ClashKind::UnknownRoom:
         return namedByWords(occupancy, clash);
     case ClashKind::NoTime:
-        return QStringLiteral(
-            "heure inconnue, le début ne se lit ni dans la séance ni dans son créneau");
+        return clash.unplaced ? QStringLiteral("heure inconnue elle aussi, ") +
+                                    whyUnplaced(occupancy, *clash.unplaced)
+                              : QStringLiteral("heure inconnue, le début ne se lit ni dans la "
+                                               "séance ni dans son créneau");
     default:
         return areTwo ? QStringLiteral("deux séances à la fois")
                       : QStringLiteral("plusieurs séances à la fois");
@@ -215,8 +218,10 @@ QString clashSentence(const Occupancy& occupancy, const Clash& clash)
 {
     QString where = nameWords(clash);
     if (clash.kind != ClashKind::UnknownRoom) {
-        where += QStringLiteral(", ") + dayWords(clash.day, clash.date) +
-                 (clash.time ? fromToWords(*clash.time) : QString()) + inWeekWords(clash.weeks);
+        where +=
+            QStringLiteral(", ") +
+            (clash.unplaced ? QStringLiteral("jour inconnu") : dayWords(clash.day, clash.date)) +
+            (clash.time ? fromToWords(*clash.time) : QString()) + inWeekWords(clash.weeks);
     }
     return where + QStringLiteral(" : ") + clashFault(occupancy, clash) + u'.';
 }

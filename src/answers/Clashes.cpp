@@ -82,6 +82,18 @@ std::vector<HoldingId> allOf(const Occupancy& occupancy, const DiaryDay& day)
     return all;
 }
 
+/// The week of all of them; every week where they differ, or are none.
+Week commonWeeks(const std::vector<Holding>& holders)
+{
+    if (holders.empty()) {
+        return Week::Every;
+    }
+    const Week first = holders.front().weeks;
+    const bool isAll = std::all_of(holders.begin(), holders.end(),
+                                   [&](const Holding& holder) { return holder.weeks == first; });
+    return isAll ? first : Week::Every;
+}
+
 /// Collects the clashes, kind by kind.
 class Search
 {
@@ -107,7 +119,7 @@ private:
                      Rule rule);
     void searchCrowds(const timetable::Room& room, const std::vector<DiaryDay>& diary);
     [[nodiscard]] bool isHeldAsAnEqualOne(RoomId room, const std::vector<HoldingId>& holders) const;
-    [[nodiscard]] Week weeksOf(const std::vector<HoldingId>& holders) const;
+    void addTimeless(std::vector<HoldingId> holders, std::optional<timetable::Unplaced> unplaced);
     [[nodiscard]] bool isMakeUp(HoldingId id) const
     {
         return m_rules.facts(id).kind == MeetingKind::MakeUp;
@@ -125,8 +137,15 @@ void Search::add(ClashKind kind, const QString& name, const DiaryDay& day,
                  std::vector<ClashGroup> groups, int places)
 {
     for (ClashGroup& group : groups) {
-        m_found.push_back({kind, name, day.day, day.date, group.reason.weeks,
-                           std::move(group.holders), group.reason.time, group.reason.students,
+        m_found.push_back({kind,
+                           name,
+                           day.day,
+                           day.date,
+                           group.reason.weeks,
+                           std::move(group.holders),
+                           {},
+                           group.reason.time,
+                           group.reason.students,
                            places});
     }
 }
@@ -253,18 +272,6 @@ void Search::searchClasses()
         [this](HoldingId left, HoldingId right) { return m_rules.clashOverClass(left, right); });
 }
 
-Week Search::weeksOf(const std::vector<HoldingId>& holders) const
-{
-    if (holders.empty()) {
-        return Week::Every;
-    }
-    const Week first = m_occupancy.holding(holders.front()).weeks;
-    const bool isAll = std::all_of(holders.begin(), holders.end(), [&](HoldingId id) {
-        return m_occupancy.holding(id).weeks == first;
-    });
-    return isAll ? first : Week::Every;
-}
-
 void Search::searchUnknownRooms()
 {
     const timetable::Timetable& timetable = m_occupancy.timetable();
@@ -277,16 +284,32 @@ void Search::searchUnknownRooms()
         Clash clash;
         clash.kind = ClashKind::UnknownRoom;
         clash.name = timetable.room(RoomId(index)).name;
-        clash.weeks = weeksOf(holders);
         clash.holders = std::move(holders);
+        clash.weeks = commonWeeks(holdersOf(m_occupancy, clash));
         m_found.push_back(std::move(clash));
     }
+}
+
+void Search::addTimeless(std::vector<HoldingId> holders,
+                         std::optional<timetable::Unplaced> unplaced)
+{
+    const timetable::Timetable& timetable = m_occupancy.timetable();
+    Clash clash;
+    clash.kind = ClashKind::NoTime;
+    clash.holders = std::move(holders);
+    clash.unplaced = unplaced;
+    const std::vector<Holding> all = holdersOf(m_occupancy, clash);
+    const Holding& first = all.front();
+    clash.name = timetable.room(timetable.roomName(first.rooms.front()).rooms.front()).name;
+    clash.day = first.day;
+    clash.date = first.date;
+    clash.weeks = commonWeeks(all);
+    m_found.push_back(std::move(clash));
 }
 
 /// One clash for each row: its holdings follow each other.
 void Search::searchTimes()
 {
-    const timetable::Timetable& timetable = m_occupancy.timetable();
     const std::vector<Holding>& holdings = m_occupancy.holdings();
     std::size_t end = 0;
     for (std::size_t index = 0; index < holdings.size(); index = end) {
@@ -295,18 +318,14 @@ void Search::searchTimes()
         for (end = index; end < holdings.size() && holdings[end].meeting == first.meeting; ++end) {
             holders.emplace_back(static_cast<int>(end));
         }
-        if (first.time) {
-            continue;
+        if (!first.time) {
+            addTimeless(std::move(holders), {});
         }
-        Clash clash;
-        clash.kind = ClashKind::NoTime;
-        const RoomId room = timetable.roomName(first.rooms.front()).rooms.front();
-        clash.name = timetable.room(room).name;
-        clash.day = first.date.isValid() ? timetable::dayOf(first.date) : first.day;
-        clash.date = first.date;
-        clash.weeks = weeksOf(holders);
-        clash.holders = std::move(holders);
-        m_found.push_back(std::move(clash));
+    }
+    for (const timetable::Unplaced& row : m_occupancy.unplaced()) {
+        if (!m_occupancy.holdingsOf(row).front().time) {
+            addTimeless({}, row);
+        }
     }
 }
 
@@ -315,8 +334,8 @@ std::vector<Clash> Search::take()
     std::stable_sort(m_found.begin(), m_found.end(), [](const Clash& left, const Clash& right) {
         const auto key = [](const Clash& clash) {
             const bool isDate = clash.date.isValid();
-            return std::tuple(clash.kind, isDate, isDate ? clash.date.toJulianDay() : clash.day,
-                              clash.time);
+            return std::tuple(clash.kind, clash.unplaced.has_value(), isDate,
+                              isDate ? clash.date.toJulianDay() : clash.day, clash.time);
         };
         const auto one = key(left);
         const auto other = key(right);
@@ -336,6 +355,19 @@ std::vector<Clash> clashes(const Occupancy& occupancy)
     search.searchUnknownRooms();
     search.searchTimes();
     return search.take();
+}
+
+std::vector<Holding> holdersOf(const Occupancy& occupancy, const Clash& clash)
+{
+    if (clash.unplaced) {
+        return occupancy.holdingsOf(*clash.unplaced);
+    }
+    std::vector<Holding> holders;
+    holders.reserve(clash.holders.size());
+    for (const HoldingId id : clash.holders) {
+        holders.push_back(occupancy.holding(id));
+    }
+    return holders;
 }
 
 } // namespace answers

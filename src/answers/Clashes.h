@@ -28,13 +28,17 @@ struct Clash {
     ClashKind kind = ClashKind::Room;
     /// The room, teacher or class, by its first spelling; of `NoTime` the row's first room.
     QString name;
-    int day = timetable::kNoDay; ///< 0 to 6, a date's own; no day for `UnknownRoom`
-    QDate date;                  ///< no valid date in the teaching weeks
+    /// 0 to 6, a date's own. No day for `UnknownRoom`, and for `NoTime` where `unplaced` says so.
+    int day = timetable::kNoDay;
+    QDate date; ///< no valid date in the teaching weeks
     /// Those in which it is so; on a date those of the courses that it is about.
     timetable::Week weeks = timetable::Week::Every;
     /// By start, the shorter first. Of an unknown room all that it ever holds, by day, date and
-    /// start: none where only rows without a day name it. Of `NoTime` the row's parts.
+    /// start: none where only rows without a day name it. Of `NoTime` the row's parts, unless
+    /// `unplaced` is this row.
     std::vector<timetable::HoldingId> holders;
+    /// Of `NoTime`: the row, if it has no day either.
+    std::optional<timetable::Unplaced> unplaced = {};
     /// From the first to the last minute in which it is so; nothing for the last two kinds.
     std::optional<timetable::TimeSpan> time;
     int students = 0; ///< of `Overfull`: the most that are there at one moment
@@ -44,7 +48,8 @@ struct Clash {
 };
 
 /// Everything that is wrong with the courses, make-ups and exams of the period: by kind; then what
-/// is of the teaching weeks by day, and what has a date by date; by time; by name.
+/// is of the teaching weeks by day, what has a date by date, and what has neither; by time; by
+/// name.
 ///
 /// Courses are compared with courses of their day and week, exams with exams of their date, and
 /// make-ups with the make-ups, exams and, within the period, courses of theirs, in either week; a
@@ -63,5 +68,9 @@ struct Clash {
 ///   first counts.
 /// - What has no known time or day clashes with nothing.
 [[nodiscard]] std::vector<Clash> clashes(const timetable::Occupancy& occupancy);
+
+/// The holders of a clash, or what would be if the row's day were known.
+[[nodiscard]] std::vector<timetable::Holding> holdersOf(const timetable::Occupancy& occupancy,
+                                                        const Clash& clash);
 
 } // namespace answers

@@ -11,6 +11,8 @@ namespace answers
 namespace
 {
 
+constexpr std::size_t kNamedMeetings = 3; ///< of those without a day
+
 /// Classes that are in a room together.
 struct Company {
     timetable::Holder first; ///< without its class
@@ -23,6 +25,23 @@ bool areTogether(const timetable::Holder& left, const timetable::Holder& right)
     return left.kind == right.kind && left.date == right.date && left.weeks == right.weeks &&
            left.teachers == right.teachers && left.subject == right.subject &&
            left.time->end() == right.time->end();
+}
+
+/// "L1 A, Amphi B (« Mradi2 » ne nomme aucun jour)".
+QString meetingWords(const timetable::Occupancy& occupancy, const timetable::Unplaced& unplaced)
+{
+    QStringList words;
+    for (const timetable::Holding& holding : occupancy.holdingsOf(unplaced)) {
+        const timetable::Holder holder = occupancy.describe(holding);
+        if (words.isEmpty()) {
+            words << (holder.className.isEmpty() ? QStringLiteral("séance sans classe")
+                                                 : holder.className);
+        }
+        words << holder.rooms;
+    }
+    words.removeDuplicates();
+    return words.join(QStringLiteral(", ")) + QStringLiteral(" (") +
+           whyUnplaced(occupancy, unplaced) + u')';
 }
 
 QString companyWords(const Company& company)
@@ -68,6 +87,45 @@ QString whyUnknown(const timetable::Occupancy& occupancy,
     }
     reasons.removeDuplicates();
     return reasons.join(QStringLiteral(" ; "));
+}
+
+QString whyUnplaced(const timetable::Occupancy& occupancy, const timetable::Unplaced& unplaced)
+{
+    const auto& meeting =
+        occupancy.timetable().meetings().at(static_cast<std::size_t>(unplaced.meeting));
+    const QString key = occupancy.timetable().text(meeting.slotText);
+    switch (unplaced.reason) {
+    case timetable::NoDay::Date:
+        return QStringLiteral("rattrapage sans date lisible");
+    case timetable::NoDay::ExamDay:
+        return QStringLiteral("examen sans semaine datée, ou « %1 » n’en nomme aucun jour")
+            .arg(key);
+    case timetable::NoDay::CourseKey:
+        break;
+    }
+    return QStringLiteral("« %1 » ne nomme aucun jour").arg(key);
+}
+
+QString unplacedWords(const timetable::Occupancy& occupancy)
+{
+    const std::vector<timetable::Unplaced>& all = occupancy.unplaced();
+    if (all.empty()) {
+        return {};
+    }
+    const std::size_t named = std::min(all.size(), kNamedMeetings);
+    QStringList meetings;
+    for (std::size_t index = 0; index < named; ++index) {
+        meetings << meetingWords(occupancy, all[index]);
+    }
+    QString words = all.size() == 1
+                        ? QStringLiteral("1 séance n’a pas de jour et n’occupe donc rien : ")
+                        : QStringLiteral("%1 séances n’ont pas de jour et n’occupent donc rien : ")
+                              .arg(all.size());
+    words += meetings.join(QStringLiteral(" ; "));
+    const std::size_t more = all.size() - named;
+    return more == 0   ? words
+           : more == 1 ? words + QStringLiteral(" ; et une autre")
+                       : words + QStringLiteral(" ; et %1 autres").arg(more);
 }
 
 QString holdersWords(const timetable::Occupancy& occupancy,

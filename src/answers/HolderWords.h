@@ -13,6 +13,14 @@ namespace answers
 [[nodiscard]] QString whyUnknown(const timetable::Occupancy& occupancy,
                                  const std::vector<timetable::HoldingId>& ids);
 
+/// Why a meeting that names a room holds it on no day: "« Mradi2 » ne nomme aucun jour".
+[[nodiscard]] QString whyUnplaced(const timetable::Occupancy& occupancy,
+                                  const timetable::Unplaced& unplaced);
+
+/// All such meetings of a timetable: "1 séance n’a pas de jour et n’occupe donc rien : L1 A, Amphi
+/// B (« Mradi2 » ne nomme aucun jour)"; of many the first three. Nothing where there are none.
+[[nodiscard]] QString unplacedWords(const timetable::Occupancy& occupancy);
+
 /// What holds a room and until when, in French: "L2 GE A, L2 GE B, Durand, jusqu’à 11h00"; classes
 /// that are there together are told together. What is not of every week says so, what is no course
 /// its kind and date. Requires: their time is known.

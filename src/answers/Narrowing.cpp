@@ -8,9 +8,9 @@ namespace answers
 using timetable::HoldingId;
 using timetable::Occupancy;
 
-bool Narrowing::isInRooms(const Occupancy& occupancy, HoldingId id) const
+bool Narrowing::isInRooms(const Occupancy& occupancy, const timetable::Holding& holding) const
 {
-    const std::vector<timetable::RoomId> held = occupancy.roomsOf(occupancy.holding(id));
+    const std::vector<timetable::RoomId> held = occupancy.roomsOf(holding);
     return isAnyRoomWanted() || std::any_of(held.begin(), held.end(), [&](timetable::RoomId room) {
                return rooms.holds(occupancy.timetable().room(room));
            });
@@ -31,17 +31,20 @@ bool Narrowing::isOnDate(const Occupancy& occupancy, const Clash& clash) const
 void Narrowing::apply(const Occupancy& occupancy, std::vector<HoldingId>& items) const
 {
     std::erase_if(items, [&](HoldingId id) {
-        return (day && occupancy.holding(id).day != *day) || !isInRooms(occupancy, id);
+        const timetable::Holding& holding = occupancy.holding(id);
+        return (day && holding.day != *day) || !isInRooms(occupancy, holding);
     });
 }
 
 void Narrowing::apply(const Occupancy& occupancy, std::vector<Clash>& clashes) const
 {
     std::erase_if(clashes, [&](const Clash& clash) {
+        const std::vector<timetable::Holding> holders = holdersOf(occupancy, clash);
         const bool isWantedRoom =
             isAnyRoomWanted() ||
-            std::any_of(clash.holders.begin(), clash.holders.end(),
-                        [&](HoldingId id) { return isInRooms(occupancy, id); });
+            std::any_of(holders.begin(), holders.end(), [&](const timetable::Holding& holding) {
+                return isInRooms(occupancy, holding);
+            });
         return !isWantedRoom || (day && clash.day != *day) || !isOnDate(occupancy, clash) ||
                !timetable::shareWeek(clash.weeks, weeks);
     });

@@ -26,7 +26,7 @@ struct Narrowing {
 
 private:
     [[nodiscard]] bool isInRooms(const timetable::Occupancy& occupancy,
-                                 timetable::HoldingId id) const;
+                                 const timetable::Holding& holding) const;
     [[nodiscard]] bool isOnDate(const timetable::Occupancy& occupancy, const Clash& clash) const;
     [[nodiscard]] bool isAnyRoomWanted() const { return !rooms.zone && !rooms.department; }
 };

@@ -84,6 +84,13 @@ QString kindWords(const Subject& subject)
     return words.at(subject.index());
 }
 
+QString titled(const QString& kind, const QString& name)
+{
+    const bool saysItself = name.startsWith(kind, Qt::CaseInsensitive) &&
+                            (name.size() == kind.size() || !name.at(kind.size()).isLetter());
+    return saysItself ? name : kind + u' ' + name;
+}
+
 QString kindWords(timetable::MeetingKind kind)
 {
     return kind == timetable::MeetingKind::MakeUp ? QStringLiteral("rattrapage")

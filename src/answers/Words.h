@@ -26,6 +26,9 @@ namespace answers
 [[nodiscard]] QString nameOf(const timetable::Timetable& timetable, const Subject& subject);
 /// What it is: "Salle", "Enseignant", "Classe" or "Matière".
 [[nodiscard]] QString kindWords(const Subject& subject);
+/// A name with what it is before it, "Salle 205"; once where the name itself begins with that word,
+/// as in "Salle 205" or "salle d’or".
+[[nodiscard]] QString titled(const QString& kind, const QString& name);
 /// "rattrapage", "examen", or nothing for a course.
 [[nodiscard]] QString kindWords(timetable::MeetingKind kind);
 /// A share from 0 to 1 in whole percent, "62 %" with a narrow no-break space; "< 1 %" for what

@@ -67,8 +67,13 @@ private:
         m_json.orNull(value);
     }
     void date(const char* key, QDate date);
+    void day(int day)
+    {
+        optional("day", day == timetable::kNoDay ? std::nullopt : std::optional(day));
+    }
     void roomName(timetable::RoomId room) { text("room", m_occupancy.timetable().room(room).name); }
-    void holder(HoldingId id);
+    void holder(const timetable::Holding& holding);
+    void holdersOf(const answers::Clash& clash);
     void holders(const char* key, const std::vector<HoldingId>& ids);
 
     const timetable::Occupancy& m_occupancy;
@@ -99,13 +104,13 @@ void Writing::date(const char* key, QDate date)
     optionalText(key, date.isValid() ? std::optional(date.toString(Qt::ISODate)) : std::nullopt);
 }
 
-void Writing::holder(HoldingId id)
+void Writing::holder(const timetable::Holding& holding)
 {
-    const timetable::Holder holder = m_occupancy.describe(m_occupancy.holding(id));
+    const timetable::Holder holder = m_occupancy.describe(holding);
     m_json.beginObject();
     texts("classes", holder.className.isEmpty() ? QStringList() : QStringList(holder.className));
     date("date", holder.date);
-    number("day", holder.day);
+    day(holder.day);
     text("kind", nameOf(kKinds, holder.kind));
     optional("minutes", holder.time ? std::optional(holder.time->length.value) : std::nullopt);
     text("part", nameOf(kParts, holder.part));
@@ -128,9 +133,23 @@ void Writing::holders(const char* key, const std::vector<HoldingId>& ids)
             m_json.repeatElement(begin, end);
         } else {
             begin = m_json.beginOfElement();
-            holder(id);
+            holder(m_occupancy.holding(id));
             end = m_json.size();
         }
+    }
+    m_json.endArray();
+}
+
+void Writing::holdersOf(const answers::Clash& clash)
+{
+    if (!clash.unplaced) {
+        holders("holders", clash.holders);
+        return;
+    }
+    m_json.key("holders");
+    m_json.beginArray();
+    for (const timetable::Holding& holding : answers::holdersOf(m_occupancy, clash)) {
+        holder(holding);
     }
     m_json.endArray();
 }
@@ -192,8 +211,8 @@ void Writing::operator()(const ClashList& clashes)
     for (const answers::Clash& clash : clashes) {
         m_json.beginObject();
         date("date", clash.date);
-        optional("day", clash.day == timetable::kNoDay ? std::nullopt : std::optional(clash.day));
-        holders("holders", clash.holders);
+        day(clash.day);
+        holdersOf(clash);
         text("kind", nameOf(kClashes, clash.kind));
         text("name", clash.name);
         text("sentence", answers::clashSentence(m_occupancy, clash));

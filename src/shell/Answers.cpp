@@ -189,7 +189,10 @@ QString writeAnswer(Shell& shell, const CommandLine& line)
         throw UsageError(QStringLiteral("La période « %1 » n’a aucun cours").arg(inquiry.period()));
     }
     files::writeWholeFile(request.file, written(format, answerTo(shell, inquiry, line)));
-    return line.date ? inquiry.whyOutside(*line.date, request.weeksRunning) : QString();
+    QStringList told{line.date ? inquiry.whyOutside(*line.date, request.weeksRunning) : QString(),
+                     inquiry.whatHasNoDay()};
+    told.removeAll(QString());
+    return told.join(u'\n');
 }
 
 } // namespace shell

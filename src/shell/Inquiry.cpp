@@ -1,5 +1,6 @@
 #include "shell/Inquiry.h"
 
+#include "answers/HolderWords.h"
 #include "answers/Words.h"
 
 #include <algorithm>
@@ -107,6 +108,12 @@ QString Inquiry::whyOutside(QDate date, int weeks) const
     return {};
 }
 
+QString Inquiry::whatHasNoDay() const
+{
+    const QString words = answers::unplacedWords(occupancy());
+    return words.isEmpty() ? words : words + u'.';
+}
+
 QString Inquiry::whyNoRoom(const answers::RoomFilter& filter) const
 {
     const auto rooms = timetable().rooms();
@@ -173,9 +180,9 @@ files::AnswerDocument Inquiry::weekOf(const std::optional<answers::Subject>& sub
                                      : answers::weekOfAll(*m_occupancy, week),
                              narrowing.rooms};
     narrowing.apply(*m_occupancy, answer.items);
-    const QString title =
-        subject ? answers::kindWords(*subject) + u' ' + answers::nameOf(timetable(), *subject)
-                : QStringLiteral("Toutes les salles");
+    const QString title = subject ? answers::titled(answers::kindWords(*subject),
+                                                    answers::nameOf(timetable(), *subject))
+                                  : QStringLiteral("Toutes les salles");
     return document(title, {answers::weekWords(week), narrowingWords(narrowing)}, std::move(answer),
                     week.date);
 }

@@ -40,6 +40,9 @@ public:
     /// period, whose courses then do not count: a sentence about the first such day; empty where
     /// there is none.
     [[nodiscard]] QString whyOutside(QDate date, int weeks = 1) const;
+    /// Which meetings no answer counts, as they have no day: a sentence; empty where there are
+    /// none.
+    [[nodiscard]] QString whatHasNoDay() const;
     /// Why no room can meet the filter; empty where one does.
     [[nodiscard]] QString whyNoRoom(const answers::RoomFilter& filter) const;
 

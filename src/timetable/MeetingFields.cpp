@@ -100,7 +100,9 @@ bool isIndispensable(MeetingKind kind, std::size_t field)
         const std::size_t ofPart = field % field::kPartFields;
         return ofPart == kRoom || ofPart == kOtherRoom;
     }
-    return field != field::kClass && (field != field::kNature || kind == MeetingKind::Course);
+    const bool isWeekRule = field == field::kNature && kind == MeetingKind::Course;
+    return isWeekRule || field == field::kSlot || field == field::kExamWeek ||
+           field == field::kDate;
 }
 
 SqlName columnOf(std::size_t field)

@@ -56,9 +56,10 @@ struct FieldColumn {
 /// How many of them at the front most rows have; the others are those of the second part of week A
 /// and of both parts of week B, in nearly all rows nulls.
 [[nodiscard]] std::size_t usualColumns(MeetingKind kind);
-/// Whether nobody can tell without the field which rooms a meeting holds and when: a table without
-/// its column must not be taken for one that leaves rooms free. Without the others, the people, the
-/// class and the subject, as well as a make-up's week rule, meetings are the poorer.
+/// Whether nobody can tell without the field which rooms a meeting holds and on which days: a table
+/// without its column must not be taken for one that leaves rooms free. Without the people, the
+/// class, the subject and a make-up's week rule meetings are the poorer; without start and length
+/// they have those of their slot and of a usual course.
 [[nodiscard]] bool isIndispensable(MeetingKind kind, std::size_t field);
 /// The column of a field. Requires: a field that some table has.
 [[nodiscard]] SqlName columnOf(std::size_t field);

@@ -27,9 +27,10 @@ std::vector<int> positionsOf(MeetingKind kind, const db::Columns& result)
         int& position = positions.emplace_back(-1);
         runtime::skipOnError([&] { position = result.position(each.column); });
         if (position < 0 && isIndispensable(kind, each.field)) {
-            throw runtime::RunTimeError(
-                runtime::ErrorNumber::ItemNotFound,
-                QStringLiteral("la colonne « %1 » manque").arg(QString(each.column)));
+            const QString words = QStringLiteral("la colonne « %1 » manque").arg(each.column);
+            runtime::RunTimeError fault(runtime::ErrorNumber::ItemNotFound, words);
+            fault.explain(words + QStringLiteral(" dans la table « %1 »").arg(tableOf(kind)));
+            throw fault;
         }
     }
     return positions;

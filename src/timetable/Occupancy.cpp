@@ -47,7 +47,7 @@ void Occupancy::place(int position)
     }
     if (common.day != kNoDay) {
         common.time = timeOf(meeting, common.day);
-        addParts(meeting, common);
+        addParts(meeting, common, m_holdings);
         return;
     }
     constexpr std::array reasons{NoDay::CourseKey, NoDay::Date, NoDay::ExamDay};
@@ -57,7 +57,7 @@ void Occupancy::place(int position)
 std::optional<TimeSpan> Occupancy::timeOf(const Meeting& meeting, int day) const
 {
     std::optional<MinuteOfDay> start = meeting.start;
-    if (!start) {
+    if (!start && day != kNoDay) {
         const DaySlot* slot = m_timetable->slot(day, meeting.slot.number);
         start = slot == nullptr ? std::nullopt : slot->start;
     }
@@ -65,7 +65,7 @@ std::optional<TimeSpan> Occupancy::timeOf(const Meeting& meeting, int day) const
                  : std::nullopt;
 }
 
-void Occupancy::addParts(const Meeting& meeting, Holding common)
+void Occupancy::addParts(const Meeting& meeting, Holding common, std::vector<Holding>& to) const
 {
     // What has a date has no week: it holds all that it names.
     const bool hasWeeks = meeting.kind == MeetingKind::Course;
@@ -73,16 +73,18 @@ void Occupancy::addParts(const Meeting& meeting, Holding common)
         const MeetingPart& part = meeting.part(which);
         common.part = which;
         if (hasWeeks && which == Part::A && meeting.alternates) {
-            add(common, part.room, {}, Week::A);
-            add(common, part.otherRoom, {}, Week::Every);
+            add(common, part.room, {}, Week::A, to);
+            add(common, part.otherRoom, {}, Week::Every, to);
         } else {
             const bool isOfWeekB = which == Part::B || which == Part::SecondB;
-            add(common, part.room, part.otherRoom, hasWeeks && isOfWeekB ? Week::B : Week::Every);
+            add(common, part.room, part.otherRoom, hasWeeks && isOfWeekB ? Week::B : Week::Every,
+                to);
         }
     }
 }
 
-void Occupancy::add(Holding common, RoomNameId room, RoomNameId otherRoom, Week weeks)
+void Occupancy::add(Holding common, RoomNameId room, RoomNameId otherRoom, Week weeks,
+                    std::vector<Holding>& to) const
 {
     if (room.isNone()) {
         std::swap(room, otherRoom);
@@ -94,7 +96,18 @@ void Occupancy::add(Holding common, RoomNameId room, RoomNameId otherRoom, Week 
                         m_timetable->roomName(room).rooms == m_timetable->roomName(otherRoom).rooms;
     common.rooms = {room, isSame ? RoomNameId() : otherRoom};
     common.weeks = weeks;
-    m_holdings.push_back(common);
+    to.push_back(common);
+}
+
+std::vector<Holding> Occupancy::holdingsOf(const Unplaced& unplaced) const
+{
+    Holding common;
+    common.meeting = unplaced.meeting;
+    const Meeting& meeting = meetingOf(common);
+    common.time = timeOf(meeting, meeting.slot.day);
+    std::vector<Holding> holdings;
+    addParts(meeting, common, holdings);
+    return holdings;
 }
 
 std::vector<RoomId> Occupancy::roomsOf(const Holding& holding) const

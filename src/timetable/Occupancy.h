@@ -107,13 +107,18 @@ public:
     [[nodiscard]] NoStart whyUnknown(const Holding& holding) const;
     /// The meetings that name rooms and hold them on no day.
     [[nodiscard]] const std::vector<Unplaced>& unplaced() const { return m_unplaced; }
+    /// What such a meeting would hold if its day were known: a holding for each of its parts,
+    /// without day and date. Their time is its own or that of the slot that its key names, if
+    /// either can be read.
+    [[nodiscard]] std::vector<Holding> holdingsOf(const Unplaced& unplaced) const;
 
     [[nodiscard]] Holder describe(const Holding& holding) const;
 
 private:
     void place(int position);
-    void addParts(const Meeting& meeting, Holding common);
-    void add(Holding common, RoomNameId room, RoomNameId otherRoom, Week weeks);
+    void addParts(const Meeting& meeting, Holding common, std::vector<Holding>& to) const;
+    void add(Holding common, RoomNameId room, RoomNameId otherRoom, Week weeks,
+             std::vector<Holding>& to) const;
     void shelve();
     [[nodiscard]] std::optional<TimeSpan> timeOf(const Meeting& meeting, int day) const;
     [[nodiscard]] std::span<const HoldingId> shelf(RoomId room, int day) const;

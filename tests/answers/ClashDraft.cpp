@@ -72,8 +72,8 @@ QStringList ClashDraft::told()
     QStringList told;
     for (const answers::Clash& clash : clashes()) {
         QStringList holders;
-        for (const HoldingId id : clash.holders) {
-            holders << occupancy().describe(occupancy().holding(id)).className;
+        for (const Holding& holding : answers::holdersOf(occupancy(), clash)) {
+            holders << occupancy().describe(holding).className;
         }
         const QString day =
             clash.date.isValid() ? clash.date.toString(Qt::ISODate) : QString::number(clash.day);

@@ -155,6 +155,25 @@ TEST_F(TheSentence, tellsOfAnUnknownTime)
                           "séance ni dans son créneau (séance sans nom)."));
 }
 
+TEST_F(TheSentence, tellsOfAnUnknownDay)
+{
+    school.course({"Mradi2", "Amphi B", "L1 A", "Durand"});
+    school.makeUp({.key = "Lundi9", .room = "TP 1", .className = "L2", .date = "bientôt"});
+    EXPECT_EQ(sentences(),
+              QStringList({"Salle Amphi B, jour inconnu : heure inconnue elle aussi, « Mradi2 » ne "
+                           "nomme aucun jour (L1 A avec Durand).",
+                           "Salle TP 1, jour inconnu : heure inconnue elle aussi, rattrapage sans "
+                           "date lisible (rattrapage L2)."}));
+}
+
+TEST_F(TheSentence, saysOnceThatARoomIsARoom)
+{
+    school.draft().room("Salle 205");
+    school.course({"Lundi9", "Salle 205", "L1"});
+    EXPECT_TRUE(sentences().value(0).startsWith("Salle 205, lundi : heure inconnue"))
+        << sentences().value(0).toStdString();
+}
+
 TEST_F(TheSentence, namesFiveOfManyHolders)
 {
     for (int number = 1; number <= 6; ++number) {

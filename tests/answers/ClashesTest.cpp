@@ -297,7 +297,7 @@ TEST_F(ClashesOfCourses, tellOfEachUnknownRoomOnce)
     school.course({"Lundi2", "Annexe", "L2", "Petit"});
     school.course({"Lundi2", "Annexe", "L3", "Roux"}); // at once with L2
     school.course({.key = "Lundi1", .room = {}, .className = "L4", .roomB = "Grange"});
-    school.course({"Stage", "Usine", "L5", "Noir"}); // on no day
+    school.course({"Stage", "Usine", "L5", "Noir", {}, "8h00"}); // on no day
     EXPECT_EQ(school.told(),
               QStringList({"7 Annexe -1 * L2+L3+L1", "7 Grange -1 B L4", "7 Usine -1 * "}));
 }
@@ -311,6 +311,29 @@ TEST_F(ClashesOfCourses, tellOfEachRowWithoutATime)
     school.makeUp({.key = "Lundi9", .room = "R3", .className = "L4", .date = "2026-11-18"});
     EXPECT_EQ(school.told(),
               QStringList({"8 R2 0 * L1+L1", "8 R1 1 * L2", "8 R3 2026-11-18 * L4"}));
+}
+
+TEST_F(ClashesOfCourses, tellOfEachRowWithoutATimeThatHasNoDayEither)
+{
+    school.course({.key = "Mradi2",
+                   .room = "R2",
+                   .className = "L1",
+                   .nature = "10/20",
+                   .xRoom = "R1",
+                   .roomB = "R3"});
+    school.course({"Mradi2", "R1", "L2", {}, {}, "8h00"}); // when it begins is known
+    school.makeUp(
+        {.key = "Lundi1", .room = "R1", .className = "L3", .date = "bientôt"}); // so is this
+    school.makeUp({.key = "Lundi9", .room = "R3", .className = "L4", .date = "bientôt"});
+    school.exam({.key = "1", .room = "R2", .className = "L5", .week = "1"});
+    school.course({"Mradi2", {}, "L6"}); // holds nothing anyway
+    school.course({"Mardi9", "R1", "L7"});
+    EXPECT_EQ(school.told(),
+              QStringList({"8 R1 1 * L7", "8 R2 -1 * L1+L1+L1", "8 R2 -1 * L5", "8 R3 -1 * L4"}));
+    const std::vector<Clash> found = school.clashes();
+    EXPECT_FALSE(found[0].unplaced);
+    EXPECT_EQ(found[1].unplaced, (Unplaced{0, NoDay::CourseKey}));
+    EXPECT_EQ(found[1].holders, std::vector<HoldingId>());
 }
 
 TEST(ClashesOfAnEmptyPeriod, areNone)

@@ -69,6 +69,34 @@ TEST_F(TheHolders, areNamedByTheirSubjectWhereNobodyIsNamed)
     EXPECT_EQ(ofRoom("TP 1"), "Chimie, jusqu’à 9h30 ; séance sans nom, jusqu’à 11h00");
 }
 
+TEST_F(TheHolders, areNotToldWhereTheyHaveADay)
+{
+    school.course({"Lundi1", "TP 1", "L1"});
+    EXPECT_EQ(unplacedWords(school.occupancy()), "");
+}
+
+TEST_F(TheHolders, tellWhyTheyHaveNoDay)
+{
+    school.course({.key = "Mradi2", .room = "Amphi B", .className = "L1", .xRoom = "TP 1"});
+    EXPECT_EQ(unplacedWords(school.occupancy()),
+              "1 séance n’a pas de jour et n’occupe donc rien : L1, Amphi B, TP 1 (« Mradi2 » ne "
+              "nomme aucun jour)");
+}
+
+TEST_F(TheHolders, withoutADayAreNamedUpToThree)
+{
+    school.course({"Mradi2", "TP 1"});
+    school.makeUp({.key = "Lundi1", .room = "TP 1", .className = "L2", .date = "bientôt"});
+    school.exam({.key = "Dimanche1", .room = "TP 1", .className = "L3", .week = "1"});
+    school.course({"Mradi3", "TP 1", "L4"});
+    school.course({"Mradi4", "TP 1", "L5"});
+    EXPECT_EQ(unplacedWords(school.occupancy()),
+              "5 séances n’ont pas de jour et n’occupent donc rien : séance sans classe, TP 1 "
+              "(« Mradi2 » ne nomme aucun jour) ; L2, TP 1 (rattrapage sans date lisible) ; L3, "
+              "TP 1 (examen sans semaine datée, ou « Dimanche1 » n’en nomme aucun jour) ; et 2 "
+              "autres");
+}
+
 TEST_F(TheHolders, tellWhyTheirTimeIsNotKnown)
 {
     school.course({"Lundi9", "TP 1", "L1", "Durand"});

@@ -89,6 +89,21 @@ TEST_F(TheNarrowing, keepsWhatIsInTheRooms)
     EXPECT_EQ(clashes({{2, std::nullopt}, {}, Week::Every, {}}), std::vector<int>({2}));
 }
 
+TEST_F(TheNarrowing, keepsARowWithoutADayByItsRooms)
+{
+    Draft draft;
+    draft.builder().addRoom({"R1", 1, std::nullopt, 30});
+    draft.builder().addRoom({"R2", 2, std::nullopt, 30});
+    draft.course({{column::kSeance, "Mradi2"}, {column::kSalle, "R2"}});
+    const Occupancy occupancy = draft.occupancy();
+    std::vector<Clash> clashes = answers::clashes(occupancy);
+    ASSERT_EQ(clashes.size(), 1U);
+    Narrowing{{2, std::nullopt}, {}, Week::Every, {}}.apply(occupancy, clashes);
+    EXPECT_EQ(clashes.size(), 1U);
+    Narrowing{{1, std::nullopt}, {}, Week::Every, {}}.apply(occupancy, clashes);
+    EXPECT_EQ(clashes.size(), 0U);
+}
+
 TEST_F(TheNarrowing, keepsWhatIsOnTheDay)
 {
     EXPECT_EQ(items({{}, 1, Week::Every, {}}), std::vector<int>({1}));

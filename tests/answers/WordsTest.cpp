@@ -55,10 +55,21 @@ TEST(Words, nameWhoHasAWeek)
     const Subject teacher = known.teachers().find(u"Durand");
     const Subject className = known.classes().find(u"L1");
     const Subject subject = known.subjects().find(u"Algèbre");
-    EXPECT_EQ(kindWords(room) + ' ' + nameOf(known, room), "Salle Amphi A");
+    EXPECT_EQ(titled(kindWords(room), nameOf(known, room)), "Salle Amphi A");
     EXPECT_EQ(kindWords(teacher) + ' ' + nameOf(known, teacher), "Enseignant Durand");
     EXPECT_EQ(kindWords(className) + ' ' + nameOf(known, className), "Classe L1");
     EXPECT_EQ(kindWords(subject) + ' ' + nameOf(known, subject), "Matière Algèbre");
+}
+
+TEST(Words, sayOnceWhatANameSaysItself)
+{
+    EXPECT_EQ(titled("Salle", "205"), "Salle 205");
+    EXPECT_EQ(titled("Salle", "Salle 205"), "Salle 205");
+    EXPECT_EQ(titled("Salle", "salle d’or"), "salle d’or");
+    EXPECT_EQ(titled("Salle", "Salle"), "Salle");
+    EXPECT_EQ(titled("Salle", "Salles des fêtes"), "Salle Salles des fêtes"); // another word
+    EXPECT_EQ(titled("Salle", "SALLE12"), "SALLE12");
+    EXPECT_EQ(titled("Salle", ""), "Salle ");
 }
 
 TEST(Words, nameWhatIsNoCourse)

@@ -73,3 +73,22 @@ TEST_P(TheProgramAloud, tellsOverTheBusTheFullTextThatEnterOpens)
     expectAfter({"Return"}, "A2 – 8h30, 90 min\nG1\nDupont/Durand\n[Algèbre]");
     expectAfter({"Escape"}, "A2, 8h30 à 10h00, G1");
 }
+
+TEST_P(TheProgramAloud, tellsOverTheBusWhatTheAnswersSay)
+{
+    expectAfter({"ctrl+l"}, "Salle cherchée, en quelques mots");
+    hands.type("lundi,8h30,100");
+    expectAfter({"Down"}, "B1");
+    EXPECT_EQ(reader->focusRole(), "tree item");
+    hands.press({"Escape"});
+    expectAfter({"ctrl+f"}, "Enseignant, classe, salle ou matière");
+    hands.type("dup");
+    expectAfter({"Down"}, "Enseignant Dupont");
+    hands.press({"Escape"});
+    expectAfter({"ctrl+w"}, "Semaine, Salle A1");
+    hands.press({"Right"});
+    ASSERT_TRUE(until([this] { return reader->focusName() == "Semaine, Salle A2"; }));
+    hands.press({"Down"});
+    ASSERT_TRUE(until([this] { return reader->description().startsWith("Mardi"); }))
+        << reader->description().toStdString();
+}

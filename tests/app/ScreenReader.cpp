@@ -102,7 +102,8 @@ QString ScreenReader::accessibilityAddress() const
 void ScreenReader::listen()
 {
     // A program tells only what somebody has asked to be told.
-    for (const char* event : {"focus:", "object:state-changed:focused"}) {
+    for (const char* event : {"focus:", "object:state-changed:focused",
+                              "object:property-change:accessible-description"}) {
         QDBusMessage call = QDBusMessage::createMethodCall(
             QString::fromLatin1(kRegistry), QStringLiteral("/org/a11y/atspi/registry"),
             QString::fromLatin1(kRegistry), QStringLiteral("RegisterEvent"));
@@ -110,7 +111,9 @@ void ScreenReader::listen()
         static_cast<void>(answered(m_bus, call));
     }
     if (!m_bus.connect(QString(), QString(), QStringLiteral("org.a11y.atspi.Event.Object"),
-                       QStringLiteral("StateChanged"), this, SLOT(hear(QDBusMessage)))) {
+                       QStringLiteral("StateChanged"), this, SLOT(hear(QDBusMessage))) ||
+        !m_bus.connect(QString(), QString(), QStringLiteral("org.a11y.atspi.Event.Object"),
+                       QStringLiteral("PropertyChange"), this, SLOT(hearOfChange(QDBusMessage)))) {
         throw std::runtime_error("nothing can be heard on the accessibility bus");
     }
 }
@@ -121,6 +124,18 @@ void ScreenReader::hear(const QDBusMessage& signal)
     if (told.value(0).toString() == QStringLiteral("focused") && told.value(1).toInt() == 1) {
         m_focusOwner = signal.service();
         m_focusPath = signal.path();
+    }
+}
+
+void ScreenReader::hearOfChange(const QDBusMessage& signal)
+{
+    const QList<QVariant> told = signal.arguments();
+    const bool isOfFocus = signal.service() == m_focusOwner && signal.path() == m_focusPath;
+    if (isOfFocus && told.value(0).toString() == QStringLiteral("accessible-description")) {
+        // Versions differ in what they send along: the program is asked.
+        const QDBusReply<QDBusVariant> words =
+            m_bus.call(propertyCall(m_focusOwner, m_focusPath, QStringLiteral("Description")));
+        m_description = words.isValid() ? words.value().variant().toString() : QString();
     }
 }
 

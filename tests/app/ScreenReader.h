@@ -33,9 +33,12 @@ public:
     [[nodiscard]] QString focusName() const;
     /// Its role, such as "cell"; empty before.
     [[nodiscard]] QString focusRole() const;
+    /// What has been told last of whatever had the focus by then: how it is described now.
+    [[nodiscard]] const QString& description() const { return m_description; }
 
 private Q_SLOTS:
     void hear(const QDBusMessage& signal);
+    void hearOfChange(const QDBusMessage& signal);
 
 private:
     void startSessionBus();
@@ -49,6 +52,7 @@ private:
     QDBusConnection m_bus{QString()}; ///< of accessibility
     QString m_focusOwner;
     QString m_focusPath;
+    QString m_description;
 };
 
 } // namespace test

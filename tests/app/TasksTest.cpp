@@ -49,8 +49,8 @@ TEST_P(ATask, whoIsInARoomOnADateAtTwo)
     hands.type("205");
     expectRows("Found",
                {"Le jour affiché, lundi",
-                "Salle Salle 205|lundi 14h00–15h30|Salle 205|G2, Physique, Petit",
-                "Dans la semaine", "Salle Salle 205|jeudi 10h15–11h45|Salle 205|G3, Chimie, Roux"});
+                "Salle 205|lundi 14h00–15h30|Salle 205|G2, Physique, Petit", "Dans la semaine",
+                "Salle 205|jeudi 10h15–11h45|Salle 205|G3, Chimie, Roux"});
     hands.press({"Return"}); // and to its box, with who else it may be
     ASSERT_TRUE(until([this] { return view()->framedRoom() == "Salle 205"; }));
     const auto cell = view()->framedCell();

@@ -128,6 +128,23 @@ TEST_F(AnswerJson, tellsWhatClashes)
     EXPECT_FALSE(clashes[0]["sentence"].toString().isEmpty());
 }
 
+TEST_F(AnswerJson, tellsNoDayWhereNobodyKnowsIt)
+{
+    school.draft().course({{timetable::column::kSalle, "Amphi"},
+                           {timetable::column::kSeance, "Mradi2"},
+                           {timetable::column::kClasse, "L3"}});
+    const QJsonValue last = read(school.clashes())["clashes"].toArray().last();
+    EXPECT_EQ(last["kind"], "no-time");
+    EXPECT_EQ(last["name"], "Amphi");
+    EXPECT_EQ(last["day"], QJsonValue());
+    const QJsonArray holders = last["holders"].toArray();
+    ASSERT_EQ(holders.size(), 1);
+    EXPECT_EQ(holders[0]["classes"].toArray(), QJsonArray{"L3"});
+    EXPECT_EQ(holders[0]["rooms"].toArray(), QJsonArray{"Amphi"});
+    EXPECT_EQ(holders[0]["day"], QJsonValue());
+    EXPECT_EQ(holders[0]["start"], QJsonValue());
+}
+
 TEST_F(AnswerJson, tellsSharesAndNoneWhereSeatsAreNotKnown)
 {
     AnswerDocument document = school.roomUse();

@@ -405,6 +405,19 @@ TEST_P(Answers, tellWhereADateIsOutsideThePeriod)
     EXPECT_TRUE(shell::writeAnswer(desk.shell(), line).startsWith("Le 13/06/2025 est hors de la"));
 }
 
+TEST_P(Answers, sayWhatTheyDoNotCountAsItHasNoDay)
+{
+    database().execute("update emplois set Seance='Mradi1' where Salle='C1'");
+    ShellDesk desk(database());
+    desk.load();
+    const QString told = shell::writeAnswer(
+        desk.shell(),
+        shell::CommandLine::parse(QStringList{"tempora", "--free", file} + firstSlot));
+    EXPECT_TRUE(told.startsWith("1 séance n’a pas de jour et n’occupe donc rien : G3, C1"))
+        << told.toStdString();
+    EXPECT_TRUE(told.contains("« Mradi1 » ne nomme aucun jour")) << told.toStdString();
+}
+
 TEST_P(Answers, areWrittenInTheFormThatTheFileAsksFor)
 {
     const std::vector<QStringList> questions{

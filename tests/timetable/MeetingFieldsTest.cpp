@@ -60,7 +60,7 @@ TEST(MeetingFields, ofAnExamAreOneRoomItsTeachersAndItsWeek)
     EXPECT_EQ(columnIn(MeetingKind::Exam, field::of(Part::A, field::kOtherRoom)), QString());
 }
 
-TEST(MeetingFields, areIndispensableWhereTheySayWhichRoomIsHeldAndWhen)
+TEST(MeetingFields, areIndispensableWhereTheySayWhichRoomIsHeldOnWhichDay)
 {
     QStringList indispensable;
     for (const FieldColumn& each : columnsOf(MeetingKind::Course)) {
@@ -68,8 +68,8 @@ TEST(MeetingFields, areIndispensableWhereTheySayWhichRoomIsHeldAndWhen)
             indispensable << each.column;
         }
     }
-    EXPECT_EQ(indispensable, QStringList({"Salle", "YSalle", "Seance", "newnature", "Debut",
-                                          "Durée", "XSalle", "SalleB", "YSalleB", "XSalleB"}));
+    EXPECT_EQ(indispensable, QStringList({"Salle", "YSalle", "Seance", "newnature", "XSalle",
+                                          "SalleB", "YSalleB", "XSalleB"}));
     EXPECT_TRUE(isIndispensable(MeetingKind::MakeUp, field::kDate));
     EXPECT_FALSE(isIndispensable(MeetingKind::MakeUp, field::kNature)); // it has no week
     EXPECT_TRUE(isIndispensable(MeetingKind::Exam, field::kExamWeek));

@@ -226,6 +226,28 @@ TEST_F(DaysOfARow, ofACourseAreNoneWithoutADayInItsKey)
               (std::vector<Unplaced>{{0, NoDay::CourseKey}, {1, NoDay::CourseKey}}));
 }
 
+TEST_F(DaysOfARow, areNoneAndYetItsRoomsAndItsHourMayBeKnown)
+{
+    m_draft.course({{column::kSeance, "Mradi2"},
+                    {column::kSalle, "R1"},
+                    {column::kNewNature, "10/20"},
+                    {column::kSalleB, "R2"}});
+    m_draft.course({{column::kSeance, "Mradi2"}, {column::kSalle, "R1"}, {column::kDebut, "9h00"}});
+    makeUp("Lundi2", "bientôt"); // the slot that its key names is at 9h30
+    const Occupancy occupancy = m_draft.occupancy();
+    ASSERT_EQ(occupancy.unplaced().size(), 3U);
+    const std::vector<Holding> parts = occupancy.holdingsOf(occupancy.unplaced()[0]);
+    ASSERT_EQ(parts.size(), 2U);
+    EXPECT_EQ(occupancy.describe(parts[0]).rooms, QStringList{"R1"});
+    EXPECT_EQ(occupancy.describe(parts[1]).rooms, QStringList{"R2"});
+    EXPECT_EQ(parts[0].weeks, Week::A);
+    EXPECT_EQ(parts[1].weeks, Week::B);
+    EXPECT_EQ(parts[0].day, kNoDay);
+    EXPECT_EQ(parts[0].time, std::nullopt);
+    EXPECT_EQ(occupancy.holdingsOf(occupancy.unplaced()[1]).at(0).time, (TimeSpan{{540}, {90}}));
+    EXPECT_EQ(occupancy.holdingsOf(occupancy.unplaced()[2]).at(0).time, (TimeSpan{{570}, {90}}));
+}
+
 TEST_F(DaysOfARow, putMakeUpsInTheirPlaceAmongTheCourses)
 {
     course("Lundi1");

@@ -1,7 +1,5 @@
 #include "app/asking/AnswerDesk.h"
 
-#include "db/DatabaseError.h"
-
 #include <utility>
 
 namespace app
@@ -41,9 +39,11 @@ void AnswerDesk::read()
         m_inquiry.emplace(m_shell);
         m_readAtRefresh = refreshes;
     } catch (const runtime::RunTimeError& error) {
-        m_fault = QStringLiteral("L’emploi du temps n’a pas pu être lu : %1. Rien n’est connu, et "
+        QString why = error.explanation();
+        why[0] = why.front().toLower();
+        m_fault = QStringLiteral("L’emploi du temps n’a pas pu être lu : %1 Rien n’est connu, et "
                                  "rien n’est dit libre.")
-                      .arg(db::failureWords(db::failureOf(error)));
+                      .arg(why);
     }
 }
 

@@ -11,11 +11,23 @@
 #include <QMessageBox>
 #include <QShortcut>
 #include <QStyle>
-#include <QTreeWidget>
 #include <utility>
 
 namespace app
 {
+
+namespace
+{
+
+/// That so many meetings play no part in any answer.
+QString noDayWords(std::size_t count)
+{
+    return count == 0   ? QString()
+           : count == 1 ? QStringLiteral("  ·  1 séance sans jour ne compte pas")
+                        : QStringLiteral("  ·  %1 séances sans jour ne comptent pas").arg(count);
+}
+
+} // namespace
 
 AnswerWindow::AnswerWindow(AnswerDesk& desk, Ties ties, const QString& title, QWidget* parent)
     : QWidget(parent, Qt::Window), m_desk(desk), m_ties(std::move(ties)), m_line(new QWidget),
@@ -63,13 +75,17 @@ void AnswerWindow::tell(const QString& sentence, bool isWarning)
 {
     const shell::Inquiry* inquiry = m_desk.inquiry();
     QString text = sentence;
+    QString details;
     if (inquiry != nullptr) {
         text += QStringLiteral("  ·  période %1, lue à %2")
                     .arg(inquiry->period(), inquiry->readAt().toString(QStringLiteral("HH'h'mm")));
+        details = inquiry->whatHasNoDay();
+        text += noDayWords(inquiry->occupancy().unplaced().size());
     }
     m_saved->offer({});
     m_status->setText(text);
     m_status->setAccessibleName(text);
+    setPlainToolTip(m_status, details);
     m_status->setProperty("warning", isWarning);
     m_status->style()->unpolish(m_status); // its look depends on the property
     m_status->style()->polish(m_status);
@@ -124,20 +140,6 @@ bool AnswerWindow::event(QEvent* event)
         answer();
     }
     return QWidget::event(event);
-}
-
-QTreeWidget* answerList(const QString& accessibleName, const QStringList& columns)
-{
-    auto* list = new QTreeWidget;
-    list->setAccessibleName(accessibleName);
-    list->setHeaderLabels(columns);
-    list->setRootIsDecorated(false);
-    list->setAllColumnsShowFocus(true);
-    list->setUniformRowHeights(true);
-    list->setAlternatingRowColors(true);
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setTextElideMode(Qt::ElideRight);
-    return list;
 }
 
 QString rhythmWords(const timetable::WeekRhythm& rhythm, QDate date)

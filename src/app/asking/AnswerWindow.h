@@ -9,7 +9,6 @@
 
 class QAbstractButton;
 class QLabel;
-class QTreeWidget;
 
 namespace app
 {
@@ -64,9 +63,6 @@ private:
     SavedLink* m_saved;
     bool m_isPresented = false;
 };
-
-/// A list with these columns, for answers: a row is chosen as a whole, by mouse or keyboard.
-[[nodiscard]] QTreeWidget* answerList(const QString& accessibleName, const QStringList& columns);
 
 /// The date's week for whoever asks by date: "semaine A", or that nobody knows.
 [[nodiscard]] QString rhythmWords(const timetable::WeekRhythm& rhythm, QDate date);

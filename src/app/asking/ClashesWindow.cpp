@@ -3,6 +3,7 @@
 #include "answers/ClashSentence.h"
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
+#include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
 
 #include <QComboBox>
@@ -24,6 +25,9 @@ constexpr int kClashRole = Qt::UserRole; ///< the clash's place in the answer
 
 QString when(const answers::Clash& clash)
 {
+    if (clash.unplaced) {
+        return QStringLiteral("jour inconnu");
+    }
     if (clash.day == timetable::kNoDay) {
         return {};
     }
@@ -49,9 +53,10 @@ QString aloud(const answers::Clash& clash)
 
 ClashesWindow::ClashesWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     : AnswerWindow(desk, std::move(ties), QStringLiteral("Conflits"), parent),
-      m_kind(new QComboBox), m_list(answerList(QStringLiteral("Conflits"),
-                                               {QStringLiteral("Conflit"), QStringLiteral("Quand"),
-                                                QStringLiteral("Ce qui ne va pas")})),
+      m_kind(new QComboBox),
+      m_list(new AnswerList(QStringLiteral("Conflits"),
+                            {QStringLiteral("Conflit"), QStringLiteral("Quand"),
+                             QStringLiteral("Ce qui ne va pas")})),
       m_sentence(plainLabel())
 {
     m_sentence->setObjectName(QStringLiteral("ClashSentence"));

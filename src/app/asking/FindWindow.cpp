@@ -5,6 +5,7 @@
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
 #include "app/WindowStyle.h"
+#include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
 #include "app/asking/ShownDay.h"
 
@@ -66,9 +67,10 @@ QTreeWidgetItem* heading(QTreeWidget* list, const QString& text)
 
 FindWindow::FindWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     : AnswerWindow(desk, std::move(ties), QStringLiteral("Chercher"), parent),
-      m_text(new QLineEdit), m_list(answerList(QStringLiteral("Résultats"),
-                                               {QStringLiteral("Nom"), QStringLiteral("Quand"),
-                                                QStringLiteral("Salle"), QStringLiteral("Séance")}))
+      m_text(new QLineEdit),
+      m_list(new AnswerList(QStringLiteral("Résultats"),
+                            {QStringLiteral("Nom"), QStringLiteral("Quand"),
+                             QStringLiteral("Salle"), QStringLiteral("Séance")}))
 {
     setObjectName(QStringLiteral("FindWindow"));
     m_text->setObjectName(QStringLiteral("SearchText"));
@@ -179,7 +181,7 @@ QTreeWidgetItem* FindWindow::addRow(QTreeWidgetItem* under, const timetable::Occ
                                     const answers::Hit& hit,
                                     const std::vector<timetable::HoldingId>& holdings)
 {
-    QStringList texts{answers::kindWords(hit.subject) + u' ' + hit.name};
+    QStringList texts{answers::titled(answers::kindWords(hit.subject), hit.name)};
     if (holdings.empty()) {
         texts << QStringLiteral("aucune séance cette semaine");
     } else {

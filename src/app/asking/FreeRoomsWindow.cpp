@@ -5,6 +5,7 @@
 #include "app/DateField.h"
 #include "app/PlainTexts.h"
 #include "app/WindowStyle.h"
+#include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
 #include "app/asking/RoomChoice.h"
 #include "runtime/FrenchDate.h"
@@ -37,6 +38,7 @@ constexpr QSize kSize(760, 560);
 constexpr int kMostPlaces = 99999;
 constexpr int kMostWeeks = 60;
 constexpr int kRoomWidth = 190;
+constexpr int kColumnGap = 16; ///< between a time and the next column's text
 // Data of an item.
 constexpr int kRoomRole = Qt::UserRole;
 
@@ -162,9 +164,10 @@ QLayout* FreeRoomsWindow::fieldRows()
 
 void FreeRoomsWindow::buildList()
 {
-    m_list = answerList(QStringLiteral("Salles libres"),
-                        {QStringLiteral("Salle"), QStringLiteral("Places"), QStringLiteral("Libre"),
-                         QStringLiteral("Zone"), QStringLiteral("Département")});
+    m_list =
+        new AnswerList(QStringLiteral("Salles libres"),
+                       {QStringLiteral("Salle"), QStringLiteral("Places"), QStringLiteral("Libre"),
+                        QStringLiteral("Zone"), QStringLiteral("Département")});
     m_list->setObjectName(QStringLiteral("FreeRooms"));
     m_list->header()->resizeSection(0, kRoomWidth);
     m_showsTaken = new QCheckBox(QStringLiteral("Montrer aussi les salles p&rises"));
@@ -395,6 +398,7 @@ void FreeRoomsWindow::list(const shell::Inquiry& inquiry, const answers::FreeRoo
             QStringLiteral("? inconnu : ") + answers::whyUnknown(inquiry.occupancy(), held.by));
     }
     m_list->resizeColumnToContents(2);
+    m_list->header()->resizeSection(2, m_list->header()->sectionSize(2) + kColumnGap);
     if (!answer.rooms.empty()) {
         m_list->setCurrentItem(m_list->topLevelItem(0));
     }

@@ -7,6 +7,7 @@ class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QSpinBox;
+class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace app

@@ -2,6 +2,7 @@
 
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
+#include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
 #include "app/asking/RoomChoice.h"
 #include "app/asking/ShareBar.h"
@@ -194,7 +195,7 @@ void RoomUseWindow::addList(const files::TableSection& section)
     for (const files::TableColumn& column : section.columns) {
         titles << column.title;
     }
-    QTreeWidget* list = answerList(section.heading, titles);
+    QTreeWidget* list = new AnswerList(section.heading, titles);
     list->setObjectName(QStringLiteral("Use_") + section.label);
     for (const files::TableRow& row : section.rows) {
         auto* item = new UseItem(list);

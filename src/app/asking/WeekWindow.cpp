@@ -5,9 +5,11 @@
 #include "app/ErrorReport.h"
 #include "app/PlainTexts.h"
 #include "app/PrinterOutput.h"
+#include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
 #include "app/asking/OverviewView.h"
 #include "app/asking/ShownDay.h"
+#include "app/asking/SubjectChoice.h"
 #include "app/asking/WeekView.h"
 #include "files/AnswerWeekPdf.h"
 #include "paint/WeekLegend.h"
@@ -36,48 +38,7 @@ namespace
 {
 
 constexpr QSize kSize(1080, 700);
-// Positions in the list of kinds: those of `answers::Subject`, and all rooms behind them.
-constexpr int kRooms = 0;
-constexpr int kAllRooms = 4;
 constexpr int kHoldingRole = Qt::UserRole;
-
-/// The spellings of a list of names, each name once, by their order.
-template <typename NameId>
-QStringList namesOf(const timetable::Names<NameId>& names)
-{
-    QStringList all;
-    for (int index = 0; index < names.count(); ++index) {
-        const NameId id(index);
-        if (names.group(id) == id && !names.text(id).isEmpty()) {
-            all << names.text(id);
-        }
-    }
-    all.sort(Qt::CaseInsensitive);
-    return all;
-}
-
-QStringList roomsOf(const timetable::Timetable& timetable)
-{
-    QStringList all;
-    for (int index = 0; index < timetable.roomCount(); ++index) {
-        all << timetable.room(timetable::RoomId(index)).name;
-    }
-    return all;
-}
-
-QStringList namesOf(const timetable::Timetable& timetable, int kind)
-{
-    switch (kind) {
-    case 1:
-        return namesOf(timetable.teachers());
-    case 2:
-        return namesOf(timetable.classes());
-    case 3:
-        return namesOf(timetable.subjects());
-    default:
-        return roomsOf(timetable);
-    }
-}
 
 } // namespace
 
@@ -109,9 +70,7 @@ void WeekWindow::buildFields()
     m_kind = new QComboBox;
     m_kind->setObjectName(QStringLiteral("WeekKind"));
     m_kind->setAccessibleName(QStringLiteral("Semaine de quoi"));
-    m_kind->addItems({QStringLiteral("Salle"), QStringLiteral("Enseignant"),
-                      QStringLiteral("Classe"), QStringLiteral("Matière"),
-                      QStringLiteral("Toutes les salles")});
+    m_kind->addItems(subjectKinds());
     m_name = new QComboBox;
     m_name->setObjectName(QStringLiteral("WeekName"));
     m_name->setAccessibleName(QStringLiteral("Nom"));
@@ -180,10 +139,11 @@ QWidget* WeekWindow::buildPages()
     m_overview->onOpen = [this](const answers::WeekBox& box) { open(box); };
     m_overview->onOpenRoom = [this](const answers::RoomWeek& room) { presentFor(room.room); };
     m_overview->onCursor = [this](const QString& words) { tell(words); };
-    m_list = answerList(QStringLiteral("Séances de la semaine"),
-                        {QStringLiteral("Jour"), QStringLiteral("Heure"), QStringLiteral("Salle"),
-                         QStringLiteral("Classe"), QStringLiteral("Enseignant"),
-                         QStringLiteral("Matière"), QStringLiteral("Semaine")});
+    m_list =
+        new AnswerList(QStringLiteral("Séances de la semaine"),
+                       {QStringLiteral("Jour"), QStringLiteral("Heure"), QStringLiteral("Salle"),
+                        QStringLiteral("Classe"), QStringLiteral("Enseignant"),
+                        QStringLiteral("Matière"), QStringLiteral("Semaine")});
     m_list->setObjectName(QStringLiteral("WeekList"));
     connect(m_list, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) {
         answers::WeekBox box;
@@ -220,14 +180,14 @@ QLayout* WeekWindow::buttonRow()
 void WeekWindow::presentFor(const std::optional<answers::Subject>& subject)
 {
     const shell::Inquiry* inquiry = desk().inquiry();
-    presentKind(subject ? static_cast<int>(subject->index()) : kAllRooms,
+    presentKind(subject ? static_cast<int>(subject->index()) : kAllRoomsKind,
                 subject && inquiry != nullptr ? answers::nameOf(inquiry->timetable(), *subject)
                                               : QString());
 }
 
 void WeekWindow::presentRoom(const QString& name)
 {
-    presentKind(kRooms, name);
+    presentKind(kRoomKind, name);
 }
 
 void WeekWindow::presentKind(int kind, const QString& name)
@@ -247,7 +207,7 @@ void WeekWindow::presentKind(int kind, const QString& name)
 void WeekWindow::presentRoomDay(const QString& name)
 {
     m_wantedDay = shownDay(desk().shell().form());
-    presentKind(kRooms, name);
+    presentKind(kRoomKind, name);
 }
 
 void WeekWindow::chooseShownWeek()
@@ -268,15 +228,15 @@ void WeekWindow::goToWantedDay()
 {
     const int day = *std::exchange(m_wantedDay, std::nullopt);
     if (!m_view->goToDay(day)) {
-        tell(QStringLiteral("%1 : rien dans la salle %2")
+        tell(QStringLiteral("%1 : rien dans la %2")
                  .arg(m_view->grid().days.at(static_cast<std::size_t>(day)).title,
-                      m_name->currentText()));
+                      answers::titled(QStringLiteral("salle"), m_name->currentText())));
     }
 }
 
 bool WeekWindow::isOfAllRooms() const
 {
-    return m_kind->currentIndex() == kAllRooms;
+    return m_kind->currentIndex() == kAllRoomsKind;
 }
 
 void WeekWindow::changed()
@@ -293,7 +253,7 @@ void WeekWindow::offerNames(const shell::Inquiry& inquiry)
         return;
     }
     const QScopedValueRollback<bool> filling(m_isFilling, true);
-    const QStringList names = namesOf(inquiry.timetable(), m_kind->currentIndex());
+    const QStringList names = subjectNames(inquiry.timetable(), m_kind->currentIndex());
     QStringList present;
     for (int index = 0; index < m_name->count(); ++index) {
         present << m_name->itemText(index);
@@ -310,18 +270,7 @@ void WeekWindow::offerNames(const shell::Inquiry& inquiry)
 
 std::optional<answers::Subject> WeekWindow::subject(const shell::Inquiry& inquiry) const
 {
-    const QString name = m_name->currentText();
-    const timetable::Occupancy& occupancy = inquiry.occupancy();
-    switch (m_kind->currentIndex()) {
-    case 1:
-        return answers::teacherNamed(occupancy, name);
-    case 2:
-        return answers::classNamed(occupancy, name);
-    case 3:
-        return answers::subjectNamed(occupancy, name);
-    default:
-        return answers::roomNamed(occupancy, name);
-    }
+    return chosenSubject(inquiry.occupancy(), m_kind->currentIndex(), m_name->currentText());
 }
 
 answers::AskedWeek WeekWindow::week(const shell::Inquiry& inquiry) const

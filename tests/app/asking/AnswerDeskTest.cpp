@@ -80,6 +80,16 @@ TEST_P(TheDesk, readsOnceForAllWhoWait)
     EXPECT_EQ(statements() - before, 10);
 }
 
+TEST_P(TheDesk, namesTheColumnThatIsMissing)
+{
+    database().execute("alter table emplois drop column newnature");
+    ask();
+    letGo();
+    EXPECT_EQ(desk->fault(),
+              "L’emploi du temps n’a pas pu être lu : la colonne « newnature » manque dans la "
+              "table « emplois ». Rien n’est connu, et rien n’est dit libre.");
+}
+
 TEST_P(TheDesk, tellsWhatCannotBeReadAndForgetsWhatItKnew)
 {
     ask();

@@ -127,6 +127,18 @@ TEST_F(TheFreeRooms, areNeverThoseOfATimetableThatCannotBeRead)
     EXPECT_FALSE(window().failed());
 }
 
+TEST_F(TheFreeRooms, sayWhichSeancesTheyDoNotCount)
+{
+    database.execute("update emplois set Seance='Mradi1' where Salle='C1'");
+    open();
+    const app::FreeRoomsWindow* answers = asked();
+    ASSERT_TRUE(until([&] { return status(*answers).contains("sans jour ne compte"); }))
+        << status(*answers).toStdString();
+    const auto* line = answers->findChild<QLabel*>("AnswerStatus");
+    EXPECT_TRUE(line->accessibleDescription().contains("« Mradi1 » ne nomme aucun jour"))
+        << line->accessibleDescription().toStdString();
+}
+
 TEST_F(TheFreeRooms, areNotToldForADateWhoseMakeUpsCannotBeRead)
 {
     open();
