@@ -7,13 +7,13 @@
 #include "app/WindowStyle.h"
 #include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
+#include "app/asking/AskingLine.h"
 #include "app/asking/ShownDay.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -67,7 +67,7 @@ QTreeWidgetItem* heading(QTreeWidget* list, const QString& text)
 
 FindWindow::FindWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     : AnswerWindow(desk, std::move(ties), QStringLiteral("Chercher"), parent),
-      m_text(new QLineEdit),
+      m_text(new AskingLine),
       m_list(new AnswerList(QStringLiteral("Résultats"),
                             {QStringLiteral("Nom"), QStringLiteral("Quand"),
                              QStringLiteral("Salle"), QStringLiteral("Séance")}))
@@ -112,8 +112,7 @@ FindWindow::FindWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     connect(m_text, &QLineEdit::returnPressed, this, [this] { choose(m_list->currentItem()); });
     connect(m_list, &QTreeWidget::itemActivated, this,
             [this](const QTreeWidgetItem* item) { choose(item); });
-    auto* down = new QShortcut(Qt::Key_Down, m_text, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(down, &QShortcut::activated, this, [this] { m_list->setFocus(); });
+    m_text->onDown = [this] { m_list->setFocus(); };
     resize(kSize);
 }
 

@@ -2,12 +2,13 @@
 
 #include "app/asking/AnswerWindow.h"
 
-class QLineEdit;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace app
 {
+
+class AskingLine;
 
 /// "Chercher": where the teachers, classes, rooms and subjects are whose name holds what is typed;
 /// those of the shown day first. Three letters are enough, fewer find too much.
@@ -42,7 +43,7 @@ private:
     void choose(const QTreeWidgetItem* item);
     void openWeek();
 
-    QLineEdit* m_text;
+    AskingLine* m_text;
     QTreeWidget* m_list;
     std::optional<files::AnswerDocument> m_document; ///< what is shown
 };

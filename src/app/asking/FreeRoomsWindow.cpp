@@ -7,6 +7,7 @@
 #include "app/WindowStyle.h"
 #include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
+#include "app/asking/AskingLine.h"
 #include "app/asking/RoomChoice.h"
 #include "runtime/FrenchDate.h"
 #include "timetable/ReadTimes.h"
@@ -21,7 +22,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QSpinBox>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -90,7 +90,7 @@ FreeRoomsWindow::FreeRoomsWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
 
 void FreeRoomsWindow::buildFields()
 {
-    m_line = new QLineEdit;
+    m_line = new AskingLine;
     m_line->setObjectName(QStringLiteral("QuickQuestion"));
     m_line->setAccessibleName(QStringLiteral("Salle cherchée, en quelques mots"));
     setHint(m_line, QStringLiteral("mardi 9h30 40 places   ou   24/11 14h-16h zone 2"));
@@ -123,8 +123,7 @@ void FreeRoomsWindow::buildFields()
 
     connect(m_line, &QLineEdit::textChanged, this, [this] { readLine(); });
     connect(m_line, &QLineEdit::returnPressed, this, [this] { goToChosen(); });
-    auto* down = new QShortcut(Qt::Key_Down, m_line, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(down, &QShortcut::activated, this, [this] { m_list->setFocus(); });
+    m_line->onDown = [this] { m_list->setFocus(); };
     connect(m_day, &QComboBox::currentIndexChanged, this, [this] { changed(); });
     connect(m_isDated, &QCheckBox::toggled, this, [this](bool isDated) {
         m_date->setEnabled(isDated);

@@ -5,7 +5,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QLineEdit;
 class QSpinBox;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -13,6 +12,7 @@ class QTreeWidgetItem;
 namespace app
 {
 
+class AskingLine;
 class DateField;
 class RoomChoice;
 
@@ -66,7 +66,7 @@ private:
     void goToChosen();
     void changed();
 
-    QLineEdit* m_line = nullptr;
+    AskingLine* m_line = nullptr;
     QComboBox* m_day = nullptr;
     QCheckBox* m_isDated = nullptr;
     DateField* m_date = nullptr;
