@@ -61,6 +61,14 @@ bool AccessProduct::deleteFirst(const QString& sql, Session& session) const
     return true;
 }
 
+std::optional<QStringList> AccessProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
+                                                        TextColumns columns) const
+{
+    // Its texts are Unicode as they are.
+    return columns == TextColumns::AsTheyAre ? std::optional(pairedEqualTextsSql(questions))
+                                             : std::nullopt;
+}
+
 SQLSMALLINT AccessProduct::cTypeOf(SQLSMALLINT type) const
 {
     return type == SQL_BIT ? SQL_C_BIT : SQL_C_WCHAR;

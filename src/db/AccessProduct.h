@@ -16,6 +16,9 @@ public:
     /// writes.
     bool deleteFirst(const QString& sql, Session& session) const override;
 
+    [[nodiscard]] std::optional<QStringList>
+    equalTextsSql(const std::vector<TextQuestion>& questions, TextColumns columns) const override;
+
     [[nodiscard]] SQLSMALLINT cTypeOf(SQLSMALLINT type) const override;
     /// A date where the column's type is one: a text would be read by the system's language. Two
     /// digits of a year are read there as in a literal, 1930 to 2029, so that the two agree.

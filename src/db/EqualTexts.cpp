@@ -38,32 +38,38 @@ void unite(TextGroups& groups, const Row& row)
         throw RunTimeError(ErrorNumber::DatabaseFailure,
                            QStringLiteral("The list of equal names is not complete."));
     }
-    const std::size_t first = *std::min_element(members.begin(), members.end());
+    // Rows may tell of the same texts: what is equal to one of them is equal to all.
+    const auto byGroup = [&groups](std::size_t left, std::size_t right) {
+        return groups[left] < groups[right];
+    };
+    const int first = groups[*std::min_element(members.begin(), members.end(), byGroup)];
     for (const std::size_t member : members) {
-        groups[member] = static_cast<int>(first);
+        std::replace(groups.begin(), groups.end(), int{groups[member]}, first);
     }
 }
 
 /// Asks about the columns as they are, and of texts that their character sets cannot hold once more
 /// in Unicode.
-Recordset equalGroups(const std::vector<TextQuestion>& questions, Session& session)
+std::vector<Recordset> equalGroups(const std::vector<TextQuestion>& questions, Session& session)
 {
+    const auto opened = [&session](const QStringList& statements) {
+        std::vector<Recordset> groups;
+        for (const QString& sql : statements) {
+            groups.push_back(session.open(sql));
+        }
+        return groups;
+    };
     const Product& product = session.product();
-    const QString sql = product.equalTextsSql(questions, TextColumns::AsTheyAre);
-    if (sql.isEmpty()) {
-        throw RunTimeError(ErrorNumber::StatementRefused,
-                           QStringLiteral("The database cannot be asked which texts are equal."));
-    }
     try {
-        return session.open(sql);
+        return opened(product.equalTextsSql(questions, TextColumns::AsTheyAre).value());
     } catch (const RunTimeError& error) {
-        const QString inUnicode = error.number() == ErrorNumber::StatementRefused
-                                      ? product.equalTextsSql(questions, TextColumns::InUnicode)
-                                      : QString();
-        if (inUnicode.isEmpty()) {
+        const auto inUnicode = error.number() == ErrorNumber::StatementRefused
+                                   ? product.equalTextsSql(questions, TextColumns::InUnicode)
+                                   : std::nullopt;
+        if (!inUnicode) {
             throw;
         }
-        return session.open(inUnicode);
+        return opened(*inUnicode);
     }
 }
 
@@ -78,9 +84,10 @@ std::vector<TextGroups> equalTexts(const std::vector<TextQuestion>& questions, S
     }
     if (std::any_of(questions.begin(), questions.end(),
                     [](const TextQuestion& each) { return each.texts.size() > 1; })) {
-        const Recordset groups = equalGroups(questions, session);
-        for (const Row& row : groups.rows()) {
-            unite(answers.at(static_cast<std::size_t>(row.field(0).toInt32())), row);
+        for (const Recordset& groups : equalGroups(questions, session)) {
+            for (const Row& row : groups.rows()) {
+                unite(answers.at(static_cast<std::size_t>(row.field(0).toInt32())), row);
+            }
         }
     }
     return answers;

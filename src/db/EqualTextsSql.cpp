@@ -2,6 +2,7 @@
 
 #include "db/NumberedTexts.h"
 
+#include <QHash>
 #include <QStringList>
 #include <algorithm>
 #include <cstddef>
@@ -110,7 +111,72 @@ QString joined(const std::vector<TextQuestion>& questions, Compared compared)
     return parts.join(QStringLiteral(" union all "));
 }
 
+/// How many queries one statement joins: Access is said to take fifty.
+constexpr qsizetype kMostPairs = 30;
+
+/// What is left of a text when case, accents, blanks and signs play no part.
+QString likeness(const QString& text)
+{
+    QString left;
+    for (const QChar character : text.normalized(QString::NormalizationForm_KD)) {
+        if (character.isLetterOrNumber() || character.isSurrogate()) {
+            left += character;
+        }
+    }
+    left = left.toCaseFolded();
+    return left.replace(u'œ', QStringLiteral("oe"))
+        .replace(u'æ', QStringLiteral("ae"))
+        .replace(u'ß', QStringLiteral("ss"));
+}
+
+/// The row that says that two of the texts are equal: compared by themselves, or in a row that the
+/// column brings.
+QString pairSql(const TextQuestion& question, std::size_t number, std::size_t first,
+                std::size_t second)
+{
+    const QString left = quoted(question.texts[first]);
+    const QString right = quoted(question.texts[second]);
+    return QStringLiteral("select distinct %1,'%2,%3',2 from ")
+               .arg(number)
+               .arg(first + 1)
+               .arg(second + 1) +
+           question.table + QStringLiteral(" where ") + left + u'=' + right +
+           QStringLiteral(" or (") + question.column + u'=' + left + QStringLiteral(" and ") +
+           question.column + u'=' + right + u')';
+}
+
+/// The queries for all pairs of a question's texts that are alike.
+QStringList pairsOf(const TextQuestion& question, std::size_t number)
+{
+    QStringList queries;
+    QHash<QString, std::vector<std::size_t>> alike;
+    for (std::size_t text = 0; text < question.texts.size(); ++text) {
+        if (question.texts[text].contains(QChar(u'\0'))) {
+            continue;
+        }
+        std::vector<std::size_t>& others = alike[likeness(question.texts[text])];
+        for (const std::size_t other : others) {
+            queries << pairSql(question, number, other, text);
+        }
+        others.push_back(text);
+    }
+    return queries;
+}
+
 } // namespace
+
+QStringList pairedEqualTextsSql(const std::vector<TextQuestion>& questions)
+{
+    QStringList queries;
+    for (std::size_t number = 0; number < questions.size(); ++number) {
+        queries << pairsOf(questions[number], number);
+    }
+    QStringList statements;
+    for (qsizetype first = 0; first < queries.size(); first += kMostPairs) {
+        statements << queries.mid(first, kMostPairs).join(QStringLiteral(" union all "));
+    }
+    return statements;
+}
 
 QString sqliteEqualTextsSql(const std::vector<TextQuestion>& questions)
 {

@@ -173,10 +173,10 @@ Value MariaDbProduct::dateToWrite(QDate date, const ColumnName& /*column*/, Sess
     return Value(session.dialect().dateText(date));
 }
 
-QString MariaDbProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
-                                      TextColumns columns) const
+std::optional<QStringList> MariaDbProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
+                                                         TextColumns columns) const
 {
-    return serverEqualTextsSql(questions, columns);
+    return QStringList{serverEqualTextsSql(questions, columns)};
 }
 
 QString MariaDbProduct::textCountsSql(const std::vector<CountQuestion>& questions,

@@ -46,8 +46,8 @@ public:
                                     Session& session) const override;
 
     [[nodiscard]] std::optional<Packing> packing() const override { return Packing::Separated; }
-    [[nodiscard]] QString equalTextsSql(const std::vector<TextQuestion>& questions,
-                                        TextColumns columns) const override;
+    [[nodiscard]] std::optional<QStringList>
+    equalTextsSql(const std::vector<TextQuestion>& questions, TextColumns columns) const override;
     [[nodiscard]] QString textCountsSql(const std::vector<CountQuestion>& questions,
                                         const QStringList& literals) const override;
 

@@ -35,12 +35,6 @@ QString Product::metByMost(const QString& condition) const
     return condition;
 }
 
-QString Product::equalTextsSql(const std::vector<TextQuestion>& /*questions*/,
-                               TextColumns /*columns*/) const
-{
-    return {};
-}
-
 QString Product::spelledCountsSql(const std::vector<CountQuestion>& /*questions*/,
                                   const QStringList& /*literals*/) const
 {

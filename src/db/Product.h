@@ -11,6 +11,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 #include <optional>
 #include <vector>
 
@@ -80,10 +81,10 @@ public:
     [[nodiscard]] virtual QString metByMost(const QString& condition) const;
     /// How rows can arrive as one text each; nothing where they cannot.
     [[nodiscard]] virtual std::optional<Packing> packing() const { return std::nullopt; }
-    /// The statement that asks which texts are equal (see EqualTextsSql.h); empty where the product
-    /// cannot be asked, or not about columns turned into Unicode.
-    [[nodiscard]] virtual QString equalTextsSql(const std::vector<TextQuestion>& questions,
-                                                TextColumns columns) const;
+    /// The statements that ask which texts are equal (see EqualTextsSql.h), none where that is
+    /// known without; nothing where the product cannot be asked about columns turned into Unicode.
+    [[nodiscard]] virtual std::optional<QStringList>
+    equalTextsSql(const std::vector<TextQuestion>& questions, TextColumns columns) const = 0;
 
     /// The quick statement that counts them where rows spell the texts as they are given; empty
     /// where the product is asked whole at once.

@@ -142,10 +142,12 @@ QString SqliteProduct::metByMost(const QString& condition) const
     return QStringLiteral("likelihood(") + condition + QStringLiteral(",0.9)");
 }
 
-QString SqliteProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
-                                     TextColumns columns) const
+std::optional<QStringList> SqliteProduct::equalTextsSql(const std::vector<TextQuestion>& questions,
+                                                        TextColumns columns) const
 {
-    return columns == TextColumns::AsTheyAre ? sqliteEqualTextsSql(questions) : QString();
+    return columns == TextColumns::AsTheyAre
+               ? std::optional(QStringList{sqliteEqualTextsSql(questions)})
+               : std::nullopt;
 }
 
 QString SqliteProduct::spelledCountsSql(const std::vector<CountQuestion>& questions,

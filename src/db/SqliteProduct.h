@@ -47,8 +47,8 @@ public:
     /// itself where a scan of the table is quicker.
     [[nodiscard]] QString metByMost(const QString& condition) const override;
     [[nodiscard]] std::optional<Packing> packing() const override { return Packing::Json; }
-    [[nodiscard]] QString equalTextsSql(const std::vector<TextQuestion>& questions,
-                                        TextColumns columns) const override;
+    [[nodiscard]] std::optional<QStringList>
+    equalTextsSql(const std::vector<TextQuestion>& questions, TextColumns columns) const override;
     [[nodiscard]] QString spelledCountsSql(const std::vector<CountQuestion>& questions,
                                            const QStringList& literals) const override;
     [[nodiscard]] QString textCountsSql(const std::vector<CountQuestion>& questions,

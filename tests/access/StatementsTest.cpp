@@ -67,14 +67,18 @@ protected:
             static_cast<void>(desk(plain)->play(arguments));
         }
     }
-    void answer(const QStringList& arguments)
+    /// What is written for a question, by the program in Access mode or on the file itself.
+    [[nodiscard]] QString answer(const QStringList& arguments, bool byAccess)
     {
-        const std::unique_ptr<ShellDesk> asked = desk();
+        const std::unique_ptr<ShellDesk> asked =
+            byAccess ? desk() : std::make_unique<ShellDesk>(m_database);
+        asked->setup.set("SemaineA", "2025-03-10");
         asked->load();
         const QString file = asked->setup.path("answer.json");
         QStringList line{"tempora", arguments.front(), file};
         line += arguments.mid(1);
         static_cast<void>(shell::writeAnswer(asked->shell(), shell::CommandLine::parse(line)));
+        return fileText(file);
     }
 
     [[nodiscard]] QStringList sent() const
@@ -135,15 +139,33 @@ TEST_F(WhatAccessIsSent, isAccessSqlForOtherRoomsWeeksAndCounts)
     expectWordsOfAccess();
 }
 
-/// The answers need to know which names are equal, and no statement is known that asks Access.
-TEST_F(WhatAccessIsSent, isAccessSqlUpToTheAnswersThatItCannotGive)
+TEST_F(WhatAccessIsSent, isAccessSqlForAnswersThatAreThoseOfOtherProducts)
 {
+    static_cast<void>(desk()); // fills the database
+    database().execute(
+        {"insert into emplois (Tranche, Seance, Salle, Classe, Enseignant1, "
+         "newnature, Debut) values (1, 'Mardi2', 'A2', 'g 1', 'DURAND', '00', '10h15')",
+         "insert into emplois (Tranche, Seance, Salle, Classe, newnature) values "
+         "(1, 'Mradi2', 'Usine', 'G1', '00')"});
     for (const QStringList& question :
          {QStringList{"--free", "--date", "2025-03-17", "--from", "8h30", "--to", "10h00"},
           QStringList{"--week-of", "--teacher", "Martin"}, QStringList{"--clashes"},
-          QStringList{"--use"}}) {
-        EXPECT_EQ(errorNumberOf([&] { answer(question); }), runtime::ErrorNumber::StatementRefused);
+          QStringList{"--find", "--text", "dur"}, QStringList{"--use"}}) {
+        EXPECT_EQ(answer(question, true), answer(question, false))
+            << question.front().toStdString();
     }
+    EXPECT_TRUE(hasSent("'DURAND'='Durand'") || hasSent("'Durand'='DURAND'"));
+    expectWordsOfAccess();
+}
+
+TEST_F(WhatAccessIsSent, findsNamesThatAColumnTakesForEqual)
+{
+    database().execute(QStringList("create table salle (Nom text collate nocase)"));
+    database().execute(QStringList("insert into salle (Nom) values ('Amphi A')"));
+    db::Connection connection(connectString());
+    EXPECT_EQ(connection.equalTexts(
+                  {{"salle", "Nom", {"AMPHI A", "Labo", "amphi a", "Amphi-A", "Amphi A"}}})[0],
+              (db::TextGroups{0, 1, 0, 3, 0}));
     expectWordsOfAccess();
 }
 

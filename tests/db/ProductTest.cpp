@@ -13,6 +13,12 @@ class PlainProduct : public Product
 {
 public:
     bool deleteFirst(const QString& /*sql*/, Session& /*session*/) const override { return false; }
+    [[nodiscard]] std::optional<QStringList>
+    equalTextsSql(const std::vector<TextQuestion>& /*questions*/,
+                  TextColumns /*columns*/) const override
+    {
+        return QStringList();
+    }
     [[nodiscard]] SQLSMALLINT cTypeOf(SQLSMALLINT /*type*/) const override { return SQL_C_WCHAR; }
     [[nodiscard]] Value dateToWrite(QDate date, const ColumnName& /*column*/,
                                     Session& /*session*/) const override
