@@ -32,12 +32,14 @@ QString roomsShown(const form::PlanForm& form, const context::RoomPage& page)
     const int last = rule.positionOf(page.PageOffset, page.RowsShown) + 1;
     const QString rooms = first == last ? QStringLiteral("Salle %1").arg(first)
                                         : QStringLiteral("Salles %1–%2").arg(first).arg(last);
+    const QString words = QStringLiteral("%1 sur %2").arg(rooms).arg(page.listed);
+    if (!rule.isStart(page.PageOffset)) {
+        return words; // between two pages: it has no number
+    }
     const int pages = rule.pageCount(page.listed);
-    return QStringLiteral("%1 sur %2, page %3/%4")
-        .arg(rooms)
-        .arg(page.listed)
-        .arg(std::min(rule.pageOf(first - 1) + 1, pages))
-        .arg(pages);
+    return words + QStringLiteral(", page %1/%2")
+                       .arg(std::min(rule.pageOf(first - 1) + 1, pages))
+                       .arg(pages);
 }
 
 QString namesShown(const context::RoomPage& page)

@@ -103,7 +103,7 @@ void PlanView::paintLights(QPainter& painter, const Bands& view) const
 void PlanView::paintClock(QPainter& painter, const Bands& view) const
 {
     const std::optional<int> minute = clockMinute();
-    if (!minute) {
+    if (!minute || m_engine.content().rows.empty()) {
         return;
     }
     const double x = m_target.onAxis(paint::positionOf(m_engine.form(), *minute)) -

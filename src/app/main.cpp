@@ -11,6 +11,7 @@
 #include "shell/Answers.h"
 #include "shell/CommandLine.h"
 #include "shell/Export.h"
+#include "shell/HallChoices.h"
 #include "shell/Player.h"
 
 #include <QScopeGuard>
@@ -91,9 +92,11 @@ void writeWithoutWindow(const shell::CommandLine& line)
     }
     shell.fitPicture();
     shell.Form_Activate();
-    shell::play(shell, line);
-    const QString told = shell::exportPlan(shell, line.exportFile,
-                                           {line.allPages, line.allowIncomplete, line.refresh});
+    const shell::CommandLine played =
+        line.refresh ? shell::hallPageChoices(line, QDate::currentDate(), shell.weekA()) : line;
+    shell::play(shell, played);
+    const QString told = shell::exportPlan(
+        shell, played.exportFile, {played.allPages, played.allowIncomplete, played.refresh});
     if (!told.isEmpty()) {
         app::writeError(told);
     }

@@ -2,11 +2,14 @@
 
 #include "files/HtmlText.h"
 #include "paint/CellBox.h"
+#include "paint/ClockLine.h"
 #include "plan/BoxLines.h"
 #include "plan/BoxWords.h"
 #include "plan/FaultWords.h"
 #include "plan/SlotColumns.h"
 #include "print/Heading.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/TimeOfDay.h"
 
 #include <algorithm>
 
@@ -28,6 +31,30 @@ QString paragraph(const QString& cssClass, const QString& text)
 {
     return QStringLiteral("<div class=\"") + cssClass + QStringLiteral("\">") + escaped(text) +
            QStringLiteral("</div>");
+}
+
+/// When the page is read, in minutes since midnight; nothing where it does not show that day.
+using Now = std::optional<int>;
+
+Now nowOf(const PlanDocument& document)
+{
+    return document.refresh ? paint::clockMinute(document.refresh->writtenAt, document.date)
+                            : std::nullopt;
+}
+
+/// " past" for what has ended by then, " now" for what is under way; else nothing.
+QString momentClass(const QString& start, int minutes, const Now& now)
+{
+    QString cssClass;
+    if (now) {
+        runtime::skipOnError([&] {
+            const int end = runtime::endMinute(start, minutes);
+            cssClass = end <= *now             ? QStringLiteral(" past")
+                       : end - minutes <= *now ? QStringLiteral(" now")
+                                               : QString();
+        });
+    }
+    return cssClass;
 }
 
 /// `columnTime` heads the box's column: a box of the same time need not repeat it.
@@ -58,7 +85,7 @@ QString columnTitle(const plan::PlanState& state, int number)
 }
 
 QString rowHtml(const plan::PlanState& state, const plan::PlanRow& row,
-                const std::vector<int>& columns)
+                const std::vector<int>& columns, const Now& now)
 {
     QString html = QStringLiteral("<tr style=\"--fill:%1;--ink:%2\"><th scope=\"row\">%3</th>"
                                   "<td class=\"places\">%4</td>")
@@ -75,19 +102,24 @@ QString rowHtml(const plan::PlanState& state, const plan::PlanRow& row,
         const std::size_t count = plan::columnsOf(state.slots, row, *box, columns, column);
         const QString span = count > 1 ? QStringLiteral(" colspan=\"%1\"").arg(count) : QString();
         html += QStringLiteral("<td class=\"%1\"%2>%3</td>")
-                    .arg(box->makeUp ? QStringLiteral("box makeup") : QStringLiteral("box"), span,
-                         boxHtml(state.form, *box, columnTitle(state, box->slot)));
+                    .arg((box->makeUp ? QStringLiteral("box makeup") : QStringLiteral("box")) +
+                             momentClass(box->cell.CellStart, box->minutes, now),
+                         span, boxHtml(state.form, *box, columnTitle(state, box->slot)));
         column += count;
     }
     return html + QStringLiteral("</tr>\n");
 }
 
-QString headRow(const plan::PlanState& state, const std::vector<int>& columns)
+QString headRow(const plan::PlanState& state, const std::vector<int>& columns, const Now& now)
 {
     QString html = QStringLiteral("<tr><th scope=\"col\">Salle</th><th scope=\"col\">Places</th>");
     for (const int number : columns) {
-        html += QStringLiteral("<th scope=\"col\">") + escaped(columnTitle(state, number)) +
-                QStringLiteral("</th>");
+        const auto& slot = state.slots.slot(number);
+        const QString moment =
+            slot ? momentClass(slot->start, slot->minutes, now).trimmed() : QString();
+        html += QStringLiteral("<th scope=\"col\"") +
+                (moment.isEmpty() ? QString() : QStringLiteral(" class=\"%1\"").arg(moment)) +
+                u'>' + escaped(columnTitle(state, number)) + QStringLiteral("</th>");
     }
     return html + QStringLiteral("</tr>\n");
 }
@@ -121,10 +153,11 @@ QString tableHtml(const PlanDocument& document, const QString& title)
         contents.emplace_back(page.content);
     }
     const std::vector<int> columns = plan::slotColumns(state.slots, contents);
+    const Now now = nowOf(document);
     QString rows;
     for (const plan::PlanPage& page : document.pages) {
         for (const plan::PlanRow& row : page.content.rows) {
-            rows += rowHtml(state, row, columns);
+            rows += rowHtml(state, row, columns, now);
         }
     }
     if (rows.isEmpty()) {
@@ -132,7 +165,7 @@ QString tableHtml(const PlanDocument& document, const QString& title)
     }
     return QStringLiteral("<table>\n<caption>") + escaped(title) +
            QStringLiteral(" : une ligne par salle, une colonne par séance</caption>\n<thead>") +
-           headRow(state, columns) + QStringLiteral("</thead>\n<tbody>\n") + rows +
+           headRow(state, columns, now) + QStringLiteral("</thead>\n<tbody>\n") + rows +
            QStringLiteral("</tbody>\n") + totalsRow(document.pages.back(), columns) +
            QStringLiteral("</table>\n");
 }

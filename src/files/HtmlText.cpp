@@ -87,7 +87,8 @@ QString refreshingHtmlDocument(const QString& title, const QString& body, int se
 {
     return documentWith(
         QStringLiteral("<meta http-equiv=\"refresh\" content=\"%1\"/>\n").arg(seconds), title, body,
-        styleSheet());
+        styleSheet() + QStringLiteral(".past { opacity: 0.45; }\n"
+                                      "thead .now { box-shadow: inset 0 -0.25em #d0021b; }\n"));
 }
 
 QString htmlDocument(const QString& title, const QString& body, const QString& style)

@@ -26,8 +26,8 @@ struct DrawingTarget {
     /// starts from the painter's font.
     int FontSize = 0;
 
-    /// The window's own: boxes that overlap share the height of their row, and a box that is held
-    /// in one week alone says in a corner in which.
+    /// The window's and the hall's own: boxes that overlap share the height of their row, and a box
+    /// that is held in one week alone says in a corner in which.
     bool hasHints = false;
 
     friend bool operator==(const DrawingTarget&, const DrawingTarget&) = default;

@@ -3,6 +3,7 @@
 #include "files/FileFormat.h"
 #include "files/WholeFile.h"
 #include "plan/FaultWords.h"
+#include "shell/HallChoices.h"
 
 #include <algorithm>
 
@@ -46,6 +47,7 @@ QString exportPlan(const Shell& shell, const QString& path, ExportChoice choice)
     files::PlanDocument document{pagesFor(shell, format, choice.allPages), shell.fileDate()};
     if (choice.refresh) {
         document.refresh = {*choice.refresh, QDateTime::currentDateTime()};
+        hideAbsences(document.pages);
     }
     const plan::PlanContent gaps = gapsOf(document.pages);
     QString told = plan::faultSentence(gaps, static_cast<qsizetype>(gaps.faults.size()));

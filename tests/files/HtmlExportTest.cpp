@@ -152,8 +152,31 @@ TEST_P(HtmlExport, loadsItselfAgainWhenAskedToAndTellsItsTime)
     EXPECT_TRUE(wordsOf(page).contains("Page écrite le 19/03/2025 à 10:05"));
     // All else is the page that stands still.
     EXPECT_FALSE(still.contains("refresh"));
-    static const QRegularExpression added("<meta http-equiv=[^>]*>\n|<footer>.*</footer>\n");
+    static const QRegularExpression added("<meta http-equiv=[^>]*>\n|<footer>.*</footer>\n|"
+                                          "\\.past [^}]*}\n|thead \\.now [^}]*}\n");
     EXPECT_EQ(page.remove(added), still);
+}
+
+TEST_P(HtmlExport, tellsWhatHasEndedOnTheDayThatItShows)
+{
+    desk.play({"--date", "2025-03-17"});
+    files::PlanDocument document = desk.document();
+    document.date = QDate(2025, 3, 17);
+    const auto count = [&](QTime time, const char* piece) {
+        document.refresh = {60, QDateTime(QDate(2025, 3, 17), time)};
+        return QString::fromUtf8(files::planAsHtml(document)).count(QLatin1String(piece));
+    };
+    // Boxes: two from 8h30 to 10h00, one from 10h15 to 11h45, one from 14h00 to 17h00.
+    EXPECT_EQ(count({8, 29}, " past\""), 0);
+    EXPECT_EQ(count({9, 59}, " past\""), 0);
+    EXPECT_EQ(count({10, 0}, " past\""), 2);
+    EXPECT_EQ(count({11, 45}, " past\""), 3);
+    EXPECT_EQ(count({17, 0}, " past\""), 4);
+    EXPECT_EQ(count({8, 29}, "<th scope=\"col\" class=\"now\">"), 0);
+    EXPECT_EQ(count({8, 30}, "<th scope=\"col\" class=\"now\">8h30"), 1);
+    EXPECT_EQ(count({10, 0}, "<th scope=\"col\" class=\"past\">8h30"), 1);
+    document.date = QDate(2025, 3, 24);
+    EXPECT_EQ(count({10, 0}, " past\""), 0); // of another day nothing is said
 }
 
 TEST_P(HtmlExport, escapesEveryText)

@@ -245,6 +245,7 @@ void HallPainter::paintPlan(const plan::PlanPage& page)
     paint::DrawingTarget target;
     target.TargetTwipsPerPixelX = twipsPerPixel();
     target.TargetTwipsPerPixelY = kTwips;
+    target.hasHints = true;
     const paint::PlanScene scene{
         form, page.content, page.state.layout, target, page.state.page.RowsShown, false};
     m_surface.save();

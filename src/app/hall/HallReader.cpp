@@ -1,7 +1,7 @@
 #include "app/hall/HallReader.h"
 
+#include "shell/HallChoices.h"
 #include "shell/Player.h"
-#include "timetable/WeekRhythm.h"
 
 #include <utility>
 
@@ -9,8 +9,6 @@ namespace app
 {
 namespace
 {
-
-using Week = shell::CommandLine::Week;
 
 /// What one gap of a page would say of all: nothing is answered any more, and the page before is
 /// worth more than this one.
@@ -21,20 +19,6 @@ void refuseWithoutAnswers(const std::vector<plan::PlanPage>& pages)
             if (fault.name.isEmpty() && db::concernsAllReads(fault.failure)) {
                 throw db::DatabaseError(fault.failure, runtime::ErrorNumber::DatabaseFailure,
                                         fault.text);
-            }
-        }
-    }
-}
-
-/// Who was absent is not for everybody to read.
-void hideAbsences(std::vector<plan::PlanPage>& pages)
-{
-    for (plan::PlanPage& page : pages) {
-        for (plan::PlanRow& row : page.content.rows) {
-            for (plan::PlanBox& box : row.boxes) {
-                box.classAbsent = false;
-                box.studentAbsent = false;
-                box.absentToolTip.clear();
             }
         }
     }
@@ -63,7 +47,7 @@ HallPlan HallReader::read(const QDateTime& now, int roomsAPage)
     HallPlan plan;
     plan.pages = m_shell->engine().pagesOfEveryRoom(m_choices.roomsPerPage.value_or(roomsAPage));
     refuseWithoutAnswers(plan.pages);
-    hideAbsences(plan.pages);
+    shell::hideAbsences(plan.pages);
     plan.day = m_day;
     plan.readAt = now;
     plan.establishment = m_shell->engine().state().establishment.EstablishmentName;
@@ -81,21 +65,9 @@ void HallReader::startUp(QDate day)
     shell->Form_Load();
     shell->fitPicture();
     shell->Form_Activate();
-    shell::play(*shell, choicesOf(day, *shell));
+    shell::play(*shell, shell::hallChoices(m_choices, day, shell->weekA()));
     m_shell = std::move(shell);
     m_day = day;
-}
-
-shell::CommandLine HallReader::choicesOf(QDate day, const shell::Shell& shell) const
-{
-    shell::CommandLine line = m_choices;
-    line.makeup = true;
-    line.date = day;
-    const timetable::Week week = timetable::WeekRhythm(shell.weekA()).weekOf(day);
-    if (!line.week && week != timetable::Week::Every) {
-        line.week = week == timetable::Week::A ? Week::A : Week::B;
-    }
-    return line;
 }
 
 shell::CommandLine hallChoicesOf(const form::PlanForm& form)

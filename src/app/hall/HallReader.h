@@ -30,7 +30,6 @@ public:
 
 private:
     void startUp(QDate day);
-    [[nodiscard]] shell::CommandLine choicesOf(QDate day, const shell::Shell& shell) const;
 
     Open m_open;
     shell::CommandLine m_choices;
