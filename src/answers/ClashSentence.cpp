@@ -179,10 +179,20 @@ QString namedByWords(const Occupancy& occupancy, const Clash& clash)
     for (const HoldingId id : clash.holders) {
         meetings.insert(occupancy.holding(id).meeting);
     }
-    const QString words = QStringLiteral("absente de la liste des salles, mais nommée par ");
-    return words + (meetings.empty()       ? QStringLiteral("une séance dont le jour est inconnu")
-                    : meetings.size() == 1 ? QStringLiteral("une séance")
-                                           : QStringLiteral("%1 séances").arg(meetings.size()));
+    const bool isWithoutDay = meetings.empty();
+    for (const timetable::Unplaced& row : occupancy.unplaced()) {
+        for (const timetable::Holding& holding : occupancy.holdingsOf(row)) {
+            occupancy.forEachRoom(holding, [&](timetable::RoomId room) {
+                if (occupancy.timetable().room(room).name == clash.name) {
+                    meetings.insert(row.meeting);
+                }
+            });
+        }
+    }
+    QString words = QStringLiteral("absente de la liste des salles, mais nommée par ");
+    words += meetings.size() == 1 ? QStringLiteral("une séance")
+                                  : QStringLiteral("%1 séances").arg(meetings.size());
+    return isWithoutDay ? words + QStringLiteral(" dont le jour est inconnu") : words;
 }
 
 /// What is wrong.

@@ -93,17 +93,17 @@ QString whyUnplaced(const timetable::Occupancy& occupancy, const timetable::Unpl
 {
     const auto& meeting =
         occupancy.timetable().meetings().at(static_cast<std::size_t>(unplaced.meeting));
-    const QString key = occupancy.timetable().text(meeting.slotText);
-    switch (unplaced.reason) {
-    case timetable::NoDay::Date:
+    const timetable::Timetable& timetable = occupancy.timetable();
+    if (unplaced.reason == timetable::NoDay::Date) {
         return QStringLiteral("rattrapage sans date lisible");
-    case timetable::NoDay::ExamDay:
-        return QStringLiteral("examen sans semaine datée, ou « %1 » n’en nomme aucun jour")
-            .arg(key);
-    case timetable::NoDay::CourseKey:
-        break;
     }
-    return QStringLiteral("« %1 » ne nomme aucun jour").arg(key);
+    if (unplaced.reason == timetable::NoDay::ExamDay &&
+        !timetable.examWeeks().date(meeting.examWeek, timetable::kMonday)) {
+        return QStringLiteral("examen d’une semaine sans date");
+    }
+    const QString key = timetable.text(meeting.slotText);
+    return key.isEmpty() ? QStringLiteral("aucune séance n’est nommée")
+                         : QStringLiteral("« %1 » ne nomme aucun jour").arg(key);
 }
 
 QString unplacedWords(const timetable::Occupancy& occupancy)

@@ -16,16 +16,18 @@ bool Narrowing::isInRooms(const Occupancy& occupancy, const timetable::Holding& 
            });
 }
 
-bool Narrowing::isOnDate(const Occupancy& occupancy, const Clash& clash) const
+bool Narrowing::isInTime(const Occupancy& occupancy, int itsDay, QDate itsDate,
+                         timetable::Week itsWeeks) const
 {
-    if (!date.isValid()) {
-        return true;
-    }
-    if (clash.date.isValid()) {
-        return clash.date == date;
-    }
-    const auto& period = occupancy.timetable().period();
-    return clash.day == timetable::dayOf(date) && (!period || period->holds(date));
+    const auto isOnDate = [&] {
+        if (itsDate.isValid()) {
+            return itsDate == date;
+        }
+        const auto& period = occupancy.timetable().period();
+        return itsDay == timetable::dayOf(date) && (!period || period->holds(date));
+    };
+    return (!day || itsDay == *day) && (!date.isValid() || isOnDate()) &&
+           timetable::shareWeek(itsWeeks, weeks);
 }
 
 void Narrowing::apply(const Occupancy& occupancy, std::vector<HoldingId>& items) const
@@ -45,8 +47,13 @@ void Narrowing::apply(const Occupancy& occupancy, std::vector<Clash>& clashes) c
             std::any_of(holders.begin(), holders.end(), [&](const timetable::Holding& holding) {
                 return isInRooms(occupancy, holding);
             });
-        return !isWantedRoom || (day && clash.day != *day) || !isOnDate(occupancy, clash) ||
-               !timetable::shareWeek(clash.weeks, weeks);
+        const auto isInTimeOf = [&](const auto& thing) {
+            return isInTime(occupancy, thing.day, thing.date, thing.weeks);
+        };
+        const bool isWantedTime = clash.kind == ClashKind::UnknownRoom && !holders.empty()
+                                      ? std::any_of(holders.begin(), holders.end(), isInTimeOf)
+                                      : isInTimeOf(clash);
+        return !isWantedRoom || !isWantedTime;
     });
 }
 

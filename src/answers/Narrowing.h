@@ -21,13 +21,16 @@ struct Narrowing {
     void apply(const timetable::Occupancy& occupancy,
                std::vector<timetable::HoldingId>& items) const;
     /// The same of clashes: one stays where it is about a room that is wanted. A clash of the
-    /// teaching weeks is on a date if this is one of the period, of its day and of its week.
+    /// teaching weeks is on a date if this is one of the period, of its day and of its week; one
+    /// over an unknown room where some of its holders are.
     void apply(const timetable::Occupancy& occupancy, std::vector<Clash>& clashes) const;
 
 private:
     [[nodiscard]] bool isInRooms(const timetable::Occupancy& occupancy,
                                  const timetable::Holding& holding) const;
-    [[nodiscard]] bool isOnDate(const timetable::Occupancy& occupancy, const Clash& clash) const;
+    /// Whether something is wanted that is of that day of the week, or of that date.
+    [[nodiscard]] bool isInTime(const timetable::Occupancy& occupancy, int itsDay, QDate itsDate,
+                                timetable::Week itsWeeks) const;
     [[nodiscard]] bool isAnyRoomWanted() const { return !rooms.zone && !rooms.department; }
 };
 

@@ -188,6 +188,9 @@ QString writeAnswer(Shell& shell, const CommandLine& line)
     if (!inquiry.hasCourses()) {
         throw UsageError(QStringLiteral("La période « %1 » n’a aucun cours").arg(inquiry.period()));
     }
+    if (const QString noRoom = inquiry.whyNoRoom({}); !noRoom.isEmpty()) {
+        throw UsageError(noRoom);
+    }
     files::writeWholeFile(request.file, written(format, answerTo(shell, inquiry, line)));
     QStringList told{line.date ? inquiry.whyOutside(*line.date, request.weeksRunning) : QString(),
                      inquiry.whatHasNoDay()};

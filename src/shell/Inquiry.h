@@ -43,7 +43,7 @@ public:
     /// Which meetings no answer counts, as they have no day: a sentence; empty where there are
     /// none.
     [[nodiscard]] QString whatHasNoDay() const;
-    /// Why no room can meet the filter; empty where one does.
+    /// Why no room can meet the filter, that of all rooms included; empty where one does.
     [[nodiscard]] QString whyNoRoom(const answers::RoomFilter& filter) const;
 
     /// The date and the same day of the weeks behind it, `weeks` in all. `first` is the week that

@@ -155,6 +155,19 @@ TEST_F(TheSentence, tellsOfAnUnknownTime)
                           "séance ni dans son créneau (séance sans nom)."));
 }
 
+TEST_F(TheSentence, countsTheRowsWithoutADayThatNameAnUnknownRoom)
+{
+    school.course({"Lundi1", "Annexe", "L1"});
+    school.course({"Stage", "Annexe", "L2", {}, {}, "8h00"});
+    school.course({"Stage", "Usine", "L3", {}, {}, "8h00"});
+    school.course({"Stage", "Usine", "L4", {}, {}, "8h00"});
+    EXPECT_EQ(sentences(),
+              QStringList({"Salle Annexe : absente de la liste des salles, mais nommée par 2 "
+                           "séances (L1 lundi de 8h00 à 9h30).",
+                           "Salle Usine : absente de la liste des salles, mais nommée par 2 "
+                           "séances dont le jour est inconnu."}));
+}
+
 TEST_F(TheSentence, tellsOfAnUnknownDay)
 {
     school.course({"Mradi2", "Amphi B", "L1 A", "Durand"});

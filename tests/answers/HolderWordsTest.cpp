@@ -93,8 +93,7 @@ TEST_F(TheHolders, withoutADayAreNamedUpToThree)
     EXPECT_EQ(unplacedWords(school.occupancy()),
               "5 séances n’ont pas de jour et n’occupent donc rien : séance sans classe, TP 1 "
               "(« Mradi2 » ne nomme aucun jour) ; L2, TP 1 (rattrapage sans date lisible) ; L3, "
-              "TP 1 (examen sans semaine datée, ou « Dimanche1 » n’en nomme aucun jour) ; et 2 "
-              "autres");
+              "TP 1 (« Dimanche1 » ne nomme aucun jour) ; et 2 autres");
 }
 
 TEST_F(TheHolders, tellWhyTheirTimeIsNotKnown)

@@ -110,6 +110,32 @@ TEST_F(TheNarrowing, keepsWhatIsOnTheDay)
     EXPECT_EQ(clashes({{}, 0, Week::Every, {}}), std::vector<int>({0, 2}));
 }
 
+TEST_F(TheNarrowing, keepsAnUnknownRoomByTheTimesOfItsHolders)
+{
+    Draft draft;
+    draft.period(QDate(2026, 9, 7), QDate(2026, 12, 18));
+    draft.room("R1");
+    add(draft, "Mardi1", "Annexe");
+    draft.course({{column::kSeance, "Jeudi1"},
+                  {column::kDebut, "8h00"},
+                  {column::kSalleB, "Annexe"},
+                  {column::kNewNature, "10/20"}});
+    const Occupancy occupancy = draft.occupancy();
+    const auto left = [&](const Narrowing& narrowing) {
+        std::vector<Clash> clashes = answers::clashes(occupancy);
+        EXPECT_EQ(clashes.size(), 1U);
+        narrowing.apply(occupancy, clashes);
+        return clashes.size();
+    };
+    EXPECT_EQ(left({{}, 1, Week::Every, {}}), 1U);
+    EXPECT_EQ(left({{}, 2, Week::Every, {}}), 0U);
+    EXPECT_EQ(left({{}, 3, Week::B, {}}), 1U);
+    EXPECT_EQ(left({{}, 3, Week::A, {}}), 0U);
+    EXPECT_EQ(left({{}, {}, Week::Every, QDate(2026, 11, 24)}), 1U); // a Tuesday
+    EXPECT_EQ(left({{}, {}, Week::Every, QDate(2026, 11, 25)}), 0U);
+    EXPECT_EQ(left({{}, {}, Week::Every, QDate(2027, 1, 5)}), 0U); // a Tuesday beyond
+}
+
 TEST_F(TheNarrowing, keepsTheClashesOfAWeek)
 {
     EXPECT_EQ(clashes({{}, {}, Week::A, {}}), std::vector<int>({0, 1, 3}));

@@ -405,6 +405,18 @@ TEST_P(Answers, tellWhereADateIsOutsideThePeriod)
     EXPECT_TRUE(shell::writeAnswer(desk.shell(), line).startsWith("Le 13/06/2025 est hors de la"));
 }
 
+TEST_P(Answers, areNotGivenWithoutARoom)
+{
+    database().execute("delete from salle");
+    for (const QStringList& question :
+         {QStringList("--free") + QStringList(file) + firstSlot, QStringList{"--clashes", file},
+          QStringList{"--find", file, "--text", "dup"}, QStringList{"--use", file},
+          QStringList{"--week-of", file, "--teacher", "Martin"}}) {
+        EXPECT_EQ(refusal(question), "La base ne connaît aucune salle")
+            << question.front().toStdString();
+    }
+}
+
 TEST_P(Answers, sayWhatTheyDoNotCountAsItHasNoDay)
 {
     database().execute("update emplois set Seance='Mradi1' where Salle='C1'");

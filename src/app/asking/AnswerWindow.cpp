@@ -65,6 +65,9 @@ void AnswerWindow::answer()
         } else if (!inquiry->hasCourses()) {
             clearAnswer();
             tell(QStringLiteral("La période « %1 » n’a aucun cours.").arg(inquiry->period()), true);
+        } else if (const QString noRoom = inquiry->whyNoRoom({}); !noRoom.isEmpty()) {
+            clearAnswer();
+            tell(noRoom + u'.', true);
         } else {
             showAnswer(*inquiry);
         }

@@ -128,8 +128,10 @@ void FindWindow::showAnswer(const shell::Inquiry& inquiry)
     m_list->clear();
     m_document.reset();
     const QString text = m_text->text().trimmed();
-    if (answers::searchForm(text).size() < kLeastLetters) {
-        tell(QStringLiteral("Tapez au moins trois lettres"));
+    const QString form = answers::searchForm(text);
+    const auto askForMore = [this] { tell(QStringLiteral("Tapez au moins trois lettres")); };
+    if (form.isEmpty()) {
+        askForMore();
         return;
     }
     const answers::AskedWeek week = shownWeek(desk().shell().form(), inquiry.rhythm());
@@ -138,7 +140,18 @@ void FindWindow::showAnswer(const shell::Inquiry& inquiry)
         tell(open + QStringLiteral(" : rien n’est montré."), true);
         return;
     }
-    m_document = inquiry.find(text, week);
+    files::AnswerDocument document = inquiry.find(text, week);
+    auto& hits = std::get<files::HitList>(document.answer);
+    if (form.size() < kLeastLetters) { // which are in many names: but one may be no longer
+        std::erase_if(hits, [&form](const answers::Hit& hit) {
+            return answers::searchForm(hit.name.trimmed()) != form;
+        });
+        if (hits.empty()) {
+            askForMore();
+            return;
+        }
+    }
+    m_document = std::move(document);
     list(inquiry, std::get<files::HitList>(m_document->answer));
 }
 

@@ -311,6 +311,11 @@ std::vector<timetable::When> FreeRoomsWindow::days(const shell::Inquiry& inquiry
     return inquiry.sameDays(m_date->date(), m_weeksRunning->value());
 }
 
+QString FreeRoomsWindow::unreadWords() const
+{
+    return answers::quickQuestion(m_line->text(), QDate::currentDate()).unread;
+}
+
 std::optional<answers::FreeRoomsQuestion> FreeRoomsWindow::question(const shell::Inquiry& inquiry,
                                                                     QString& why) const
 {
@@ -324,6 +329,14 @@ std::optional<answers::FreeRoomsQuestion> FreeRoomsWindow::question(const shell:
     if (*to <= *from) {
         why = QStringLiteral("La fin, %1, n’est pas après le début, %2.")
                   .arg(answers::clockWords(*to), answers::clockWords(*from));
+        return std::nullopt;
+    }
+    const QString unread = unreadWords();
+    if (std::any_of(unread.begin(), unread.end(), [](QChar sign) { return sign.isDigit(); })) {
+        why =
+            QStringLiteral("« %1 » n’est ni une heure, ni une date, ni un nombre de places : rien "
+                           "n’est dit libre.")
+                .arg(unread);
         return std::nullopt;
     }
     if (m_isZoneUnknown) {
@@ -413,7 +426,7 @@ void FreeRoomsWindow::list(const shell::Inquiry& inquiry, const answers::FreeRoo
     if (m_isDated->isChecked()) {
         sentence += QStringLiteral("  ·  ") + rhythmWords(inquiry.rhythm(), m_date->date());
     }
-    const QString unread = answers::quickQuestion(m_line->text(), QDate::currentDate()).unread;
+    const QString unread = unreadWords();
     if (!unread.isEmpty()) {
         sentence += QStringLiteral("  ·  pas compris : « %1 »").arg(unread);
     }

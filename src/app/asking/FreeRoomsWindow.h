@@ -57,6 +57,8 @@ private:
     [[nodiscard]] Fields fields() const;
     void fillIn(const Fields& fields);
     void offerTimes(const timetable::Timetable& timetable);
+    /// What of the line nobody understands.
+    [[nodiscard]] QString unreadWords() const;
     /// What the fields ask; nothing, and a sentence in `why`, where they ask nothing.
     [[nodiscard]] std::optional<answers::FreeRoomsQuestion> question(const shell::Inquiry& inquiry,
                                                                      QString& why) const;

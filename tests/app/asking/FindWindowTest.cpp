@@ -65,6 +65,16 @@ TEST_F(TheFinding, wantsThreeLetters)
         until([&] { return status(*answers).startsWith("Personne ni rien ne porte ce nom"); }));
 }
 
+TEST_F(TheFinding, takesANameThatHasNoThreeLetters)
+{
+    open();
+    const app::FindWindow* answers = asked();
+    hands.type("g1");
+    expectRows("Found",
+               {"Le jour affiché, lundi", "Classe G1|lundi 8h30–10h00|A2|Algèbre, Dupont, Durand"});
+    EXPECT_TRUE(status(*answers).startsWith("1 nom trouvé")) << status(*answers).toStdString();
+}
+
 TEST_F(TheFinding, tellsOfClassesThatAreTogetherInOneRow)
 {
     open();

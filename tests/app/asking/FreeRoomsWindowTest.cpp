@@ -112,6 +112,11 @@ TEST_F(TheFreeRooms, sayWhatIsWrongWithTheQuestion)
     EXPECT_TRUE(until([&] {
         return status(*answers).contains("La fin, 9h00, n’est pas après le début, 11h00");
     })) << status(*answers).toStdString();
+    hands.replaceText(control<QLineEdit>("QuickQuestion"), "lundi,9h-11h,25h");
+    EXPECT_TRUE(until([&] {
+        return status(*answers).startsWith("« 25h » n’est ni une heure, ni une date");
+    })) << status(*answers).toStdString();
+    EXPECT_EQ(rows("FreeRooms"), QStringList());
     hands.replaceText(control<QLineEdit>("QuickQuestion"), "lundi,9h-11h,tableau");
     EXPECT_TRUE(until([&] { return status(*answers).contains("pas compris : « tableau »"); }));
 }
