@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QTimer>
+#include <algorithm>
 
 namespace app
 {
