@@ -91,9 +91,9 @@ QString whyUnknown(const timetable::Occupancy& occupancy,
 
 QString whyUnplaced(const timetable::Occupancy& occupancy, const timetable::Unplaced& unplaced)
 {
-    const auto& meeting =
-        occupancy.timetable().meetings().at(static_cast<std::size_t>(unplaced.meeting));
     const timetable::Timetable& timetable = occupancy.timetable();
+    const timetable::Meeting& meeting =
+        timetable.meetings().at(static_cast<std::size_t>(unplaced.meeting));
     if (unplaced.reason == timetable::NoDay::Date) {
         return QStringLiteral("rattrapage sans date lisible");
     }

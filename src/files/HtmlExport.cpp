@@ -33,17 +33,22 @@ QString paragraph(const QString& cssClass, const QString& text)
            QStringLiteral("</div>");
 }
 
-/// When the page is read, in minutes since midnight; nothing where it does not show that day.
-using Now = std::optional<int>;
+/// Of a page in a hall, whose readers choose nothing.
+struct Hall {
+    bool isThere = false;
+    /// When it is read, in minutes since midnight; nothing where it does not show that day.
+    std::optional<int> now = std::nullopt;
+};
 
-Now nowOf(const PlanDocument& document)
+Hall hallOf(const PlanDocument& document)
 {
-    return document.refresh ? paint::clockMinute(document.refresh->writtenAt, document.date)
-                            : std::nullopt;
+    return document.refresh
+               ? Hall{true, paint::clockMinute(document.refresh->writtenAt, document.date)}
+               : Hall();
 }
 
 /// " past" for what has ended by then, " now" for what is under way; else nothing.
-QString momentClass(const QString& start, int minutes, const Now& now)
+QString momentClass(const QString& start, int minutes, std::optional<int> now)
 {
     QString cssClass;
     if (now) {
@@ -58,7 +63,8 @@ QString momentClass(const QString& start, int minutes, const Now& now)
 }
 
 /// `columnTime` heads the box's column: a box of the same time need not repeat it.
-QString boxHtml(const form::PlanForm& form, const plan::PlanBox& box, const QString& columnTime)
+QString boxHtml(const form::PlanForm& form, const plan::PlanBox& box, const QString& columnTime,
+                const Hall& hall)
 {
     QString html;
     const QString time = stretchText(box.cell.CellStart, box.minutes);
@@ -71,6 +77,10 @@ QString boxHtml(const form::PlanForm& form, const plan::PlanBox& box, const QStr
     const QString group = print::joined(plan::groupWords(form, box));
     if (!group.isEmpty()) {
         html += paragraph(QStringLiteral("note"), group);
+    }
+    const QString week = plan::weekLetter(box);
+    if (hall.isThere && !week.isEmpty()) {
+        html += paragraph(QStringLiteral("remark"), QStringLiteral("Semaine ") + week);
     }
     for (const QString& remark : plan::remarkWords(form, box)) {
         html += paragraph(QStringLiteral("remark"), remark);
@@ -85,7 +95,7 @@ QString columnTitle(const plan::PlanState& state, int number)
 }
 
 QString rowHtml(const plan::PlanState& state, const plan::PlanRow& row,
-                const std::vector<int>& columns, const Now& now)
+                const std::vector<int>& columns, const Hall& hall)
 {
     QString html = QStringLiteral("<tr style=\"--fill:%1;--ink:%2\"><th scope=\"row\">%3</th>"
                                   "<td class=\"places\">%4</td>")
@@ -103,20 +113,20 @@ QString rowHtml(const plan::PlanState& state, const plan::PlanRow& row,
         const QString span = count > 1 ? QStringLiteral(" colspan=\"%1\"").arg(count) : QString();
         html += QStringLiteral("<td class=\"%1\"%2>%3</td>")
                     .arg((box->makeUp ? QStringLiteral("box makeup") : QStringLiteral("box")) +
-                             momentClass(box->cell.CellStart, box->minutes, now),
-                         span, boxHtml(state.form, *box, columnTitle(state, box->slot)));
+                             momentClass(box->cell.CellStart, box->minutes, hall.now),
+                         span, boxHtml(state.form, *box, columnTitle(state, box->slot), hall));
         column += count;
     }
     return html + QStringLiteral("</tr>\n");
 }
 
-QString headRow(const plan::PlanState& state, const std::vector<int>& columns, const Now& now)
+QString headRow(const plan::PlanState& state, const std::vector<int>& columns, const Hall& hall)
 {
     QString html = QStringLiteral("<tr><th scope=\"col\">Salle</th><th scope=\"col\">Places</th>");
     for (const int number : columns) {
         const auto& slot = state.slots.slot(number);
         const QString moment =
-            slot ? momentClass(slot->start, slot->minutes, now).trimmed() : QString();
+            slot ? momentClass(slot->start, slot->minutes, hall.now).trimmed() : QString();
         html += QStringLiteral("<th scope=\"col\"") +
                 (moment.isEmpty() ? QString() : QStringLiteral(" class=\"%1\"").arg(moment)) +
                 u'>' + escaped(columnTitle(state, number)) + QStringLiteral("</th>");
@@ -153,11 +163,11 @@ QString tableHtml(const PlanDocument& document, const QString& title)
         contents.emplace_back(page.content);
     }
     const std::vector<int> columns = plan::slotColumns(state.slots, contents);
-    const Now now = nowOf(document);
+    const Hall hall = hallOf(document);
     QString rows;
     for (const plan::PlanPage& page : document.pages) {
         for (const plan::PlanRow& row : page.content.rows) {
-            rows += rowHtml(state, row, columns, now);
+            rows += rowHtml(state, row, columns, hall);
         }
     }
     if (rows.isEmpty()) {
@@ -165,7 +175,7 @@ QString tableHtml(const PlanDocument& document, const QString& title)
     }
     return QStringLiteral("<table>\n<caption>") + escaped(title) +
            QStringLiteral(" : une ligne par salle, une colonne par séance</caption>\n<thead>") +
-           headRow(state, columns, now) + QStringLiteral("</thead>\n<tbody>\n") + rows +
+           headRow(state, columns, hall) + QStringLiteral("</thead>\n<tbody>\n") + rows +
            QStringLiteral("</tbody>\n") + totalsRow(document.pages.back(), columns) +
            QStringLiteral("</table>\n");
 }

@@ -13,7 +13,8 @@ namespace files
 /// What a file is made of, as values: pages of the plan, at least one.
 struct PlanDocument {
     /// A web page that stays open, on a screen in a hall, and fetches itself anew. On the day that
-    /// it shows, what has ended is paled, and the slot that is under way is marked.
+    /// it shows, what has ended is paled, and the slot that is under way is marked; what is held in
+    /// one week alone says in which.
     struct SelfRefresh {
         int seconds = 0;     ///< from one loading to the next
         QDateTime writtenAt; ///< which the page tells: whoever looks sees how old it is

@@ -19,7 +19,7 @@ CommandLine hallChoices(CommandLine line, QDate day, QDate weekA)
 CommandLine hallPageChoices(CommandLine line, QDate today, QDate weekA)
 {
     line.everyRoom = true;
-    line.allPages = line.page == 1;
+    line.allPages = line.allPages || line.page == 1;
     if (line.day) {
         line.makeup = true;
         return line;

@@ -83,6 +83,15 @@ TEST_F(TheHolders, tellWhyTheyHaveNoDay)
               "nomme aucun jour)");
 }
 
+TEST_F(TheHolders, tellWhatOfTheirDayIsMissing)
+{
+    school.course({.key = {}, .room = "TP 1", .className = "L1"});
+    school.exam({.key = "Lundi1", .room = "TP 1", .className = "L2", .week = "9"});
+    EXPECT_EQ(unplacedWords(school.occupancy()),
+              "2 séances n’ont pas de jour et n’occupent donc rien : L1, TP 1 (aucune séance n’est "
+              "nommée) ; L2, TP 1 (examen d’une semaine sans date)");
+}
+
 TEST_F(TheHolders, withoutADayAreNamedUpToThree)
 {
     school.course({"Mradi2", "TP 1"});

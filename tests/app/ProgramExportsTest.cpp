@@ -67,6 +67,21 @@ TEST_P(ProgramExports, holdAllPagesInOneDocument)
     EXPECT_TRUE(all.text(2).contains("Page 2 / 2"));
 }
 
+TEST_P(ProgramExports, areForAHallWhereAPageLoadsItselfAgain)
+{
+    const QString plan = QString::fromUtf8(exported("plan.html"));
+    EXPECT_FALSE(plan.contains(">A1</th>")); // on the greyed line
+    EXPECT_TRUE(plan.contains("Classe absente"));
+    const QString file = setup.path("hall.html");
+    EXPECT_EQ(program.run({"--export", file, "--date", "2025-03-17", "--refresh", "60"}), 0);
+    const QString hall = QString::fromUtf8(bytesOf(file));
+    for (const char* room : {"A1", "A2", "B1", "B2", "C1"}) {
+        EXPECT_TRUE(hall.contains(QString(">%1</th>").arg(room))) << room;
+    }
+    EXPECT_TRUE(hall.contains("class=\"box makeup\""));
+    EXPECT_FALSE(hall.contains("Classe absente"));
+}
+
 TEST_P(ProgramExports, neverLeaveHalfAFile)
 {
     for (const char* name : {"plan.pdf", "plan.html", "plan.csv"}) {

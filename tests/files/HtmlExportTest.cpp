@@ -1,6 +1,7 @@
 #include "files/HtmlExport.h"
 
 #include "files/HtmlText.h"
+#include "plan/BoxWords.h"
 #include "shell/ShellDesk.h"
 
 #include <QRegularExpression>
@@ -177,6 +178,19 @@ TEST_P(HtmlExport, tellsWhatHasEndedOnTheDayThatItShows)
     EXPECT_EQ(count({10, 0}, "<th scope=\"col\" class=\"past\">8h30"), 1);
     document.date = QDate(2025, 3, 24);
     EXPECT_EQ(count({10, 0}, " past\""), 0); // of another day nothing is said
+}
+
+TEST_P(HtmlExport, tellsInAHallWhatIsHeldInOneWeekAlone)
+{
+    desk.play({"--day", "0"});
+    files::PlanDocument document = desk.document();
+    plan::PlanBox& box = document.pages.front().content.rows.front().boxes.front();
+    ASSERT_EQ(plan::weekLetter(box), "");
+    box.cell.week = timetable::Week::B;
+    const auto page = [&] { return QString::fromUtf8(files::planAsHtml(document)); };
+    EXPECT_EQ(page().count("Semaine B"), 0); // whoever chose the plan chose the week
+    document.refresh = {60, QDateTime(QDate(2025, 3, 19), QTime(10, 5))};
+    EXPECT_EQ(page().count("<div class=\"remark\">Semaine B</div>"), 1);
 }
 
 TEST_P(HtmlExport, escapesEveryText)

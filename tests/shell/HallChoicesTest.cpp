@@ -61,6 +61,8 @@ TEST(TheChoicesOfAHallsPage, areThePageThatTheLineNames)
     CommandLine said;
     said.page = 2;
     EXPECT_FALSE(shell::hallPageChoices(said, kTuesday, kWeekA).allPages);
+    said.allPages = true;
+    EXPECT_TRUE(shell::hallPageChoices(said, kTuesday, kWeekA).allPages);
 }
 
 TEST(TheChoicesOfAHall, hideWhoWasAbsent)

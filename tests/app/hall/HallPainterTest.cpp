@@ -1,6 +1,8 @@
 #include "app/hall/HallPainter.h"
 
 #include "app/hall/HallDesk.h"
+#include "paint/Inks.h"
+#include "plan/BoxWords.h"
 #include "support/TinyFaculty.h"
 
 #include <QImage>
@@ -74,6 +76,18 @@ TEST_F(HallPainter, drawsTheBoxesFromTheEarliestSlotToTheEndOfTheLatest)
     EXPECT_EQ(image.pixelColor(spot(1, 514)), inA2); // slot 1
     EXPECT_NE(image.pixelColor(spot(1, 608)), inA2); // the pause behind it
     EXPECT_NE(image.pixelColor(spot(0, 514)), inA2); // A1 is free
+}
+
+TEST_F(HallPainter, saysInWhichWeekABoxIsHeld)
+{
+    app::HallPlan plan = read();
+    plan::PlanBox& inA2 = plan.pages[0].content.rows[1].boxes[0];
+    ASSERT_EQ(plan::weekLetter(inA2), "");
+    const QPoint corner = spot(1, 511.5); // four pixels from the box's left side
+    const QImage always = drawn(plan, today(509));
+    EXPECT_NE(always.pixelColor(corner), paint::kHeaderInk);
+    inA2.cell.week = timetable::Week::A;
+    EXPECT_EQ(drawn(plan, today(509)).pixelColor(corner), paint::kHeaderInk);
 }
 
 TEST_F(HallPainter, palesWhatHasEnded)
