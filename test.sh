@@ -2,12 +2,13 @@
 # Builds and runs every test. Installs what is missing first.
 #
 #   ./test.sh [--sanitize] [--clang] [options of ctest]
-#   ./test.sh --tidy | --format
+#   ./test.sh --tidy | --format | --includes
 #
 # --sanitize  with the address and undefined-behaviour sanitizers
 # --clang     with clang instead of gcc
 # --tidy      no test: clang-tidy over every source file
 # --format    no test: what clang-format would change
+# --includes  no test: whether each file of the program includes what it needs
 #
 # Each kind of build has a folder of its own (build-test, build-test-clang, ...), set up as the preset
 # of that name in CMakePresets.json says. Anything else is handed to ctest: ./test.sh -R layering runs
@@ -27,6 +28,7 @@ for option in "$@"; do
         --clang) clang=true ;;
         --tidy) task=tidy ;;
         --format) task=format ;;
+        --includes) task=includes ;;
         *) ctest_options+=("$option") ;;
     esac
 done
@@ -50,13 +52,25 @@ check_format() {
 }
 
 check_tidy() {
-    local folder=$project/build-test-clang # clang-tidy cannot read gcc's precompiled headers
+    local folder=$project/build-test-clang # the one that compiles every file alone
     ensure_packages "${packages[@]}" clang clang-tidy
     configure "$folder" test-clang
     # Windows' own files need its headers.
     sources cpp | grep -zv 'Windows\.cpp$' |
         xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet --warnings-as-errors='*' -p "$folder"
     say "clang-tidy has nothing to say."
+}
+
+# The builds compile several files as one, where a missing #include is not noticed.
+check_includes() {
+    local folder=$project/build-includes objects
+    ensure_packages "${build_packages[@]}"
+    configure "$folder" includes
+    say "Reading every source file of the program alone ..."
+    mapfile -t objects < <(ninja -C "$folder" -t targets all |
+        sed -n 's/^\(src\/.*\.cpp\.o\): .*/\1/p')
+    build "$folder" -k 0 "${objects[@]}"
+    say "Every file includes what it needs."
 }
 
 # A print server for the tests that print, in $folder/cups. Installed, it would run as a service.
@@ -91,7 +105,7 @@ run_tests() {
     build "$folder"
     unpack_print_server
     rm -f "$log"
-    ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "${ctest_options[@]}" || failed=$?
+    ctest --test-dir "$folder" --output-on-failure -j $(($(nproc) + 1)) "${ctest_options[@]}" || failed=$?
     tell_why_skipped
     return "$failed"
 }
@@ -119,4 +133,5 @@ case $task in
     test) run_tests ;;
     tidy) check_tidy ;;
     format) check_format ;;
+    includes) check_includes ;;
 esac

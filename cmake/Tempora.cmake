@@ -3,8 +3,11 @@ add_library(tempora_options INTERFACE)
 if(MSVC)
   target_compile_options(tempora_options INTERFACE /W4 /utf-8 /permissive-)
 else()
-  target_compile_options(tempora_options INTERFACE -Wall -Wextra -Wshadow -Wconversion
-    -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual)
+  # Two names of two files are no mistake, though the compiler sees them in one.
+  set(unity $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
+  target_compile_options(tempora_options INTERFACE -Wall -Wextra -Wconversion -Wno-sign-conversion
+    -Wnon-virtual-dtor -Woverloaded-virtual $<$<NOT:${unity}>:-Wshadow>
+    $<$<AND:${unity},$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
 endif()
 if(TEMPORA_WERROR)
   target_compile_options(tempora_options INTERFACE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX,-Werror>)
@@ -30,31 +33,15 @@ if(TEMPORA_FUZZ)
     $<$<BOOL:$<TARGET_PROPERTY:TEMPORA_WATCHED>>:-fsanitize=fuzzer-no-link>)
 endif()
 
-# Precompiled headers halve the time of a build from nothing. They also hide a missing #include, so
-# that they are off unless asked for, and one of the builds that a change must pass goes without.
-
-# The headers, precompiled under that name for whoever is given it by tempora_precompiled.
-#   tempora_precompile(name HEADERS <a> ... USES target ...)
-function(tempora_precompile name)
-  cmake_parse_arguments(PCH "" "" "HEADERS;USES" ${ARGN})
-  if(TEMPORA_PCH)
-    set(nothing ${CMAKE_BINARY_DIR}/nothing.cpp)
-    file(CONFIGURE OUTPUT ${nothing} CONTENT "")
-    add_library(${name} OBJECT ${nothing})
-    target_link_libraries(${name} PRIVATE ${PCH_USES} tempora_options)
-    target_precompile_headers(${name} PRIVATE ${PCH_HEADERS})
-  endif()
-endfunction()
-
-function(tempora_precompiled target name)
-  if(TEMPORA_PCH)
-    target_precompile_headers(${target} REUSE_FROM ${name})
-  endif()
-endfunction()
-
-set(TEMPORA_USUAL_HEADERS <QByteArray> <QDate> <QList> <QMap> <QString> <QStringList> <algorithm>
-  <array> <functional> <map> <memory> <optional> <stdexcept> <string> <vector>)
-tempora_precompile(tempora_usual_headers HEADERS ${TEMPORA_USUAL_HEADERS} USES Qt6::Core)
+# A dozen files that are compiled as one take a quarter of the time, because most of it goes into the
+# headers. A missing #include is not noticed then: test.sh --includes looks for those.
+if(NOT TEMPORA_UNITY MATCHES "^(nothing|tests|everything)$")
+  message(FATAL_ERROR "TEMPORA_UNITY is nothing, tests or everything, not \"${TEMPORA_UNITY}\"")
+endif()
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
+if(TEMPORA_UNITY STREQUAL "everything")
+  set(CMAKE_UNITY_BUILD ON)
+endif()
 
 # One folder of src/ is one library and one layer: what it links is what it may use.
 #   tempora_layer(NAME SOURCES a.cpp ... USES layer ... [EXTERNAL target ...])
@@ -69,7 +56,6 @@ function(tempora_layer name)
     list(APPEND layers tempora_${layer})
   endforeach()
   target_link_libraries(tempora_${name} PUBLIC ${layers} ${LAYER_EXTERNAL} PRIVATE tempora_options)
-  tempora_precompiled(tempora_${name} tempora_usual_headers)
 endfunction()
 
 # Copies files into a folder beside the program, file by file, so that what somebody else put there

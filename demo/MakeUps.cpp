@@ -75,7 +75,7 @@ Course planOne(const Faculty& faculty, const std::vector<Course>& courses, int d
     return {};
 }
 
-bool comesBefore(const Meeting& left, const Meeting& right)
+bool isEarlier(const Meeting& left, const Meeting& right)
 {
     return std::tie(left.date, left.slot, left.studentClass) <
            std::tie(right.date, right.slot, right.studentClass);
@@ -102,7 +102,7 @@ std::vector<Meeting> makeMakeUps(const Faculty& faculty, const Timetable& table)
         }
         monday = monday.addDays(7);
     }
-    std::stable_sort(makeUps.begin(), makeUps.end(), comesBefore);
+    std::stable_sort(makeUps.begin(), makeUps.end(), isEarlier);
     return makeUps;
 }
 

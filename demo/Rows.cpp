@@ -9,7 +9,7 @@ namespace
 
 constexpr int teacherColumns = 3;
 
-Field flag(bool value)
+Field yesOrNo(bool value)
 {
     return value ? 1 : 0;
 }
@@ -72,7 +72,7 @@ std::vector<Field> Rows::meeting(const Meeting& meeting, const Period& period) c
     addTeachers(row, b.secondTeachers);
     row.insert(row.end(), {subject(a.subject), subject(a.secondSubject), subject(b.subject),
                            subject(b.secondSubject), timeText(meeting.start),
-                           QString::number(meeting.minutes), flag(meeting.common)});
+                           QString::number(meeting.minutes), yesOrNo(meeting.common)});
     return row;
 }
 
@@ -96,7 +96,7 @@ std::vector<Field> Rows::exam(const Exam& exam, const Period& period) const
     addTeachers(row, exam.teacher == nobody ? std::vector<int>() : std::vector<int>{exam.teacher});
     addTeachers(row, exam.invigilators);
     row.insert(row.end(), {subject(exam.subject), timeText(exam.start),
-                           QString::number(exam.minutes), flag(exam.common)});
+                           QString::number(exam.minutes), yesOrNo(exam.common)});
     return row;
 }
 
@@ -117,7 +117,7 @@ std::vector<Field> Rows::classAbsence(const Absence& absence, const Period& peri
             0,
             meeting.typeB,
             meeting.minutes,
-            flag(meeting.common),
+            yesOrNo(meeting.common),
             timeText(meeting.start),
             absence.date,
             1};

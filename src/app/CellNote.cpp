@@ -13,8 +13,8 @@ namespace app
 namespace
 {
 
-constexpr int kWidest = 480; // pixels of a line of text
-constexpr int kMargin = 10;
+constexpr int kWidestLine = 480; // pixels of a line of text
+constexpr int kNoteMargin = 10;
 constexpr int kGap = 3;
 
 } // namespace
@@ -34,10 +34,10 @@ CellNote::CellNote(const QString& text, QWidget* parent) : QFrame(parent, Qt::Po
     words->setWordWrap(true);
     words->ensurePolished();
     const QRect lines =
-        words->fontMetrics().boundingRect(QRect(0, 0, kWidest, 0), Qt::TextWordWrap, text);
+        words->fontMetrics().boundingRect(QRect(0, 0, kWidestLine, 0), Qt::TextWordWrap, text);
     words->setFixedSize(lines.width() + 4, lines.height() + 2);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(kNoteMargin, kNoteMargin, kNoteMargin, kNoteMargin);
     column->addWidget(words);
     setFocusProxy(words);
 }

@@ -25,7 +25,7 @@ namespace
 
 constexpr int kChapterWidth = 280;
 constexpr int kTextWidth = 840; // the guide's pictures and the scroll bar
-constexpr int kHeight = 680;
+constexpr int kWindowHeight = 680;
 constexpr int kGap = 12;
 // Headings of this level are the chapters.
 constexpr int kChapterLevel = 2;
@@ -57,7 +57,7 @@ HelpWindow::HelpWindow(const QString& guide, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->addWidget(m_chapters);
     row->addLayout(right, 1);
-    resize(fittingScreen({kChapterWidth + kTextWidth, kHeight}, *this));
+    resize(fittingScreen({kChapterWidth + kTextWidth, kWindowHeight}, *this));
 
     open(m_guide);
     m_text->setFocus();

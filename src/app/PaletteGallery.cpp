@@ -24,7 +24,7 @@ constexpr int kPathRole = Qt::UserRole;
 constexpr int kColumns = 2;
 constexpr QSize kItemMargin(18, 34); // around a sample, with room for its name
 constexpr int kListEdge = 60;        // its scroll bar and the dialog's margins
-constexpr int kHeight = 540;
+constexpr int kGalleryHeight = 540;
 constexpr QColor kEdge(170, 178, 192);
 
 QString nameOf(const QString& path)
@@ -96,7 +96,8 @@ PaletteGallery::PaletteGallery(Offer offer, QWidget* parent)
     column->addWidget(m_list, 1);
     column->addWidget(buttons);
     resize(fittingScreen(
-        {kColumns * (kSampleSize.width() + kItemMargin.width()) + kListEdge, kHeight}, *this));
+        {kColumns * (kSampleSize.width() + kItemMargin.width()) + kListEdge, kGalleryHeight},
+        *this));
     m_list->setFocus();
 }
 

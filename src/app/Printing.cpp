@@ -6,6 +6,7 @@
 #include "engine/Engine.h"
 #include "plan/FaultWords.h"
 #include "plan/PlanPage.h"
+#include "print/Paper.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
 

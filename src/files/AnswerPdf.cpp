@@ -5,8 +5,8 @@
 #include "files/PaperTable.h"
 #include "files/PaperText.h"
 #include "paint/Inks.h"
+#include "print/Paper.h"
 #include "print/PdfDocument.h"
-#include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
 
 #include <QPageLayout>
@@ -22,7 +22,6 @@ static_assert(kPaperPoint * kPointsOfInch == print::kSheetResolution);
 
 constexpr double kMargin = 15; ///< millimetres
 constexpr double kFooter = 20 * kPaperPoint;
-constexpr QColor kInk(0x1c, 0x27, 0x33);
 constexpr QColor kQuietInk(0x3d, 0x4a, 0x59);
 
 QFont fontOf(double points, bool bold = false)
@@ -45,9 +44,9 @@ public:
 
     void add(const AnswerTable& table)
     {
-        text(table.title, fontOf(18, true), kInk, 0);
+        text(table.title, fontOf(18, true), kPaperInk, 0);
         for (const QString& line : table.about) {
-            text(line, fontOf(10), kInk, 0);
+            text(line, fontOf(10), kPaperInk, 0);
         }
         for (const TableSection& section : table.sections) {
             add(section);
@@ -71,7 +70,7 @@ private:
         }
         heading(section.heading);
         if (section.rows.empty()) {
-            text(section.none, fontOf(9), kInk, 0);
+            text(section.none, fontOf(9), kPaperInk, 0);
             return;
         }
         for (PaperBlock& block : PaperTable(section, m_width, m_paper).blocks()) {
@@ -82,7 +81,7 @@ private:
     void heading(const QString& words)
     {
         constexpr double below = 3 * kPaperPoint;
-        text(words, fontOf(11, true), kInk, 14 * kPaperPoint);
+        text(words, fontOf(11, true), kPaperInk, 14 * kPaperPoint);
         m_blocks.back().height += below;
         m_blocks.back().keepsNext = true;
     }

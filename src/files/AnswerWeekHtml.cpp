@@ -20,7 +20,7 @@ using answers::WeekBox;
 using answers::WeekDay;
 using timetable::TimeSpan;
 
-QString styleSheet()
+QString weekStyleSheet()
 {
     return QStringLiteral(R"(
 body { margin: 0; padding: 1rem; background: #fff; color: #1c2733;
@@ -266,7 +266,7 @@ QByteArray weekAsHtml(const AnswerDocument& document)
     body += QStringLiteral("</header>\n<main>\n") +
             (answer.subject ? gridHtml(document, answer) : overviewHtml(document, answer)) +
             QStringLiteral("</main>\n");
-    return htmlDocument(document.title, body, styleSheet()).toUtf8();
+    return htmlDocument(document.title, body, weekStyleSheet()).toUtf8();
 }
 
 } // namespace files

@@ -22,7 +22,6 @@ constexpr double kGap = 1 * kPaperPoint; ///< around shades
 constexpr int kTextSize = static_cast<int>(8.5 * kPaperPoint);
 constexpr double kLongestWord = 90 * kPaperPoint; ///< what is longer may be broken
 constexpr qsizetype kLinesOfPiece = 30;           ///< fewer than any page has
-constexpr QColor kInk(0x1c, 0x27, 0x33);
 constexpr QColor kHeadGround(0x1f, 0x3a, 0x5f);
 constexpr QColor kRowLine(0xd5, 0xdb, 0xe4);
 
@@ -56,14 +55,14 @@ void drawBar(QPainter& surface, const PaperText& text, const PaperCell& cell, do
 {
     const double width = barTextWidth(text);
     const QPointF corner(cell.area.left() + kAside, top + kAbove);
-    text.draw(surface, cell.lines, corner, width, Qt::AlignRight, kInk);
+    text.draw(surface, cell.lines, corner, width, Qt::AlignRight, kPaperInk);
     const double room = cell.area.right() - kAside - (corner.x() + width + kAside);
     const QRectF frame(corner.x() + width + kAside,
                        corner.y() + (text.lineHeight() - kBarHeight) / 2, std::min(room, kBar),
                        kBarHeight);
     surface.fillRect(QRectF(frame.topLeft(), QSizeF(frame.width() * *cell.share, kBarHeight)),
                      kHeadGround);
-    surface.setPen(QPen(kInk, kLine));
+    surface.setPen(QPen(kPaperInk, kLine));
     surface.setBrush(Qt::NoBrush);
     surface.drawRect(frame);
 }
@@ -75,7 +74,7 @@ void drawCell(QPainter& surface, const PaperText& text, const PaperCell& cell, d
         drawBar(surface, text, cell, top);
         return;
     }
-    QColor ink = kInk;
+    QColor ink = kPaperInk;
     if (cell.share && cell.look == ColumnLook::Shade) {
         const form::Colour ground = shadeOf(*cell.share);
         ink = paint::toColor(paint::readableOn(ground));

@@ -11,6 +11,9 @@
 namespace files
 {
 
+/// What texts of an answer on paper are written with.
+inline constexpr QColor kPaperInk(0x1c, 0x27, 0x33);
+
 /// Texts in one font on paper, which must outlive it. All lengths are pixels of the paper.
 class PaperText
 {

@@ -14,7 +14,7 @@ constexpr int kMinutesPerHour = 60;
 constexpr QColor kClockLine(208, 2, 27);
 constexpr double kLineWidth = 2;
 constexpr double kBadgeWidth = 46;
-constexpr int kTextPixels = 14;
+constexpr int kBadgeTextPixels = 14;
 
 } // namespace
 
@@ -44,7 +44,7 @@ void drawClockLine(QPainter& surface, double x, const QRectF& hours, const QRect
     const QRectF badge(std::clamp(x - kBadgeWidth / 2, hours.left(),
                                   std::max(hours.left(), hours.right() - kBadgeWidth)),
                        hours.top() + 1, kBadgeWidth, hours.height() - 2);
-    const int pixels = std::min(kTextPixels, static_cast<int>(badge.height()) - 2);
+    const int pixels = std::min(kBadgeTextPixels, static_cast<int>(badge.height()) - 2);
     surface.save();
     surface.setRenderHint(QPainter::Antialiasing);
     surface.setPen(Qt::NoPen);

@@ -14,7 +14,7 @@ namespace paint
 namespace
 {
 
-constexpr form::Colour kSlotLine = form::Colour::fromRgb(0, 0, 180);
+constexpr form::Colour kPlanSlotLine = form::Colour::fromRgb(0, 0, 180);
 constexpr form::Colour kQuarterLine = form::Colour::fromRgb(0, 180, 0);
 // The same green, as faint as a line can be that is still seen on white.
 constexpr form::Colour kFaintQuarterLine = form::Colour::fromRgb(200, 236, 200);
@@ -74,7 +74,7 @@ std::vector<GridLine> planGridLines(const form::PlanForm& form, int rowsShown, b
     const Reach reach = reachOf(form, rowsShown);
     std::vector<GridLine> lines;
     for (const form::Label& tick : form.Label1) {
-        lines.push_back(lineDown(reach, tick.place.left, kSlotLine));
+        lines.push_back(lineDown(reach, tick.place.left, kPlanSlotLine));
     }
     for (const form::Label& tick : form.Label1) {
         for (int quarter = 1; quarter <= 3; ++quarter) {
@@ -101,7 +101,7 @@ std::vector<GridLine> windowGridLines(const form::PlanForm& form, int rowsShown,
     std::vector<GridLine> lines;
     for (int minute = from; minute <= to; minute += quarter) {
         const int x = runtime::nearestInteger(positionOf(form, minute));
-        lines.push_back(lineDown(reach, x, minute % hour == 0 ? kSlotLine : kFaintQuarterLine));
+        lines.push_back(lineDown(reach, x, minute % hour == 0 ? kPlanSlotLine : kFaintQuarterLine));
     }
     addRowLines(lines, form, rowsShown, runtime::nearestInteger(hours.from),
                 runtime::nearestInteger(hours.to));

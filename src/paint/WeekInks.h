@@ -18,6 +18,7 @@ inline constexpr QColor kPauseGround(240, 242, 245); ///< what lies between the 
 inline constexpr QColor kTitleGround(226, 232, 241); ///< behind the titles of the days
 inline constexpr QColor kSlotLine(205, 211, 220);    ///< where slots begin and end
 inline constexpr QColor kDayLine(120, 130, 145);     ///< between days
+inline constexpr QColor kWeekCursor(178, 34, 34);    ///< around the box that keys have chosen
 inline constexpr QColor kExamFrame(20, 20, 20);      ///< the thick frame of an exam
 
 /// Device pixels of a thin line: one on the screen, on paper what every printer shows.

@@ -1,5 +1,6 @@
 #include "print/PdfDocument.h"
 
+#include "print/Paper.h"
 #include "print/PrintJob.h"
 #include "runtime/RunTimeError.h"
 

@@ -1,31 +1,16 @@
 #include "print/PrintJob.h"
 
+#include "print/Paper.h"
 #include "print/PrintedSheet.h"
 #include "print/Targets.h"
-#include "runtime/RunTimeError.h"
 
-#include <QPageLayout>
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 
 namespace print
 {
 namespace
 {
-
-// A4 lying across, in points: the paper that the sheet is designed for.
-constexpr double kDesignWidth = 842;
-constexpr double kDesignHeight = 595;
-// Points (6 mm) that no printer needs for itself.
-constexpr double kMargin = 6 / 25.4 * 72;
-
-/// How much larger than the design the paper is; 1 for smaller paper.
-double growth(const QPageLayout& layout)
-{
-    const QRectF paper = layout.fullRect(QPageLayout::Point);
-    return std::max(1.0, std::min(paper.width() / kDesignWidth, paper.height() / kDesignHeight));
-}
 
 /// How much the sheets are scaled across, and down with everything else. One document has one
 /// scale: its last sheet may hold few rows, and its text is no larger for that.
@@ -72,41 +57,21 @@ void printSheet(QPainter& surface, paint::DrawingTarget target, const Sheet& she
     surface.restore();
 }
 
-void require(bool success)
-{
-    if (!success) {
-        throw runtime::RunTimeError(runtime::ErrorNumber::PrinterError);
-    }
-}
-
 } // namespace
-
-bool layPaper(QPagedPaintDevice& printer)
-{
-    // First, so that the margins are those of the paper lying across. Qt does not turn the minimum
-    // margins with the paper: the widest of them serves every edge.
-    printer.setPageOrientation(QPageLayout::Landscape);
-    QPageLayout layout = printer.pageLayout();
-    layout.setUnits(QPageLayout::Point);
-    const QMarginsF least = layout.minimumMargins();
-    const double margin =
-        std::ceil(std::max({kMargin, least.left(), least.top(), least.right(), least.bottom()}));
-    return layout.setMargins(QMarginsF(margin, margin, margin, margin)) &&
-           printer.setPageLayout(layout);
-}
 
 void printSheets(QPagedPaintDevice& printer, const std::vector<Sheet>& sheets)
 {
     QPainter surface;
-    require(surface.begin(&printer));
+    requirePaper(surface.begin(&printer));
     const paint::DrawingTarget target = UsePrinterTarget(printer);
     const QSizeF area(printer.width(), printer.height());
-    const Scale scale = scaleOf(sheets, target, area, growth(printer.pageLayout()));
+    const Scale scale =
+        scaleOf(sheets, target, area, std::max(1.0, designScale(printer.pageLayout())));
     for (const Sheet& sheet : sheets) {
-        require(&sheet == &sheets.front() || printer.newPage());
+        requirePaper(&sheet == &sheets.front() || printer.newPage());
         printSheet(surface, target, sheet, area.width(), scale);
     }
-    require(surface.end());
+    requirePaper(surface.end());
 }
 
 } // namespace print

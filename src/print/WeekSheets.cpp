@@ -5,12 +5,10 @@
 #include "paint/WeekPainter.h"
 #include "print/FittedText.h"
 #include "print/Heading.h"
+#include "print/Paper.h"
 #include "print/PdfDocument.h"
-#include "print/PrintJob.h"
 #include "print/Targets.h"
-#include "runtime/RunTimeError.h"
 
-#include <QPageLayout>
 #include <QPainter>
 #include <algorithm>
 
@@ -19,9 +17,6 @@ namespace print
 namespace
 {
 
-// A4 lying across, in points: the paper that the sheets are designed for.
-constexpr double kDesignWidth = 842;
-constexpr double kDesignHeight = 595;
 // Points of a sheet's parts.
 constexpr double kTitleHeight = 20;
 constexpr double kAboutHeight = 15;
@@ -71,9 +66,7 @@ public:
         : m_surface(surface), m_sheets(sheets), m_target(UsePrinterTarget(printer)),
           m_area(0, 0, printer.width(), printer.height())
     {
-        const QRectF paper = printer.pageLayout().fullRect(QPageLayout::Point);
-        m_target.PixelsPerPoint *=
-            std::min(paper.width() / kDesignWidth, paper.height() / kDesignHeight);
+        m_target.PixelsPerPoint *= designScale(printer.pageLayout());
     }
 
     /// `number` counts from 0.
@@ -144,13 +137,6 @@ private:
     QRectF m_area;
 };
 
-void require(bool success)
-{
-    if (!success) {
-        throw runtime::RunTimeError(runtime::ErrorNumber::PrinterError);
-    }
-}
-
 } // namespace
 
 std::size_t sheetCount(const WeekSheets& sheets)
@@ -164,19 +150,19 @@ std::size_t sheetCount(const WeekSheets& sheets)
 void printWeek(QPagedPaintDevice& printer, const WeekSheets& sheets)
 {
     QPainter surface;
-    require(surface.begin(&printer));
+    requirePaper(surface.begin(&printer));
     const Press press(printer, surface, sheets);
     for (std::size_t number = 0; number < sheetCount(sheets); ++number) {
-        require(number == 0 || printer.newPage());
+        requirePaper(number == 0 || printer.newPage());
         press.print(number);
     }
-    require(surface.end());
+    requirePaper(surface.end());
 }
 
 QByteArray pdfOf(const WeekSheets& sheets)
 {
     return pdfDrawn(sheets.title, sheets.date, [&sheets](QPdfWriter& writer) {
-        require(layPaper(writer));
+        requirePaper(layPaper(writer));
         printWeek(writer, sheets);
     });
 }

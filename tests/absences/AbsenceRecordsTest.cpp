@@ -13,9 +13,6 @@ using runtime::ErrorNumber;
 namespace
 {
 
-const QString classA = QStringLiteral("L1-A");
-const QString classB = QStringLiteral("L1-B");
-
 class AnAbsence : public OnBothDatabases
 {
 protected:

@@ -10,6 +10,10 @@
 namespace test
 {
 
+// The two classes of the tests' séance.
+inline const QString classA = QStringLiteral("L1-A");
+inline const QString classB = QStringLiteral("L1-B");
+
 /// The statements of `createAbsenceTables`.
 [[nodiscard]] QStringList absenceTableStatements(DatabaseKind kind);
 /// Creates the two tables of absences as the demo faculty has them, with a counted key, and the

@@ -10,6 +10,9 @@
 namespace test
 {
 
+/// What the keyboard answers of a key that went down since it was asked before, and is held.
+inline constexpr std::int16_t pressed = absences::AsyncKeyState::kDownAndPressed;
+
 /// The plan of one Monday, 17 March 2025: each room of the list is held from 10h15 on for 90
 /// minutes by its classes. The séance is that of `lesson`.
 class MarkedPlan

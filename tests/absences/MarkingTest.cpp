@@ -11,9 +11,8 @@ using runtime::ErrorNumber;
 namespace
 {
 
-const QString classA = QStringLiteral("A");
-const QString classB = QStringLiteral("B");
-constexpr std::int16_t pressed = AsyncKeyState::kDownAndPressed;
+const QString classOne = QStringLiteral("A");
+const QString classTwo = QStringLiteral("B");
 
 class AMarker : public OnBothDatabases
 {
@@ -42,10 +41,10 @@ protected:
 
 TEST_P(AMarker, recordsTheAbsenceOfEveryClassByAShiftClick)
 {
-    MarkedPlan plan = planOf({classA, classB});
+    MarkedPlan plan = planOf({classOne, classTwo});
     plan.shiftClick(1);
     EXPECT_EQ(classAbsences(database()),
-              QList<QStringList>({classAbsence(classA), classAbsence(classB)}));
+              QList<QStringList>({classAbsence(classOne), classAbsence(classTwo)}));
     EXPECT_TRUE(plan.box(1).classAbsent);
     EXPECT_FALSE(plan.box(1).studentAbsent);
     EXPECT_TRUE(plan.box(1).absentToolTip.isEmpty());
@@ -56,17 +55,17 @@ TEST_P(AMarker, tellsWhatAClickHasDone)
 {
     using What = absences::Toggled::What;
     const QDate day(2025, 3, 17);
-    MarkedPlan plan = planOf({classA, classB});
-    recordClass(classA);
+    MarkedPlan plan = planOf({classOne, classTwo});
+    recordClass(classOne);
     EXPECT_EQ(plan.click(1, pressed, pressed),
-              (std::vector<absences::Toggled>{{What::Students, day, {classA, classB}, {}},
-                                              {What::Classes, day, {classB}, {classA}}}));
+              (std::vector<absences::Toggled>{{What::Students, day, {classOne, classTwo}, {}},
+                                              {What::Classes, day, {classTwo}, {classOne}}}));
     EXPECT_TRUE(plan.click(1, 0, 0).empty());
 }
 
 TEST_P(AMarker, takesTheClassAbsencesBackByASecondShiftClick)
 {
-    MarkedPlan plan = planOf({classA, classB});
+    MarkedPlan plan = planOf({classOne, classTwo});
     plan.shiftClick(1);
     plan.shiftClick(1);
     EXPECT_TRUE(classAbsences(database()).isEmpty());
@@ -75,25 +74,25 @@ TEST_P(AMarker, takesTheClassAbsencesBackByASecondShiftClick)
 
 TEST_P(AMarker, showsWhatTheLastClassCameTo)
 {
-    recordClass(classA);
-    MarkedPlan plan = planOf({classA, classB});
+    recordClass(classOne);
+    MarkedPlan plan = planOf({classOne, classTwo});
     EXPECT_TRUE(plan.box(1).classAbsent);
     plan.shiftClick(1);
-    EXPECT_EQ(absent(), QStringList{classB});
+    EXPECT_EQ(absent(), QStringList{classTwo});
     EXPECT_TRUE(plan.box(1).classAbsent);
     plan.refresh(); // which asks for the first class alone
     EXPECT_FALSE(plan.box(1).classAbsent);
     plan.shiftClick(1);
-    EXPECT_EQ(absent(), QStringList{classA});
+    EXPECT_EQ(absent(), QStringList{classOne});
     EXPECT_FALSE(plan.box(1).classAbsent);
 }
 
 TEST_P(AMarker, recordsTheAbsenceOfStudentsOfEveryClassByACtrlClick)
 {
-    MarkedPlan plan = planOf({classA, classB});
+    MarkedPlan plan = planOf({classOne, classTwo});
     plan.ctrlClick(1);
     EXPECT_EQ(studentAbsences(database()),
-              QList<QStringList>({studentAbsence(classA), studentAbsence(classB)}));
+              QList<QStringList>({studentAbsence(classOne), studentAbsence(classTwo)}));
     EXPECT_TRUE(plan.box(1).studentAbsent);
     EXPECT_EQ(plan.box(1).absentToolTip, QStringLiteral("A\tB Absent"));
     EXPECT_FALSE(plan.box(1).classAbsent);
@@ -102,7 +101,7 @@ TEST_P(AMarker, recordsTheAbsenceOfStudentsOfEveryClassByACtrlClick)
 
 TEST_P(AMarker, takesTheStudentAbsencesBackByASecondCtrlClick)
 {
-    MarkedPlan plan = planOf({classA, classB});
+    MarkedPlan plan = planOf({classOne, classTwo});
     plan.ctrlClick(1);
     plan.ctrlClick(1);
     EXPECT_TRUE(studentAbsences(database()).isEmpty());
@@ -112,11 +111,11 @@ TEST_P(AMarker, takesTheStudentAbsencesBackByASecondCtrlClick)
 
 TEST_P(AMarker, showsWhatTheStudentsOfTheLastClassCameTo)
 {
-    recordStudents(classB);
-    MarkedPlan plan = planOf({classA, classB});
+    recordStudents(classTwo);
+    MarkedPlan plan = planOf({classOne, classTwo});
     EXPECT_FALSE(plan.box(1).studentAbsent);
     plan.ctrlClick(1);
-    EXPECT_EQ(withAbsentStudents(), QStringList{classA});
+    EXPECT_EQ(withAbsentStudents(), QStringList{classOne});
     EXPECT_FALSE(plan.box(1).studentAbsent);
     EXPECT_TRUE(plan.box(1).absentToolTip.isEmpty());
     plan.refresh();
@@ -135,10 +134,10 @@ TEST_P(AMarker, cutsALongClassNameOnlyInTheIdentity)
 
 TEST_P(AMarker, togglesBothTablesWithBothKeys)
 {
-    MarkedPlan plan = planOf({classA, classB});
+    MarkedPlan plan = planOf({classOne, classTwo});
     plan.click(1, pressed, pressed);
-    EXPECT_EQ(absent(), QStringList({classA, classB}));
-    EXPECT_EQ(withAbsentStudents(), QStringList({classA, classB}));
+    EXPECT_EQ(absent(), QStringList({classOne, classTwo}));
+    EXPECT_EQ(withAbsentStudents(), QStringList({classOne, classTwo}));
     EXPECT_TRUE(plan.box(1).classAbsent);
     EXPECT_TRUE(plan.box(1).studentAbsent);
 }
@@ -146,22 +145,22 @@ TEST_P(AMarker, togglesBothTablesWithBothKeys)
 TEST_P(AMarker, togglesTheStudentsFirst)
 {
     database().execute(QStringLiteral("drop table abscence"));
-    MarkedPlan plan = planOf({classA});
+    MarkedPlan plan = planOf({classOne});
     EXPECT_EQ(errorNumberOf([&] { plan.click(1, pressed, pressed); }), ErrorNumber::TableMissing);
-    EXPECT_EQ(withAbsentStudents(), QStringList{classA});
+    EXPECT_EQ(withAbsentStudents(), QStringList{classOne});
 }
 
 TEST_P(AMarker, doesNotComeToTheClassesWhenTheStudentsFail)
 {
     database().execute(QStringLiteral("drop table etud_abs"));
-    MarkedPlan plan = planOf({classA});
+    MarkedPlan plan = planOf({classOne});
     EXPECT_EQ(errorNumberOf([&] { plan.click(1, pressed, pressed); }), ErrorNumber::TableMissing);
     EXPECT_TRUE(absent().isEmpty());
 }
 
 TEST_P(AMarker, doesNothingUnlessAKeyIsDownAndNewlyPressed)
 {
-    MarkedPlan plan = planOf({classA});
+    MarkedPlan plan = planOf({classOne});
     const std::int16_t others[] = {0, 1, AsyncKeyState::kDown, -32766, 0x7fff, -1};
     for (const std::int16_t shift : others) {
         for (const std::int16_t ctrl : others) {
@@ -177,7 +176,7 @@ TEST_P(AMarker, doesNothingUnlessAKeyIsDownAndNewlyPressed)
 TEST_P(AMarker, asksForCtrlAndThenForShiftAtEveryClick)
 {
     const std::vector<VirtualKey> ctrlThenShift = {VirtualKey::Ctrl, VirtualKey::Shift};
-    MarkedPlan plan = planOf({classA});
+    MarkedPlan plan = planOf({classOne});
     plan.click(1, 0, 0);
     EXPECT_EQ(plan.takeQueries(), ctrlThenShift);
     plan.ctrlClick(1);
@@ -188,33 +187,33 @@ TEST_P(AMarker, asksForCtrlAndThenForShiftAtEveryClick)
 
 TEST_P(AMarker, togglesAnEmptyClassBehindATrailingTab)
 {
-    planOf({classA, QString()}).click(1, pressed, pressed);
-    EXPECT_EQ(absent(), QStringList({QString(), classA}));
-    EXPECT_EQ(withAbsentStudents(), QStringList({QString(), classA}));
+    planOf({classOne, QString()}).click(1, pressed, pressed);
+    EXPECT_EQ(absent(), QStringList({QString(), classOne}));
+    EXPECT_EQ(withAbsentStudents(), QStringList({QString(), classOne}));
 }
 
 TEST_P(AMarker, keepsTheSeanceBeforeAFailingClass)
 {
-    MarkedPlan plan = planOf({classA, QStringLiteral("L'2"), classB});
+    MarkedPlan plan = planOf({classOne, QStringLiteral("L'2"), classTwo});
     const runtime::RunTimeError error = errorOf([&] { plan.shiftClick(1); });
     EXPECT_EQ(error.number(), ErrorNumber::StatementRefused);
     EXPECT_TRUE(error.activity().contains(QStringLiteral("« L'2 »")));
-    EXPECT_EQ(absent(), QStringList{classA});
+    EXPECT_EQ(absent(), QStringList{classOne});
 }
 
 TEST_P(AMarker, standsForItsOwnBox)
 {
-    MarkedPlan plan(database(), {{classA}, {}, {classB}});
+    MarkedPlan plan(database(), {{classOne}, {}, {classTwo}});
     plan.shiftClick(2);
     EXPECT_EQ(database().read(QStringLiteral("select Classe, Salle from abscence")),
-              QList<QStringList>({{classB, QStringLiteral("A103")}}));
+              QList<QStringList>({{classTwo, QStringLiteral("A103")}}));
     EXPECT_FALSE(plan.box(1).classAbsent);
     EXPECT_TRUE(plan.box(2).classAbsent);
 }
 
 TEST_P(AMarker, thatWasNeverGivenToABoxIsOutOfBounds)
 {
-    MarkedPlan plan = planOf({classA});
+    MarkedPlan plan = planOf({classOne});
     for (const int index : {-1, 0, 2, 32767}) {
         EXPECT_EQ(errorNumberOf([&] { plan.shiftClick(index); }), ErrorNumber::SubscriptOutOfRange);
         EXPECT_EQ(errorNumberOf([&] { plan.ctrlClick(index); }), ErrorNumber::SubscriptOutOfRange);
@@ -226,18 +225,18 @@ TEST_P(AMarker, thatWasNeverGivenToABoxIsOutOfBounds)
 
 TEST_P(AMarker, thatTheLastRefreshDidNotDrawStillStandsForItsSeance)
 {
-    MarkedPlan plan(database(), {{classA}, {classB}});
-    plan.rooms() = {{classA}, {}};
+    MarkedPlan plan(database(), {{classOne}, {classTwo}});
+    plan.rooms() = {{classOne}, {}};
     plan.refresh();
     ASSERT_EQ(plan.engine().markers().MarkerCount(), 1);
     plan.click(2, pressed, pressed);
-    EXPECT_EQ(absent(), QStringList{classB});
-    EXPECT_EQ(withAbsentStudents(), QStringList{classB});
+    EXPECT_EQ(absent(), QStringList{classTwo});
+    EXPECT_EQ(withAbsentStudents(), QStringList{classTwo});
 }
 
 TEST_P(AMarker, canBeClickedInTheMiddleOfARefresh)
 {
-    MarkedPlan plan(database(), {{classA}, {classB}});
+    MarkedPlan plan(database(), {{classOne}, {classTwo}});
     int rows = 0;
     plan.whileYielding = [&] {
         if (++rows == 1) {
@@ -247,14 +246,14 @@ TEST_P(AMarker, canBeClickedInTheMiddleOfARefresh)
     };
     plan.refresh();
     EXPECT_EQ(rows, 2);
-    EXPECT_EQ(absent(), QStringList({classA, classB}));
+    EXPECT_EQ(absent(), QStringList({classOne, classTwo}));
     EXPECT_TRUE(plan.box(1).classAbsent);
     EXPECT_TRUE(plan.box(2).classAbsent);
 }
 
 TEST_P(AMarker, keepsTheLastOutcomeWhateverARefreshFinds)
 {
-    MarkedPlan plan = planOf({classA});
+    MarkedPlan plan = planOf({classOne});
     plan.click(1, pressed, pressed);
     database().execute(
         {QStringLiteral("delete from abscence"), QStringLiteral("delete from etud_abs")});
@@ -267,10 +266,10 @@ TEST_P(AMarker, keepsTheLastOutcomeWhateverARefreshFinds)
 
 TEST_P(AMarker, isAboutTheDateShownWhenItsBoxWasDrawn)
 {
-    MarkedPlan plan = planOf({classA});
+    MarkedPlan plan = planOf({classOne});
     plan.form().DTPicker1.setValue(QDate(2025, 3, 24));
     plan.shiftClick(1);
-    EXPECT_EQ(classAbsences(database()), QList<QStringList>{classAbsence(classA)});
+    EXPECT_EQ(classAbsences(database()), QList<QStringList>{classAbsence(classOne)});
     plan.refresh();
     EXPECT_FALSE(plan.box(1).classAbsent);
 }

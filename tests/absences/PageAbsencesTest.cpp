@@ -13,9 +13,6 @@ using plan::Marqueur;
 namespace
 {
 
-const QString classA = QStringLiteral("L1-A");
-const QString classB = QStringLiteral("L1-B");
-
 class APageOfAbsences : public OnBothDatabases
 {
 protected:

@@ -9,9 +9,7 @@ using runtime::ErrorNumber;
 namespace
 {
 
-const QString classA = QStringLiteral("L1-A");
 const QString password = QStringLiteral("mot-de-passe");
-constexpr std::int16_t pressed = AsyncKeyState::kDownAndPressed;
 
 /// Accounts with fewer rights than the administrator's.
 class AnAccount : public testing::Test

@@ -14,8 +14,6 @@ using Verdict = CuttingProxy::Verdict;
 namespace
 {
 
-const QString classA = QStringLiteral("L1-A");
-
 /// One of the two gestures and what it leaves.
 struct Gesture {
     std::int16_t shift = 0;

@@ -11,10 +11,8 @@ using namespace test;
 namespace
 {
 
-constexpr std::int16_t pressed = absences::AsyncKeyState::kDownAndPressed;
-
 /// Before the last tab names keep their blanks.
-const QStringList classes = {QStringLiteral(" L1 "), QStringLiteral("L2")};
+const QStringList paddedClasses = {QStringLiteral(" L1 "), QStringLiteral("L2")};
 
 } // namespace
 
@@ -28,7 +26,7 @@ TEST(TheSearchesForAbsences, reachTheServerAsTheyAreWritten)
             commands << command.mid(1);
             return CuttingProxy::Verdict::Pass;
         });
-        MarkedPlan plan(true, proxy.through(database.connectString()), {classes});
+        MarkedPlan plan(true, proxy.through(database.connectString()), {paddedClasses});
         plan.click(1, pressed, pressed);
         plan.click(1, pressed, pressed);
     }
@@ -62,7 +60,7 @@ TEST(TheSearchesForAbsences, reachTheEmbeddedDatabaseWithItsOwnDates)
     const QString trace = processFolder() + QStringLiteral("/statements.log");
     {
         MarkedPlan plan(false, database.connectString() + QStringLiteral(";Tracefile=") + trace,
-                        {classes});
+                        {paddedClasses});
         plan.click(1, pressed, pressed);
         plan.click(1, pressed, pressed);
     }

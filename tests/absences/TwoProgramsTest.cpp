@@ -12,8 +12,6 @@ using namespace test;
 namespace
 {
 
-const QString classA = QStringLiteral("L1-A");
-const QString classB = QStringLiteral("L1-B");
 constexpr int longestRunMilliseconds = 120000;
 
 /// What several programs were told about the absence that they all toggled.

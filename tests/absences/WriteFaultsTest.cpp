@@ -14,8 +14,6 @@ using runtime::ErrorNumber;
 namespace
 {
 
-const QString classA = QStringLiteral("L1-A");
-
 class ATableThatRefuses : public OnBothDatabases
 {
 };

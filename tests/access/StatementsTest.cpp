@@ -18,8 +18,6 @@ using namespace test;
 namespace
 {
 
-constexpr std::int16_t pressed = absences::AsyncKeyState::kDownAndPressed;
-
 QStringList namesOfTheSchema()
 {
     QStringList names{"Num"};

@@ -5,6 +5,7 @@
 #include "print/Pdf.h"
 #include "shell/ShellDesk.h"
 #include "support/RuntimeMatchers.h"
+#include "support/TestFolder.h"
 
 #include <QFile>
 #include <QPrinter>
@@ -14,12 +15,6 @@ using namespace test;
 
 namespace
 {
-
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 class PrintQueue : public testing::Test
 {

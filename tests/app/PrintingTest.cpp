@@ -6,6 +6,7 @@
 #include "shell/ShellDesk.h"
 #include "support/FullDisk.h"
 #include "support/RuntimeMatchers.h"
+#include "support/TestFolder.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -66,16 +67,10 @@ struct Answer {
     }
 };
 
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-class Printing : public testing::Test
+class ThePrinting : public testing::Test
 {
 protected:
-    Printing()
+    ThePrinting()
     {
         createTinyFaculty(m_database);
         desk.play({"--date", "2025-03-17"});
@@ -123,7 +118,7 @@ void whenOpen(const std::function<void(Dialog&)>& act)
 
 } // namespace
 
-TEST_F(Printing, printsThePageThatTheWindowShows)
+TEST_F(ThePrinting, printsThePageThatTheWindowShows)
 {
     app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Command1.press();
@@ -138,7 +133,7 @@ TEST_F(Printing, printsThePageThatTheWindowShows)
     }
 }
 
-TEST_F(Printing, printsNothingAfterCancel)
+TEST_F(ThePrinting, printsNothingAfterCancel)
 {
     answer.file.clear();
     app::Printing printing(desk.shell().engine(), answer.dialogs());
@@ -148,7 +143,7 @@ TEST_F(Printing, printsNothingAfterCancel)
     EXPECT_EQ(desk.plan(), before);
 }
 
-TEST_F(Printing, leavesTheScreenAsItWas)
+TEST_F(ThePrinting, leavesTheScreenAsItWas)
 {
     app::Printing printing(desk.shell().engine(), answer.dialogs());
     const QImage before = screen();
@@ -161,7 +156,7 @@ TEST_F(Printing, leavesTheScreenAsItWas)
     EXPECT_EQ(desk.form().Label1[1].place.left - desk.form().Label1[0].place.left, 1600);
 }
 
-TEST_F(Printing, looksTheMakeUpsOfTheDateUpThatItsTitleNames)
+TEST_F(ThePrinting, looksTheMakeUpsOfTheDateUpThatItsTitleNames)
 {
     app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Check2.setChecked(true); // which by itself redraws nothing
@@ -174,7 +169,7 @@ TEST_F(Printing, looksTheMakeUpsOfTheDateUpThatItsTitleNames)
     EXPECT_EQ(screen(), before);
 }
 
-TEST_F(Printing, printsAllSubjectsOnceTheFilterIsOff)
+TEST_F(ThePrinting, printsAllSubjectsOnceTheFilterIsOff)
 {
     desk.play({"--date", "2025-03-17", "--subject", "Algèbre"});
     app::Printing printing(desk.shell().engine(), answer.dialogs());
@@ -189,7 +184,7 @@ TEST_F(Printing, printsAllSubjectsOnceTheFilterIsOff)
     EXPECT_EQ(screen(), before);
 }
 
-TEST_F(Printing, printsInTheFontThatLabel20GaveToAllControls)
+TEST_F(ThePrinting, printsInTheFontThatLabel20GaveToAllControls)
 {
     app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Label20.font.name = "Liberation Serif";
@@ -202,7 +197,7 @@ TEST_F(Printing, printsInTheFontThatLabel20GaveToAllControls)
     }
 }
 
-TEST_F(Printing, printsEveryPageOfTheRoomSet)
+TEST_F(ThePrinting, printsEveryPageOfTheRoomSet)
 {
     desk.form().Total_L_P.setText("2");
     app::Printing printing(desk.shell().engine(), answer.dialogs());
@@ -216,7 +211,7 @@ TEST_F(Printing, printsEveryPageOfTheRoomSet)
     EXPECT_TRUE(pdf.text(2).contains("C1"));
 }
 
-TEST_F(Printing, printsTheChosenPagesAlone)
+TEST_F(ThePrinting, printsTheChosenPagesAlone)
 {
     desk.form().Total_L_P.setText("2");
     answer.from = 2;
@@ -227,7 +222,7 @@ TEST_F(Printing, printsTheChosenPagesAlone)
     EXPECT_TRUE(printed().text().contains("Page 2 / 2"));
 }
 
-TEST_F(Printing, numbersTheOnlyPageOfTheRoomSet)
+TEST_F(ThePrinting, numbersTheOnlyPageOfTheRoomSet)
 {
     app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().PrintAllPages.press();
@@ -236,7 +231,7 @@ TEST_F(Printing, numbersTheOnlyPageOfTheRoomSet)
     EXPECT_FALSE(printed().text().contains("Page 1"));
 }
 
-TEST_F(Printing, printsNothingWhereNoSuchPageIs)
+TEST_F(ThePrinting, printsNothingWhereNoSuchPageIs)
 {
     answer.from = 7;
     answer.to = 9;
@@ -245,7 +240,7 @@ TEST_F(Printing, printsNothingWhereNoSuchPageIs)
     EXPECT_FALSE(isPrinted());
 }
 
-TEST_F(Printing, previewsTheSheetThatItPrints)
+TEST_F(ThePrinting, previewsTheSheetThatItPrints)
 {
     app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().PrintPreview.press();
@@ -254,7 +249,7 @@ TEST_F(Printing, previewsTheSheetThatItPrints)
     EXPECT_EQ(printed().text(), previewed);
 }
 
-TEST_F(Printing, previewsAllPagesThatItPrints)
+TEST_F(ThePrinting, previewsAllPagesThatItPrints)
 {
     desk.form().Total_L_P.setText("2");
     app::Printing printing(desk.shell().engine(), answer.dialogs());
@@ -266,7 +261,7 @@ TEST_F(Printing, previewsAllPagesThatItPrints)
     EXPECT_EQ(answer.sheetsOffered, 0); // no printer is chosen
 }
 
-TEST_F(Printing, tellsTheFileThatItHasPrinted)
+TEST_F(ThePrinting, tellsTheFileThatItHasPrinted)
 {
     QStringList saved;
     app::Printing printing(desk.shell().engine(), answer.dialogs(),
@@ -280,7 +275,7 @@ TEST_F(Printing, tellsTheFileThatItHasPrinted)
     EXPECT_EQ(saved, QStringList({file}));
 }
 
-TEST_F(Printing, givesItsDocumentANameThatAFileCanHave)
+TEST_F(ThePrinting, givesItsDocumentANameThatAFileCanHave)
 {
     desk.form().Check2.setChecked(true);
     app::Printing printing(desk.shell().engine(), answer.dialogs());
@@ -289,7 +284,7 @@ TEST_F(Printing, givesItsDocumentANameThatAFileCanHave)
     EXPECT_TRUE(printed().text().contains("Occupation des Salles du 17/03/25"));
 }
 
-TEST_F(Printing, endsInThePlatformsErrorWhereThePrinterFails)
+TEST_F(ThePrinting, endsInThePlatformsErrorWhereThePrinterFails)
 {
     answer.file = "/nowhere/plan.pdf";
     app::Printing printing(desk.shell().engine(), answer.dialogs());
@@ -300,7 +295,7 @@ TEST_F(Printing, endsInThePlatformsErrorWhereThePrinterFails)
         << error.what();
 }
 
-TEST_F(Printing, leavesTheFormerFileWhereTheDiskIsFull)
+TEST_F(ThePrinting, leavesTheFormerFileWhereTheDiskIsFull)
 {
     app::Printing printing(desk.shell().engine(), answer.dialogs());
     desk.form().Command1.press();
@@ -318,7 +313,7 @@ TEST_F(Printing, leavesTheFormerFileWhereTheDiskIsFull)
     EXPECT_TRUE(printed().text().contains("Occupation des Salles du Mardi"));
 }
 
-TEST_F(Printing, offersAPdfFileWhereThereIsNoPrinter)
+TEST_F(ThePrinting, offersAPdfFileWhereThereIsNoPrinter)
 {
     app::Printing printing(desk.shell().engine(), app::platformPrintDialogs(nullptr));
     QStringList printers;
@@ -334,7 +329,7 @@ TEST_F(Printing, offersAPdfFileWhereThereIsNoPrinter)
     EXPECT_TRUE(printers.join(';').contains("PDF")) << printers.join(';').toStdString();
 }
 
-TEST_F(Printing, showsThePreviewOfThePlatform)
+TEST_F(ThePrinting, showsThePreviewOfThePlatform)
 {
     app::Printing printing(desk.shell().engine(), app::platformPrintDialogs(nullptr));
     int pages = 0;

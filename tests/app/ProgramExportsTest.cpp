@@ -3,6 +3,7 @@
 #include "app/TemporaProcess.h"
 #include "print/Pdf.h"
 #include "support/RuntimeMatchers.h"
+#include "support/TestFolder.h"
 #include "support/TinyFaculty.h"
 
 #include <QDir>
@@ -12,12 +13,6 @@ using namespace test;
 
 namespace
 {
-
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 class ProgramExports : public OnBothDatabases
 {

@@ -17,12 +17,6 @@ using namespace test;
 namespace
 {
 
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QString colorOfRow1(const QString& path)
 {
     return QJsonDocument::fromJson(bytesOf(path)).object()["rows"][0]["color"].toString();

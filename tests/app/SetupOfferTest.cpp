@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileSystemWatcher>
 #include <gtest/gtest.h>
 
 using namespace test;
@@ -18,11 +19,12 @@ namespace
 class TheOffer : public testing::Test
 {
 protected:
-    void install() const
+    void install()
     {
         writeFile(folder + "/tempora-setup", "#!/bin/sh\nprintf '%s' \"$*\" >\"$0.new\"\n"
                                              "mv \"$0.new\" \"$0.told\"\n");
         QFile::setPermissions(folder + "/tempora-setup", QFile::ReadOwner | QFile::ExeOwner);
+        m_watcher.addPath(folder);
     }
     [[nodiscard]] std::optional<app::WayOut> offerFor(ErrorNumber number,
                                                       const QString& settings = {}) const
@@ -38,6 +40,9 @@ protected:
 
     const QString folder =
         processFolder() + "/offer-" + testing::UnitTest::GetInstance()->current_test_info()->name();
+
+private:
+    QFileSystemWatcher m_watcher; // wakes who waits for what the program writes
 };
 
 } // namespace

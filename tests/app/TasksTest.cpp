@@ -3,6 +3,7 @@
 
 #include "app/asking/AskingDesk.h"
 #include "print/Pdf.h"
+#include "support/TestFolder.h"
 
 #include <QDialog>
 #include <QFile>
@@ -30,12 +31,6 @@ protected:
 };
 
 TEMPORA_ON_BOTH_DATABASES(ATask);
-
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 

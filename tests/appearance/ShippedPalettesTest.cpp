@@ -87,7 +87,6 @@ double difference(Colour first, Colour second)
 
 /// Entries that rows are drawn with: 0 and 1 are never repeated.
 constexpr int kFirstRowEntry = 2;
-constexpr int kEntries = plan::RowColors::kColors;
 
 } // namespace
 
@@ -139,7 +138,7 @@ TEST(ShippedPalettes, keepTextReadableOnEveryColour)
 {
     for (const QFileInfo& file : shippedFiles()) {
         const LoadedPalette loaded(file.filePath());
-        for (int entry = 0; entry < kEntries; ++entry) {
+        for (int entry = 0; entry < plan::RowColors::kColors; ++entry) {
             const Colour color = loaded.colors.at(entry);
             EXPECT_LE(color.value, 0xffffffU);
             // WCAG asks for 4.5, and for 7 at its highest level: these are read all day.
@@ -153,7 +152,7 @@ TEST(ShippedPalettes, tellNeighbouringRowsApart)
 {
     for (const QFileInfo& file : shippedFiles()) {
         const LoadedPalette loaded(file.filePath());
-        for (int entry = kFirstRowEntry; entry + 1 < kEntries; ++entry) {
+        for (int entry = kFirstRowEntry; entry + 1 < plan::RowColors::kColors; ++entry) {
             EXPECT_GE(difference(loaded.colors.at(entry), loaded.colors.at(entry + 1)), 10.0)
                 << file.fileName().toStdString() << ", entry " << entry;
         }
@@ -171,14 +170,14 @@ TEST(ShippedPalettes, useOnlyTheColoursPublishedForColourBlindReaders)
         Colour::fromRgb(0xEE, 0x88, 0x66), Colour::fromRgb(0xFF, 0xAA, 0xBB),
         Colour::fromRgb(0xDD, 0xDD, 0xDD)};
     const LoadedPalette loaded(shipped(QStringLiteral("Accessible.mpl")));
-    for (int entry = 0; entry < kEntries; ++entry) {
+    for (int entry = 0; entry < plan::RowColors::kColors; ++entry) {
         EXPECT_NE(std::find(published.begin(), published.end(), loaded.colors.at(entry)),
                   published.end())
             << "entry " << entry;
     }
     for (const Colour color : published) {
         bool used = false;
-        for (int entry = kFirstRowEntry; entry < kEntries; ++entry) {
+        for (int entry = kFirstRowEntry; entry < plan::RowColors::kColors; ++entry) {
             used = used || loaded.colors.at(entry) == color;
         }
         EXPECT_TRUE(used) << color.value;
@@ -188,7 +187,7 @@ TEST(ShippedPalettes, useOnlyTheColoursPublishedForColourBlindReaders)
 TEST(ShippedPalettes, haveGreysForPrinters)
 {
     const LoadedPalette loaded(shipped(QStringLiteral("Gris.mpl")));
-    for (int entry = 0; entry < kEntries; ++entry) {
+    for (int entry = 0; entry < plan::RowColors::kColors; ++entry) {
         const Colour color = loaded.colors.at(entry);
         EXPECT_TRUE(color.red() == color.green() && color.green() == color.blue()) << entry;
         EXPECT_GE(color.red(), 0xA0) << "dark greys cost toner";
@@ -198,7 +197,7 @@ TEST(ShippedPalettes, haveGreysForPrinters)
 TEST(ShippedPalettes, haveOneOfHighContrast)
 {
     const LoadedPalette loaded(shipped(QStringLiteral("Contraste.mpl")));
-    for (int entry = kFirstRowEntry; entry + 1 < kEntries; ++entry) {
+    for (int entry = kFirstRowEntry; entry + 1 < plan::RowColors::kColors; ++entry) {
         const Colour color = loaded.colors.at(entry);
         EXPECT_GE(paint::contrastRatio(color, paint::readableOn(color)), 12.0) << entry;
         EXPECT_GE(paint::contrastRatio(color, loaded.colors.at(entry + 1)), 7.0) << entry;

@@ -7,6 +7,16 @@
 
 #include <optional>
 
+[[nodiscard]] inline db::Value text(const char* value)
+{
+    return db::Value(QString::fromUtf8(value));
+}
+
+[[nodiscard]] inline db::Value integer(std::int64_t value)
+{
+    return db::Value(value);
+}
+
 /// A test on both databases with an open connection.
 class ConnectedTest : public test::OnBothDatabases
 {

@@ -11,16 +11,6 @@ class Reading : public ConnectedTest
 {
 };
 
-Value text(const char* value)
-{
-    return Value(QString::fromUtf8(value));
-}
-
-Value integer(std::int64_t value)
-{
-    return Value(value);
-}
-
 } // namespace
 
 TEST_P(Reading, givesEveryColumnItsType)

@@ -13,16 +13,6 @@ class Writing : public ConnectedTest
 {
 };
 
-Value text(const char* value)
-{
-    return Value(QString::fromUtf8(value));
-}
-
-Value integer(std::int64_t value)
-{
-    return Value(value);
-}
-
 const QString abscence =
     QStringLiteral("create table abscence (Classe text, `matière` text, `Durée` integer, "
                    "Commune bit, Debut text, Datex date)");

@@ -29,7 +29,7 @@ protected:
     }
 };
 
-Value integer(std::int64_t value)
+Value wholeNumber(std::int64_t value)
 {
     return Value(value);
 }
@@ -49,7 +49,7 @@ TEST_P(AParameter, bringsIntegersOf32AndOf64Bits)
          {std::int64_t{0}, std::int64_t{2147483647}, std::int64_t{2147483648},
           std::int64_t{-2147483648}, std::int64_t{-2147483649},
           std::numeric_limits<std::int64_t>::max(), std::numeric_limits<std::int64_t>::min()}) {
-        EXPECT_EQ(stored("bigint", integer(number)), QString::number(number));
+        EXPECT_EQ(stored("bigint", wholeNumber(number)), QString::number(number));
     }
 }
 

@@ -15,11 +15,11 @@ namespace
 {
 
 /// One occupied quarter of an hour in one of two weeks: day, quarter since midnight, week B.
-using Quarter = std::tuple<int, int, bool>;
+using WeekQuarter = std::tuple<int, int, bool>;
 
-std::vector<Quarter> quartersOf(const Meeting& meeting, bool weekB)
+std::vector<WeekQuarter> quartersOf(const Meeting& meeting, bool weekB)
 {
-    std::vector<Quarter> quarters;
+    std::vector<WeekQuarter> quarters;
     for (int minute = meeting.start; minute < meeting.start + meeting.minutes; minute += 15) {
         quarters.emplace_back(meeting.day, minute / 15, weekB);
     }
@@ -89,10 +89,10 @@ int countMeetings(const std::function<bool(const Meeting&)>& matches)
 TEST(Timetable, putsNoClassInTwoPlaces)
 {
     for (const bool weekB : {false, true}) {
-        std::map<std::pair<int, Quarter>, int> taken;
+        std::map<std::pair<int, WeekQuarter>, int> taken;
         for (const Meeting& meeting : sample().table.meetings) {
             if (sideOf(meeting, weekB).room != nobody) {
-                for (const Quarter& quarter : quartersOf(meeting, weekB)) {
+                for (const WeekQuarter& quarter : quartersOf(meeting, weekB)) {
                     EXPECT_EQ(++taken[std::make_pair(meeting.studentClass, quarter)], 1);
                 }
             }
@@ -103,12 +103,12 @@ TEST(Timetable, putsNoClassInTwoPlaces)
 TEST(Timetable, putsNoTwoCoursesIntoOneRoomAndNoTeacherIntoTwoCourses)
 {
     for (const bool weekB : {false, true}) {
-        std::map<std::pair<int, Quarter>, CourseKey> rooms;
-        std::map<std::pair<int, Quarter>, CourseKey> teachers;
+        std::map<std::pair<int, WeekQuarter>, CourseKey> rooms;
+        std::map<std::pair<int, WeekQuarter>, CourseKey> teachers;
         for (const Meeting& meeting : sample().table.meetings) {
             const CourseKey key = courseKey(meeting);
             const MeetingSide& side = sideOf(meeting, weekB);
-            for (const Quarter& quarter : quartersOf(meeting, weekB)) {
+            for (const WeekQuarter& quarter : quartersOf(meeting, weekB)) {
                 for (const int room : roomsOf(side)) {
                     EXPECT_EQ(rooms.try_emplace({room, quarter}, key).first->second, key);
                 }

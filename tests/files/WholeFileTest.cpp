@@ -24,7 +24,7 @@ QString folderFor(const QString& name)
     return path;
 }
 
-QByteArray bytesOf(const QString& path)
+QByteArray bytesOrNone(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
@@ -53,10 +53,10 @@ TEST(WholeFile, holdsExactlyTheBytes)
     const QString folder = folderFor("bytes");
     const QByteArray bytes = QByteArray("a\0b\r\nc", 6) + QByteArray(3'000'000, 'x');
     writeWholeFile(folder + "/plan.bin", bytes);
-    EXPECT_TRUE(bytesOf(folder + "/plan.bin") == bytes);
+    EXPECT_TRUE(bytesOrNone(folder + "/plan.bin") == bytes);
     EXPECT_EQ(entriesOf(folder), QStringList("plan.bin"));
     writeWholeFile(folder + "/plan.bin", "");
-    EXPECT_EQ(bytesOf(folder + "/plan.bin"), "");
+    EXPECT_EQ(bytesOrNone(folder + "/plan.bin"), "");
 }
 
 TEST(WholeFile, thatCannotBeWrittenLeavesTheOldOneAndItsReason)
@@ -72,7 +72,7 @@ TEST(WholeFile, thatCannotBeWrittenLeavesTheOldOneAndItsReason)
         EXPECT_FALSE(failure.contains('\n'));
     }
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_EQ(bytesOf(folder + "/plan.json"), "alt");
+    EXPECT_EQ(bytesOrNone(folder + "/plan.json"), "alt");
     EXPECT_EQ(entriesOf(folder), QStringList("plan.json"));
 }
 
@@ -89,7 +89,7 @@ TEST(WholeFile, isNotWrittenThroughALink)
         EXPECT_EQ(entriesOf(folder), QStringList({"plan.json", "secret"}));
         QFile::remove(folder + "/plan.json");
     }
-    EXPECT_EQ(bytesOf(folder + "/secret"), "alt");
+    EXPECT_EQ(bytesOrNone(folder + "/secret"), "alt");
 }
 
 TEST(WholeFile, isWrittenInAFolderThatALinkLeadsTo)
@@ -98,7 +98,7 @@ TEST(WholeFile, isWrittenInAFolderThatALinkLeadsTo)
     QDir(folder).mkdir("here");
     ASSERT_TRUE(QFile::link(folder + "/here", folder + "/there"));
     writeWholeFile(folder + "/there/plan.json", "neu");
-    EXPECT_EQ(bytesOf(folder + "/here/plan.json"), "neu");
+    EXPECT_EQ(bytesOrNone(folder + "/here/plan.json"), "neu");
 }
 
 TEST(WholeFile, takesNoOtherNameOfTheOldOneAlong)
@@ -108,8 +108,8 @@ TEST(WholeFile, takesNoOtherNameOfTheOldOneAlong)
     std::filesystem::create_hard_link((folder + "/other").toStdString(),
                                       (folder + "/plan.json").toStdString());
     writeWholeFile(folder + "/plan.json", "neu");
-    EXPECT_EQ(bytesOf(folder + "/plan.json"), "neu");
-    EXPECT_EQ(bytesOf(folder + "/other"), "alt");
+    EXPECT_EQ(bytesOrNone(folder + "/plan.json"), "neu");
+    EXPECT_EQ(bytesOrNone(folder + "/other"), "alt");
 }
 
 TEST(WholeFile, takesThePlaceOfPlainFilesOnly)
@@ -139,7 +139,7 @@ TEST(WholeFile, keepsTheRightsOfTheOldOne)
     static_cast<void>(::umask(mask));
     EXPECT_EQ(rights("/new.json"), static_cast<std::filesystem::perms>(0640));
     EXPECT_EQ(rights("/old.json"), static_cast<std::filesystem::perms>(0606));
-    EXPECT_EQ(bytesOf(folder + "/old.json"), "neu");
+    EXPECT_EQ(bytesOrNone(folder + "/old.json"), "neu");
 }
 
 TEST(WholeFile, mayHaveTheLongestNameThatThereIs)
@@ -147,7 +147,7 @@ TEST(WholeFile, mayHaveTheLongestNameThatThereIs)
     const QString folder = folderFor("long");
     const QString path = folder + u'/' + QString(250, u'p') + ".json";
     writeWholeFile(path, "neu");
-    EXPECT_EQ(bytesOf(path), "neu");
+    EXPECT_EQ(bytesOrNone(path), "neu");
 }
 
 TEST(WholeFile, isRefusedWhereThereIsNoFolderOrOneOfItsName)

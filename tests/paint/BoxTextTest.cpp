@@ -12,7 +12,7 @@ using test::Canvas;
 namespace
 {
 
-constexpr QRect area(100, 50, 160, 60);
+constexpr QRect textArea(100, 50, 160, 60);
 
 QFont arial(int pixels)
 {
@@ -48,7 +48,7 @@ QList<int> feetOf(const Canvas& canvas)
 }
 
 Canvas written(const QString& text, int format = CellLayout::kCentredLines,
-               const QRectF& place = area)
+               const QRectF& place = textArea)
 {
     Canvas canvas;
     canvas.draw([&](QPainter& painter) {
@@ -74,8 +74,8 @@ Canvas label(const QString& text, const QRectF& place, Qt::AlignmentFlag side = 
 
 } // namespace
 
-// An H is as high as a capital and stands on the baseline; the area's middle is 180, 80. Letters of
-// 13 pixels take lines of `lineHeight`, whose baseline lies `ascent` below their top.
+// An H is as high as a capital and stands on the baseline; the textArea's middle is 180, 80.
+// Letters of 13 pixels take lines of `lineHeight`, whose baseline lies `ascent` below their top.
 
 TEST(BoxText, isCentredBothWays)
 {
@@ -88,8 +88,8 @@ TEST(BoxText, isCentredBothWays)
 TEST(BoxText, startsAtTheTopLeftWhenItsLinesAreBroken)
 {
     const QRect ink = written("H", CellLayout::kWordBreak).touched();
-    EXPECT_NEAR(ink.left(), area.left() + 1, 1);
-    EXPECT_NEAR(ink.bottom() + 1, area.top() + ascent(), 1);
+    EXPECT_NEAR(ink.left(), textArea.left() + 1, 1);
+    EXPECT_NEAR(ink.bottom() + 1, textArea.top() + ascent(), 1);
 }
 
 TEST(BoxText, standsOneLineBelowTheOther)
@@ -134,7 +134,7 @@ TEST(BoxText, isCutOnlyWhereItsLinesCannotMoveCloser)
         const double top = 50 + 8.25 * line + (8.25 - nine.height()) / 2;
         EXPECT_NEAR(whole[line], top + nine.ascent(), 0.6) << line;
     }
-    // In 20 two lines have room, and a pixel below the area shows the next one's head.
+    // In 20 two lines have room, and a pixel below the textArea shows the next one's head.
     const QList<int> cut = feetIn(20);
     ASSERT_GE(cut.size(), 2);
     for (int line = 0; line < 2; ++line) {
@@ -153,7 +153,7 @@ TEST(BoxText, isAsLargeAsItsAreaAllows)
     EXPECT_EQ(capital(lineHeight()), capital(60));
     EXPECT_EQ(capital(lineHeight() - 1), capital(60));
     EXPECT_LT(capital(lineHeight() - 2.5), capital(60));
-    EXPECT_NEAR(capital(8), 6.5, 1); // nine pixels, however low the area is
+    EXPECT_NEAR(capital(8), 6.5, 1); // nine pixels, however low the textArea is
 }
 
 TEST(BoxText, isNotMovedByASeparatorAtItsEnd)
@@ -167,7 +167,7 @@ TEST(BoxText, breaksLongLinesBetweenWords)
     const QString text = "Mécanique des milieux continus et résistance des matériaux";
     const QRect broken = written(text, CellLayout::kWordBreak).touched();
     EXPECT_GT(broken.height(), written("Mécanique").touched().height() * 2);
-    EXPECT_TRUE(area.adjusted(-2, -1, 2, 1).contains(broken));
+    EXPECT_TRUE(textArea.adjusted(-2, -1, 2, 1).contains(broken));
 }
 
 TEST(BoxText, staysInItsAreaHoweverLongItIs)
@@ -178,7 +178,7 @@ TEST(BoxText, staysInItsAreaHoweverLongItIs)
              QStringList{word, QStringList(30, word).join("\r\n"), word + " " + word}) {
             const QRect ink = written(text, format).touched();
             EXPECT_FALSE(ink.isEmpty());
-            EXPECT_TRUE(area.adjusted(-2, -1, 2, 1).contains(ink));
+            EXPECT_TRUE(textArea.adjusted(-2, -1, 2, 1).contains(ink));
         }
     }
 }
@@ -204,11 +204,11 @@ TEST(BoxText, shrinksToFitARowOfManyRooms)
 TEST(LabelText, standsAtItsSideHalfwayDown)
 {
     const double baseline = 80 - lineHeight() / 2 + ascent();
-    const QRect left = label("H", area).touched();
-    EXPECT_NEAR(left.left(), area.left() + 1, 1);
+    const QRect left = label("H", textArea).touched();
+    EXPECT_NEAR(left.left(), textArea.left() + 1, 1);
     EXPECT_NEAR(left.bottom() + 1, baseline, 1);
-    const QRect right = label("H", area, Qt::AlignRight).touched();
-    EXPECT_NEAR(right.right(), area.right() - 1, 1);
+    const QRect right = label("H", textArea, Qt::AlignRight).touched();
+    EXPECT_NEAR(right.right(), textArea.right() - 1, 1);
     EXPECT_NEAR(right.bottom() + 1, baseline, 1);
 }
 
@@ -247,7 +247,7 @@ TEST(LabelText, shrinksInOneLineWhereTwoHaveNoRoom)
     // Where two lines have room they are broken at once, in the size of all other names.
     const Canvas broken = label(name, {100, 50, whole - 4, 32});
     EXPECT_EQ(feetOf(broken).size(), 2);
-    EXPECT_EQ(broken.touched().width(), label("HHHHH", area).touched().width());
+    EXPECT_EQ(broken.touched().width(), label("HHHHH", textArea).touched().width());
 }
 
 TEST(LabelText, isCutInOneLineWhereNeitherLinesNorSizesHelp)

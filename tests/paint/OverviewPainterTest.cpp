@@ -13,11 +13,11 @@ namespace
 {
 
 const std::vector<Colour> colors{Colour::fromRgb(250, 230, 120), Colour::fromRgb(20, 30, 90)};
-constexpr QColor yellow(250, 230, 120);
-constexpr QColor navy(20, 30, 90);
-constexpr QRectF area(0, 0, 1300, 435); // 10 rows of 40 pixels are too high; see below
+constexpr QColor sand(250, 230, 120);
+constexpr QColor ink(20, 30, 90);
+constexpr QRectF sheet(0, 0, 1300, 435); // 10 rows of 40 pixels are too high; see below
 
-Canvas drawn(const RoomWeeks& weeks, const QRectF& where = area)
+Canvas drawn(const RoomWeeks& weeks, const QRectF& where = sheet)
 {
     Canvas canvas(1320, 460);
     canvas.draw(
@@ -30,10 +30,10 @@ Canvas drawn(const RoomWeeks& weeks, const QRectF& where = area)
 TEST(TheOverview, hasARowPerRoom)
 {
     const RoomWeeks weeks = plainRooms(10);
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     const double heading = OverviewPainter::headingHeight({});
     EXPECT_EQ(painter.rowRectangle(0).top(), heading);
-    const double height = (area.height() - 1 - heading) / 10; // one line below the last
+    const double height = (sheet.height() - 1 - heading) / 10; // one line below the last
     for (std::size_t row = 0; row < 10; ++row) {
         const QRectF place = painter.rowRectangle(row);
         EXPECT_NEAR(place.height(), height, 1);
@@ -41,13 +41,13 @@ TEST(TheOverview, hasARowPerRoom)
         EXPECT_EQ(painter.rowAt(painter.nameRectangle(row).center()), row);
     }
     EXPECT_EQ(painter.rowAt({500, heading - 1}), std::nullopt);
-    EXPECT_EQ(painter.rowAt({500, area.bottom() + 5}), std::nullopt);
+    EXPECT_EQ(painter.rowAt({500, sheet.bottom() + 5}), std::nullopt);
 }
 
 TEST(TheOverview, hasNoRowsHigherThanTheirTextsNeed)
 {
     const RoomWeeks weeks = plainRooms(2);
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     EXPECT_EQ(painter.rowRectangle(0).height(), 48); // 36 points
 }
 
@@ -60,9 +60,9 @@ TEST(TheOverview, givesDaysWidthsByTheirLength)
 {
     RoomWeeks weeks = plainRooms(1);
     weeks.days[5].axis = {{480}, {120}}; // half of a day
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     EXPECT_NEAR(painter.dayRectangle(5).width() * 2, painter.dayRectangle(0).width(), 1e-6);
-    EXPECT_NEAR(painter.dayRectangle(5).right(), area.right(), 2);
+    EXPECT_NEAR(painter.dayRectangle(5).right(), sheet.right(), 2);
     EXPECT_EQ(painter.dayRectangle(0).left(), painter.nameRectangle(0).right());
     EXPECT_EQ(painter.dayAt(painter.dayRectangle(3).center()), 3);
     EXPECT_EQ(painter.dayAt({1, 100}), std::nullopt); // among the names
@@ -72,7 +72,7 @@ TEST(TheOverview, hasBoxesAtTheirTimes)
 {
     RoomWeeks weeks = plainRooms(2);
     weeks.rows[1].boxes = {boxAt(1, 480, 120), boxAt(1, 600, 120)};
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     const QRectF day = painter.dayRectangle(1);
     const QRectF first = painter.boxRectangle({1, 0});
     const QRectF second = painter.boxRectangle({1, 1});
@@ -91,7 +91,7 @@ TEST(TheOverview, dividesTheHeightAmongLanes)
     weeks.rows[0].boxes = {boxAt(0, 480, 120), boxAt(0, 480, 120)};
     weeks.rows[0].boxes[0].lanes = weeks.rows[0].boxes[1].lanes = 2;
     weeks.rows[0].boxes[1].lane = 1;
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     const QRectF upper = painter.boxRectangle({0, 0});
     const QRectF lower = painter.boxRectangle({0, 1});
     EXPECT_EQ(upper.bottom(), lower.top());
@@ -104,13 +104,13 @@ TEST(TheOverview, fillsNamesAndBoxesWithTheColourOfTheRoom)
     RoomWeeks weeks = plainRooms(2);
     weeks.rows[1].boxes = {boxAt(0, 480, 240)};
     const Canvas canvas = drawn(weeks);
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     const auto at = [&](QPointF point) {
         return canvas.at(static_cast<int>(point.x()), static_cast<int>(point.y()));
     };
-    EXPECT_EQ(at(painter.nameRectangle(0).topLeft() + QPointF(1, 2)), yellow);
-    EXPECT_EQ(at(painter.nameRectangle(1).topLeft() + QPointF(1, 2)), navy);
-    EXPECT_EQ(at(painter.boxRectangle({1, 0}).center()), navy);
+    EXPECT_EQ(at(painter.nameRectangle(0).topLeft() + QPointF(1, 2)), sand);
+    EXPECT_EQ(at(painter.nameRectangle(1).topLeft() + QPointF(1, 2)), ink);
+    EXPECT_EQ(at(painter.boxRectangle({1, 0}).center()), ink);
     EXPECT_EQ(at(painter.dayRectangle(2).center()), QColor(255, 255, 255));
 }
 
@@ -118,7 +118,7 @@ TEST(TheOverview, marksDaysOfWhichNobodyKnows)
 {
     RoomWeeks weeks = plainRooms(1);
     weeks.rows[0].unknown[3] = "L1 (Jeudi9) : ni heure de début";
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     const QRect day = painter.dayRectangle(3).intersected(painter.rowRectangle(0)).toRect();
     EXPECT_GT(drawn(weeks).count(QColor(225, 225, 225), day), day.width() * day.height() / 3);
 }
@@ -126,7 +126,7 @@ TEST(TheOverview, marksDaysOfWhichNobodyKnows)
 TEST(TheOverview, drawsOnlyTheRowsThatAreAskedFor)
 {
     const RoomWeeks weeks = plainRooms(10);
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     Canvas canvas(1320, 460);
     const QRectF exposed = painter.rowRectangle(4).adjusted(0, 5, 0, -5);
     canvas.draw([&](QPainter& surface) { painter.paintRows(surface, exposed); });
@@ -139,8 +139,9 @@ TEST(TheOverview, drawsItsHeadingByItself)
 {
     const RoomWeeks weeks = plainRooms(3);
     Canvas canvas(1320, 460);
-    canvas.draw(
-        [&](QPainter& surface) { OverviewPainter(weeks, colors, {}, area).paintHeading(surface); });
+    canvas.draw([&](QPainter& surface) {
+        OverviewPainter(weeks, colors, {}, sheet).paintHeading(surface);
+    });
     EXPECT_NEAR(canvas.touched().bottom(), OverviewPainter::headingHeight({}), 1);
 }
 
@@ -157,7 +158,7 @@ TEST(TheOverview, keepsAShortBoxAtTheEndOfTheDayWithinIt)
 {
     RoomWeeks weeks = plainRooms(1);
     weeks.rows[0].boxes = {boxAt(2, 719, 1)};
-    const OverviewPainter painter(weeks, colors, {}, area);
+    const OverviewPainter painter(weeks, colors, {}, sheet);
     EXPECT_GE(painter.boxRectangle({0, 0}).width(), 2);
     EXPECT_NEAR(painter.boxRectangle({0, 0}).right(), painter.dayRectangle(2).right(), 1);
 }

@@ -126,7 +126,7 @@ TEST(PrinterCellText, staysInItsRectangle)
 namespace
 {
 
-constexpr QColor yellow(250, 230, 120);
+constexpr QColor amber(250, 230, 120);
 
 /// 1700 × 400 twips at 250, 50: 850 by 200 pixels.
 Canvas printedBox(bool hatched, const QString& text = {}, int format = CellLayout::kCentredLines)
@@ -156,10 +156,10 @@ TEST(PrintedBox, hasAFrameOfHalfAPoint)
         EXPECT_EQ(canvas.at(600, 50 + off), grey) << off;
         EXPECT_EQ(canvas.at(600, 249 + off), grey) << off;
     }
-    EXPECT_EQ(canvas.at(254, 150), yellow);
-    EXPECT_EQ(canvas.at(1094, 150), yellow);
-    EXPECT_EQ(canvas.at(600, 54), yellow);
-    EXPECT_EQ(canvas.at(600, 244), yellow);
+    EXPECT_EQ(canvas.at(254, 150), amber);
+    EXPECT_EQ(canvas.at(1094, 150), amber);
+    EXPECT_EQ(canvas.at(600, 54), amber);
+    EXPECT_EQ(canvas.at(600, 244), amber);
     EXPECT_TRUE(QRect(247, 47, 857, 207).contains(canvas.touched()));
 }
 
@@ -174,15 +174,15 @@ TEST(PrintedBox, isHatchedWithLinesOfItsOwn)
         EXPECT_EQ(canvas.at(x, 100), cross) << x;
     }
     for (const int x : {280, 312, 345, 1060}) {
-        EXPECT_EQ(canvas.at(x, 100), yellow) << x;
+        EXPECT_EQ(canvas.at(x, 100), amber) << x;
     }
     // 50 pixels above the bottom they have changed places.
     for (const int x : {265, 295, 330, 360, 1045, 1075}) {
         EXPECT_EQ(canvas.at(x, 200), cross) << x;
     }
-    EXPECT_EQ(canvas.at(312, 200), yellow);
+    EXPECT_EQ(canvas.at(312, 200), amber);
     EXPECT_TRUE(QRect(247, 47, 857, 207).contains(canvas.touched()));
-    EXPECT_EQ(printedBox(false).at(295, 100), yellow);
+    EXPECT_EQ(printedBox(false).at(295, 100), amber);
 }
 
 TEST(PrintedBox, hasItsTextInTheMiddleOrAtTheTopLeft)

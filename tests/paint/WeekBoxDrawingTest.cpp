@@ -13,10 +13,10 @@ namespace
 {
 
 constexpr form::Colour fill = form::Colour::fromRgb(250, 230, 120);
-constexpr QColor yellow(250, 230, 120);
+constexpr QColor straw(250, 230, 120);
 constexpr QRect place(20, 20, 200, 90);
 
-Canvas drawn(const answers::WeekBox& box, const QRect& where = place, bool isDense = false)
+Canvas drawnBox(const answers::WeekBox& box, const QRect& where = place, bool isDense = false)
 {
     Canvas canvas;
     canvas.draw([&](QPainter& surface) {
@@ -29,22 +29,22 @@ Canvas drawn(const answers::WeekBox& box, const QRect& where = place, bool isDen
 /// What is written there: whatever is not of the fill's colour.
 QRect written(const Canvas& canvas, const QRect& where = place)
 {
-    return canvas.bounds(yellow, where.adjusted(3, 3, -3, -3));
+    return canvas.bounds(straw, where.adjusted(3, 3, -3, -3));
 }
 
 } // namespace
 
 TEST(ABoxOfAWeek, fillsItsPlace)
 {
-    const Canvas canvas = drawn(boxAt(0, 480, 90));
+    const Canvas canvas = drawnBox(boxAt(0, 480, 90));
     EXPECT_EQ(canvas.touched(), place);
     EXPECT_TRUE(written(canvas).isEmpty());
 }
 
 TEST(ABoxOfAWeek, hasALineForEachThing)
 {
-    const int one = written(drawn(boxAt(0, 480, 90, {"Hx"}))).height();
-    const QRect three = written(drawn(boxAt(0, 480, 90, {"Hx", "Hx", "Hx"})));
+    const int one = written(drawnBox(boxAt(0, 480, 90, {"Hx"}))).height();
+    const QRect three = written(drawnBox(boxAt(0, 480, 90, {"Hx", "Hx", "Hx"})));
     EXPECT_GT(three.height(), 3 * one);
     EXPECT_NEAR(three.center().y(), place.center().y(), 3);
 }
@@ -52,15 +52,15 @@ TEST(ABoxOfAWeek, hasALineForEachThing)
 TEST(ABoxOfAWeek, leavesOutTheLastLinesThatFindNoRoom)
 {
     const QRect low(20, 20, 200, 16);
-    EXPECT_EQ(drawn(boxAt(0, 480, 90, {"Hx", "oo", "oo"}), low).image(),
-              drawn(boxAt(0, 480, 90, {"Hx"}), low).image());
+    EXPECT_EQ(drawnBox(boxAt(0, 480, 90, {"Hx", "oo", "oo"}), low).image(),
+              drawnBox(boxAt(0, 480, 90, {"Hx"}), low).image());
 }
 
 TEST(ABoxOfAWeek, tellsItsTimeWhereTheHoursDoNot)
 {
     answers::WeekBox box = boxAt(0, 500, 90, {"Hx"});
     box.isOffSlots = true;
-    EXPECT_EQ(drawn(box).image(), drawn(boxAt(0, 500, 90, {"Hx", "8h20–9h50"})).image());
+    EXPECT_EQ(drawnBox(box).image(), drawnBox(boxAt(0, 500, 90, {"Hx", "8h20–9h50"})).image());
 }
 
 TEST(ABoxOfAWeek, tellsInItsCornerWhichWeekItIsOf)
@@ -68,10 +68,10 @@ TEST(ABoxOfAWeek, tellsInItsCornerWhichWeekItIsOf)
     answers::WeekBox box = boxAt(0, 480, 90);
     box.corner = "A";
     const QRect corner(200, 20, 20, 15);
-    EXPECT_GT(drawn(box).count(kHeaderInk, corner), 50);
-    EXPECT_EQ(drawn(boxAt(0, 480, 90)).count(kHeaderInk, corner), 0);
+    EXPECT_GT(drawnBox(box).count(kHeaderInk, corner), 50);
+    EXPECT_EQ(drawnBox(boxAt(0, 480, 90)).count(kHeaderInk, corner), 0);
     const QRect narrow(20, 20, 20, 90);
-    EXPECT_EQ(drawn(box, narrow).count(kHeaderInk, narrow), 0);
+    EXPECT_EQ(drawnBox(box, narrow).count(kHeaderInk, narrow), 0);
 }
 
 TEST(ABoxOfAWeek, leavesItsCornerFreeOfText)
@@ -79,13 +79,13 @@ TEST(ABoxOfAWeek, leavesItsCornerFreeOfText)
     answers::WeekBox box = boxAt(0, 480, 90, {"HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH"});
     box.lines << box.lines << box.lines << box.lines;
     const QRect narrow(20, 20, 80, 90);
-    const QRect wholeNarrow = written(drawn(box, narrow), narrow);
-    const QRect whole = written(drawn(box));
+    const QRect wholeNarrow = written(drawnBox(box, narrow), narrow);
+    const QRect whole = written(drawnBox(box));
     box.corner = "A";
     const QRect left(20, 20, 40, 90); // away from the label
-    EXPECT_GT(written(drawn(box, narrow), left).top(), wholeNarrow.top() + 5);
+    EXPECT_GT(written(drawnBox(box, narrow), left).top(), wholeNarrow.top() + 5);
     const QRect half(20, 20, 100, 90);
-    EXPECT_GT(written(drawn(box), half).left(), whole.left() + 5); // beside it, in a wide box
+    EXPECT_GT(written(drawnBox(box), half).left(), whole.left() + 5); // beside it, in a wide box
 }
 
 TEST(ABoxOfAWeek, givesItsTextTheRoomOfALabelWhereThereIsLittle)
@@ -93,10 +93,10 @@ TEST(ABoxOfAWeek, givesItsTextTheRoomOfALabelWhereThereIsLittle)
     answers::WeekBox box = boxAt(0, 480, 45, {"Hx", "Hx", "Hx"});
     box.kind = MeetingKind::Exam;
     const QRect low(20, 20, 90, 24); // half of it for the label would leave no line
-    EXPECT_EQ(drawn(box, low).count(kHeaderInk, low), 0);
+    EXPECT_EQ(drawnBox(box, low).count(kHeaderInk, low), 0);
     const QRect high(20, 20, 90, 40);
-    EXPECT_GT(drawn(box, high).count(kHeaderInk, high), 100);
-    EXPECT_GT(drawn(box, high).bounds(yellow, QRect(24, 36, 82, 20)).height(), 5);
+    EXPECT_GT(drawnBox(box, high).count(kHeaderInk, high), 100);
+    EXPECT_GT(drawnBox(box, high).bounds(straw, QRect(24, 36, 82, 20)).height(), 5);
 }
 
 TEST(ABoxOfAWeek, keepsItsColourInTheFrameOfALowExam)
@@ -104,21 +104,21 @@ TEST(ABoxOfAWeek, keepsItsColourInTheFrameOfALowExam)
     answers::WeekBox box = boxAt(0, 480, 90);
     box.kind = MeetingKind::Exam;
     const QRect low(20, 20, 40, 6);
-    EXPECT_EQ(drawn(box, low, true).count(yellow, low), 38 * 4); // a frame of one pixel
+    EXPECT_EQ(drawnBox(box, low, true).count(straw, low), 38 * 4); // a frame of one pixel
 }
 
 TEST(ABoxOfAWeek, hatchesMakeUpsAndFramesExams)
 {
     answers::WeekBox box = boxAt(0, 480, 90);
     box.kind = MeetingKind::MakeUp;
-    EXPECT_FALSE(written(drawn(box)).isEmpty());
+    EXPECT_FALSE(written(drawnBox(box)).isEmpty());
     box.kind = MeetingKind::Exam;
-    const Canvas exam = drawn(box);
+    const Canvas exam = drawnBox(box);
     for (const QPoint point : {QPoint(20, 60), QPoint(22, 60), QPoint(219, 60), QPoint(100, 22),
                                QPoint(100, 107), QPoint(100, 109)}) {
         EXPECT_EQ(exam.at(point.x(), point.y()), QColor(20, 20, 20));
     }
-    EXPECT_EQ(exam.at(23, 60), yellow);
+    EXPECT_EQ(exam.at(23, 60), straw);
     EXPECT_GT(exam.count(kHeaderInk, QRect(150, 24, 65, 10)), 100); // its label
 }
 
@@ -127,7 +127,7 @@ TEST(ADenseBox, hasItsShortTextInSeveralLines)
     answers::WeekBox box = boxAt(0, 480, 90, {"no"});
     box.shortText = "HHHH HHHH";
     const QRect narrow(20, 20, 50, 40);
-    const QRect text = written(drawn(box, narrow, true), narrow);
+    const QRect text = written(drawnBox(box, narrow, true), narrow);
     EXPECT_GT(text.height(), 16); // two lines
     EXPECT_LE(text.right(), narrow.right() - 1);
 }
@@ -139,8 +139,8 @@ TEST(ADenseBox, leavesOutHowManyMoreWhereThatHelps)
     answers::WeekBox first = box;
     first.shortText = "HHHH";
     const QRect low(20, 20, 40, 14);
-    EXPECT_EQ(drawn(box, low, true).image(), drawn(first, low, true).image());
-    EXPECT_NE(drawn(box, place, true).image(), drawn(first, place, true).image());
+    EXPECT_EQ(drawnBox(box, low, true).image(), drawnBox(first, low, true).image());
+    EXPECT_NE(drawnBox(box, place, true).image(), drawnBox(first, place, true).image());
 }
 
 TEST(ADenseBox, hasTheSubjectWhereThereIsAmpleRoom)
@@ -149,10 +149,10 @@ TEST(ADenseBox, hasTheSubjectWhereThereIsAmpleRoom)
     answers::WeekBox alone = box;
     alone.lines.removeLast();
     const QRect ample(20, 20, 70, 40); // two lines of 13 pixels
-    EXPECT_GT(written(drawn(box, ample, true), ample).height(),
-              2 * written(drawn(alone, ample, true), ample).height());
+    EXPECT_GT(written(drawnBox(box, ample, true), ample).height(),
+              2 * written(drawnBox(alone, ample, true), ample).height());
     const QRect low(20, 20, 70, 24);
-    EXPECT_EQ(drawn(box, low, true).image(), drawn(alone, low, true).image());
+    EXPECT_EQ(drawnBox(box, low, true).image(), drawnBox(alone, low, true).image());
 }
 
 TEST(ADenseBox, hasNoTextThatTellsNothing)
@@ -160,7 +160,7 @@ TEST(ADenseBox, hasNoTextThatTellsNothing)
     answers::WeekBox box = boxAt(0, 480, 90);
     box.shortText = "HHHHHHHH";
     const QRect narrow(20, 20, 20, 30);
-    EXPECT_TRUE(written(drawn(box, narrow, true), narrow).isEmpty());
+    EXPECT_TRUE(written(drawnBox(box, narrow, true), narrow).isEmpty());
     const QRect wider(20, 20, 50, 30); // "HHHH…"
-    EXPECT_FALSE(written(drawn(box, wider, true), wider).isEmpty());
+    EXPECT_FALSE(written(drawnBox(box, wider, true), wider).isEmpty());
 }

@@ -15,23 +15,23 @@ using timetable::MeetingKind;
 namespace
 {
 
-constexpr QRect area(0, 0, 1340, 640);
+constexpr QRect weekArea(0, 0, 1340, 640);
 const std::vector<Colour> colors{Colour::fromRgb(250, 230, 120)};
-constexpr QColor yellow(250, 230, 120);
+constexpr QColor wheat(250, 230, 120);
 
-WeekPainter painterOf(const WeekGrid& grid, const QRect& where = area)
+WeekPainter painterOf(const WeekGrid& grid, const QRect& where = weekArea)
 {
     return {grid, colors, {}, where};
 }
 
-Canvas drawn(const WeekGrid& grid, const QRect& where = area)
+Canvas drawn(const WeekGrid& grid, const QRect& where = weekArea)
 {
     Canvas canvas(where.right() + 11, where.bottom() + 11);
     canvas.draw([&](QPainter& surface) { painterOf(grid, where).paint(surface); });
     return canvas;
 }
 
-/// The darkest pixel of the area is no darker than a line.
+/// The darkest pixel of the weekArea is no darker than a line.
 bool isBlank(const Canvas& canvas, const QRect& where)
 {
     return canvas.lightness(where).first > 100;
@@ -49,7 +49,7 @@ TEST(AWeek, hasSixColumnsOfOneWidth)
         EXPECT_EQ(painter.dayRectangle(day).top(), 0);
         EXPECT_EQ(painter.dayAt(painter.dayRectangle(day).center()), day);
     }
-    EXPECT_NEAR(painter.dayRectangle(5).right(), area.width(), 2);
+    EXPECT_NEAR(painter.dayRectangle(5).right(), weekArea.width(), 2);
     EXPECT_EQ(painter.dayAt({1, 320}), std::nullopt); // among the hours
 }
 
@@ -133,7 +133,7 @@ TEST(AWeek, fillsBoxesWithTheColourOfTheirRoom)
         const QPoint point = painter.boxRectangle(box).center().toPoint();
         return canvas.at(point.x(), point.y());
     };
-    EXPECT_EQ(middle(0), yellow);
+    EXPECT_EQ(middle(0), wheat);
     EXPECT_EQ(middle(1), QColor(225, 225, 225));
     EXPECT_EQ(middle(2), QColor(225, 225, 225));
 }
@@ -141,7 +141,7 @@ TEST(AWeek, fillsBoxesWithTheColourOfTheirRoom)
 TEST(AWeek, growsItsTextsWithItsArea)
 {
     const auto titleHeight = [](int scale) {
-        const QRect large(0, 0, area.width() * scale, area.height() * scale);
+        const QRect large(0, 0, weekArea.width() * scale, weekArea.height() * scale);
         const WeekGrid grid = plainGrid();
         const QRectF day = painterOf(grid, large).dayRectangle(0);
         const QRect title = QRectF(day.left() + 2, 0, day.width() - 4, 20 * scale).toRect();
@@ -166,7 +166,7 @@ TEST(AWeek, tellsBeneathWhatHasNoKnownTime)
     grid.boxes = {boxAt(0, 480, 240)};
     grid.unplaced = {{timetable::HoldingId(0), 0, "Lundi : L1"}};
     const QRectF one = painterOf(grid).unplacedRectangle();
-    EXPECT_EQ(one.bottom(), area.height());
+    EXPECT_EQ(one.bottom(), weekArea.height());
     EXPECT_LE(painterOf(grid).boxRectangle(0).bottom(), one.top());
     EXPECT_FALSE(isBlank(drawn(grid), one.toRect()));
     grid.unplaced.resize(3, grid.unplaced[0]);

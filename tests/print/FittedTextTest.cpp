@@ -12,7 +12,7 @@ namespace
 {
 
 /// 720 dots per inch: a point is ten pixels.
-paint::DrawingTarget paper()
+paint::DrawingTarget fineDevice()
 {
     paint::DrawingTarget target;
     target.PixelsPerPoint = 10;
@@ -20,7 +20,7 @@ paint::DrawingTarget paper()
 }
 
 const form::Font twelvePoints{"Arial", 12, false};
-constexpr QRectF room(100, 50, 900, 200);
+constexpr QRectF place(100, 50, 900, 200);
 
 struct Drawn {
     Canvas canvas{1200, 300};
@@ -28,12 +28,12 @@ struct Drawn {
     int pixels = 0; ///< size of the font at the end
 };
 
-Drawn drawn(const QString& text, const QRectF& rectangle = room,
+Drawn drawn(const QString& text, const QRectF& rectangle = place,
             Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop)
 {
     Drawn drawn;
     drawn.canvas.draw([&](QPainter& painter) {
-        drawn.width = drawFitted(painter, paper(), twelvePoints, rectangle, alignment, text);
+        drawn.width = drawFitted(painter, fineDevice(), twelvePoints, rectangle, alignment, text);
         drawn.pixels = painter.font().pixelSize();
     });
     return drawn;
@@ -41,14 +41,14 @@ Drawn drawn(const QString& text, const QRectF& rectangle = room,
 
 double widthAt(int points, const QString& text)
 {
-    return QFontMetricsF(paperFont(twelvePoints, paper(), points)).horizontalAdvance(text);
+    return QFontMetricsF(paperFont(twelvePoints, fineDevice(), points)).horizontalAdvance(text);
 }
 
 } // namespace
 
 TEST(PaperFont, hasItsSizeInTheTargetsPixels)
 {
-    EXPECT_EQ(paperFont(twelvePoints, paper(), 9).pixelSize(), 90);
+    EXPECT_EQ(paperFont(twelvePoints, fineDevice(), 9).pixelSize(), 90);
     paint::DrawingTarget screen;
     screen.PixelsPerPoint = 96.0 / 72;
     EXPECT_EQ(paperFont(twelvePoints, screen, 10).pixelSize(), 13); // 13.3
@@ -57,10 +57,10 @@ TEST(PaperFont, hasItsSizeInTheTargetsPixels)
 
 TEST(PaperFont, isTheFormsOwnAndOneLikeItWhereThatIsMissing)
 {
-    const QFont font = paperFont({"Inconnue", 12, true}, paper(), 12);
+    const QFont font = paperFont({"Inconnue", 12, true}, fineDevice(), 12);
     EXPECT_EQ(font.families(), QStringList({"Inconnue", "Arial", "Liberation Sans"}));
     EXPECT_TRUE(font.bold());
-    EXPECT_FALSE(paperFont(twelvePoints, paper(), 12).bold());
+    EXPECT_FALSE(paperFont(twelvePoints, fineDevice(), 12).bold());
 }
 
 TEST(FittedText, isAsLargeAsTheFormSaysWhereItFits)
@@ -85,9 +85,9 @@ TEST(FittedText, standsWhereItIsToStand)
     const QRect upperLeft = drawn("H").canvas.touched();
     EXPECT_NEAR(upperLeft.left(), 100 + 9, 4); // an H begins a 13th of its size behind its place
     EXPECT_LT(upperLeft.bottom(), 50 + 120);
-    const QRect lowerRight = drawn("H", room, Qt::AlignRight | Qt::AlignBottom).canvas.touched();
+    const QRect lowerRight = drawn("H", place, Qt::AlignRight | Qt::AlignBottom).canvas.touched();
     EXPECT_NEAR(lowerRight.right(), 1000 - 10, 4);
     EXPECT_GT(lowerRight.top(), 250 - 120);
-    const QRect middle = drawn("H", room, Qt::AlignCenter).canvas.touched();
+    const QRect middle = drawn("H", place, Qt::AlignCenter).canvas.touched();
     EXPECT_NEAR(middle.center().x(), 550, 2);
 }

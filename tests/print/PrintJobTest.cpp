@@ -1,5 +1,6 @@
 #include "print/PrintJob.h"
 
+#include "print/Paper.h"
 #include "print/Pdf.h"
 #include "print/SheetDesk.h"
 #include "runtime/RunTimeError.h"

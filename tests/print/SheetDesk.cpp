@@ -1,5 +1,6 @@
 #include "print/SheetDesk.h"
 
+#include "print/Paper.h"
 #include "print/PrintJob.h"
 
 #include <QBuffer>

@@ -24,12 +24,6 @@ QString emptyFolder()
     return path;
 }
 
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The line that an export which cannot be written is answered with.
 QString failure(const std::function<void()>& write)
 {

@@ -79,6 +79,12 @@ QString madeOnce(const QString& name, const std::function<void(const QString& pa
     return finished;
 }
 
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 void writeFile(const QString& path, const QString& text)
 {
     QDir().mkpath(QFileInfo(path).path());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <functional>
 
@@ -19,6 +20,9 @@ namespace test
 /// it.
 [[nodiscard]] QString madeOnce(const QString& name,
                                const std::function<void(const QString& path)>& make);
+
+/// What the file holds; nothing where it cannot be read.
+[[nodiscard]] QByteArray bytesOf(const QString& path);
 
 /// Writes the text as UTF-8; fails the process when it cannot.
 void writeFile(const QString& path, const QString& text);

@@ -74,7 +74,7 @@ protected:
     }
 
 private:
-    std::optional<Timetable> m_tables;
+    std::optional<test::Timetable> m_tables;
 };
 
 } // namespace

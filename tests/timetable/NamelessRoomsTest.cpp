@@ -83,7 +83,8 @@ TEST_F(RoomsWithoutAName, leaveAnEmptyTextToARoomOfBlanksThatIsEqual)
 {
     m_draft.room(" ");
     m_draft.course({{column::kSeance, "Lundi1"}, {column::kSalle, "A1"}, {column::kXSalle, ""}});
-    const Occupancy occupancy(std::make_shared<const Timetable>(m_draft.build(paddingBlanks)));
+    const Occupancy occupancy(
+        std::make_shared<const timetable::Timetable>(m_draft.build(paddingBlanks)));
     EXPECT_TRUE(parts(occupancy, "", Week::Every).empty());
     EXPECT_EQ(parts(occupancy, " ", Week::Every), std::vector{Part::SecondA});
 }
@@ -91,6 +92,7 @@ TEST_F(RoomsWithoutAName, leaveAnEmptyTextToARoomOfBlanksThatIsEqual)
 TEST_F(RoomsWithoutAName, areFoundByASalleThatIsEqualToNothing)
 {
     m_draft.course({{column::kSeance, "Lundi1"}, {column::kSalle, " "}, {column::kSalleB, ""}});
-    const Occupancy occupancy(std::make_shared<const Timetable>(m_draft.build(paddingBlanks)));
+    const Occupancy occupancy(
+        std::make_shared<const timetable::Timetable>(m_draft.build(paddingBlanks)));
     EXPECT_EQ(parts(occupancy, "", Week::Every), (std::vector{Part::A, Part::B}));
 }

@@ -12,7 +12,7 @@ TEST(Timetable, hasMondaysSlotsOnDaysWithoutTheirOwn)
     Draft draft;
     draft.slot("Lundi1", "8h00", "9h30").slot("Lundi2", "9h30", "11h00");
     draft.slot("Jeudi2", "10h00", "12h00");
-    const Timetable timetable = draft.build();
+    const timetable::Timetable timetable = draft.build();
     EXPECT_EQ(timetable.slotsOf(0).size(), 2U);
     EXPECT_EQ(timetable.slotsOf(1).size(), 2U);
     EXPECT_EQ(timetable.slotsOf(kSunday).size(), 2U);
@@ -24,7 +24,7 @@ TEST(Timetable, findsASlotByItsNumber)
 {
     Draft draft;
     draft.slot("Lundi1", "8h00", "9h30").slot("Jeudi2", "10h00", "12h00");
-    const Timetable timetable = draft.build();
+    const timetable::Timetable timetable = draft.build();
     ASSERT_NE(timetable.slot(4, 1), nullptr);
     EXPECT_EQ(timetable.slot(4, 1)->start, MinuteOfDay{480});
     EXPECT_EQ(timetable.slot(3, 1), nullptr);
@@ -41,7 +41,7 @@ TEST(Timetable, tellsListedRoomsFromUnknownOnes)
     Draft draft;
     draft.room("R1", 40).room("R2");
     draft.course({{column::kSalle, "Cave"}});
-    const Timetable timetable = draft.build();
+    const timetable::Timetable timetable = draft.build();
     ASSERT_EQ(timetable.rooms().size(), 2U);
     EXPECT_EQ(timetable.rooms()[0].places, 40);
     ASSERT_EQ(timetable.unknownRooms().size(), 1U);

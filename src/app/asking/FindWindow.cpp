@@ -23,12 +23,12 @@ namespace app
 namespace
 {
 
-constexpr QSize kSize(820, 460);
+constexpr QSize kFindSize(820, 460);
 constexpr int kLeastLetters = 3;
 // A list that nobody reads to its end need not be made.
 constexpr std::size_t kMostRows = 400;
 // Data of an item: the holding's id, -1 without one; and the place of its hit among all.
-constexpr int kHoldingRole = Qt::UserRole;
+constexpr int kFirstHoldingRole = Qt::UserRole;
 constexpr int kHitRole = Qt::UserRole + 1;
 
 /// Classes, subject and teachers, as far as the name that was found does not say it.
@@ -113,7 +113,7 @@ FindWindow::FindWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     connect(m_list, &QTreeWidget::itemActivated, this,
             [this](const QTreeWidgetItem* item) { choose(item); });
     m_text->onDown = [this] { m_list->setFocus(); };
-    resize(kSize);
+    resize(kFindSize);
 }
 
 void FindWindow::presentAnew()
@@ -207,7 +207,7 @@ QTreeWidgetItem* FindWindow::addRow(QTreeWidgetItem* under, const timetable::Occ
     }
     auto* row = new QTreeWidgetItem(under, texts);
     row->setToolTip(3, plainToolTip(row->text(3)));
-    row->setData(0, kHoldingRole, holdings.empty() ? -1 : holdings.front().index());
+    row->setData(0, kFirstHoldingRole, holdings.empty() ? -1 : holdings.front().index());
     return row;
 }
 
@@ -248,7 +248,7 @@ void FindWindow::choose(const QTreeWidgetItem* item)
     if (item == nullptr || inquiry == nullptr || !m_document) {
         return;
     }
-    const int holding = item->data(0, kHoldingRole).toInt();
+    const int holding = item->data(0, kFirstHoldingRole).toInt();
     if (item->parent() == nullptr) {
         return; // a heading
     }

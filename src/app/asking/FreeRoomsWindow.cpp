@@ -34,7 +34,7 @@ namespace
 using timetable::MinuteOfDay;
 using timetable::Week;
 
-constexpr QSize kSize(760, 560);
+constexpr QSize kFreeRoomsSize(760, 560);
 constexpr int kMostPlaces = 99999;
 constexpr int kMostWeeks = 60;
 constexpr int kRoomWidth = 190;
@@ -85,7 +85,7 @@ FreeRoomsWindow::FreeRoomsWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
             exportAnswer(files::AnswerKind::FreeRooms, *m_document);
         }
     });
-    resize(kSize);
+    resize(kFreeRoomsSize);
 }
 
 void FreeRoomsWindow::buildFields()

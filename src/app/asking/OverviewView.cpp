@@ -1,6 +1,7 @@
 #include "app/asking/OverviewView.h"
 
 #include "app/PlainTexts.h"
+#include "paint/WeekInks.h"
 #include "print/Targets.h"
 
 #include <QAccessible>
@@ -17,8 +18,6 @@ namespace app
 {
 namespace
 {
-
-constexpr QColor kCursor(178, 34, 34);
 
 } // namespace
 
@@ -120,7 +119,7 @@ void OverviewView::paintEvent(QPaintEvent* event)
     surface.translate(0, -scrolled);
     overview.paintRows(surface, QRectF(event->rect()).translated(0, scrolled));
     if (m_cursor && hasFocus()) {
-        surface.setPen(QPen(kCursor, 2));
+        surface.setPen(QPen(paint::kWeekCursor, 2));
         surface.drawRect(overview.rowRectangle(*m_cursor).adjusted(1, 1, -1, -1));
     }
     surface.translate(0, scrolled);

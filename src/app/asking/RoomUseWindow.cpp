@@ -26,7 +26,7 @@ namespace app
 namespace
 {
 
-constexpr QSize kSize(900, 690);
+constexpr QSize kRoomUseSize(900, 690);
 constexpr int kGridHeight = 250; ///< unless its rows need more
 constexpr int kRowSpace = 4;     ///< pixels of a row besides its text
 constexpr int kBarWidth = 170;
@@ -74,7 +74,7 @@ RoomUseWindow::RoomUseWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     column->addWidget(statusLine());
     column->addLayout(buttonRow());
     connect(m_week, &QComboBox::currentIndexChanged, this, [this] { changed(); });
-    resize(kSize);
+    resize(kRoomUseSize);
 }
 
 QLayout* RoomUseWindow::fieldRow()

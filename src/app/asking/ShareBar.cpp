@@ -8,7 +8,7 @@ namespace
 {
 
 constexpr int kTextWidth = 52; // pixels for "100 %"
-constexpr int kMargin = 3;
+constexpr int kBarMargin = 3;
 constexpr QColor kBar(72, 89, 122);
 constexpr QColor kGround(226, 230, 238);
 
@@ -20,7 +20,8 @@ void ShareBar::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QStyleOptionViewItem text = option;
     text.rect.setWidth(kTextWidth);
     QStyledItemDelegate::paint(painter, text, index);
-    const QRect whole = option.rect.adjusted(kTextWidth + kMargin, kMargin, -kMargin, -kMargin);
+    const QRect whole =
+        option.rect.adjusted(kTextWidth + kBarMargin, kBarMargin, -kBarMargin, -kBarMargin);
     const QVariant share = index.data(kShareRole);
     if (!share.isValid() || share.toDouble() < 0 || whole.width() <= 0) {
         return;

@@ -1,6 +1,7 @@
 #include "app/asking/WeekView.h"
 
 #include "app/PlainTexts.h"
+#include "paint/WeekInks.h"
 #include "print/Targets.h"
 
 #include <QAccessible>
@@ -17,7 +18,6 @@ namespace
 {
 
 constexpr int kMargin = 6;
-constexpr QColor kCursor(178, 34, 34);
 
 } // namespace
 
@@ -90,7 +90,7 @@ void WeekView::paintEvent(QPaintEvent* event)
     week.paint(surface);
     if (m_cursor && hasFocus()) {
         surface.setRenderHint(QPainter::Antialiasing);
-        surface.setPen(QPen(kCursor, 3));
+        surface.setPen(QPen(paint::kWeekCursor, 3));
         surface.drawRoundedRect(week.boxRectangle(*m_cursor).adjusted(1, 1, -1, -1), 3, 3);
     }
 }

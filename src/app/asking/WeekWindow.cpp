@@ -13,7 +13,7 @@
 #include "app/asking/WeekView.h"
 #include "files/AnswerWeekPdf.h"
 #include "paint/WeekLegend.h"
-#include "print/PrintJob.h"
+#include "print/Paper.h"
 #include "runtime/RunTimeError.h"
 
 #include <QCheckBox>
@@ -37,7 +37,7 @@ namespace app
 namespace
 {
 
-constexpr QSize kSize(1080, 700);
+constexpr QSize kWeekSize(1080, 700);
 constexpr int kHoldingRole = Qt::UserRole;
 
 } // namespace
@@ -62,7 +62,7 @@ WeekWindow::WeekWindow(AnswerDesk& desk, Ties ties, QWidget* parent)
     key(Qt::ALT | Qt::Key_Left, [this] { moveWeek(-1); });
     key(Qt::ALT | Qt::Key_Right, [this] { moveWeek(1); });
     key(Qt::CTRL | Qt::Key_P, [this] { print(); });
-    resize(kSize);
+    resize(kWeekSize);
 }
 
 void WeekWindow::buildFields()

@@ -7,7 +7,7 @@ namespace app
 namespace
 {
 
-constexpr int kMinutesPerHour = 60;
+constexpr int kSecondsPerMinute = 60;
 
 /// The page that is due so many seconds after the first one: round and round, also where the clock
 /// was put back to before the beginning.
@@ -35,7 +35,7 @@ HallMoment HallSchedule::at(const QDateTime& now, QDate shownDay, int pages) con
 {
     HallMoment moment;
     moment.today = now.date();
-    moment.minute = now.time().hour() * kMinutesPerHour + now.time().minute();
+    moment.minute = QTime(0, 0).secsTo(now.time()) / kSecondsPerMinute;
     moment.page = pageAfter(m_began.secsTo(now), m_pace.secondsAPage, pages);
     moment.past = pastOf(shownDay, moment.today);
     moment.line = paint::clockMinute(now, shownDay);

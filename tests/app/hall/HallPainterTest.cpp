@@ -16,7 +16,7 @@ using app::HallPast;
 namespace
 {
 
-const QDate kMonday(2025, 3, 17);
+const QDate kPaintedDay(2025, 3, 17);
 constexpr QSize kScreen(1920, 1080);
 
 class HallPainter : public testing::Test
@@ -25,7 +25,7 @@ protected:
     HallPainter() { createTinyFaculty(m_database); }
 
     [[nodiscard]] app::HallPlan read(const shell::CommandLine& choices = {},
-                                     QDate day = kMonday) const
+                                     QDate day = kPaintedDay) const
     {
         return hallReader(m_setup, choices).read(hallTime(day, 7, 0), 18);
     }
@@ -39,7 +39,7 @@ protected:
     }
     [[nodiscard]] static HallMoment today(int minute)
     {
-        return {kMonday, minute, 0, HallPast::UntilClock, minute};
+        return {kPaintedDay, minute, 0, HallPast::UntilClock, minute};
     }
     /// Where in row `row` of five (from 0) a minute of the day is drawn. The day goes from 8h30 to
     /// 17h15, the end of slot 4.
@@ -70,7 +70,7 @@ TEST_F(HallPainter, drawsTheBoxesFromTheEarliestSlotToTheEndOfTheLatest)
     const HallHours hours = app::hallHoursOf(plan.pages);
     // 8h00 stands at 2040 twips, 90 minutes are 2400: 8h30 is 30 minutes behind, 17h15 is 555.
     EXPECT_EQ(hours, (HallHours{2840, 16840}));
-    const QImage image = drawn(plan, {kMonday, 420, 0, HallPast::UntilClock, 420});
+    const QImage image = drawn(plan, {kPaintedDay, 420, 0, HallPast::UntilClock, 420});
     const form::Colour color = plan.pages[0].content.rows[1].color;
     const QColor inA2(color.red(), color.green(), color.blue());
     EXPECT_EQ(image.pixelColor(spot(1, 514)), inA2); // slot 1
@@ -101,7 +101,7 @@ TEST_F(HallPainter, palesWhatHasEnded)
     // At 9h00 it was going on.
     const QImage nine = drawn(plan, today(540));
     EXPECT_EQ(nine.pixel(spot(1, 514)), early.pixel(spot(1, 514)));
-    const QImage ended = drawn(plan, {kMonday.addDays(1), 5, 0, HallPast::All, std::nullopt});
+    const QImage ended = drawn(plan, {kPaintedDay.addDays(1), 5, 0, HallPast::All, std::nullopt});
     EXPECT_GT(qGray(ended.pixel(spot(2, 845))), qGray(early.pixel(spot(2, 845))));
 }
 

@@ -8,9 +8,9 @@ using namespace test;
 namespace
 {
 
-const QDate kMonday(2025, 3, 17); // with a make-up in A2
+const QDate kMakeUpMonday(2025, 3, 17); // with a make-up in A2
 const QDate kTuesday(2025, 3, 18);
-const QDate kSunday(2025, 3, 23);
+const QDate kSundayAfter(2025, 3, 23);
 
 class HallReader : public OnBothDatabases
 {
@@ -32,9 +32,9 @@ TEMPORA_ON_BOTH_DATABASES(HallReader);
 
 TEST_P(HallReader, readsEveryRoomOfTheDayWithItsMakeUps)
 {
-    const app::HallPlan plan = read(kMonday);
-    EXPECT_EQ(plan.day, kMonday);
-    EXPECT_EQ(plan.readAt, hallTime(kMonday, 9, 0));
+    const app::HallPlan plan = read(kMakeUpMonday);
+    EXPECT_EQ(plan.day, kMakeUpMonday);
+    EXPECT_EQ(plan.readAt, hallTime(kMakeUpMonday, 9, 0));
     EXPECT_EQ(plan.establishment, "Faculté Témoin");
     EXPECT_EQ(plan.zone, "");
     EXPECT_EQ(plan.week, timetable::Week::Every);
@@ -46,7 +46,7 @@ TEST_P(HallReader, readsEveryRoomOfTheDayWithItsMakeUps)
 TEST_P(HallReader, readsAnotherDayWhenItHasCome)
 {
     app::HallReader reader = hallReader(setup);
-    EXPECT_EQ(reader.read(hallTime(kMonday, 23, 59), 18).day, kMonday);
+    EXPECT_EQ(reader.read(hallTime(kMakeUpMonday, 23, 59), 18).day, kMakeUpMonday);
     const app::HallPlan plan = reader.read(hallTime(kTuesday, 0, 0), 18);
     EXPECT_EQ(plan.day, kTuesday);
     EXPECT_EQ(hallRows(plan.pages[0]), QStringList({"A1:", "A2: 2", "B1:", "B2:", "C1:"}));
@@ -64,8 +64,8 @@ TEST_P(HallReader, seesWhatHasChangedSinceTheLastReading)
 
 TEST_P(HallReader, findsNothingOnASunday)
 {
-    const app::HallPlan plan = read(kSunday);
-    EXPECT_EQ(plan.day, kSunday);
+    const app::HallPlan plan = read(kSundayAfter);
+    EXPECT_EQ(plan.day, kSundayAfter);
     EXPECT_EQ(hallRows(plan.pages[0]), QStringList({"A1:", "A2:", "B1:", "B2:", "C1:"}));
 }
 
@@ -74,7 +74,7 @@ TEST_P(HallReader, keepsToTheChoicesOfTheCommandLine)
     shell::CommandLine choices;
     choices.zone = 2;
     choices.roomsPerPage = 1;
-    const app::HallPlan plan = read(kMonday, 18, choices);
+    const app::HallPlan plan = read(kMakeUpMonday, 18, choices);
     EXPECT_EQ(plan.zone, "Zone 2");
     ASSERT_EQ(plan.pageCount(), 2);
     EXPECT_EQ(hallRows(plan.pages[1]), QStringList({"B2: 2"}));
@@ -88,14 +88,14 @@ TEST_P(HallReader, showsTheWeekThatTheDayLiesIn)
         const plan::PlanRow& row = plan.pages[0].content.rows[4];
         return row.boxes.empty() ? QString() : row.boxes[0].cell.CellText.simplified();
     };
-    EXPECT_EQ(read(kMonday).week, timetable::Week::B);
-    EXPECT_TRUE(inC1(kMonday).contains("Blanc")) << inC1(kMonday).toStdString();
-    EXPECT_FALSE(inC1(kMonday).contains("Roux"));
-    EXPECT_TRUE(inC1(kMonday.addDays(7)).contains("Roux"));
-    EXPECT_FALSE(inC1(kMonday.addDays(7)).contains("Blanc"));
+    EXPECT_EQ(read(kMakeUpMonday).week, timetable::Week::B);
+    EXPECT_TRUE(inC1(kMakeUpMonday).contains("Blanc")) << inC1(kMakeUpMonday).toStdString();
+    EXPECT_FALSE(inC1(kMakeUpMonday).contains("Roux"));
+    EXPECT_TRUE(inC1(kMakeUpMonday.addDays(7)).contains("Roux"));
+    EXPECT_FALSE(inC1(kMakeUpMonday.addDays(7)).contains("Blanc"));
     shell::CommandLine weekA;
     weekA.week = shell::CommandLine::Week::A;
-    EXPECT_TRUE(inC1(kMonday, weekA).contains("Roux"));
+    EXPECT_TRUE(inC1(kMakeUpMonday, weekA).contains("Roux"));
 }
 
 TEST_P(HallReader, savesNothing)
@@ -104,14 +104,14 @@ TEST_P(HallReader, savesNothing)
     shell::CommandLine choices;
     choices.roomsPerPage = 2;
     choices.show = shell::CommandLine::Shown{true, false, false, false, false};
-    static_cast<void>(read(kMonday, 18, choices));
+    static_cast<void>(read(kMakeUpMonday, 18, choices));
     EXPECT_EQ(setup.settingsText(), before);
 }
 
 TEST_P(HallReader, tellsNobodyWhoWasAbsent)
 {
     // G1 was absent on that Monday at 8h30: the window shows it.
-    const app::HallPlan plan = read(kMonday);
+    const app::HallPlan plan = read(kMakeUpMonday);
     const plan::PlanBox& box = plan.pages[0].content.rows[1].boxes[0];
     EXPECT_EQ(box.slot, 1);
     EXPECT_FALSE(box.classAbsent);
@@ -122,7 +122,7 @@ TEST_P(HallReader, refusesAPeriodThatIsNone)
 {
     shell::CommandLine choices;
     choices.tranche = "Été";
-    EXPECT_THROW(static_cast<void>(read(kMonday, 18, choices)), shell::UsageError);
+    EXPECT_THROW(static_cast<void>(read(kMakeUpMonday, 18, choices)), shell::UsageError);
 }
 
 TEST(HallChoices, areThoseOfTheWindow)

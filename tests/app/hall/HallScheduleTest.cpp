@@ -11,7 +11,7 @@ namespace
 
 const QDate kWednesday(2025, 3, 19);
 const QDate kThursday(2025, 3, 20);
-const QDate kSunday(2025, 3, 23);
+const QDate kWeekend(2025, 3, 23);
 
 QDateTime at(QDate day, int hour, int minute, int second = 0)
 {
@@ -107,8 +107,8 @@ TEST(HallSchedule, palesNothingWithoutAPlan)
 
 TEST(HallSchedule, goesOnAsEverOnASunday)
 {
-    const HallMoment moment = schedule().at(at(kSunday, 9, 30), kSunday, 2);
-    EXPECT_EQ(moment.today, kSunday);
+    const HallMoment moment = schedule().at(at(kWeekend, 9, 30), kWeekend, 2);
+    EXPECT_EQ(moment.today, kWeekend);
     EXPECT_EQ(moment.past, HallPast::UntilClock);
     EXPECT_EQ(moment.line, 570);
 }
