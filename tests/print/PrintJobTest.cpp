@@ -75,15 +75,6 @@ TEST(PrintJob, keepsOneMarginThatIsWideEnoughForEveryEdgeOfThePrinter)
     EXPECT_LE(printed.bottom(), 210 - 14 + pixel);
 }
 
-TEST(PrintJob, leavesAtLeastSixMillimetresAtEveryEdge)
-{
-    QBuffer buffer;
-    QPdfWriter writer(&buffer);
-    ASSERT_TRUE(print::layPaper(writer));
-    // 6 mm are 17.01 points.
-    EXPECT_EQ(writer.pageLayout().margins(QPageLayout::Point), QMarginsF(18, 18, 18, 18));
-}
-
 TEST(PrintJob, laysThePaperAcross)
 {
     PlanDesk desk(3);
