@@ -41,6 +41,9 @@ std::optional<int> numberOf(const db::Value& value)
 QDate dateOf(const db::Value& value)
 {
     QDate date;
+    if (value.isNull()) {
+        return date;
+    }
     runtime::skipOnError([&] { date = value.toDate(); });
     return date;
 }
