@@ -105,7 +105,7 @@ run_tests() {
     build "$folder"
     unpack_print_server
     rm -f "$log"
-    ctest --test-dir "$folder" --output-on-failure -j $(($(nproc) + 1)) "${ctest_options[@]}" || failed=$?
+    ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "${ctest_options[@]}" || failed=$?
     tell_why_skipped
     return "$failed"
 }
