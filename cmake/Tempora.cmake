@@ -36,7 +36,7 @@ if(TEMPORA_FUZZ)
     $<$<BOOL:$<TARGET_PROPERTY:TEMPORA_WATCHED>>:-fsanitize=fuzzer-no-link>)
 endif()
 
-# A dozen files that are compiled as one take a quarter of the time, because most of it goes into the
+# A dozen files that are compiled as one take less than half of the time, because most of it goes into the
 # headers. A missing #include is not noticed then: test.sh --includes looks for those.
 if(NOT TEMPORA_UNITY MATCHES "^(nothing|tests|everything)$")
   message(FATAL_ERROR "TEMPORA_UNITY is nothing, tests or everything, not \"${TEMPORA_UNITY}\"")
