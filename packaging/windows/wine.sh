@@ -30,8 +30,21 @@ make_prefix() {
         "$wine" reg.exe add 'HKCU\Software\Wine\Fonts\Replacements' /v "$font" \
             /d 'Liberation Sans' /f >/dev/null 2>&1
     done
+    # As Windows has it; without it Wine leaves letters out where a text is drawn smaller.
+    "$wine" reg.exe add 'HKCU\Control Panel\Desktop' /v FontSmoothingType /t REG_DWORD /d 2 /f \
+        >/dev/null 2>&1
     end_wine
     touch "$WINEPREFIX/made"
+}
+
+# Lets programs find the drivers by the registry, as they do on Windows, under the names that
+# use_odbc_folder gives them.
+register_drivers() {
+    local driver drivers='HKLM\Software\ODBC\ODBCINST.INI\ODBC Drivers'
+    ! "$wine" reg.exe query "$drivers" /v SQLite3 >/dev/null 2>&1 || return 0
+    for driver in SQLite3 "MySQL ODBC 3.51 Driver"; do
+        "$wine" reg.exe add "$drivers" /v "$driver" /d Installed /f >/dev/null 2>&1
+    done
 }
 
 # Ends every program of the prefix.

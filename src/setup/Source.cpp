@@ -1,5 +1,7 @@
 #include "setup/Source.h"
 
+#include "setup/DriverAdvice.h"
+
 #include <QFileInfo>
 #include <algorithm>
 
@@ -74,6 +76,20 @@ QString driverFor(SourceKind kind, const QStringList& drivers)
     return {};
 }
 
+QString ofDriver(SourceKind kind)
+{
+    switch (kind) {
+    case SourceKind::Demo:
+    case SourceKind::SqliteFile:
+        return QStringLiteral("de SQLite");
+    case SourceKind::Server:
+        return QStringLiteral("de MariaDB");
+    case SourceKind::Access:
+        return QStringLiteral("d’Access");
+    }
+    return {};
+}
+
 QString connectStringOf(const Source& source, const QString& driver)
 {
     const QString start = QStringLiteral("DRIVER={%1};").arg(driver);
@@ -96,14 +112,8 @@ QString connectStringOf(const Source& source, const QString& driver)
 QString missingIn(const Source& source, const QString& driver)
 {
     if (driver.isEmpty()) {
-        const bool isServer = source.kind == SourceKind::Server;
-        return source.kind == SourceKind::Access
-                   ? QStringLiteral("Le pilote ODBC d’Access n’est pas installé sur ce poste.")
-                   : QStringLiteral("Le pilote ODBC de %1 n’est pas installé sur ce poste "
-                                    "(paquet Debian « %2 »).")
-                         .arg(isServer ? QStringLiteral("MariaDB") : QStringLiteral("SQLite"),
-                              isServer ? QStringLiteral("odbc-mariadb")
-                                       : QStringLiteral("libsqliteodbc"));
+        return QStringLiteral("Le pilote ODBC %1 n’est pas installé sur ce poste. %2")
+            .arg(ofDriver(source.kind), howToGetDriver(source.kind));
     }
     switch (source.kind) {
     case SourceKind::Demo:

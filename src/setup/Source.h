@@ -35,6 +35,9 @@ struct Source {
 /// The driver, of those installed, that opens such a source; empty where none does.
 [[nodiscard]] QString driverFor(SourceKind kind, const QStringList& drivers);
 
+/// What a driver of that kind is called, in a French sentence after "le pilote ODBC": "de SQLite".
+[[nodiscard]] QString ofDriver(SourceKind kind);
+
 /// The connection string that opens the source by this driver, without a data source.
 [[nodiscard]] QString connectStringOf(const Source& source, const QString& driver);
 

@@ -1,5 +1,6 @@
 #include "setup/Source.h"
 
+#include "setup/DriverAdvice.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -65,10 +66,20 @@ TEST(ASource, saysWhatItLacks)
     server = serverAt("db1");
     server.server.base = " ";
     EXPECT_TRUE(missingIn(server, "MariaDB").startsWith("Indiquez le nom de la base"));
-    EXPECT_TRUE(missingIn(serverAt("db1"), "").contains("odbc-mariadb"));
     EXPECT_TRUE(missingIn(fileAt(""), "SQLite3").startsWith("Choisissez le fichier"));
     EXPECT_TRUE(missingIn(fileAt("/nowhere.sqlite"), "SQLite3").contains("n’existe pas"));
     EXPECT_TRUE(missingIn(fileAt(test::processFolder()), "SQLite3").contains("n’existe pas"));
-    EXPECT_TRUE(missingIn(fileAt(""), "").contains("libsqliteodbc"));
     EXPECT_EQ(missingIn({SourceKind::Demo, {}, {}}, "SQLite3"), "");
+}
+
+TEST(ASource, saysWhichDriverItLacksAndHowToGetIt)
+{
+    EXPECT_EQ(missingIn(serverAt("db1"), ""),
+              "Le pilote ODBC de MariaDB n’est pas installé sur ce poste. " +
+                  howToGetDriver(SourceKind::Server));
+    EXPECT_EQ(missingIn(fileAt(""), ""),
+              "Le pilote ODBC de SQLite n’est pas installé sur ce poste. " +
+                  howToGetDriver(SourceKind::SqliteFile));
+    EXPECT_TRUE(missingIn({SourceKind::Access, "C:/Kalo.mdb", {}}, "")
+                    .startsWith("Le pilote ODBC d’Access n’est pas installé sur ce poste. "));
 }

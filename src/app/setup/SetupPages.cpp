@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace app
 {
@@ -63,11 +64,10 @@ SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
     layout->addWidget(m_present);
     addChoice(*layout, SourceKind::Demo,
               QStringLiteral("&Essayer avec une faculté de démonstration"),
-              setup::driverFor(SourceKind::Demo, m_wizard.ties().drivers).isEmpty()
-                  ? QStringLiteral("Une faculté inventée, pour voir. Il y faut le pilote ODBC de "
-                                   "SQLite, qui manque sur ce poste.")
-                  : QStringLiteral("Une faculté inventée, pour voir. Rien d’autre n’est "
-                                   "nécessaire."));
+              hasDriver(SourceKind::Demo)
+                  ? QStringLiteral("Une faculté inventée, pour voir. Rien d’autre n’est "
+                                   "nécessaire.")
+                  : QStringLiteral("Une faculté inventée, pour voir."));
     addChoice(*layout, SourceKind::SqliteFile, QStringLiteral("Ma base (&fichier SQLite)"),
               QStringLiteral("Un fichier sur ce poste ou sur un disque partagé."));
     addChoice(*layout, SourceKind::Server, QStringLiteral("Ma base (&MariaDB ou MySQL)"),
@@ -76,7 +76,10 @@ SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
         addChoice(*layout, SourceKind::Access, QStringLiteral("Ma base &Access"),
                   QStringLiteral("Un fichier .mdb ou .accdb."));
     }
-    m_choices.front().button->setChecked(true);
+    const auto possible =
+        std::find_if(m_choices.begin(), m_choices.end(),
+                     [this](const Choice& choice) { return hasDriver(choice.kind); });
+    (possible == m_choices.end() ? m_choices.front() : *possible).button->setChecked(true);
     layout->addStretch();
     layout->addWidget(m_told);
 }
@@ -86,10 +89,19 @@ void SetupKindPage::addChoice(QVBoxLayout& layout, SourceKind kind, const QStrin
 {
     auto* button = new QRadioButton(text);
     button->setObjectName(QStringLiteral("Kind%1").arg(static_cast<int>(kind)));
-    button->setAccessibleDescription(sentence);
+    const QString all =
+        hasDriver(kind) ? sentence
+                        : QStringLiteral("%1 Il y faut le pilote ODBC %2, qui manque sur ce poste.")
+                              .arg(sentence, setup::ofDriver(kind));
+    button->setAccessibleDescription(all);
     m_choices.push_back({button, kind});
     layout.addWidget(button);
-    layout.addWidget(sentenceLabel(sentence));
+    layout.addWidget(sentenceLabel(all));
+}
+
+bool SetupKindPage::hasDriver(SourceKind kind) const
+{
+    return !setup::driverFor(kind, m_wizard.ties().drivers()).isEmpty();
 }
 
 SourceKind SetupKindPage::chosen() const

@@ -36,6 +36,7 @@ private:
 
     void addChoice(QVBoxLayout& layout, setup::SourceKind kind, const QString& text,
                    const QString& sentence);
+    [[nodiscard]] bool hasDriver(setup::SourceKind kind) const;
     [[nodiscard]] setup::SourceKind chosen() const;
 
     SetupWizard& m_wizard;

@@ -66,7 +66,7 @@ bool SetupWizard::tryOut(QLabel* told)
     if (m_source.kind == setup::SourceKind::Demo) {
         m_source.file = m_ties.demoFile;
     }
-    m_driver = setup::driverFor(m_source.kind, m_ties.drivers);
+    m_driver = setup::driverFor(m_source.kind, m_ties.drivers());
     const QString missing = setup::missingIn(m_source, m_driver);
     if (!missing.isEmpty()) {
         told->setText(missing);
@@ -89,7 +89,7 @@ void SetupWizard::accept()
 {
     try {
         const setup::Route route =
-            setup::routeOf(m_source, m_ties.drivers, m_ties.applicationFolder);
+            setup::routeOf(m_source, m_ties.drivers(), m_ties.applicationFolder);
         setup::registerSource(m_source, route, m_driver, m_ties.applicationFolder, m_settings);
         setup::saveRecommendations(m_recommendations, m_settings);
     } catch (const runtime::RunTimeError& error) {

@@ -23,7 +23,8 @@ class SetupWizard : public QWizard
 public:
     /// What it finds around it.
     struct Ties {
-        QStringList drivers;       ///< that ODBC has
+        /// The names of the drivers that ODBC has now: one may be installed while the window asks.
+        std::function<QStringList()> drivers;
         QString applicationFolder; ///< holds the program and `Styles`
         QString demoFile;          ///< full path of the file that the demo faculty is made in
         /// Makes the demo faculty in a file that is not there. Runs on another thread.

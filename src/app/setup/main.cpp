@@ -47,7 +47,7 @@ void makeDemo(const QString& file)
 app::SetupWizard::Ties tiesOf(const QStringList& planOptions)
 {
     app::SetupWizard::Ties ties;
-    ties.drivers = db::installedDrivers();
+    ties.drivers = db::installedDrivers;
     ties.applicationFolder = QCoreApplication::applicationDirPath();
     ties.demoFile = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
                     QStringLiteral("/demo.sqlite");

@@ -29,7 +29,7 @@ protected:
     TheSetup()
     {
         createTinyFaculty(m_school);
-        m_ties.drivers = QStringList{"SQLite3"};
+        m_ties.drivers = [this] { return drivers; };
         m_ties.applicationFolder = m_machine.path("program");
         m_ties.demoFile = m_machine.path("demo.sqlite");
         m_ties.makeDemo = [this](const QString& file) { QFile::copy(m_school.file(), file); };
@@ -78,6 +78,7 @@ protected:
     [[nodiscard]] const OwnDataSources& machine() const { return m_machine; }
 
     int opened = 0;
+    QStringList drivers{"SQLite3"}; ///< that are installed
     std::unique_ptr<app::SetupWizard> wizard;
     Hands hands;
 
@@ -169,7 +170,7 @@ TEST_F(TheSetup, refusesAFileThatHoldsNoTimetable)
 
 TEST_F(TheSetup, saysWhatAServerLacks)
 {
-    ties().drivers = QStringList{"MariaDB Unicode"};
+    drivers = QStringList{"MariaDB Unicode"};
     show();
     choose(SourceKind::Server);
     go(QWizard::NextButton);
@@ -180,13 +181,28 @@ TEST_F(TheSetup, saysWhatAServerLacks)
 
 TEST_F(TheSetup, saysWhichDriverIsMissing)
 {
-    ties().drivers = QStringList{};
+    drivers = QStringList{};
     show();
     const auto* demo = wizard->currentPage()->findChild<QRadioButton*>("Kind0");
     ASSERT_NE(demo, nullptr);
     EXPECT_TRUE(demo->accessibleDescription().contains("Il y faut le pilote ODBC de SQLite"));
     go(QWizard::NextButton);
     ASSERT_TRUE(shows("Told", "Le pilote ODBC de SQLite n’est pas installé"));
+    drivers = QStringList{"SQLite3"}; // installed meanwhile
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+}
+
+TEST_F(TheSetup, proposesTheFirstKindWhoseDriverIsThere)
+{
+    drivers = QStringList{"MariaDB Unicode"};
+    show();
+    const auto* server = wizard->currentPage()->findChild<QRadioButton*>("Kind2");
+    ASSERT_NE(server, nullptr);
+    EXPECT_TRUE(server->isChecked());
+    EXPECT_FALSE(server->accessibleDescription().contains("manque"));
+    const auto* file = wizard->currentPage()->findChild<QRadioButton*>("Kind1");
+    EXPECT_TRUE(file->accessibleDescription().endsWith("qui manque sur ce poste."));
 }
 
 TEST_F(TheSetup, saysWhyTheDemoCouldNotBeMade)
