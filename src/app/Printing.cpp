@@ -1,6 +1,7 @@
 #include "app/Printing.h"
 
 #include "app/PlainTexts.h"
+#include "app/PrinterChoice.h"
 #include "app/PrinterOutput.h"
 #include "app/ScreenFit.h"
 #include "engine/Engine.h"
@@ -11,7 +12,6 @@
 #include "runtime/RunTimeError.h"
 
 #include <QMessageBox>
-#include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -63,15 +63,6 @@ bool printIncomplete(QWidget* window, const QString& whatIsMissing)
     return box.clickedButton() == print;
 }
 
-bool choosePrinter(QWidget* window, QPrinter& printer, int sheets)
-{
-    QPrintDialog dialog(&printer, window);
-    dialog.setWindowTitle(QStringLiteral("Imprimer le plan"));
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, sheets > 1);
-    dialog.setMinMax(1, sheets);
-    return dialog.exec() == QDialog::Accepted;
-}
-
 /// No exception may pass through the dialog's own event loop: it goes on when the dialog is closed.
 void showPreview(QWidget* window, QPrinter& printer, const std::function<void(QPrinter&)>& paint)
 {
@@ -100,7 +91,9 @@ PrintDialogs platformPrintDialogs(QWidget* window)
 {
     return {
         [window](const QString& whatIsMissing) { return printIncomplete(window, whatIsMissing); },
-        [window](QPrinter& printer, int sheets) { return choosePrinter(window, printer, sheets); },
+        [window](QPrinter& printer, int sheets) {
+            return choosePrinter(window, printer, QStringLiteral("Imprimer le plan"), sheets);
+        },
         [window](QPrinter& printer, const std::function<void(QPrinter&)>& paint) {
             showPreview(window, printer, paint);
         }};

@@ -1,5 +1,6 @@
 #include "app/Printing.h"
 
+#include "app/WhenOpen.h"
 #include "paint/PlanPainter.h"
 #include "print/Pdf.h"
 #include "print/Targets.h"
@@ -17,7 +18,6 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QScreen>
-#include <QTimer>
 
 using namespace test;
 
@@ -100,21 +100,6 @@ protected:
     ShellDesk desk{m_database};
     Answer answer;
 };
-
-/// Waits in the dialog's own event loop until a dialog of that kind is open.
-template <typename Dialog>
-void whenOpen(const std::function<void(Dialog&)>& act)
-{
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, [timer, act] {
-        if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
-            timer->deleteLater();
-            timer->stop();
-            act(*dialog);
-        }
-    });
-    timer->start(10);
-}
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "app/DateField.h"
 #include "app/ErrorReport.h"
 #include "app/PlainTexts.h"
+#include "app/PrinterChoice.h"
 #include "app/PrinterOutput.h"
 #include "app/asking/AnswerList.h"
 #include "app/asking/AskingFields.h"
@@ -22,7 +23,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -406,9 +406,7 @@ void WeekWindow::print()
     printer.setCreator(QStringLiteral("Tempora"));
     printer.setDocName(QString(m_document->title).replace(u'/', u'-'));
     static_cast<void>(print::layPaper(printer)); // whatever it says, the user may choose another
-    QPrintDialog dialog(&printer, this);
-    dialog.setWindowTitle(QStringLiteral("Imprimer la semaine"));
-    if (dialog.exec() != QDialog::Accepted) {
+    if (!choosePrinter(this, printer, QStringLiteral("Imprimer la semaine"), 1)) {
         return;
     }
     try {

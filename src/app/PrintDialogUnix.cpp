@@ -1,0 +1,11 @@
+#include "app/PrinterChoice.h"
+
+namespace app
+{
+
+bool printDialogTakesFiles()
+{
+    return true;
+}
+
+} // namespace app

@@ -1,0 +1,40 @@
+#include "app/PrinterChoice.h"
+
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace app
+{
+
+// A machine without printers prints into files.
+bool choosePrinter(QWidget* window, QPrinter& printer, const QString& title, int sheets)
+{
+    if (printer.outputFormat() == QPrinter::PdfFormat && !printDialogTakesFiles()) {
+        return choosePdfFile(window, printer);
+    }
+    QPrintDialog dialog(&printer, window);
+    dialog.setWindowTitle(title);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, sheets > 1);
+    dialog.setMinMax(1, sheets);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool choosePdfFile(QWidget* window, QPrinter& printer)
+{
+    const QString ending = QStringLiteral(".pdf");
+    QString path = QFileDialog::getSaveFileName(
+        window, QStringLiteral("Aucune imprimante n’est installée : enregistrer en PDF"),
+        printer.docName() + ending, QStringLiteral("PDF (*.pdf)"));
+    if (path.isEmpty()) {
+        return false;
+    }
+    if (!path.endsWith(ending, Qt::CaseInsensitive)) { // typed without an ending
+        path += ending;
+    }
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    return true;
+}
+
+} // namespace app

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QApplication>
+#include <QTimer>
+#include <functional>
+
+namespace test
+{
+
+/// Does something to a dialog of that kind, from within the dialog's own event loop, once it is
+/// open.
+template <typename Dialog>
+void whenOpen(const std::function<void(Dialog&)>& act)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, [timer, act] {
+        if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+            timer->deleteLater();
+            timer->stop();
+            act(*dialog);
+        }
+    });
+    timer->start(10);
+}
+
+} // namespace test
