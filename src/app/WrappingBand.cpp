@@ -39,7 +39,7 @@ std::vector<QLayoutItem*> WrappingBand::shown() const
     return items;
 }
 
-std::vector<WrappingBand::Row> WrappingBand::rowsFor(int width) const
+std::vector<WrappingBand::Row> WrappingBand::rowsFor(int width, int gap) const
 {
     const QMargins margins = contentsMargins();
     const int room = width - margins.left() - margins.right();
@@ -47,22 +47,28 @@ std::vector<WrappingBand::Row> WrappingBand::rowsFor(int width) const
     int used = 0;
     for (QLayoutItem* item : shown()) {
         const QSize size = item->sizeHint();
-        if (rows.empty() || used + spacing() + size.width() > room) {
+        if (rows.empty() || used + gap + size.width() > room) {
             rows.emplace_back();
             used = 0;
         }
-        used += (rows.back().items.empty() ? 0 : spacing()) + size.width();
+        used += (rows.back().items.empty() ? 0 : gap) + size.width();
         rows.back().items.push_back(item);
         rows.back().height = std::max(rows.back().height, size.height());
     }
     return rows;
 }
 
+int WrappingBand::gapFor(int width) const
+{
+    const int close = spacing() / 2;
+    return rowsFor(width, close).size() < rowsFor(width, spacing()).size() ? close : spacing();
+}
+
 int WrappingBand::heightForWidth(int width) const
 {
     const QMargins margins = contentsMargins();
     int height = margins.top() + margins.bottom();
-    const std::vector<Row> rows = rowsFor(width);
+    const std::vector<Row> rows = rowsFor(width, gapFor(width));
     for (const Row& row : rows) {
         height += row.height;
     }
@@ -97,12 +103,13 @@ void WrappingBand::setGeometry(const QRect& place)
     const QMargins margins = contentsMargins();
     int top = place.top() + margins.top();
     const int room = place.width() - margins.left() - margins.right();
-    for (const Row& row : rowsFor(place.width())) {
+    const int gap = gapFor(place.width());
+    for (const Row& row : rowsFor(place.width(), gap)) {
         int left = place.left() + margins.left();
         for (QLayoutItem* item : row.items) {
             const int width = std::min(item->sizeHint().width(), room);
             item->setGeometry(QRect(left, top, width, row.height));
-            left += width + spacing();
+            left += width + gap;
         }
         top += row.height + spacing();
     }

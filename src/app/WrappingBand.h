@@ -9,6 +9,7 @@ namespace app
 
 /// Lays its items out from left to right in as many rows as the width makes necessary, each as wide
 /// as it wants to be; the items of a row are equally high. The widest item is the least width.
+/// Where that saves a row, items stand half as far apart.
 class WrappingBand : public QLayout
 {
 public:
@@ -34,7 +35,9 @@ private:
         int height = 0;
     };
 
-    [[nodiscard]] std::vector<Row> rowsFor(int width) const;
+    [[nodiscard]] std::vector<Row> rowsFor(int width, int gap) const;
+    /// Pixels between items beside one another.
+    [[nodiscard]] int gapFor(int width) const;
     [[nodiscard]] std::vector<QLayoutItem*> shown() const;
 
     std::vector<std::unique_ptr<QLayoutItem>> m_items;

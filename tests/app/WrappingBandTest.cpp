@@ -66,10 +66,18 @@ TEST_F(TheBand, doesNotStretchItsPanels)
 
 TEST_F(TheBand, wrapsWhereTheyDoNotFit)
 {
-    EXPECT_EQ(band().heightForWidth(479), 100); // 50 and 30, 10 between them
-    EXPECT_EQ(places(479),
+    EXPECT_EQ(band().heightForWidth(469), 100); // 50 and 30, 10 between them
+    EXPECT_EQ(places(469),
               (std::vector<QRect>{{5, 5, 100, 50}, {115, 5, 200, 50}, {5, 65, 150, 30}}));
     EXPECT_EQ(band().heightForWidth(260), 150); // 40, 50 and 30 below one another
+}
+
+TEST_F(TheBand, standsCloserWhereThatSavesARow)
+{
+    EXPECT_EQ(band().heightForWidth(479), 60);
+    EXPECT_EQ(band().heightForWidth(470), 60); // 450 + 2 * 5 + 2 * 5
+    EXPECT_EQ(places(470),
+              (std::vector<QRect>{{5, 5, 100, 50}, {110, 5, 200, 50}, {315, 5, 150, 50}}));
 }
 
 TEST_F(TheBand, isAsWideAsItsWidestPanelAtLeast)
