@@ -118,7 +118,9 @@ TEST_P(ALostAnswer, atAnyCommandOfThePlanShowsNoRoomAsFree)
         expectNothingFreed(whole, desk.engine.content(), which);
         loseAfter(kAll, 0);
         desk.engine.refreshPlan();
-        EXPECT_EQ(shownCells(desk.engine.content()), whole) << which.toStdString();
+        EXPECT_EQ(shownCells(desk.engine.content()), whole)
+            << which.toStdString() << ": "
+            << plan::faultDetails(desk.engine.content()).toStdString();
     }
 }
 

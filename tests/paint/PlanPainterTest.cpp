@@ -233,7 +233,9 @@ TEST_F(APaintedPlan, showsAnAbsencePictureBesideTheLabelThatWouldHideIt)
 
 TEST_F(APaintedPlan, showsEachAbsencePictureAtTheRightOfItsBox)
 {
-    desk.meeting(1, 1); // up to 268; the pictures are 20 pixels high, as the row
+    // Up to 268; the pictures are 20 pixels high, as the row. A short text, which leaves their
+    // places free whatever the font.
+    desk.meeting(1, 1).null("Enseignant1").null("matière");
     const QPoint personsHead(258, 58);
     const QPoint cross(244, 58); // 1.7 widths from the edge, and half a width back
     const auto colorsAfter = [this, &personsHead, &cross] {
