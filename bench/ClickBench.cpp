@@ -1,12 +1,14 @@
 // What a user feels: a whole click in the window, from the key to the last pixel, beside the
 // refresh within it and beside the least that any program needs for the same page over the same
 // driver (Limit.h). Writes a Markdown table to standard output:
-//   click_bench [small|middle]...
+//   click_bench [small|middle]... [--near]
+// With --near the server behind a delay is left out.
 // Each round measures all of them in turn, so that whatever else the machine does disturbs them
 // alike. Needs an X server.
 
 #include "app/PlClasse.h"
 #include "app/PlanView.h"
+#include "bench/DelayProxy.h"
 #include "bench/Faculty.h"
 #include "bench/Limit.h"
 #include "support/MariaDbServer.h"
@@ -77,8 +79,11 @@ void click(QComboBox& days)
     QApplication::sync();
 }
 
-void report(const char* size, const char* where, bench::Faculty& faculty)
+/// `port` replaces the server's own (0: leave it).
+void report(const char* size, const char* where, const bench::Faculty& faculty, quint16 port,
+            int rounds)
 {
+    const std::shared_ptr<void> elsewhere = port == 0 ? nullptr : faculty.reachedAt(port);
     bench::Faculty::Start start = faculty.start();
     app::PlClasse window(std::move(start.settings), start.surroundings);
     if (!window.load()) {
@@ -89,11 +94,10 @@ void report(const char* size, const char* where, bench::Faculty& faculty)
     window.activate();
     QApplication::processEvents();
     auto* days = window.findChild<QComboBox*>(QStringLiteral("CbJour"));
-    bench::Limit limit(faculty.database().connectString());
+    bench::Limit limit(port == 0 ? faculty.connectString() : faculty.connectStringAt(port));
     const engine::Engine& engine = window.shell().engine();
-    const auto program = faculty.open(false);
+    const auto program = faculty.open(false, port);
     std::map<QString, Measured> measured;
-    constexpr int rounds = 60;
     for (int round = 0; round < rounds; ++round) {
         measured["click"].run([&] { click(*days); });
         measured["refresh"].run(
@@ -114,7 +118,8 @@ int main(int argc, char* argv[])
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QApplication application(argc, argv);
-    const QStringList asked = QCoreApplication::arguments().mid(1);
+    QStringList asked = QCoreApplication::arguments().mid(1);
+    const bool onlyNear = asked.removeAll(QStringLiteral("--near")) > 0;
     const QDate today = QDate::currentDate();
     const std::vector<std::pair<const char*, demo::FacultyOptions>> sizes = {
         {"small", demo::smallFaculty(today)}, {"middle", demo::middleFaculty(today)}};
@@ -123,10 +128,15 @@ int main(int argc, char* argv[])
         "processor | refresh / limit |\n|---|---|---:|---:|---:|---:|---:|---:|---:|");
     for (const auto& [name, options] : sizes) {
         if (asked.isEmpty() || asked.contains(QLatin1String(name))) {
-            bench::Faculty sqlite(options, test::DatabaseKind::Sqlite);
-            report(name, "SQLite", sqlite);
-            bench::Faculty mariaDb(options, test::DatabaseKind::MariaDb);
-            report(name, "MariaDB, same machine", mariaDb);
+            const bench::Faculty sqlite(options, test::DatabaseKind::Sqlite);
+            report(name, "SQLite", sqlite, 0, 60);
+            const bench::Faculty mariaDb(options, test::DatabaseKind::MariaDb);
+            report(name, "MariaDB, same machine", mariaDb, 0, 60);
+            if (!onlyNear) {
+                const bench::DelayProxy proxy(test::MariaDbServer::shared().port(),
+                                              std::chrono::milliseconds(20));
+                report(name, "MariaDB, 20 ms", mariaDb, proxy.port(), 15);
+            }
         }
     }
     return 0;

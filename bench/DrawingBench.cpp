@@ -61,6 +61,41 @@ void paintWindow(benchmark::State& state)
 }
 BENCHMARK(paintWindow)->Unit(benchmark::kMillisecond);
 
+/// What any program that shows this page asks of QPainter, and no more: the rooms' bands and names,
+/// a filled and framed box for each séance, its text and its size. The plan's own layout and its
+/// fitted sizes of texts are left out.
+void paintLimit(benchmark::State& state)
+{
+    const engine::Engine& engine = fullPage().engine();
+    QImage image(1366, 620, QImage::Format_RGB32);
+    constexpr int twips = 15; // of a pixel
+    constexpr int height = 20;
+    for ([[maybe_unused]] auto iteration : state) {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setFont(QFont(QStringLiteral("Arial"), 7));
+        int top = 0;
+        for (const plan::PlanRow& row : engine.content().rows) {
+            const QColor fill = QColor::fromRgb(250, 230, 205);
+            const QRect band(0, top, 110, height - 2);
+            painter.fillRect(band, fill);
+            painter.drawText(band, Qt::AlignVCenter | Qt::AlignLeft, row.room);
+            painter.drawText(band, Qt::AlignVCenter | Qt::AlignRight, row.places);
+            for (const plan::PlanBox& box : row.boxes) {
+                const QRect place(box.x / twips, top, static_cast<int>(box.width) / twips,
+                                  height - 2);
+                painter.fillRect(place, fill);
+                painter.drawRect(place);
+                painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, box.cell.CellText);
+                painter.drawText(place, Qt::AlignBottom | Qt::AlignRight,
+                                 QString::number(box.cell.CellStudents));
+            }
+            top += height;
+        }
+    }
+}
+BENCHMARK(paintLimit)->Unit(benchmark::kMillisecond);
+
 void refreshPage(benchmark::State& state)
 {
     shell::Shell& program = fullPage();

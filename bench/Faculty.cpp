@@ -116,25 +116,32 @@ Faculty::Start Faculty::start(bool plain) const
 
 std::unique_ptr<shell::Shell> Faculty::open(bool plain, quint16 port) const
 {
-    const bool mySql = m_database.usesMySql();
-    const QString php =
-        m_folder.filePath(QStringLiteral("app_data/%1.php").arg(m_database.baseName()));
-    const QString usual = mySql ? read(php) : QString();
-    if (mySql && port != 0) {
-        QString moved = usual;
-        moved.replace(QRegularExpression(QStringLiteral("\\$port=\"[0-9]+\"")),
-                      QStringLiteral("$port=\"%1\"").arg(port));
-        write(php, moved);
-    }
+    const std::shared_ptr<void> elsewhere = port == 0 ? nullptr : reachedAt(port);
     Start start = this->start(plain);
     auto program = std::make_unique<shell::Shell>(std::move(start.settings), start.surroundings);
     program->Form_Load();
     program->fitPicture();
     program->Form_Activate();
-    if (mySql && port != 0) {
-        write(php, usual);
-    }
     return program;
+}
+
+std::shared_ptr<void> Faculty::reachedAt(quint16 port) const
+{
+    const QString php =
+        m_folder.filePath(QStringLiteral("app_data/%1.php").arg(m_database.baseName()));
+    const QString usual = read(php);
+    QString moved = usual;
+    moved.replace(QRegularExpression(QStringLiteral("\\$port=\"[0-9]+\"")),
+                  QStringLiteral("$port=\"%1\"").arg(port));
+    write(php, moved);
+    return {nullptr, [php, usual](void*) { write(php, usual); }};
+}
+
+QString Faculty::connectStringAt(quint16 port) const
+{
+    QString moved = m_database.connectString();
+    return moved.replace(QRegularExpression(QStringLiteral(";port=[0-9]+")),
+                         QStringLiteral(";port=%1").arg(port));
 }
 
 } // namespace bench

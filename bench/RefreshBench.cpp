@@ -1,6 +1,6 @@
 // How long a refresh takes and how many statements it sends, one by one and fetched ahead, over the
 // databases and distances that the program meets; and how long it takes from the settings to the
-// first plan. Writes two Markdown tables to standard output:
+// first plan; and how long all rooms take as pages. Writes Markdown tables to standard output:
 //   refresh_bench [small|middle|large]... [--near]
 // With --near the server behind a delay is left out, which takes most of the time.
 
@@ -24,6 +24,21 @@ struct Figures {
     long long statements = 0;
 };
 
+double median(std::vector<double>& times)
+{
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
+}
+
+template <typename Action>
+double millisecondsOf(Action action)
+{
+    const auto start = Clock::now();
+    action();
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
 /// Clicks through the days of the week, as a user does.
 Figures measure(shell::Shell& program, int clicks)
 {
@@ -31,13 +46,10 @@ Figures measure(shell::Shell& program, int clicks)
     long long statements = 0;
     for (int click = 0; click < clicks; ++click) {
         const long long before = program.engine().statementCount();
-        const auto start = Clock::now();
-        program.form().CbJour.setListIndex(click % 5);
-        times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+        times.push_back(millisecondsOf([&] { program.form().CbJour.setListIndex(click % 5); }));
         statements = std::max(statements, program.engine().statementCount() - before);
     }
-    std::nth_element(times.begin(), times.begin() + clicks / 2, times.end());
-    return {times[static_cast<std::size_t>(clicks / 2)], statements};
+    return {median(times), statements};
 }
 
 /// From reading the settings to the first plan, connecting included.
@@ -47,25 +59,52 @@ Figures measureStart(const bench::Faculty& faculty, quint16 port)
     std::vector<double> times;
     long long statements = 0;
     for (std::size_t start = 0; start < starts; ++start) {
-        const auto begin = Clock::now();
-        const auto program = faculty.open(false, port);
-        times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
+        std::unique_ptr<shell::Shell> program;
+        times.push_back(millisecondsOf([&] { program = faculty.open(false, port); }));
         statements = program->engine().statementCount();
     }
-    std::nth_element(times.begin(), times.begin() + starts / 2, times.end());
-    return {times[starts / 2], statements};
+    return {median(times), statements};
 }
 
-/// The lines of the second table.
-using Starts = std::vector<QByteArray>;
+/// The lines of the tables after the first one.
+struct Lines {
+    std::vector<QByteArray> starts;
+    std::vector<QByteArray> pages;
+};
+
+/// All rooms as pages of 29, by turns with the first page of 29 that a click shows.
+void measurePages(const QByteArray& begin, shell::Shell& program, Lines& lines)
+{
+    constexpr int rooms = 29;
+    constexpr int rounds = 9;
+    program.form().Total_L_P.setText(QString::number(rooms));
+    std::vector<double> first;
+    std::vector<double> all;
+    double portions = 0; // of 29 rooms each
+    for (int round = 0; round < rounds; ++round) {
+        first.push_back(millisecondsOf([&] { program.form().CbJour.setListIndex(round % 5); }));
+        all.push_back(millisecondsOf([&] {
+            std::size_t rows = 0;
+            for (const plan::PlanPage& page : program.engine().pagesOfEveryRoom(rooms)) {
+                rows += page.content.rows.size();
+            }
+            portions = static_cast<double>(rows) / rooms;
+        }));
+    }
+    const double each = median(all) / portions;
+    lines.pages.push_back(begin + QByteArray::number(median(first), 'f', 1) + " | " +
+                          QByteArray::number(median(all), 'f', 1) + " | " +
+                          QByteArray::number(each, 'f', 1) + " | " +
+                          QByteArray::number(each / median(first), 'f', 2) + " |");
+}
 
 void report(const char* size, const char* where, const bench::Faculty& faculty, quint16 port,
-            int plainClicks, Starts& starts)
+            int plainClicks, Lines& lines)
 {
+    const QByteArray begin = QByteArray("| ") + size + " | " + where + " | ";
     const Figures start = measureStart(faculty, port);
-    starts.push_back(QByteArray("| ") + size + " | " + where + " | " +
-                     QByteArray::number(start.statements) + " | " +
-                     QByteArray::number(start.milliseconds, 'f', 0) + " |");
+    lines.starts.push_back(begin + QByteArray::number(start.statements) + " | " +
+                           QByteArray::number(start.milliseconds, 'f', 0) + " |");
     const auto plainProgram = faculty.open(true, port);
     const Figures plain = measure(*plainProgram, plainClicks);
     const auto aheadProgram = faculty.open(false, port);
@@ -74,22 +113,22 @@ void report(const char* size, const char* where, const bench::Faculty& faculty, 
                 plain.milliseconds, ahead.statements, ahead.milliseconds,
                 plain.milliseconds / ahead.milliseconds);
     std::fflush(stdout);
+    measurePages(begin, *aheadProgram, lines);
 }
 
-void measureSize(const char* size, const demo::FacultyOptions& options, bool onlyNear,
-                 Starts& starts)
+void measureSize(const char* size, const demo::FacultyOptions& options, bool onlyNear, Lines& lines)
 {
     {
         const bench::Faculty sqlite(options, test::DatabaseKind::Sqlite);
-        report(size, "SQLite", sqlite, 0, 15, starts);
+        report(size, "SQLite", sqlite, 0, 15, lines);
     }
     const bench::Faculty mariaDb(options, test::DatabaseKind::MariaDb);
-    report(size, "MariaDB, same machine", mariaDb, 0, 15, starts);
+    report(size, "MariaDB, same machine", mariaDb, 0, 15, lines);
     for (const int roundTrip : onlyNear ? std::vector<int>() : std::vector<int>{5, 20}) {
         const bench::DelayProxy proxy(test::MariaDbServer::shared().port(),
                                       std::chrono::milliseconds(roundTrip));
         const QByteArray where = QByteArray("MariaDB, ") + QByteArray::number(roundTrip) + " ms";
-        report(size, where.constData(), mariaDb, proxy.port(), 1, starts); // most of a minute each
+        report(size, where.constData(), mariaDb, proxy.port(), 1, lines); // most of a minute each
     }
 }
 
@@ -107,15 +146,21 @@ int main(int argc, char* argv[])
         {"small", demo::smallFaculty(today)},
         {"middle", demo::middleFaculty(today)},
         {"large", demo::largeFaculty(today)}};
-    Starts starts;
+    Lines lines;
     for (const auto& [name, options] : sizes) {
         if (asked.isEmpty() || asked.contains(QLatin1String(name))) {
-            measureSize(name, options, onlyNear, starts);
+            measureSize(name, options, onlyNear, lines);
         }
     }
     std::puts(
         "\n| faculty | database | statements up to the first plan | ms |\n|---|---|---:|---:|");
-    for (const QByteArray& line : starts) {
+    for (const QByteArray& line : lines.starts) {
+        std::puts(line.constData());
+    }
+    std::puts(
+        "\n| faculty | database | first page of 29 rooms, ms | all rooms as pages, ms | for each "
+        "29 rooms, ms | times the first page |\n|---|---|---:|---:|---:|---:|");
+    for (const QByteArray& line : lines.pages) {
         std::puts(line.constData());
     }
     return 0;

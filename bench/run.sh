@@ -81,7 +81,7 @@ printf '%s, %s, %s processors\n\n' "$(date +%F)" \
     "$(awk -F': ' '/model name/ { print $2; exit }' /proc/cpuinfo)" "$(nproc)"
 (unset ODBCINI ODBCSYSINI && "$bin/refresh_bench" "${near[@]}" "${sizes[@]}")
 printf '\n'
-(unset ODBCINI ODBCSYSINI && under_x "$bin/click_bench" 2>/dev/null)
+(unset ODBCINI ODBCSYSINI && under_x "$bin/click_bench" "${near[@]}" 2>/dev/null)
 printf '\n'
 (unset ODBCINI ODBCSYSINI && "$bin/timetable_bench" "${near[@]}")
 printf '\n'
