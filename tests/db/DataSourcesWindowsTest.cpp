@@ -5,7 +5,7 @@
 #include "db/OdbcInstaller.h"
 #include "support/RuntimeMatchers.h"
 
-#include <odbcinst.h>
+#include <QSettings>
 
 using namespace db;
 
@@ -23,7 +23,13 @@ protected:
             GTEST_SKIP() << "a driver called SQLite3 is not installed";
         }
     }
-    ~ADataSourceOfWindows() override { SQLRemoveDSNFromIniW(name.toStdWString().c_str()); }
+    ~ADataSourceOfWindows() override
+    {
+        QSettings sources(QStringLiteral("HKEY_CURRENT_USER\\Software\\ODBC\\ODBC.INI"),
+                          QSettings::NativeFormat);
+        sources.remove(name);
+        sources.remove(QStringLiteral("ODBC Data Sources/") + name);
+    }
 
     const QString name = QStringLiteral("Tempora à l’essai");
 };
