@@ -55,6 +55,7 @@ Section
   File /r "${FILES}/*"
   WriteUninstaller "$INSTDIR\desinstaller.exe"
   CreateDirectory "$SMPROGRAMS\Tempora"
+  SetOutPath "$DOCUMENTS" ; where the shortcuts begin: dialogs propose it for files that are saved
   CreateShortcut "$SMPROGRAMS\Tempora\Tempora.lnk" "$INSTDIR\tempora.exe"
   CreateShortcut "$SMPROGRAMS\Tempora\Choisir la base.lnk" "$INSTDIR\tempora-setup.exe"
   CreateShortcut "$SMPROGRAMS\Tempora\Lisez-moi.lnk" "$INSTDIR\Lisez-moi.txt"

@@ -85,15 +85,18 @@ void StatusNews::leave()
 /// Over all that stands on the left; a long sentence goes on over the rest.
 void StatusNews::place()
 {
-    const auto* right = m_bar->findChild<const QWidget*>(QStringLiteral("PeriodCaption"));
+    auto* right = m_bar->findChild<QWidget*>(QStringLiteral("PeriodCaption"));
     const int left = right != nullptr ? right->x() : 0;
+    if (right != nullptr) {
+        right->installEventFilter(this); // moves when something on its right grows
+    }
     setGeometry(0, 0, std::min(std::max(sizeHint().width() + kMargin, left), m_bar->width()),
                 m_bar->height());
 }
 
 bool StatusNews::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize && isVisible()) {
+    if ((event->type() == QEvent::Resize || event->type() == QEvent::Move) && isVisible()) {
         place();
     }
     return QFrame::eventFilter(watched, event);

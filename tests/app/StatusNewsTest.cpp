@@ -91,6 +91,11 @@ TEST_F(TheNews, coverWhatIsToldOnTheLeftAndNotOnTheRight)
     news.tell("Fait");
     EXPECT_TRUE(news.geometry().contains(left->geometry().center()));
     EXPECT_EQ(news.geometry().right() + 1, right->x());
+    auto* week = new QLabel("Semaine d’examen 1"); // exams are chosen while the news are shown
+    bar.addPermanentWidget(week);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(news.geometry().right() + 1, right->x());
+    EXPECT_LT(right->geometry().right(), week->x());
 }
 
 TEST_F(TheNews, giveWayToWhatTheBarItselfHasToSay)
