@@ -2,10 +2,12 @@
 # Builds and runs every test. Installs what is missing first.
 #
 #   ./test.sh [--sanitize] [--clang] [options of ctest]
+#   ./test.sh --release [options of ctest]
 #   ./test.sh --tidy | --format | --includes
 #
 # --sanitize  with the address and undefined-behaviour sanitizers
 # --clang     with clang instead of gcc
+# --release   optimized, as run.sh and the packages build the program
 # --tidy      no test: clang-tidy over every source file
 # --format    no test: what clang-format would change
 # --includes  no test: whether each file of the program includes what it needs
@@ -20,12 +22,14 @@ source "$project/scripts/common.sh"
 
 sanitize=false
 clang=false
+release=false
 task="test"
 ctest_options=()
 for option in "$@"; do
     case $option in
         --sanitize) sanitize=true ;;
         --clang) clang=true ;;
+        --release) release=true ;;
         --tidy) task=tidy ;;
         --format) task=format ;;
         --includes) task=includes ;;
@@ -126,6 +130,10 @@ if $sanitize; then
         packages+=(libclang-rt-dev)
     fi
     preset+=-sanitize
+fi
+if $release; then
+    [[ $preset == test ]] || fail "--release goes with neither --clang nor --sanitize."
+    preset+=-release
 fi
 folder=$project/build-$preset
 
