@@ -51,6 +51,8 @@ TEST_F(TheWindow, opensTheScreenInTheHallByF11AndComesBackByEscape)
     hands.press({"Escape"});
     EXPECT_TRUE(until([this] { return shownHall() == nullptr && window().isActiveWindow(); }));
     EXPECT_EQ(plan(), before);
+    // The window manager has its own say about where keys go once the hall is gone.
+    byHand("search --onlyvisible --name Planning windowactivate --sync");
     hands.press({"F11"}); // and again
     EXPECT_TRUE(until([] { return shownHall() != nullptr && shownHall()->plan().isThere(); }));
     window().close();
