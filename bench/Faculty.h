@@ -21,8 +21,8 @@ public:
     /// The program, started up and shown, without a window. `port` replaces the server's own
     /// (0: leave it); `plain` sends one statement per question.
     [[nodiscard]] std::unique_ptr<shell::Shell> open(bool plain, quint16 port = 0) const;
-    /// Whatever is started between this call and the end of what it returns finds the server at
-    /// that port.
+    /// Of a faculty on a server: whatever is started between this call and the end of what it
+    /// returns finds the server at that port.
     [[nodiscard]] std::shared_ptr<void> reachedAt(quint16 port) const;
     /// What opens the database, and what opens it at that port.
     [[nodiscard]] QString connectString() const { return m_database.connectString(); }

@@ -1,6 +1,7 @@
 #include "app/PrinterChoice.h"
 
-#include <QFileDialog>
+#include "app/SaveDialog.h"
+
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -22,15 +23,11 @@ bool choosePrinter(QWidget* window, QPrinter& printer, const QString& title, int
 
 bool choosePdfFile(QWidget* window, QPrinter& printer)
 {
-    const QString ending = QStringLiteral(".pdf");
-    QString path = QFileDialog::getSaveFileName(
+    const QString path = askWhereToSave(
         window, QStringLiteral("Aucune imprimante n’est installée : enregistrer en PDF"),
-        printer.docName() + ending, QStringLiteral("PDF (*.pdf)"));
+        printer.docName() + QStringLiteral(".pdf"), {QStringLiteral("pdf")});
     if (path.isEmpty()) {
         return false;
-    }
-    if (!path.endsWith(ending, Qt::CaseInsensitive)) { // typed without an ending
-        path += ending;
     }
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(path);

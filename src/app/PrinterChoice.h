@@ -13,7 +13,8 @@ namespace app
 [[nodiscard]] bool choosePrinter(QWidget* window, QPrinter& printer, const QString& title,
                                  int sheets);
 
-/// Lets the user name a PDF file to print into. False when the user turns it down.
+/// Lets the user name a PDF file to print into, where there is no printer. False when the user
+/// turns it down.
 [[nodiscard]] bool choosePdfFile(QWidget* window, QPrinter& printer);
 
 /// Whether the platform's own dialog prints into files, too, and so serves without any printer.

@@ -49,12 +49,6 @@ TEST_F(APdfFile, isNamedByTheUser)
     EXPECT_EQ(printer().outputFormat(), QPrinter::PdfFormat);
 }
 
-TEST_F(APdfFile, hasItsEndingWhateverIsTyped)
-{
-    EXPECT_TRUE(choose([&](QFileDialog& dialog) { save(dialog, path("couloir")); }));
-    EXPECT_EQ(printer().outputFileName(), path("couloir.pdf"));
-}
-
 TEST_F(APdfFile, canBeTurnedDown)
 {
     EXPECT_FALSE(choose([](QFileDialog& dialog) { dialog.reject(); }));

@@ -17,8 +17,9 @@ class EngineDesk
 public:
     /// `through`: the connection string, when it is not the database's own.
     explicit EngineDesk(const TestDatabase& database, bool plain = false,
-                        const QString& through = {})
-        : engine(surroundings(plain), {nullptr, nullptr, connection, state})
+                        const QString& through = {}, db::Database::Patience patience = {})
+        : connection(std::make_shared<db::Database>(database.usesMySql(), patience)),
+          engine(surroundings(plain), {nullptr, nullptr, connection, state})
     {
         engine.chooseDatabase(database.usesMySql());
         form.Combo10.design({"1ère Sem. d'Examen", "2ème Sem. d'Examen", "Sem. de Contrôle"}, 0);
@@ -69,7 +70,7 @@ public:
     /// The message boxes shown, "title: text".
     QStringList messages;
     /// What the engine sends its statements over.
-    std::shared_ptr<db::Database> connection = std::make_shared<db::Database>();
+    std::shared_ptr<db::Database> connection;
     std::shared_ptr<plan::PlanState> state = std::make_shared<plan::PlanState>();
     engine::Engine engine;
     form::PlanForm& form = engine.form();

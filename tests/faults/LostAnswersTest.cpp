@@ -6,7 +6,6 @@
 #include "support/CuttingProxy.h"
 #include "support/MariaDbServer.h"
 
-#include <QDeadlineTimer>
 #include <atomic>
 #include <chrono>
 #include <future>
@@ -48,14 +47,14 @@ protected:
         return kAll - passing;
     }
 
-    /// Refreshes a plan whose server answers again, until it shows everything: after an attempt to
-    /// connect that has taken long, as on a busy machine, none is made for two seconds.
-    static void comeBack(EngineDesk& desk, const ShownCells& whole)
+    /// A plan over that server which connects anew whenever it has to. The program waits two
+    /// seconds after an attempt that has taken long, as any may on a busy machine.
+    [[nodiscard]] EngineDesk deskThroughTheProxy()
     {
-        const QDeadlineTimer deadline(std::chrono::seconds(20));
-        do {
-            desk.engine.refreshPlan();
-        } while (shownCells(desk.engine.content()) != whole && !deadline.hasExpired());
+        db::Database::Patience patience;
+        patience.failed = std::chrono::milliseconds(-1);
+        return EngineDesk(database, GetParam().plain, proxy.through(database.connectString()),
+                          patience);
     }
 
     /// A start that loses nothing.
@@ -117,7 +116,7 @@ std::string lossName(const testing::TestParamInfo<Loss>& info)
 
 TEST_P(ALostAnswer, atAnyCommandOfThePlanShowsNoRoomAsFree)
 {
-    EngineDesk desk(database, GetParam().plain, proxy.through(database.connectString()));
+    EngineDesk desk = deskThroughTheProxy();
     desk.form.Check2.setChecked(true); // make-ups, too
     const int commands = commandsOf(desk);
     const ShownCells whole = shownCells(desk.engine.content());
@@ -129,7 +128,7 @@ TEST_P(ALostAnswer, atAnyCommandOfThePlanShowsNoRoomAsFree)
         desk.engine.refreshPlan();
         expectNothingFreed(whole, desk.engine.content(), which);
         loseAfter(kAll, 0);
-        comeBack(desk, whole);
+        desk.engine.refreshPlan();
         EXPECT_EQ(shownCells(desk.engine.content()), whole)
             << which.toStdString() << ": "
             << plan::faultDetails(desk.engine.content()).toStdString();
@@ -138,7 +137,7 @@ TEST_P(ALostAnswer, atAnyCommandOfThePlanShowsNoRoomAsFree)
 
 TEST_P(ALostAnswer, onceIsNoticedByNobody)
 {
-    EngineDesk desk(database, GetParam().plain, proxy.through(database.connectString()));
+    EngineDesk desk = deskThroughTheProxy();
     const ShownCells whole = shownCells(desk.engine.content());
     const int commands = commandsOf(desk);
     for (int cut = 0; cut < commands; cut += GetParam().step) {
@@ -154,7 +153,7 @@ TEST_P(ALostAnswer, onceAtTheStartIsNoticedByNobody)
     const Starts starts = countStarts();
     for (int cut = starts.connecting; cut < starts.commands; cut += GetParam().step) {
         loseAfter(cut, 1);
-        const EngineDesk desk(database, GetParam().plain, proxy.through(database.connectString()));
+        const EngineDesk desk = deskThroughTheProxy();
         EXPECT_EQ(shownCells(desk.engine.content()), starts.whole) << cut;
         EXPECT_TRUE(desk.engine.content().faults.empty()) << cut;
         EXPECT_EQ(shownHeader(desk), starts.header) << cut;

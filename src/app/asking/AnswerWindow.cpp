@@ -2,10 +2,10 @@
 
 #include "answers/Words.h"
 #include "app/PlainTexts.h"
+#include "app/SaveDialog.h"
 #include "files/WholeFile.h"
 
 #include <QEvent>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -102,22 +102,12 @@ void AnswerWindow::tellSaved(const QString& path)
 
 void AnswerWindow::exportAnswer(files::AnswerKind kind, const files::AnswerDocument& document)
 {
-    QStringList filters;
     QStringList endings = files::answerEndings(kind);
     endings.move(0, endings.size() - 1); // JSON, for other programs, comes last
-    for (const QString& ending : endings) {
-        filters << QStringLiteral("%1 (*.%2)").arg(ending.toUpper(), ending);
-    }
-    QString chosen;
     const QString name = QString(document.title).replace(u'/', u'-');
-    QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Exporter"), name,
-                                                filters.join(QStringLiteral(";;")), &chosen);
+    const QString path = askWhereToSave(this, QStringLiteral("Exporter"), name, endings);
     if (path.isEmpty()) {
         return;
-    }
-    if (files::answerFormatOf(kind, path) == nullptr) { // typed without an ending
-        const auto index = std::max<qsizetype>(filters.indexOf(chosen), 0);
-        path += u'.' + endings.at(index);
     }
     const files::AnswerFormat& format = *files::answerFormatOf(kind, path);
     try {

@@ -4,19 +4,12 @@
 
 using namespace setup;
 
-TEST(DriverAdvice, namesWhatThePlatformInstalls)
+TEST(DriverAdvice, namesWhatWindowsInstalls)
 {
-#ifdef Q_OS_WIN
     EXPECT_EQ(howToGetDriver(SourceKind::SqliteFile),
               "Installez « SQLite3 ODBC Driver », 64 bits.");
     EXPECT_EQ(howToGetDriver(SourceKind::Server),
               "Installez le pilote ODBC de MariaDB ou de MySQL, 64 bits.");
     EXPECT_TRUE(howToGetDriver(SourceKind::Access).contains("Access de Microsoft, 64 bits"));
-#else
-    EXPECT_EQ(howToGetDriver(SourceKind::SqliteFile),
-              "Installez le paquet Debian « libsqliteodbc ».");
-    EXPECT_EQ(howToGetDriver(SourceKind::Server), "Installez le paquet Debian « odbc-mariadb ».");
-    EXPECT_EQ(howToGetDriver(SourceKind::Access), "Une base Access se lit sous Windows.");
-#endif
     EXPECT_EQ(howToGetDriver(SourceKind::Demo), howToGetDriver(SourceKind::SqliteFile));
 }
