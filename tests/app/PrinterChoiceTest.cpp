@@ -23,11 +23,6 @@ protected:
         whenOpen<QFileDialog>(answer);
         return app::choosePdfFile(nullptr, m_printer);
     }
-    static void save(QFileDialog& dialog, const QString& path)
-    {
-        dialog.selectFile(path);
-        dynamic_cast<QDialog&>(dialog).accept();
-    }
     [[nodiscard]] const QPrinter& printer() const { return m_printer; }
 
 private:
@@ -42,7 +37,7 @@ TEST_F(APdfFile, isNamedByTheUser)
     QString offered;
     EXPECT_TRUE(choose([&](QFileDialog& dialog) {
         offered = dialog.selectedFiles().value(0);
-        save(dialog, path("couloir.pdf"));
+        saveAs(dialog, path("couloir.pdf"));
     }));
     EXPECT_TRUE(offered.endsWith("/Occupation des Salles du Lundi.pdf")) << offered.toStdString();
     EXPECT_EQ(printer().outputFileName(), path("couloir.pdf"));

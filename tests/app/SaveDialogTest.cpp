@@ -35,8 +35,7 @@ protected:
             if (!filter.isEmpty()) {
                 dialog.selectNameFilter(filter);
             }
-            dialog.selectFile(path);
-            dynamic_cast<QDialog&>(dialog).accept();
+            saveAs(dialog, path);
         });
     }
     /// Presses that button of the question about a file that is there.
@@ -68,8 +67,7 @@ TEST_F(ASaveDialog, proposesANameAndTakesAnother)
     QString proposed;
     whenOpen<QFileDialog>([&](QFileDialog& dialog) {
         proposed = dialog.selectedFiles().value(0);
-        dialog.selectFile(path("lundi.HTML"));
-        dynamic_cast<QDialog&>(dialog).accept();
+        saveAs(dialog, path("lundi.HTML"));
     });
     EXPECT_EQ(ask(), path("lundi.HTML"));
     EXPECT_TRUE(proposed.endsWith("/Salles libres")) << proposed.toStdString();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QTimer>
 #include <functional>
 
@@ -21,6 +23,14 @@ void whenOpen(const std::function<void(Dialog&)>& act)
         }
     });
     timer->start(10);
+}
+
+/// Saves under that path in a dialog of the toolkit's own. Its `selectFile` leaves the name alone
+/// while the user is in that field.
+inline void saveAs(QFileDialog& dialog, const QString& path)
+{
+    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+    dynamic_cast<QDialog&>(dialog).accept();
 }
 
 } // namespace test
