@@ -16,9 +16,9 @@ if(TEMPORA_WERROR)
   target_compile_options(tempora_options INTERFACE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX,-Werror>)
 endif()
 if(TEMPORA_SANITIZE)
-  target_compile_options(tempora_options INTERFACE -fsanitize=address,undefined
+  target_compile_options(tempora_options INTERFACE -fsanitize=${TEMPORA_SANITIZERS}
     -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-  target_link_options(tempora_options INTERFACE -fsanitize=address,undefined)
+  target_link_options(tempora_options INTERFACE -fsanitize=${TEMPORA_SANITIZERS})
   # The SQLite driver loads this library for every connection and unloads it again, and what the
   # library caches is lost each time. It stays when the program itself holds it.
   target_link_libraries(tempora_options INTERFACE
@@ -33,7 +33,8 @@ if(TEMPORA_FUZZ)
     message(FATAL_ERROR "Fuzzers need clang and the sanitizers: set TEMPORA_SANITIZE=ON")
   endif()
   target_compile_options(tempora_options INTERFACE
-    $<$<BOOL:$<TARGET_PROPERTY:TEMPORA_WATCHED>>:-fsanitize=fuzzer-no-link>)
+    $<$<BOOL:$<TARGET_PROPERTY:TEMPORA_WATCHED>>:-fsanitize=fuzzer-no-link
+    -fsanitize-coverage-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/unwatched.txt>)
 endif()
 
 # A dozen files that are compiled as one take less than half of the time, because most of it goes into the

@@ -25,9 +25,11 @@ public:
 private:
     void skipBlanks()
     {
-        while (!m_rest.isEmpty() && QStringView(u" \t\r\n").contains(m_rest.front())) {
-            m_rest = m_rest.mid(1);
-        }
+        const auto* const end = std::find_if_not(m_rest.begin(), m_rest.end(), [](QChar character) {
+            return character == u' ' || character == u'\t' || character == u'\r' ||
+                   character == u'\n';
+        });
+        m_rest = m_rest.mid(end - m_rest.begin());
     }
     /// Takes these characters. False where others stand.
     bool take(QStringView characters)
@@ -98,20 +100,21 @@ private:
     std::optional<QJsonValue> string()
     {
         QString text;
-        while (!m_rest.isEmpty()) {
-            const QChar character = m_rest.front();
-            m_rest = m_rest.mid(1);
-            if (character == u'"') {
+        for (;;) {
+            const auto* const end = std::find_if(m_rest.begin(), m_rest.end(), [](QChar character) {
+                return character == u'"' || character == u'\\' || character < u' ';
+            });
+            text += m_rest.left(end - m_rest.begin());
+            m_rest = m_rest.mid(end - m_rest.begin());
+            if (take(u"\"")) {
                 return text;
             }
-            const std::optional<QChar> meant =
-                character == u'\\' ? escaped() : std::optional<QChar>(character);
-            if (character < u' ' || !meant) {
+            const std::optional<QChar> meant = take(u"\\") ? escaped() : std::nullopt;
+            if (!meant) {
                 return std::nullopt;
             }
             text += *meant;
         }
-        return std::nullopt;
     }
 
     /// Behind its backslash.

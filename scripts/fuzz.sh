@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
 # Runs the fuzzers of fuzz/ and says what was run. Installs what is missing first.
 #
-#   scripts/fuzz.sh [--runs N] [--seconds S] [--only NAME]... [--jobs N] [--keep]
+#   scripts/fuzz.sh [--runs N] [--seconds S] [--only NAME]... [--jobs N] [--keep] [--light]
 #
 # --runs     of each fuzzer, 10,000,000 unless told; one that finds a fault ends there
 # --seconds  an end for each fuzzer all the same
 # --only     this fuzzer alone: a folder of fuzz/corpus
 # --jobs     fuzzers side by side, one unless told
 # --keep     adds what reached new code to fuzz/corpus; look at it before it is committed
+# --light    in build-fuzz-light, without the address sanitizer, which takes most of the time: the
+#            properties, undefined behaviour and the library's own checks of its indices are watched.
+#            For many runs, after some without --light
 #
 # What is found stays in build-fuzz/found/NAME and is where the next run begins. An input that a
 # fault came from lies in build-fuzz/faults; then the exit code is 1. It runs again with
@@ -55,13 +58,13 @@ keep_found() {
     done
 }
 
-folder=$project/build-fuzz
 # Memory that was freed is watched for a while; the default of 256 MB makes the fuzzers slow, as
 # does remembering where each piece came from. A fault is looked at by running its input again.
 export ASAN_OPTIONS=quarantine_size_mb=8:malloc_context_size=1:${ASAN_OPTIONS:-}
 export UBSAN_OPTIONS=print_stacktrace=1:${UBSAN_OPTIONS:-}
 if [[ ${1:-} == --one ]]; then
-    shift
+    folder=$2
+    shift 2
     run_one "$@"
     exit
 fi
@@ -70,6 +73,7 @@ runs=10000000
 seconds=0
 jobs=1
 keep=false
+preset=fuzz
 names=()
 while (($# > 0)); do
     case $1 in
@@ -78,10 +82,12 @@ while (($# > 0)); do
         --jobs) jobs=${2:?} && shift ;;
         --only) names+=("${2:?}") && shift ;;
         --keep) keep=true ;;
-        *) fail "scripts/fuzz.sh takes --runs, --seconds, --only, --jobs and --keep, not: $1" ;;
+        --light) preset=fuzz-light ;;
+        *) fail "scripts/fuzz.sh takes --runs, --seconds, --only, --jobs, --keep and --light, not: $1" ;;
     esac
     shift
 done
+folder=$project/build-$preset
 cd "$project/fuzz/corpus"
 ((${#names[@]} > 0)) || names=(*)
 for name in "${names[@]}"; do
@@ -90,7 +96,7 @@ done
 cd "$project"
 
 ensure_packages "${build_packages[@]}" ccache clang libclang-rt-dev lld
-configure "$folder" fuzz
+configure "$folder" "$preset"
 build "$folder" "${names[@]/#/fuzz_}"
 commit=$(git describe --always --dirty --exclude '*') # "-dirty" where something is not committed
 use_private_folders "$folder/home"
@@ -99,6 +105,6 @@ before=$(find "$folder/faults" -type f | sort)
 printf '| fuzzer | runs | seconds | edges | inputs | fault | commit |\n'
 printf -- '|---|---:|---:|---:|---:|---|---|\n'
 printf '%s\n' "${names[@]}" |
-    xargs -P "$jobs" -I '{}' "${BASH_SOURCE[0]}" --one '{}' "$runs" "$seconds" "$keep" "$commit"
+    xargs -P "$jobs" -I '{}' "${BASH_SOURCE[0]}" --one "$folder" '{}' "$runs" "$seconds" "$keep" "$commit"
 new=$(comm -13 <(printf '%s\n' "$before") <(find "$folder/faults" -type f | sort))
 [[ -z $new ]] || fail "Inputs that a fault came from:" "$new"
