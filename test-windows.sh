@@ -59,14 +59,19 @@ end_all() {
     end_wine
 }
 
+# Of the tests of databases on the driver that the installer brings: those on SQLite, with the machine's
+# manager and its faults out of the way. Its texts come in UTF-16.
+readonly on_driver='*sqlite*:-On/BoundPlaces.*/sqlite:OpenedFile.hasChangedWhereAnotherHasItsName'
+
 # Runs one test program; prints its line. Its words are kept. The platform is Windows' own, which has
 # the fonts: it needs no display. Wine drops what begins with QT_ from the environment, so that it is
 # told as an argument.
 run_tests() {
-    local name=$1 log=$work/$1.log code=0
+    local name=$1 log=$work/$1.log code=0 cases="-$left_out"
+    [[ $name != sqlite_driver ]] || cases=$on_driver
     use_odbc_folder "$work/odbc-$name"
     "$wine" "$bin/${name}_tests.exe" -platform windows --gtest_color=no \
-        --gtest_filter="-$left_out" >"$log" 2>&1 </dev/null ||
+        --gtest_filter="$cases" >"$log" 2>&1 </dev/null ||
         code=$?
     printf '%-12s %s\n' "$name" "$(sed -n 's/\r//; s/^\[==========\] \(.* ran\.\).*/\1/p
         s/^\[  PASSED  \] \(.*\)/ passed: \1/p; s/^\[  FAILED  \] \([0-9]* tests\?\),.*/ failed: \1/p' \

@@ -41,8 +41,16 @@ copy_licences() {
     mv "$place/copyright.txt" "$place/Qt-copyright.txt"
     cp "$qt/built-from" "$place/Qt-version.txt"
     cp /usr/share/doc/libsqlite3-dev/copyright "$place/SQLite-copyright.txt"
+    windows_text "$sqlite/driver-licence.txt" "$place/SQLite-ODBC.txt"
     cp /usr/share/doc/g++-mingw-w64-x86-64-posix/copyright "$place/gcc-copyright.txt"
     cp /usr/share/doc/mingw-w64-x86-64-dev/copyright "$place/mingw-w64-copyright.txt"
+}
+
+# SQLite's driver has an installer of its own: drivers are for all users, and an administrator's business.
+make_driver_installer() {
+    makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$(sed 's/.*, driver //; s/-.*//' "$sqlite/built-from")" \
+        -DDRIVER="$sqlite/bin/sqlite3odbc.dll" -DLICENCE="$files/licences/SQLite-ODBC.txt" \
+        -DICON="$build/tempora.ico" -DOUT="$files/pilote-sqlite.exe" "$here/pilote-sqlite.nsi"
 }
 
 gather_files() {
@@ -51,6 +59,7 @@ gather_files() {
     cmake --install "$build" --prefix "$files" --strip >/dev/null
     windows_text "$here/Lisez-moi.txt" "$files/Lisez-moi.txt"
     copy_licences
+    make_driver_installer
     make_demo
 }
 

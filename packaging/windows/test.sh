@@ -11,6 +11,8 @@ source "$project/packaging/windows/common.sh"
 source "$project/packaging/windows/wine.sh"
 
 settings='HKCU\Software\VB and VBA Program Settings\Tempora\Settings'
+driver_key='HKLM\Software\ODBC\ODBCINST.INI\SQLite3 ODBC Driver'
+drivers='HKLM\Software\ODBC\ODBCINST.INI\ODBC Drivers'
 entry='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Tempora'
 screen=
 
@@ -33,29 +35,63 @@ open_screen() {
 
 is_there() { [[ -e $1 ]] || fail "Missing: $1"; }
 is_gone() { [[ ! -e $1 ]] || fail "Still there: $1"; }
+# Whether the value `$2` of the key `$1` is `$3`.
+says() {
+    "$wine" reg.exe query "$1" /v "$2" 2>/dev/null | tr -d '\r' | grep -qF "$3" ||
+        fail "Not $3 in the registry: $1, $2"
+}
 has_key() { "$wine" reg.exe query "$1" >/dev/null 2>&1; }
 
-ensure_packages "${wine_packages[@]}"
+ensure_packages "${wine_packages[@]}" unzip
 installer=$(find "$windows" -maxdepth 1 -name 'tempora-*-installateur.exe')
 [[ -n $installer ]] || fail "There is no installer: run packaging/windows/package.sh"
 trap end_all EXIT
 make_prefix
+register_drivers
 open_screen
 user=$(find "$WINEPREFIX/drive_c/users" -mindepth 1 -maxdepth 1 ! -name Public)
 place=$user/AppData/Local/Programs/Tempora
 menu="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Tempora"
-rm -rf "$place"
+rm -rf "$place" "$windows/test/unzipped"
 
 say "Installing ..."
 "$wine" "$installer" /S
 for file in tempora.exe tempora-setup.exe tempora-demo.exe Lisez-moi.txt Styles/Pastel.mpl \
-    docs/guide.md docs/images/plan.png translations/qtbase_fr.qm licences/LGPL-3.0-only.txt \
+    pilote-sqlite.exe docs/guide.md docs/images/plan.png translations/qtbase_fr.qm licences/LGPL-3.0-only.txt \
     licences/Relier.txt demonstration/faculte.sqlite desinstaller.exe; do
     is_there "$place/$file"
 done
 is_there "$menu/Tempora.lnk"
 is_there "$user/Desktop/Tempora.lnk"
 has_key "$entry" || fail "Windows does not know that it is installed."
+
+say "Installing SQLite's driver, and removing it ..."
+driver_place="$WINEPREFIX/drive_c/Program Files/SQLite3 ODBC Driver"
+rm -rf "$driver_place"
+"$wine" reg.exe delete "$driver_key" /f >/dev/null 2>&1 || true # what a run that failed has left
+"$wine" "$place/pilote-sqlite.exe" /S
+cmp "$driver_place/sqlite3odbc.dll" "$sqlite/bin/sqlite3odbc.dll"
+is_there "$driver_place/licence.txt"
+says "$drivers" 'SQLite3 ODBC Driver' Installed
+for word in Driver Setup; do
+    says "$driver_key" "$word" 'C:\Program Files\SQLite3 ODBC Driver\sqlite3odbc.dll'
+done
+"$wine" "$driver_place/desinstaller.exe" /S
+"$WINESERVER" -w
+is_gone "$driver_place"
+! has_key "$driver_key" || fail "Windows still knows the driver."
+says "$drivers" SQLite3 Installed # another one's
+"$wine" reg.exe add "$driver_key" /v Driver /d 'C:\windows\system32\odbc32.dll' /f >/dev/null 2>&1
+"$wine" "$place/pilote-sqlite.exe" /S
+is_gone "$driver_place"
+says "$driver_key" Driver 'C:\windows\system32\odbc32.dll' # somebody else's driver stays
+"$wine" reg.exe delete "$driver_key" /f >/dev/null 2>&1
+
+say "Comparing with the zip ..."
+unzip -q "$windows"/tempora-*-windows.zip -d "$windows/test/unzipped"
+diff -r "$place" "$windows"/test/unzipped/* | grep -v ': desinstaller.exe$' &&
+    fail "The zip holds something else than the installer."
+rm -rf "$windows/test/unzipped"
 
 say "Removing ..."
 mkdir "$place/app_data"

@@ -9,7 +9,8 @@ QString howToGetDriver(SourceKind kind)
     switch (kind) {
     case SourceKind::Demo:
     case SourceKind::SqliteFile:
-        return QStringLiteral("Installez « SQLite3 ODBC Driver », 64 bits.");
+        return QStringLiteral("Installez « SQLite3 ODBC Driver », 64 bits : pilote-sqlite.exe, "
+                              "dans le dossier de Tempora.");
     case SourceKind::Server:
         return QStringLiteral("Installez le pilote ODBC de MariaDB ou de MySQL, 64 bits.");
     case SourceKind::Access:

@@ -1,5 +1,6 @@
 #include "support/OdbcConfiguration.h"
 
+#include "support/ManagerSources.h"
 #include "support/TestFolder.h"
 
 #include <QFile>
@@ -34,6 +35,13 @@ OdbcConfiguration::OdbcConfiguration()
 }
 #endif
 
+OdbcConfiguration::~OdbcConfiguration()
+{
+    for (const QString& name : m_names) {
+        removeFromManager(name);
+    }
+}
+
 void OdbcConfiguration::addSqliteSource(const QString& name, const QString& file)
 {
     addSource(name, QStringLiteral("Driver=SQLite3\nDatabase=%1\n").arg(file));
@@ -46,6 +54,8 @@ void OdbcConfiguration::addBrokenSource(const QString& name)
 
 void OdbcConfiguration::addSource(const QString& name, const QString& lines)
 {
+    m_names += name;
+    addToManager(name, lines);
     m_sources += QStringLiteral("[%1]\n%2\n").arg(name, lines);
     writeFile(QFile::decodeName(qgetenv("ODBCINI")), m_sources);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace test
 {
@@ -12,6 +13,10 @@ class OdbcConfiguration
 public:
     /// The one configuration of the process, in force from the first call on.
     [[nodiscard]] static OdbcConfiguration& instance();
+    /// Takes away what the manager keeps elsewhere than in the process's own files.
+    ~OdbcConfiguration();
+    OdbcConfiguration(const OdbcConfiguration&) = delete;
+    OdbcConfiguration& operator=(const OdbcConfiguration&) = delete;
 
     /// Adds a data source over an SQLite file. The name must be new in this process: the driver
     /// manager remembers what it has once read.
@@ -26,6 +31,7 @@ private:
     OdbcConfiguration();
 
     QString m_sources;
+    QStringList m_names;
 };
 
 } // namespace test

@@ -13,6 +13,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 namespace app
 {
@@ -54,7 +55,7 @@ QLineEdit* addField(QFormLayout& form, const QString& label, const QString& name
 
 SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
     : m_wizard(wizard), m_details(details), m_found(found), m_present(plainLabel()),
-      m_told(toldLabel())
+      m_told(toldLabel()), m_installation(new QWidget)
 {
     setTitle(QStringLiteral("Où est votre emploi du temps ?"));
     setSubTitle(QStringLiteral("Tempora lit votre base, et n’y écrit que les absences."));
@@ -64,10 +65,7 @@ SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
     layout->addWidget(m_present);
     addChoice(*layout, SourceKind::Demo,
               QStringLiteral("&Essayer avec une faculté de démonstration"),
-              hasDriver(SourceKind::Demo)
-                  ? QStringLiteral("Une faculté inventée, pour voir. Rien d’autre n’est "
-                                   "nécessaire.")
-                  : QStringLiteral("Une faculté inventée, pour voir."));
+              QStringLiteral("Une faculté inventée, pour voir."));
     addChoice(*layout, SourceKind::SqliteFile, QStringLiteral("Ma base (&fichier SQLite)"),
               QStringLiteral("Un fichier sur ce poste ou sur un disque partagé."));
     addChoice(*layout, SourceKind::Server, QStringLiteral("Ma base (&MariaDB ou MySQL)"),
@@ -80,6 +78,9 @@ SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
         std::find_if(m_choices.begin(), m_choices.end(),
                      [this](const Choice& choice) { return hasDriver(choice.kind); });
     (possible == m_choices.end() ? m_choices.front() : *possible).button->setChecked(true);
+    addInstallation(*layout);
+    m_lookAgain.callOnTimeout(this, [this] { tellDrivers(); });
+    tellDrivers();
     layout->addStretch();
     layout->addWidget(m_told);
 }
@@ -89,14 +90,54 @@ void SetupKindPage::addChoice(QVBoxLayout& layout, SourceKind kind, const QStrin
 {
     auto* button = new QRadioButton(text);
     button->setObjectName(QStringLiteral("Kind%1").arg(static_cast<int>(kind)));
-    const QString all =
-        hasDriver(kind) ? sentence
-                        : QStringLiteral("%1 Il y faut le pilote ODBC %2, qui manque sur ce poste.")
-                              .arg(sentence, setup::ofDriver(kind));
-    button->setAccessibleDescription(all);
-    m_choices.push_back({button, kind});
+    m_choices.push_back({button, kind, sentence, sentenceLabel({})});
     layout.addWidget(button);
-    layout.addWidget(sentenceLabel(all));
+    layout.addWidget(m_choices.back().told);
+}
+
+void SetupKindPage::addInstallation(QVBoxLayout& layout)
+{
+    auto* row = new QHBoxLayout(m_installation);
+    row->setContentsMargins(0, 8, 0, 0);
+    auto* install = new QPushButton(QStringLiteral("&Installer le pilote de SQLite…"));
+    install->setObjectName(QStringLiteral("InstallDriver"));
+    connect(install, &QPushButton::clicked, this, [this] { installDriver(); });
+    row->addWidget(install);
+    row->addWidget(plainLabel(QStringLiteral("Windows demandera l’accord d’un administrateur.")));
+    row->addStretch();
+    layout.addWidget(m_installation);
+}
+
+void SetupKindPage::tellDrivers()
+{
+    for (const Choice& choice : m_choices) {
+        QString all = choice.sentence;
+        if (!hasDriver(choice.kind)) {
+            all += QStringLiteral(" Il y faut le pilote ODBC %1, qui manque sur ce poste.")
+                       .arg(setup::ofDriver(choice.kind));
+        } else if (choice.kind == SourceKind::Demo) {
+            all += QStringLiteral(" Rien d’autre n’est nécessaire.");
+        }
+        choice.told->setText(all);
+        choice.button->setAccessibleDescription(all);
+    }
+    const bool isThere = hasDriver(SourceKind::SqliteFile);
+    m_installation->setVisible(m_wizard.ties().installSqliteDriver != nullptr && !isThere);
+    if (isThere && m_lookAgain.isActive()) {
+        m_lookAgain.stop();
+        m_told->clear();
+    }
+}
+
+void SetupKindPage::installDriver()
+{
+    if (m_wizard.ties().installSqliteDriver()) {
+        m_told->setText(QStringLiteral("Une fois le pilote installé, continuez par « Suivant »."));
+        m_lookAgain.start(std::chrono::milliseconds(500));
+    } else {
+        m_told->setText(QStringLiteral("L’installation n’a pas commencé. Ouvrez vous-même "
+                                       "pilote-sqlite.exe, dans le dossier de Tempora."));
+    }
 }
 
 bool SetupKindPage::hasDriver(SourceKind kind) const

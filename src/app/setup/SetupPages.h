@@ -2,6 +2,7 @@
 
 #include "setup/Source.h"
 
+#include <QTimer>
 #include <QWizardPage>
 #include <vector>
 
@@ -32,10 +33,15 @@ private:
     struct Choice {
         QRadioButton* button;
         setup::SourceKind kind;
+        QString sentence;
+        QLabel* told; ///< the sentence, and what is missing
     };
 
     void addChoice(QVBoxLayout& layout, setup::SourceKind kind, const QString& text,
                    const QString& sentence);
+    void addInstallation(QVBoxLayout& layout);
+    void tellDrivers();
+    void installDriver();
     [[nodiscard]] bool hasDriver(setup::SourceKind kind) const;
     [[nodiscard]] setup::SourceKind chosen() const;
 
@@ -44,6 +50,8 @@ private:
     int m_found;
     QLabel* m_present;
     QLabel* m_told;
+    QWidget* m_installation;
+    QTimer m_lookAgain; ///< while a driver is being installed, which nobody tells us the end of
     std::vector<Choice> m_choices;
 };
 

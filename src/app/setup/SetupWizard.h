@@ -33,6 +33,9 @@ public:
         /// Opens the plan, once all is written.
         std::function<void()> openPlan;
         bool offersAccess = false; ///< on Windows
+        /// Starts the program that installs SQLite's driver, and does not wait for it. False where
+        /// it could not be started. Empty where there is no such program.
+        std::function<bool()> installSqliteDriver;
     };
 
     SetupWizard(shell::Settings settings, Ties ties);

@@ -57,6 +57,11 @@ app::SetupWizard::Ties tiesOf(const QStringList& planOptions)
     };
 #ifdef Q_OS_WIN
     ties.offersAccess = true;
+    const QString driver = besideThis(QStringLiteral("pilote-sqlite"));
+    if (QFileInfo::exists(driver)) {
+        // It asks for an administrator; this is Qt's way to let Windows ask.
+        ties.installSqliteDriver = [driver] { return QProcess::startDetached(driver, {}); };
+    }
 #endif
     return ties;
 }

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QWindow>
 #include <functional>
@@ -191,6 +192,40 @@ TEST_F(TheSetup, saysWhichDriverIsMissing)
     drivers = QStringList{"SQLite3"}; // installed meanwhile
     go(QWizard::NextButton);
     ASSERT_TRUE(shows("Found", "5 salles"));
+}
+
+TEST_F(TheSetup, installsSqlitesDriverWhereItLiesBesideTheProgram)
+{
+    drivers = QStringList{};
+    int installations = 0;
+    ties().installSqliteDriver = [&installations] { return ++installations > 1; };
+    show();
+    auto* button = wizard->currentPage()->findChild<QPushButton*>("InstallDriver");
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(button->isVisible());
+    hands.click(button);
+    ASSERT_TRUE(shows("Told", "L’installation n’a pas commencé."));
+    hands.click(button);
+    ASSERT_TRUE(shows("Told", "Une fois le pilote installé, continuez par « Suivant »."));
+    EXPECT_EQ(installations, 2);
+
+    drivers = QStringList{"SQLite3 ODBC Driver"};
+    EXPECT_TRUE(until([button] { return !button->isVisible(); }));
+    EXPECT_TRUE(wizard->currentPage()->findChild<QLabel*>("Told")->text().isEmpty());
+    const auto* demo = wizard->currentPage()->findChild<QRadioButton*>("Kind0");
+    EXPECT_EQ(demo->accessibleDescription(),
+              "Une faculté inventée, pour voir. Rien d’autre n’est nécessaire.");
+}
+
+TEST_F(TheSetup, doesNotOfferToInstallWhatIsThereOrWhatItDoesNotBring)
+{
+    drivers = QStringList{};
+    show();
+    EXPECT_FALSE(wizard->currentPage()->findChild<QPushButton*>("InstallDriver")->isVisible());
+    drivers = QStringList{"SQLite3"};
+    ties().installSqliteDriver = [] { return true; };
+    show();
+    EXPECT_FALSE(wizard->currentPage()->findChild<QPushButton*>("InstallDriver")->isVisible());
 }
 
 TEST_F(TheSetup, proposesTheFirstKindWhoseDriverIsThere)
