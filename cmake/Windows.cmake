@@ -1,14 +1,8 @@
-# What a program is given on Windows, and only there: icon, version and manifest, and the parts of Qt
-# that a static one must be told of.
+# What a program is given on Windows, and only there: icon, version and manifest, and the libraries that
+# Windows does not have.
 set(TEMPORA_MANIFEST ${PROJECT_SOURCE_DIR}/packaging/windows/tempora.manifest)
 if(WIN32)
   enable_language(RC)
-endif()
-if(MINGW)
-  # A library that is named by its file makes CMake end the line with the dynamic ones again, and the
-  # program would ask for gcc's own.
-  set(CMAKE_LINK_SEARCH_START_STATIC ON)
-  set(CMAKE_LINK_SEARCH_END_STATIC ON)
 endif()
 
 # The icon, out of the one drawing, for all programs: TEMPORA_ICON; empty where what draws it is not
@@ -65,15 +59,21 @@ function(tempora_windows_program target description)
   endif()
 endfunction()
 
-# A static Qt brings only those of its plugins that a program names: the window's platform, and the
-# one that draws in memory.
-#   tempora_windows_platforms(target)
-function(tempora_windows_platforms target)
-  get_target_property(kind Qt6::Core TYPE)
-  if(WIN32 AND kind STREQUAL "STATIC_LIBRARY")
-    qt_import_plugins(${target} INCLUDE Qt6::QWindowsIntegrationPlugin
-      Qt6::QOffscreenIntegrationPlugin)
+# Puts the libraries of the toolkit and of the compiler beside the programs, and the toolkit's plugins:
+# the window's platform, and the one that draws in memory. TEMPORA_WINDOWS_QT is the folder of a Qt as
+# packaging/windows/build-qt.sh leaves it; elsewhere whoever builds sees to them.
+function(tempora_windows_libraries)
+  if(NOT TEMPORA_WINDOWS_QT)
+    return()
   endif()
+  set(libraries "")
+  foreach(name Qt6Core Qt6Gui Qt6PrintSupport Qt6Widgets libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
+    list(APPEND libraries ${TEMPORA_WINDOWS_QT}/bin/${name}.dll)
+  endforeach()
+  tempora_beside_program(tempora_libraries . ${libraries})
+  set(platforms ${TEMPORA_WINDOWS_QT}/plugins/platforms)
+  tempora_beside_program(tempora_platforms platforms ${platforms}/qwindows.dll
+    ${platforms}/qoffscreen.dll)
 endfunction()
 
 # Puts the French texts of the toolkit's own dialogs beside the programs, which bring the toolkit along

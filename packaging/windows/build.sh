@@ -4,7 +4,7 @@
 #
 #   packaging/windows/build.sh [--tests] [--jobs N]
 #
-# The programs lie in build-windows/tempora/bin. They need nothing but what Windows has.
+# The programs lie in build-windows/tempora/bin, with the libraries that Windows does not have.
 set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 # shellcheck source=scripts/common.sh

@@ -1,5 +1,5 @@
-# Programs for 64-bit Windows with Debian's mingw-w64. Nothing of gcc's own is left to be delivered
-# beside a program: its libraries are linked in.
+# Programs for 64-bit Windows with Debian's mingw-w64. gcc's own libraries are delivered beside them, as
+# faults pass from Qt's to the program's.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -16,5 +16,3 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-
-set(CMAKE_EXE_LINKER_FLAGS_INIT -static)

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Makes what a Windows user is given: the zip, the installer, and the archive with which Qt can be
-# changed (LGPL). Builds the programs first; installs what is missing.
+# Makes what a Windows user is given: the zip and the installer. Builds the programs first; installs what
+# is missing.
 #
 #   packaging/windows/package.sh
 #
-# All three lie in build-windows/ afterwards.
+# Both lie in build-windows/ afterwards.
 set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 # shellcheck source=scripts/common.sh
@@ -36,7 +36,7 @@ copy_licences() {
     local place=$files/licences
     mkdir -p "$place"
     windows_text "$project/LICENSE" "$place/Tempora.txt"
-    windows_text "$here/Relier.txt" "$place/Relier.txt"
+    windows_text "$here/Changer-Qt.txt" "$place/Changer-Qt.txt"
     cp "$qt"/licences/*.txt "$place/"
     mv "$place/copyright.txt" "$place/Qt-copyright.txt"
     cp "$qt/built-from" "$place/Qt-version.txt"
@@ -69,51 +69,19 @@ make_zip() {
 }
 
 make_installer() {
-    local palette
-    for palette in "$files/Styles"/*.mpl; do
+    local file
+    (cd "$files" && printf '%s\n' Styles/*.mpl Qt6*.dll lib*.dll) | while read -r file; do
         # shellcheck disable=SC2016 # makensis expands it
-        printf 'Delete "$INSTDIR\\Styles\\%s"\n' "${palette##*/}"
-    done >"$work/palettes.nsh"
+        printf 'Delete "$INSTDIR\\%s"\n' "${file//\//\\}"
+    done >"$work/ours.nsh"
     makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFILES="$files" \
         -DICON="$build/tempora.ico" -DOUT="$windows/tempora-$version-installateur.exe" \
         "$here/tempora.nsi"
 }
 
-# The objects of the programs and the commands that link them, with $QT in the place of Qt's folder.
-make_relink_archive() {
-    local place=$work/tempora-$version-relink program file
-    mkdir -p "$place"
-    {
-        # shellcheck disable=SC2016 # the script that is written expands
-        printf '#!/bin/sh\n# Links the programs with the static Qt in the folder $1.\nset -eu\n'
-        # shellcheck disable=SC2016
-        printf 'QT=${1:?the folder of a static Qt for Windows}\ncd "$(dirname "$0")"\nmkdir -p bin\n'
-        for program in tempora tempora-setup tempora-demo; do
-            ninja -C "$build" -t commands "bin/$program.exe" | tail -n 1 |
-                sed "s|^: && ||; s| && :\$||; s|$qt/|\"\$QT\"/|g; s|$sqlite/||g; s|$build/||g"
-        done
-    } >"$place/relink.sh"
-    chmod +x "$place/relink.sh"
-    while read -r file; do
-        mkdir -p "$place/$(dirname "$file")"
-        if [[ -f $build/$file ]]; then
-            cp "$build/$file" "$place/$file"
-        else
-            cp "$sqlite/$file" "$place/$file"
-        fi
-    done < <(grep -oE '(^|[ "])([A-Za-z0-9_./-]+\.(obj|a|res))' "$place/relink.sh" | tr -d ' "' |
-        grep -v '^/' | sort -u)
-    cp "$qt/built-from" "$place/Qt-version.txt"
-    cp "$project/LICENSE" "$here/Relier.txt" "$place/"
-    tar -C "$work" --sort=name --owner=0 --group=0 -cJf "$windows/tempora-$version-relink.tar.xz" \
-        "${place##*/}"
-}
-
-ensure_packages "${wine_packages[@]}" libsqlite3-dev nsis xz-utils zip
+ensure_packages "${wine_packages[@]}" libsqlite3-dev nsis zip
 "$here/build.sh"
 gather_files
 make_zip
 make_installer
-make_relink_archive
-printf '%s\n' "$windows/$name.zip" "$windows/tempora-$version-installateur.exe" \
-    "$windows/tempora-$version-relink.tar.xz"
+printf '%s\n' "$windows/$name.zip" "$windows/tempora-$version-installateur.exe"

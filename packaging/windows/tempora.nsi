@@ -45,8 +45,9 @@ VIAddVersionKey /LANG=1036 "LegalCopyright" "The Tempora authors, MIT License"
   RMDir /r "$INSTDIR\docs"
   RMDir /r "$INSTDIR\licences"
   RMDir /r "$INSTDIR\translations"
-  ; The palettes by their names: users keep palettes of their own beside them.
-  !include "${FILES}/../palettes.nsh"
+  RMDir /r "$INSTDIR\platforms"
+  ; Palettes and libraries by their names: users keep palettes of their own beside them.
+  !include "${FILES}/../ours.nsh"
   RMDir "$INSTDIR\Styles"
 !macroend
 

@@ -56,9 +56,9 @@ rm -rf "$place" "$windows/test/unzipped"
 
 say "Installing ..."
 "$wine" "$installer" /S
-for file in tempora.exe tempora-setup.exe tempora-demo.exe Lisez-moi.txt Styles/Pastel.mpl \
+for file in Qt6Widgets.dll platforms/qwindows.dll tempora.exe tempora-setup.exe tempora-demo.exe Lisez-moi.txt Styles/Pastel.mpl \
     pilote-sqlite.exe docs/guide.md docs/images/plan.png translations/qtbase_fr.qm licences/LGPL-3.0-only.txt \
-    licences/Relier.txt demonstration/faculte.sqlite desinstaller.exe; do
+    licences/Changer-Qt.txt demonstration/faculte.sqlite desinstaller.exe; do
     is_there "$place/$file"
 done
 is_there "$menu/Tempora.lnk"
