@@ -91,6 +91,12 @@ QString AbsenceRecords::studentSearch(const Marqueur& marker, const QString& cla
            u'=' + dialect.literal(marker.Debut);
 }
 
+QString AbsenceRecords::studentSearch(const Marqueur& marker, const QString& className,
+                                      const QString& name) const
+{
+    return studentSearch(marker, className, QStringLiteral(" "), name);
+}
+
 bool AbsenceRecords::holds(const QStringList& names) const
 {
     const db::SqlDialect dialect = m_database.dialect();
@@ -111,7 +117,7 @@ bool AbsenceRecords::Existe_AbsClasse(const Marqueur& marker, const QString& cla
 bool AbsenceRecords::Existe_AbsEtud(const Marqueur& marker, const QString& className,
                                     const QString& name)
 {
-    return exists(studentSearch(marker, className, QStringLiteral(" "), name));
+    return exists(studentSearch(marker, className, name));
 }
 
 bool AbsenceRecords::removeFirst(const Removal& removal)

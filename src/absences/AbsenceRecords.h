@@ -38,6 +38,11 @@ public:
     /// with nothing written; any database error as above.
     void Basculer_AbsEtud(plan::Marqueur& marker, const QString& className, const QString& name);
 
+    /// What the two tests send.
+    [[nodiscard]] QString classSearch(const plan::Marqueur& marker, const QString& className) const;
+    [[nodiscard]] QString studentSearch(const plan::Marqueur& marker, const QString& className,
+                                        const QString& name) const;
+
     /// How many toggles there have been: what was known of the tables before counts no more.
     [[nodiscard]] int toggleCount() const { return m_toggles; }
 
@@ -55,7 +60,6 @@ private:
     /// program has removed it meanwhile. Error: StatementRefused, too, for a record of a class that
     /// is not the gesture's.
     [[nodiscard]] bool removeFirst(const Removal& removal);
-    [[nodiscard]] QString classSearch(const plan::Marqueur& marker, const QString& className) const;
     /// `blanks`: those before the condition on the name.
     [[nodiscard]] QString studentSearch(const plan::Marqueur& marker, const QString& className,
                                         const QString& blanks, const QString& name) const;

@@ -111,8 +111,9 @@ bool PageAbsences::Existe_AbsClasse(const plan::Marqueur& marker, const QString&
     if (m_classes && isPrepared(marker, className)) {
         return m_classes->contains({className, marker.Debut});
     }
-    return m_tables[kClasses].ask({className, marker.Debut}, m_database.dialect(),
-                                  [&] { return m_plain.Existe_AbsClasse(marker, className); });
+    return m_tables[kClasses].ask(
+        {{className, marker.Debut}, m_plain.classSearch(marker, className), {}},
+        m_database.dialect(), [&] { return m_plain.Existe_AbsClasse(marker, className); });
 }
 
 bool PageAbsences::Existe_AbsEtud(const plan::Marqueur& marker, const QString& className,
@@ -121,8 +122,9 @@ bool PageAbsences::Existe_AbsEtud(const plan::Marqueur& marker, const QString& c
     if (m_students && className == name && isPrepared(marker, className)) {
         return m_students->contains({className, marker.Debut});
     }
-    return m_tables[kStudents].ask({className, name, marker.Debut}, m_database.dialect(),
-                                   [&] { return m_plain.Existe_AbsEtud(marker, className, name); });
+    return m_tables[kStudents].ask(
+        {{className, name, marker.Debut}, m_plain.studentSearch(marker, className, name), {}},
+        m_database.dialect(), [&] { return m_plain.Existe_AbsEtud(marker, className, name); });
 }
 
 } // namespace absences

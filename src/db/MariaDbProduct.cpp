@@ -4,6 +4,7 @@
 #include "db/DeletionSql.h"
 #include "db/ResultReader.h"
 #include "db/Session.h"
+#include "db/StatementReading.h"
 
 #include <QRegularExpression>
 
@@ -150,6 +151,14 @@ Failure MariaDbProduct::failureOf(const Diagnostics& diagnostics) const
 SqlDialect MariaDbProduct::dialect(const SqlDialect& bySetting) const
 {
     return bySetting.ofMySql(m_server.backslashEscapes);
+}
+
+QString MariaDbProduct::adapted(const QString& sql) const
+{
+    if (sql.contains(u'%') && !keepsToItsLiterals(sql, m_server.backslashEscapes)) {
+        throw nameRefused();
+    }
+    return sql;
 }
 
 bool MariaDbProduct::deleteFirst(const QString& sql, Session& session) const

@@ -1,37 +1,11 @@
 #include "db/SqlDialect.h"
 
+#include "db/StatementReading.h"
+
 #include <algorithm>
-#include <array>
 
 namespace db
 {
-namespace
-{
-
-/// Whether drivers and servers read the character as it stands, wherever it does.
-bool isHarmless(QChar character)
-{
-    return character != u'\\' && character != u'\0' && character != u'{' && character != u'}';
-}
-
-/// Whether a condition, or the statement behind it, may go on with the word after a literal.
-bool goesOn(const QString& word)
-{
-    constexpr std::array words{
-        u"and",    u"or",        u"xor",    u"not",    u"is",      u"isnull",    u"notnull",
-        u"in",     u"like",      u"ilike",  u"alike",  u"rlike",   u"regexp",    u"glob",
-        u"match",  u"similar",   u"sounds", u"member", u"between", u"collate",   u"escape",
-        u"div",    u"mod",       u"eqv",    u"imp",    u"at",      u"overlaps",  u"group",
-        u"having", u"order",     u"limit",  u"offset", u"fetch",   u"union",     u"intersect",
-        u"except", u"minus",     u"window", u"for",    u"lock",    u"procedure", u"into",
-        u"with",   u"returning", u"on",     u"as",     u"rows",    u"n",         u"x",
-        u"b",      u"then",      u"when",   u"else",   u"end",     u"asc",       u"desc"};
-    return std::any_of(words.begin(), words.end(), [&word](const char16_t* each) {
-        return word.compare(QStringView(each), Qt::CaseInsensitive) == 0;
-    });
-}
-
-} // namespace
 
 SqlDialect SqlDialect::ofMySql(bool backslashEscapes) const
 {
@@ -87,11 +61,7 @@ bool SqlDialect::isRefused(const QString& text) const
         return false;
     }
     // What stands before the quote is within the literal, and at the word the grammar gives up.
-    const QString behind = text.mid(endOfLiteral(text) + 1).trimmed();
-    const auto end = std::find_if_not(behind.begin(), behind.end(),
-                                      [](QChar character) { return character.isLetterOrNumber(); });
-    const QString word(behind.constData(), end - behind.begin());
-    return !word.isEmpty() && word.front().isLetter() && !goesOn(word);
+    return breaksOff(firstWord(QStringView(text).mid(endOfLiteral(text) + 1)));
 }
 
 /// Where the first quote stands that ends the literal; the text's size where the last one does, and

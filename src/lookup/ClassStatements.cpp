@@ -20,4 +20,14 @@ QString fromClass(const QString& className, const db::SqlDialect& dialect)
            column::kNom + u'=' + dialect.literal(className);
 }
 
+QString studentsSql(const QString& className, const db::SqlDialect& dialect)
+{
+    return QStringLiteral("Select *") + fromStudentsOf(className, dialect);
+}
+
+QString classSql(const QString& className, const db::SqlDialect& dialect)
+{
+    return QStringLiteral("select *") + fromClass(className, dialect);
+}
+
 } // namespace lookup

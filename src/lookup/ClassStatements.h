@@ -14,4 +14,8 @@ namespace lookup
 /// The rows that describe the class, likewise.
 [[nodiscard]] QString fromClass(const QString& className, const db::SqlDialect& dialect);
 
+/// The whole statements that ask about one class.
+[[nodiscard]] QString studentsSql(const QString& className, const db::SqlDialect& dialect);
+[[nodiscard]] QString classSql(const QString& className, const db::SqlDialect& dialect);
+
 } // namespace lookup

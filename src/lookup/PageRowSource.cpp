@@ -252,8 +252,11 @@ db::Recordset PageRowSource::timetableRows(const RoomQuestion& question)
     if (question.room.isEmpty()) { // asks about `Salle` alone, whatever column refuses the others
         return m_plain.timetableRows(question);
     }
-    return m_tables[question.table].ask({question.room}, m_database.dialect(),
-                                        [&] { return m_plain.timetableRows(question); });
+    const db::SqlDialect dialect = m_database.dialect();
+    return m_tables[question.table].ask({{question.room, question.seanceKey},
+                                         question.sql(dialect),
+                                         {question.tranche, question.examWeek}},
+                                        dialect, [&] { return m_plain.timetableRows(question); });
 }
 
 int PageRowSource::studentRows(const QString& className)
@@ -262,7 +265,8 @@ int PageRowSource::studentRows(const QString& className)
     if (rows != m_studentRows.constEnd()) {
         return *rows;
     }
-    return m_students.ask({className}, m_database.dialect(),
+    const db::SqlDialect dialect = m_database.dialect();
+    return m_students.ask({{className}, studentsSql(className, dialect), {}}, dialect,
                           [&] { return m_plain.studentRows(className); });
 }
 
@@ -272,7 +276,8 @@ db::Recordset PageRowSource::classRows(const QString& className)
     if (rows != m_classRows.constEnd()) {
         return *rows;
     }
-    return m_classes.ask({className}, m_database.dialect(),
+    const db::SqlDialect dialect = m_database.dialect();
+    return m_classes.ask({{className}, classSql(className, dialect), {}}, dialect,
                          [&] { return m_plain.classRows(className); });
 }
 

@@ -12,14 +12,12 @@ db::Recordset PlainRowSource::timetableRows(const RoomQuestion& question)
 
 int PlainRowSource::studentRows(const QString& className)
 {
-    return m_database.Db().recordCount(QStringLiteral("Select *") +
-                                       fromStudentsOf(className, m_database.dialect()));
+    return m_database.Db().recordCount(studentsSql(className, m_database.dialect()));
 }
 
 db::Recordset PlainRowSource::classRows(const QString& className)
 {
-    return m_database.Db().open(QStringLiteral("select *") +
-                                fromClass(className, m_database.dialect()));
+    return m_database.Db().open(classSql(className, m_database.dialect()));
 }
 
 } // namespace lookup

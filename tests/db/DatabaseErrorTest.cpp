@@ -62,7 +62,7 @@ TEST(ARefusedTable, isAskedOnceMoreAndThenNoLonger)
     int asked = 0;
     const auto ask = [&](const QString& name) {
         return test::errorOf([&] {
-                   table.ask({name}, SqlDialect(false), [&]() -> int {
+                   table.ask({{name}, {}, {}}, SqlDialect(false), [&]() -> int {
                        ++asked;
                        throw refusal();
                    });
@@ -80,12 +80,13 @@ TEST(ARefusedTable, isAskedOnWhileItAnswers)
 {
     RefusedTable table;
     table.suspect();
-    EXPECT_EQ(table.ask({"A1"}, SqlDialect(false), [] { return 1; }), 1);
-    EXPECT_EQ(table.ask({"A1"}, SqlDialect(false), [] { return 2; }), 2);
+    EXPECT_EQ(table.ask({{"A1"}, {}, {}}, SqlDialect(false), [] { return 1; }), 1);
+    EXPECT_EQ(table.ask({{"A1"}, {}, {}}, SqlDialect(false), [] { return 2; }), 2);
     // What is refused later is not the table's fault.
     const auto refused = [] { return throw refusal(), 0; };
-    EXPECT_THROW(std::ignore = table.ask({"A2"}, SqlDialect(false), refused), DatabaseError);
-    EXPECT_EQ(table.ask({"A1"}, SqlDialect(false), [] { return 3; }), 3);
+    EXPECT_THROW(std::ignore = table.ask({{"A2"}, {}, {}}, SqlDialect(false), refused),
+                 DatabaseError);
+    EXPECT_EQ(table.ask({{"A1"}, {}, {}}, SqlDialect(false), [] { return 3; }), 3);
 }
 
 TEST(ARefusedTable, isAskedAboutEachThingWhenThePageWasNotRefused)
@@ -93,7 +94,7 @@ TEST(ARefusedTable, isAskedAboutEachThingWhenThePageWasNotRefused)
     RefusedTable table;
     int asked = 0;
     for (int i = 0; i < 2; ++i) {
-        EXPECT_THROW(table.ask({"A1"}, SqlDialect(false),
+        EXPECT_THROW(table.ask({{"A1"}, {}, {}}, SqlDialect(false),
                                [&]() -> int {
                                    ++asked;
                                    throw refusal();
@@ -157,12 +158,30 @@ TEST(ARefusedTable, isNotAskedAboutANameWhoseStatementIsNone)
     RefusedTable table;
     bool asked = false;
     const auto error = test::errorOf([&] {
-        table.ask({"A1", "Salle d'informatique"}, SqlDialect(false), [&] { return asked = true; });
+        table.ask({{"A1", "Salle d'informatique"}, {}, {}}, SqlDialect(false),
+                  [&] { return asked = true; });
     });
     EXPECT_FALSE(asked);
     EXPECT_EQ(error.number(), ErrorNumber::StatementRefused);
     // Behind a name that ends early, the quotes of the next one may stand otherwise.
-    EXPECT_TRUE(table.ask({"A'", "Salle d'informatique"}, SqlDialect(false), [] { return true; }));
-    EXPECT_TRUE(table.ask({"Salle d'informatique"}, SqlDialect(false, SqlDialect::Quotes::Doubled),
+    EXPECT_TRUE(table.ask({{"A'", "Salle d'informatique"}, {}, {}}, SqlDialect(false),
                           [] { return true; }));
+    EXPECT_TRUE(table.ask({{"Salle d'informatique"}, {}, {}},
+                          SqlDialect(false, SqlDialect::Quotes::Doubled), [] { return true; }));
+}
+
+TEST(ARefusedTable, isNotAskedWhatTheWholeStatementIsRefusedFor)
+{
+    RefusedTable table;
+    bool asked = false;
+    const auto ask = [&](const RefusedTable::Question& question) {
+        return test::errorOf(
+            [&] { table.ask(question, SqlDialect(true), [&] { return asked = true; }); });
+    };
+    EXPECT_EQ(ask({{"L2 d'or"}, "Select * from etudiant WHERE Classe='L2 d'or'", {}}).number(),
+              ErrorNumber::StatementRefused);
+    EXPECT_FALSE(asked);
+    // A text that is not between quotes counts, too: it may hide the rest.
+    EXPECT_TRUE(table.ask({{"d'or"}, "Select * from e where S='d'or' and T =3 -- 2", {"3 -- 2"}},
+                          SqlDialect(true), [] { return true; }));
 }

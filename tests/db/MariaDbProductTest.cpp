@@ -110,3 +110,19 @@ TEST_F(OnAServer, aDateIsWrittenAsTheTextOfItsLiteral)
               QList<QStringList>({{"2026-10-05", "2026/10/05", "2026/10/05", "2026-10-05 00:00:00",
                                    "2026-10-05 00:00:00"}}));
 }
+
+/// The driver's library takes the server's message for a format: "%n" in it would end the program.
+TEST_F(OnAServer, aPerCentSignInABrokenStatementIsNeverQuotedByTheServer)
+{
+    database().execute("create table t (a varchar(40))");
+    database().execute("insert into t values ('TD %n%s%s%s'), ('l''un %n')");
+    Connection connection(database().connectString(), SqlDialect(true));
+    const long long before = connection.statementCount();
+    EXPECT_EQ(test::errorNumberOf([&] {
+                  std::ignore = connection.open("select * from t where a='Salle d'%n%s%s%s'");
+              }),
+              ErrorNumber::StatementRefused);
+    EXPECT_EQ(connection.statementCount(), before);
+    EXPECT_EQ(connection.open("select * from t where a='TD %n%s%s%s'").rows().size(), 1U);
+    EXPECT_EQ(connection.open("select * from t where a='l''un %n'").rows().size(), 1U);
+}

@@ -1,10 +1,12 @@
 #include "lookup/PageRowSource.h"
 
+#include "lookup/ClassStatements.h"
 #include "lookup/PlainRowSource.h"
 #include "support/RuntimeMatchers.h"
 #include "support/TinyFaculty.h"
 
 #include <optional>
+#include <random>
 
 using namespace lookup;
 using namespace test;
@@ -35,6 +37,7 @@ protected:
         action();
         return m_database->Db().statementCount() - before;
     }
+    [[nodiscard]] db::SqlDialect dialect() const { return m_database->dialect(); }
     [[nodiscard]] RoomQuestion question(const QString& room, const QString& key) const
     {
         return questions.question(questions.table, room, key);
@@ -223,18 +226,50 @@ TEST_P(TheRowsOfAPage, areFoundForARoomWithoutANameThoughAFurtherColumnIsMissing
 
 TEST_P(TheRowsOfAPage, askNothingAboutANameThatNoStatementHolds)
 {
-    questions.rooms << "Salle d'informatique";
+    const QStringList names{"Salle d'informatique", "Salle d'or", "Amphi'", "A'1"};
+    questions.rooms << names;
     static_cast<void>(page->prepare(questions));
-    EXPECT_EQ(statementsOf([&] {
-                  EXPECT_EQ(errorNumberOf([&] {
-                                std::ignore =
-                                    page->timetableRows(question("Salle d'informatique", "Lundi1"));
-                            }),
-                            runtime::ErrorNumber::StatementRefused);
-                  EXPECT_THROW(std::ignore = page->studentRows("1re année d'anglais"),
-                               runtime::RunTimeError);
-                  EXPECT_THROW(std::ignore = page->classRows("1re année d'anglais"),
-                               runtime::RunTimeError);
-              }),
-              0);
+    for (const QString& name : names) {
+        EXPECT_EQ(statementsOf([&] {
+                      EXPECT_EQ(errorNumberOf([&] {
+                                    std::ignore = page->timetableRows(question(name, "Lundi1"));
+                                }),
+                                runtime::ErrorNumber::StatementRefused);
+                      EXPECT_THROW(std::ignore = page->studentRows(name), runtime::RunTimeError);
+                      EXPECT_THROW(std::ignore = page->classRows(name), runtime::RunTimeError);
+                  }),
+                  0)
+            << name.toStdString();
+    }
+}
+
+/// What the page takes for certain the database confirms, for names put together at random.
+TEST_P(TheRowsOfAPage, areRefusedWhereThatIsCalledCertain)
+{
+    const QStringList pieces{"'",   "'",      "''",  "'",    " ",      "d",     "or",
+                             "and", "not",    " or", " in ", " like ", "Salle", "L2",
+                             "1",   "=",      "+",   "-",    "%",      ",",     " as ",
+                             " b",  " null ", "x",   " is ", " div ",  "|"};
+    std::mt19937 random(20261123); // always the same names
+    std::uniform_int_distribution<qsizetype> any(0, pieces.size() - 1);
+    const db::SqlDialect dialect = TheRowsOfAPage::dialect();
+    int refused = 0;
+    for (int round = 0; round < 3000; ++round) {
+        QString name;
+        for (int piece = 0; piece < 2 + round % 7; ++piece) {
+            name += pieces[any(random)];
+        }
+        const RoomQuestion asked = question(name, "Lundi1");
+        if (db::isCertainlyRefused(asked.sql(dialect), {name, "Lundi1", asked.tranche})) {
+            ++refused;
+            EXPECT_THROW(std::ignore = plain->timetableRows(asked), runtime::RunTimeError)
+                << name.toStdString();
+        }
+        if (db::isCertainlyRefused(studentsSql(name, dialect), {name})) {
+            ++refused;
+            EXPECT_THROW(std::ignore = plain->studentRows(name), runtime::RunTimeError)
+                << name.toStdString();
+        }
+    }
+    EXPECT_GT(refused, 1000);
 }
