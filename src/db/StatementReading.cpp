@@ -100,7 +100,7 @@ bool followsLiteral(QStringView code)
     const QStringView rest = code.trimmed();
     const QStringView word = firstWord(rest);
     return rest.isEmpty() || QStringView(u"),=<>|").contains(rest.front()) || goesOn(word) ||
-           isOneOf(word, {u"from", u"using", u"separator"});
+           isOneOf(word, {u"from", u"where", u"using", u"separator"});
 }
 
 } // namespace

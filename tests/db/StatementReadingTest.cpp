@@ -61,7 +61,7 @@ TEST(AStatement, keepsToItsLiteralsWhereTheseStandWhereTheyCan)
           "select a='x' as m, (b = 'y%') from t where c in ('1','2%') and d='' limit 1",
           "select t.* from t where a = 'l''or %n' order by b",
           "select case when a='%n' then '1' else '2' end from t",
-          "select 'x%' from t union all select '' from u"}) {
+          "select 'x%' from t union all select '' from u", "update t set a = '1%' where b = '2'"}) {
         EXPECT_TRUE(keepsToItsLiterals(sound, true)) << sound;
     }
     for (const char* broken :

@@ -203,6 +203,8 @@ const QStringList& oddNames()
         "' OR '1'='1",
         "x'; DROP TABLE salle; --",
         "%1 %s ${x} &amp; <b>",
+        "d'%n%s%s%s", // the library of MariaDB's driver takes what a server says for a format
+        "'%n",
         "=1+1",
         "A\tB",
         "A\r\nB",
