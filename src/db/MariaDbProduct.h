@@ -34,9 +34,9 @@ public:
 
     /// Its own, whatever the settings say of the data source.
     [[nodiscard]] SqlDialect dialect(const SqlDialect& bySetting) const override;
-    /// As it is. Error: Refused, without a call, for a statement with a per cent sign that a name has
-    /// broken up: the message that it failed with would quote it, and the driver's library takes
-    /// messages for formats: "%n" ends the program, others read memory that is not theirs.
+    /// As it is. Error: Refused, without a call, for a statement with a per cent sign that a name
+    /// has broken up: the message that it failed with would quote it, and the driver's library
+    /// takes messages for formats: "%n" ends the program, others read memory that is not theirs.
     [[nodiscard]] QString adapted(const QString& sql) const override;
     /// By one statement, so that two programs never delete the same row. Not through the cursor:
     /// the driver then looks for a row with the same text in every column, which finds none where a
