@@ -52,6 +52,10 @@ protected:
     Hands hands;
 };
 
+/// What has the focus in the plan's window at first, and gets it again when a window of answers
+/// closes; a key that is pressed before belongs to nobody.
+const QString kFirstField = QStringLiteral("Colorer");
+
 TEMPORA_ON_BOTH_DATABASES(TheProgramAloud);
 
 } // namespace
@@ -80,11 +84,11 @@ TEST_P(TheProgramAloud, tellsOverTheBusWhatTheAnswersSay)
     hands.type("lundi,8h30,100");
     expectAfter({"Down"}, "B1");
     EXPECT_EQ(reader->focusRole(), "tree item");
-    hands.press({"Escape"});
+    expectAfter({"Escape"}, kFirstField);
     expectAfter({"ctrl+f"}, "Enseignant, classe, salle ou matière");
     hands.type("dup");
     expectAfter({"Down"}, "Enseignant Dupont");
-    hands.press({"Escape"});
+    expectAfter({"Escape"}, kFirstField);
     expectAfter({"ctrl+w"}, "Semaine, Salle A1");
     hands.press({"Right"});
     ASSERT_TRUE(until([this] { return reader->focusName() == "Semaine, Salle A2"; }));
