@@ -21,7 +21,7 @@ constexpr std::size_t kMostBytes = 65535;
 /// As the manager has it: the home of the account, whatever HOME says (sudo keeps the caller's).
 QString usersFile()
 {
-    const QString told = qEnvironmentVariable("ODBCINI");
+    QString told = qEnvironmentVariable("ODBCINI");
     if (!told.isEmpty()) {
         return told;
     }

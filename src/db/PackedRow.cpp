@@ -57,7 +57,7 @@ QString packedWhole(Packing packing, const QStringList& columns)
 
 QString packed(Packing packing, const PackedColumns& columns)
 {
-    const QString all = packedWhole(packing, columns.names);
+    QString all = packedWhole(packing, columns.names);
     const QStringList rest = columns.names.mid(columns.usual);
     if (rest.isEmpty()) {
         return all;

@@ -70,17 +70,15 @@ qsizetype SqlDialect::endOfLiteral(const QString& text) const
 {
     qsizetype position = 0;
     while (position < text.size()) {
-        if (m_backslashEscapes && text[position] == u'\\') {
-            position += 2;
-        } else if (text[position] != u'\'') {
-            ++position;
-        } else if (position + 1 < text.size() && text[position + 1] == u'\'') {
-            position += 2;
-        } else if (position + 1 == text.size()) {
-            return text.size() + 1; // it forms a pair with the quote behind the text
-        } else {
-            return position;
+        const bool isEscaping = m_backslashEscapes && text[position] == u'\\';
+        const bool isQuote = text[position] == u'\'';
+        const bool isLast = position + 1 == text.size();
+        const bool isPair = isQuote && !isLast && text[position + 1] == u'\'';
+        if (isQuote && !isPair) {
+            // The last one forms a pair with the quote behind the text.
+            return isLast ? text.size() + 1 : position;
         }
+        position += isEscaping || isPair ? 2 : 1;
     }
     return position;
 }

@@ -30,7 +30,7 @@ timetable::Week other(timetable::Week week)
 QString daysWords(const std::vector<timetable::When>& days)
 {
     const timetable::When& first = days.front();
-    const QString day = answers::dayWords(first.day(), first.date());
+    QString day = answers::dayWords(first.day(), first.date());
     if (!first.isDate()) {
         return day + QStringLiteral(", ") + answers::weekWords(first.week());
     }
