@@ -4,8 +4,29 @@
 
 namespace setup
 {
+namespace
+{
 
-std::vector<Recommendation> recommendationsFor(const Findings& findings, const QString& styles)
+void followWhatIsSet(Recommendation& one, const shell::Settings& settings)
+{
+    const QString set = settings.get(one.key, QString());
+    if (!set.isEmpty() && set != one.value) {
+        one.isProposed = false;
+        one.refused = set;
+    }
+}
+
+QString paletteSentence(bool hasAnother)
+{
+    return hasAnother ? QStringLiteral("La palette « Pastel » ; sans elle la vôtre reste.")
+                      : QStringLiteral("La palette « Pastel » ; sans elle les couleurs sont tirées "
+                                       "au hasard à chaque ouverture.");
+}
+
+} // namespace
+
+std::vector<Recommendation> recommendationsFor(const Findings& findings, const QString& styles,
+                                               const shell::Settings& settings)
 {
     const QString yes = QStringLiteral("True");
     const QString no = QStringLiteral("False");
@@ -26,10 +47,13 @@ std::vector<Recommendation> recommendationsFor(const Findings& findings, const Q
     const QString palette = styles + QStringLiteral("/Pastel.mpl");
     if (QFileInfo::exists(palette)) {
         all.push_back({QStringLiteral("Palette"), palette, QString(),
-                       QStringLiteral("Couleurs douces"),
-                       QStringLiteral("La palette « Pastel » ; sans elle les couleurs sont tirées "
-                                      "au hasard à chaque ouverture."),
-                       true});
+                       QStringLiteral("Couleurs douces"), QString(), true});
+    }
+    for (Recommendation& one : all) {
+        followWhatIsSet(one, settings);
+    }
+    if (all.back().key == QStringLiteral("Palette")) {
+        all.back().sentence = paletteSentence(!all.back().isProposed);
     }
     return all;
 }

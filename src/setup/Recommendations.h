@@ -2,6 +2,7 @@
 
 #include "setup/Findings.h"
 #include "setup/Source.h"
+#include "shell/Settings.h"
 
 #include <QString>
 #include <vector>
@@ -13,15 +14,17 @@ namespace setup
 struct Recommendation {
     QString key;
     QString value;    ///< where it is accepted
-    QString refused;  ///< where it is not: the default
+    QString refused;  ///< where it is not: the default, or what has been set before
     QString label;    ///< in French
     QString sentence; ///< why, in French
     bool isProposed = true;
 };
 
 /// What is proposed for a database with these findings. `styles`: the folder of the palettes that
-/// ship with the program.
+/// ship with the program. What has been set otherwise before is proposed no more, and stays where
+/// the proposal is not accepted.
 [[nodiscard]] std::vector<Recommendation> recommendationsFor(const Findings& findings,
-                                                             const QString& styles);
+                                                             const QString& styles,
+                                                             const shell::Settings& settings);
 
 } // namespace setup

@@ -1,5 +1,6 @@
 #include "setup/Recommendations.h"
 
+#include "setup/Registration.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,12 @@ using namespace setup;
 
 namespace
 {
+
+/// Settings of somebody who has set nothing yet, until a test does.
+shell::Settings nothingSet()
+{
+    return shell::Settings::fromFile(test::processFolder() + "/recommandations.ini");
+}
 
 QStringList keysOf(const std::vector<Recommendation>& all)
 {
@@ -24,7 +31,7 @@ TEST(Recommendations, areFourWhereThePaletteShips)
 {
     const QString styles = test::processFolder() + "/Styles";
     test::writeFile(styles + "/Pastel.mpl", "0\tPastel\n");
-    const auto all = recommendationsFor({}, styles);
+    const auto all = recommendationsFor({}, styles, nothingSet());
     EXPECT_EQ(keysOf(all),
               QStringList({"Toutes_Salles", "Ouvrir_Aujourdhui", "Apostrophes", "Palette"}));
     EXPECT_EQ(all.back().value, styles + "/Pastel.mpl");
@@ -36,14 +43,38 @@ TEST(Recommendations, areFourWhereThePaletteShips)
 
 TEST(Recommendations, nameNoPaletteThatIsNotThere)
 {
-    EXPECT_FALSE(keysOf(recommendationsFor({}, "/nowhere")).contains("Palette"));
+    EXPECT_FALSE(keysOf(recommendationsFor({}, "/nowhere", nothingSet())).contains("Palette"));
 }
 
 TEST(Recommendations, sayWhyWhereNamesHaveApostrophes)
 {
     Findings found;
-    const auto sentence = [&found] { return recommendationsFor(found, {})[2].sentence; };
+    const auto sentence = [&found] {
+        return recommendationsFor(found, {}, nothingSet())[2].sentence;
+    };
     EXPECT_FALSE(sentence().startsWith("Votre base"));
     found.hasApostrophes = true;
     EXPECT_TRUE(sentence().startsWith("Votre base a des noms"));
+}
+
+TEST(Recommendations, leaveWhatHasBeenSetOtherwise)
+{
+    const QString styles = test::processFolder() + "/Styles";
+    test::writeFile(styles + "/Pastel.mpl", "0\tPastel\n");
+    shell::Settings before = shell::Settings::fromFile(test::processFolder() + "/déjà réglé.ini");
+    before.save("Palette", "/home/mine/Mienne.mpl");
+    before.save("Toutes_Salles", "False");
+    before.save("Ouvrir_Aujourdhui", "True");
+    const auto all = recommendationsFor({}, styles, before);
+    EXPECT_FALSE(all[0].isProposed); // Toutes_Salles
+    EXPECT_EQ(all[0].refused, "False");
+    EXPECT_TRUE(all[1].isProposed);
+    EXPECT_TRUE(all[2].isProposed); // nobody has set it
+    EXPECT_FALSE(all[3].isProposed);
+    EXPECT_EQ(all[3].refused, "/home/mine/Mienne.mpl");
+    EXPECT_EQ(all[3].value, styles + "/Pastel.mpl");
+    EXPECT_TRUE(all[3].sentence.endsWith("sans elle la vôtre reste."));
+    saveRecommendations(all, before);
+    EXPECT_EQ(before.get("Palette", {}), "/home/mine/Mienne.mpl");
+    EXPECT_EQ(before.get("Toutes_Salles", {}), "False");
 }

@@ -79,8 +79,8 @@ bool SetupWizard::tryOut(QLabel* told)
         told->setText(QStringLiteral("%1\n\n%2").arg(error.explanation(), error.text()));
         return false;
     }
-    m_recommendations =
-        setup::recommendationsFor(m_findings, m_ties.applicationFolder + QStringLiteral("/Styles"));
+    m_recommendations = setup::recommendationsFor(
+        m_findings, m_ties.applicationFolder + QStringLiteral("/Styles"), m_settings);
     told->clear();
     return true;
 }
