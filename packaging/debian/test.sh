@@ -10,9 +10,10 @@ project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 source "$project/scripts/common.sh"
 
 out=$project/build-deb
-package=${1:-$(find "$out" -maxdepth 1 -name 'tempora_*.deb' | sort -V | tail -n 1)}
+package=${1:-$(find "$out" -maxdepth 1 -name 'tempora_*.deb' 2>/dev/null | sort -V | tail -n 1 || true)}
 [[ -f $package ]] || fail "There is no package. Build it first: packaging/debian/build.sh"
 ensure_packages dpkg-dev fakeroot mmdebstrap
+mkdir -p "$out"
 
 # The same package under a lower version: what an upgrade starts from.
 make_previous() {

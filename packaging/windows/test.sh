@@ -89,8 +89,8 @@ says "$driver_key" Driver 'C:\windows\system32\odbc32.dll' # somebody else's dri
 
 say "Comparing with the zip ..."
 unzip -q "$windows"/tempora-*-windows.zip -d "$windows/test/unzipped"
-diff -r "$place" "$windows"/test/unzipped/* | grep -v ': desinstaller.exe$' &&
-    fail "The zip holds something else than the installer."
+differences=$(diff -r "$place" "$windows"/test/unzipped/* | grep -v ': desinstaller.exe$' || true)
+[[ -z $differences ]] || fail "The zip holds something else than the installer: $differences"
 rm -rf "$windows/test/unzipped"
 
 say "Removing ..."
