@@ -40,6 +40,35 @@ TEST(PlanForm, hidesWhatBelongsToExamsToTheFilterAndToTheDate)
     EXPECT_TRUE(form.Frame1.visible);
 }
 
+TEST(PlanForm, showsNoKindOfDatabaseBeforeOneIsKnown)
+{
+    const PlanForm form;
+    EXPECT_FALSE(form.ImgSql.visible);
+    EXPECT_FALSE(form.ImgAccess.visible);
+}
+
+TEST(PlanForm, hasItsTitleOverTheTimeAxisOverTheRows)
+{
+    const PlanForm form;
+    EXPECT_EQ(form.XSalle.place.top, -1050);
+    EXPECT_EQ(form.XSalle.place.height, 480);
+    for (const form::Label& tick : form.Label1) {
+        EXPECT_EQ(tick.place.top, 0);
+        EXPECT_EQ(tick.place.height, 300);
+        EXPECT_TRUE(tick.font.bold);
+    }
+    for (const auto* labels : {&form.Salle, &form.Cap}) {
+        for (const form::Label& label : *labels) {
+            EXPECT_EQ(label.place.top, 345);
+            EXPECT_EQ(label.place.height, 300);
+        }
+    }
+    for (const form::Label& total : form.Tot) {
+        EXPECT_TRUE(total.font.bold);
+        EXPECT_FALSE(total.visible);
+    }
+}
+
 TEST(PlanForm, hasAnHourTickFrom8To19)
 {
     const PlanForm form;
