@@ -1,5 +1,7 @@
 #include "app/SetupOffer.h"
 
+#include "app/ProgramFile.h"
+
 #include <QFileInfo>
 #include <QProcess>
 #include <utility>
@@ -20,12 +22,9 @@ bool isOfTheDatabase(runtime::ErrorNumber number)
 } // namespace
 
 SetupOffer::SetupOffer(QString applicationFolder, QString settingsFile)
-    : m_program(std::move(applicationFolder)), m_settingsFile(std::move(settingsFile))
+    : m_program(programFile(applicationFolder, QStringLiteral("tempora-setup"))),
+      m_settingsFile(std::move(settingsFile))
 {
-    m_program += QStringLiteral("/tempora-setup");
-#ifdef Q_OS_WIN
-    m_program += QStringLiteral(".exe");
-#endif
 }
 
 std::optional<WayOut> SetupOffer::wayOutOf(const runtime::RunTimeError& fault) const
@@ -37,8 +36,12 @@ std::optional<WayOut> SetupOffer::wayOutOf(const runtime::RunTimeError& fault) c
     if (!m_settingsFile.isEmpty()) {
         options << QStringLiteral("--settings") << m_settingsFile;
     }
-    return WayOut{QStringLiteral("Choisir la base…"),
-                  [program = m_program, options] { QProcess::startDetached(program, options); }};
+    return WayOut{QStringLiteral("Choisir la base…"), [program = m_program, options] {
+                      if (!QProcess::startDetached(program, options)) {
+                          showFault(nullptr, QStringLiteral("« Choisir la base » ne s’ouvre pas."),
+                                    program);
+                      }
+                  }};
 }
 
 } // namespace app

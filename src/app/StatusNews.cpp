@@ -18,7 +18,7 @@ namespace
 // How long a sentence stays; one with a link is to be reached with the mouse first.
 constexpr std::chrono::seconds kSentence{10};
 constexpr std::chrono::seconds kLink{30};
-constexpr int kMargin = 8;
+constexpr int kSideMargin = 8;
 
 } // namespace
 
@@ -30,7 +30,7 @@ StatusNews::StatusNews(QStatusBar* bar, FileOpener open)
     setAttribute(Qt::WA_StyledBackground);
     m_text->setObjectName(QStringLiteral("NewsText"));
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(kMargin, 0, kMargin, 0);
+    row->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
     row->addWidget(m_text);
     row->addWidget(m_link);
     row->addStretch();
@@ -90,7 +90,7 @@ void StatusNews::place()
     if (right != nullptr) {
         right->installEventFilter(this); // moves when something on its right grows
     }
-    setGeometry(0, 0, std::min(std::max(sizeHint().width() + kMargin, left), m_bar->width()),
+    setGeometry(0, 0, std::min(std::max(sizeHint().width() + kSideMargin, left), m_bar->width()),
                 m_bar->height());
 }
 

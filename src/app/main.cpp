@@ -5,6 +5,8 @@
 #include "app/ExitCode.h"
 #include "app/PlClasse.h"
 #include "app/PlatformTexts.h"
+#include "app/ProgramDress.h"
+#include "app/Screen.h"
 #include "app/SystemFolder.h"
 #include "app/hall/HallDisplay.h"
 #include "files/WholeFile.h"
@@ -15,7 +17,6 @@
 #include "shell/Player.h"
 
 #include <QScopeGuard>
-#include <QStyleFactory>
 #include <QTranslator>
 #include <algorithm>
 #include <cstdlib>
@@ -29,17 +30,6 @@ using app::kDone;
 using app::kFailed;
 using app::kUsage;
 
-bool hasDisplay()
-{
-#ifdef Q_OS_WIN
-    return true;
-#else
-    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-#endif
-}
-
 /// The toolkit's remarks about its surroundings, such as a folder that a nightly job does not have,
 /// stay out of the program's own lines on standard error.
 void hushToolkit()
@@ -49,17 +39,6 @@ void hushToolkit()
             app::writeError(text);
         }
     });
-}
-
-/// An export draws in memory, with the same fonts whether or not there is a display. On Windows the
-/// platform that draws nowhere else has no fonts, and the window's own needs no window.
-void drawInMemory()
-{
-#ifndef Q_OS_WIN
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-#endif
 }
 
 shell::Settings openSettings(const shell::CommandLine& line)
@@ -150,6 +129,7 @@ class Toolkit
 public:
     Toolkit(int& argc, char** argv) : m_application(argc, argv)
     {
+        app::dressWindows();
         if (app::loadFrenchTexts(m_french)) {
             QCoreApplication::installTranslator(&m_french);
         }
@@ -232,13 +212,13 @@ int Program::serve()
         app::writeOutput(QStringLiteral("Tempora " TEMPORA_VERSION "\n"));
         return kDone;
     }
-    if (!m_exports && !hasDisplay()) {
+    if (!m_exports && !app::hasDisplay()) {
         app::writeError(QStringLiteral("Pas d’écran : la fenêtre ne peut pas s’ouvrir. Le plan "
                                        "s’écrit dans un fichier avec --export (voir --help)."));
         return kFailed;
     }
     if (m_exports) {
-        drawInMemory();
+        app::drawInMemory();
         startToolkit();
         writeWithoutWindow(line);
         return kDone;
@@ -281,7 +261,7 @@ int Program::tellFault()
 /// so far.
 bool Program::canShow()
 {
-    if (m_exports || !hasDisplay()) {
+    if (m_exports || !app::hasDisplay()) {
         return false;
     }
     if (!m_toolkit) {
@@ -292,7 +272,7 @@ bool Program::canShow()
 
 void Program::startToolkit()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    app::chooseStyle();
     m_toolkitArguments = withoutDisplay(m_argc, m_argv);
     m_toolkitCount = static_cast<int>(m_toolkitArguments.size()) - 1;
     m_toolkit.emplace(m_toolkitCount, m_toolkitArguments.data());

@@ -93,6 +93,17 @@ PhpConfiguration readPhpConfiguration(const QString& path)
     return configuration;
 }
 
+QString configurationFile(const QString& baseName, const ConfigurationFolders& folders)
+{
+    const auto fileIn = [&baseName](const QString& folder) {
+        return folder + QStringLiteral("/app_data/") + baseName + QStringLiteral(".php");
+    };
+    const QString own = fileIn(folders.application);
+    const bool isSystems = !folders.system.isEmpty() && !QFileInfo::exists(own) &&
+                           QFileInfo::exists(fileIn(folders.system));
+    return isSystems ? fileIn(folders.system) : own;
+}
+
 ConnectStrings BuildConnectString(const QString& baseName, bool useMySql,
                                   const ConfigurationFolders& folders)
 {
@@ -100,15 +111,7 @@ ConnectStrings BuildConnectString(const QString& baseName, bool useMySql,
     if (!useMySql) {
         return {dsn, dsn};
     }
-    // The name is taken as it stands in the path, blanks included.
-    const auto fileIn = [&baseName](const QString& folder) {
-        return folder + QStringLiteral("/app_data/") + baseName + QStringLiteral(".php");
-    };
-    const QString own = fileIn(folders.application);
-    const bool isSystems = !folders.system.isEmpty() && !QFileInfo::exists(own) &&
-                           QFileInfo::exists(fileIn(folders.system));
-    return {mySqlConnectString(readPhpConfiguration(isSystems ? fileIn(folders.system) : own)),
-            dsn};
+    return {mySqlConnectString(readPhpConfiguration(configurationFile(baseName, folders))), dsn};
 }
 
 } // namespace db

@@ -34,6 +34,11 @@ struct ConfigurationFolders {
     QString system;      ///< the machine's, where programs are not written to; empty without one
 };
 
+/// Full path of the file that describes the server `baseName`: the program's own; the machine's
+/// where that one alone is there. The name is taken as it stands, blanks included.
+[[nodiscard]] QString configurationFile(const QString& baseName,
+                                        const ConfigurationFolders& folders);
+
 /// Access: the data source named `baseName`. MySQL: the server that its file describes.
 /// Errors: those of `readPhpConfiguration`; where no folder has the file they name that of the
 /// program's own.

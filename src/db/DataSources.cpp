@@ -45,7 +45,7 @@ void writeDataSource(const DataSource& source)
             for (const auto& [word, value] : source.words) {
                 refuseSeveralLines(word + value);
             }
-            prepareUsersFile();
+            keepUsersSource(source.name);
             require(registerSource(source.name, source.driver));
             for (const auto& [word, value] : source.words) {
                 require(writeProfile(source.name, word, value));

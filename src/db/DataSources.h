@@ -24,10 +24,10 @@ struct DataSource {
 /// A word's value in the data source of that name; empty where there is no such source or word.
 [[nodiscard]] QString wordOf(const QString& dataSource, const QString& word);
 
-/// Writes a data source of the user alone; one of that name gives way, others stay. The manager
-/// keeps no remarks in its file, so that where it is a file that was somebody's own, a copy of it
-/// is left beside it. Error: PathFileAccess with the manager's words; InvalidProcedureCall for a
-/// value of more than one line.
+/// Writes a data source of the user alone; one of that name gives way, others stay. What was there
+/// before the first time is left as a copy: the file with all of them, as the manager keeps no
+/// remarks in it; on Windows the data source of that name, as another one. Error: PathFileAccess
+/// with the manager's words; InvalidProcedureCall for a value of more than one line.
 void writeDataSource(const DataSource& source);
 
 } // namespace db

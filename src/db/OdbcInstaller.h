@@ -17,8 +17,13 @@ namespace db
 [[nodiscard]] QString installerFault();
 /// The file in which the manager keeps the user's data sources; empty where that is none.
 [[nodiscard]] QString usersFile();
-/// Leaves a copy of what holds the user's data sources, where that is a file that has none so far,
-/// and makes it its owner's alone: a password may come to stand in it.
-void prepareUsersFile();
+/// Before the user's data source of that name gives way: leaves a copy of what is there, unless one
+/// is there already. Where data sources lie in a file, of the whole file, which it makes its
+/// owner's alone, as a password may come to stand in it; elsewhere of this one source, under
+/// another name.
+void keepUsersSource(const QString& name);
+
+/// What the name of a copy has behind that of what was copied.
+inline constexpr QLatin1String kCopyEnding(".avant-tempora");
 
 } // namespace db

@@ -80,7 +80,7 @@ QString installerFault()
     return isTold ? QString::fromUtf8(words.data()) : QString();
 }
 
-void prepareUsersFile()
+void keepUsersSource(const QString& /*name*/)
 {
     const QString path = usersFile();
     QFile file(path);
@@ -90,7 +90,7 @@ void prepareUsersFile()
         }
         file.close();
     } else {
-        QFile::copy(path, path + QStringLiteral(".avant-tempora")); // the first one stays
+        QFile::copy(path, path + QString(kCopyEnding)); // the first one stays
     }
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }

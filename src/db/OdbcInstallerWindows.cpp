@@ -2,6 +2,7 @@
 
 #include "db/OdbcApi.h"
 
+#include <QSettings>
 #include <array>
 #include <odbcinst.h>
 
@@ -71,7 +72,26 @@ QString usersFile()
     return {};
 }
 
-/// The registry is the user's own, and keeps what else stands there.
-void prepareUsersFile() {}
+/// In the registry, which is the user's own and keeps what else stands there. A copy that cannot be
+/// made keeps nobody from a new source.
+void keepUsersSource(const QString& name)
+{
+    QSettings sources(QStringLiteral("HKEY_CURRENT_USER\\Software\\ODBC\\ODBC.INI"),
+                      QSettings::NativeFormat);
+    const QString copy = name + QString(kCopyEnding);
+    const QStringList present = sources.childGroups();
+    if (!present.contains(name, Qt::CaseInsensitive) ||
+        present.contains(copy, Qt::CaseInsensitive)) {
+        return;
+    }
+    sources.beginGroup(name);
+    const QStringList words = sources.childKeys();
+    sources.endGroup();
+    for (const QString& word : words) {
+        sources.setValue(copy + u'/' + word, sources.value(name + u'/' + word));
+    }
+    const QString list = QStringLiteral("ODBC Data Sources/");
+    sources.setValue(list + copy, sources.value(list + name));
+}
 
 } // namespace db

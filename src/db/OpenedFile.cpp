@@ -1,13 +1,8 @@
 #include "db/OpenedFile.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <utility>
-
-#ifndef _WIN32
-#include <sys/stat.h>
-#endif
 
 namespace db
 {
@@ -26,13 +21,7 @@ OpenedFile::State OpenedFile::stateOf(const QString& path)
     if (!file.exists()) {
         return state;
     }
-#ifndef _WIN32
-    struct stat facts = {};
-    if (stat(QFile::encodeName(path).constData(), &facts) == 0) {
-        state.device = facts.st_dev;
-        state.number = facts.st_ino;
-    }
-#endif
+    state.identity = fileIdentity(path);
     state.size = file.size();
     state.written = file.lastModified().toMSecsSinceEpoch();
     return state;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "db/FileIdentity.h"
+
 #include <QString>
 #include <cstdint>
 
@@ -23,10 +25,8 @@ public:
 private:
     /// What tells it from other files and from itself in another state.
     struct State {
-        std::uint64_t device = 0;
-        std::uint64_t number =
-            0;                  ///< on its device; 0 on Windows, where an open file keeps its name
-        std::int64_t size = -1; ///< in bytes; -1 without a file
+        FileIdentity identity;
+        std::int64_t size = -1;   ///< in bytes; -1 without a file
         std::int64_t written = 0; ///< in milliseconds since 1970
         friend bool operator==(const State&, const State&) = default;
     };

@@ -57,18 +57,6 @@ std::optional<QString> SqliteProduct::reconnectString(const QString& connectStri
     return withFileLimits(connectString);
 }
 
-/// The driver knows UTF-8 alone where there is no Windows. The driver manager would put texts into
-/// the process's character set for it, and cut every character outside the Basic Multilingual Plane
-/// down to single bytes; the narrow functions pass UTF-8 on untouched.
-TextForm SqliteProduct::textForm() const
-{
-#ifdef _WIN32
-    return TextForm::Utf16;
-#else
-    return TextForm::Utf8;
-#endif
-}
-
 ErrorNumber SqliteProduct::errorNumberOf(const Diagnostics& diagnostics) const
 {
     const ErrorNumber byState = errorNumberByState(diagnostics);

@@ -17,4 +17,9 @@ QString howToGetDriver(SourceKind kind)
     return {};
 }
 
+bool readsAccess()
+{
+    return false;
+}
+
 } // namespace setup

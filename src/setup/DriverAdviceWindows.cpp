@@ -20,4 +20,9 @@ QString howToGetDriver(SourceKind kind)
     return {};
 }
 
+bool readsAccess()
+{
+    return true;
+}
+
 } // namespace setup

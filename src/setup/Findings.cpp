@@ -6,6 +6,7 @@
 #include "timetable/SchoolColumns.h"
 
 #include <QLocale>
+#include <algorithm>
 
 namespace setup
 {
@@ -44,6 +45,20 @@ bool holdsApostrophe(db::Connection& connection, const QString& table, const QSt
                                     .arg(table, column)) > 0;
 }
 
+QDate lastDayIn(db::Connection& connection)
+{
+    QDate last;
+    const db::Recordset periods =
+        connection.open(QStringLiteral("select * from ") + table::kTrancheTable);
+    for (const db::Row& period : periods.rows()) {
+        runtime::skipOnError([&] {
+            const QDate end = period.field(timetable::position::kLastDay).toDate();
+            last = last.isValid() ? std::max(last, end) : end;
+        });
+    }
+    return last;
+}
+
 QString counted(int number, const QString& one, const QString& many)
 {
     const QLocale french(QLocale::French, QLocale::France);
@@ -58,6 +73,7 @@ Findings lookInto(db::Connection& connection)
     findings.rooms = countOf(connection, table::kSalle);
     findings.periods = countOf(connection, table::kTrancheTable);
     findings.courses = countOf(connection, table::kEmplois);
+    runtime::skipOnError([&] { findings.lastDay = lastDayIn(connection); });
     findings.marksAbsences = mayWrite(connection, absences::table::kAbscence) &&
                              mayWrite(connection, absences::table::kEtudAbs);
     runtime::skipOnError([&] { // a column of another name is for the plan to tell

@@ -2,6 +2,7 @@
 
 #include "db/Connection.h"
 
+#include <QDate>
 #include <QString>
 
 namespace setup
@@ -12,6 +13,7 @@ struct Findings {
     int rooms = 0;
     int periods = 0;
     int courses = 0;             ///< rows of the timetable, of all periods
+    QDate lastDay;               ///< of the period that ends last; no valid date where none tells
     bool marksAbsences = false;  ///< whether the account may add and remove them
     bool hasApostrophes = false; ///< in the name of a room or a class
 };

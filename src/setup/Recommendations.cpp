@@ -1,16 +1,27 @@
 #include "setup/Recommendations.h"
 
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
 #include <QFileInfo>
+#include <optional>
 
 namespace setup
 {
 namespace
 {
 
+std::optional<bool> truthOf(const QString& value)
+{
+    std::optional<bool> truth;
+    runtime::skipOnError([&] { truth = runtime::toBoolean(value); });
+    return truth;
+}
+
 void followWhatIsSet(Recommendation& one, const shell::Settings& settings)
 {
     const QString set = settings.get(one.key, QString());
-    if (!set.isEmpty() && set != one.value) {
+    if (!set.isEmpty() && !meanTheSame(set, one.value)) {
         one.isProposed = false;
         one.refused = set;
     }
@@ -25,6 +36,12 @@ QString paletteSentence(bool hasAnother)
 
 } // namespace
 
+bool meanTheSame(const QString& one, const QString& other)
+{
+    const std::optional<bool> truth = truthOf(one);
+    return one == other || (truth && truth == truthOf(other));
+}
+
 std::vector<Recommendation> recommendationsFor(const Findings& findings, const QString& styles,
                                                const shell::Settings& settings)
 {
@@ -35,15 +52,20 @@ std::vector<Recommendation> recommendationsFor(const Findings& findings, const Q
          QStringLiteral("Aucune salle n’est laissée de côté d’une page à l’autre."), true},
         {QStringLiteral("Ouvrir_Aujourdhui"), yes, no, QStringLiteral("Ouvrir sur aujourd’hui"),
          QStringLiteral("Le plan s’ouvre sur le jour même, et non sur le lundi."), true},
-        {QStringLiteral("Apostrophes"), yes, no,
-         QStringLiteral("Accepter les apostrophes dans les noms"),
-         findings.hasApostrophes
-             ? QStringLiteral("Votre base a des noms comme « Salle d’informatique » : sans ce "
-                              "réglage ils restent inconnus sur le plan.")
-             : QStringLiteral("Un nom comme « Salle d’informatique » se lit alors comme les "
-                              "autres."),
-         true},
     };
+    const bool isAccepted =
+        truthOf(settings.get(QStringLiteral("Apostrophes"), no)).value_or(false);
+    if (findings.hasApostrophes || isAccepted) {
+        all.push_back(
+            {QStringLiteral("Apostrophes"), yes, no,
+             QStringLiteral("Accepter les apostrophes dans les noms"),
+             findings.hasApostrophes
+                 ? QStringLiteral("Votre base a des noms comme « Salle d’informatique » : "
+                                  "sans ce réglage ils restent inconnus sur le plan.")
+                 : QStringLiteral("Un nom comme « Salle d’informatique » se lit alors "
+                                  "comme les autres."),
+             true});
+    }
     const QString palette = styles + QStringLiteral("/Pastel.mpl");
     if (QFileInfo::exists(palette)) {
         all.push_back({QStringLiteral("Palette"), palette, QString(),

@@ -21,10 +21,14 @@ struct Recommendation {
 };
 
 /// What is proposed for a database with these findings. `styles`: the folder of the palettes that
-/// ship with the program. What has been set otherwise before is proposed no more, and stays where
+/// ship with the program. Apostrophes are proposed where names have them, or where they have been
+/// accepted before. What has been set otherwise before is proposed no more, and stays where
 /// the proposal is not accepted.
 [[nodiscard]] std::vector<Recommendation> recommendationsFor(const Findings& findings,
                                                              const QString& styles,
                                                              const shell::Settings& settings);
+
+/// Whether two values of a setting mean the same: "1" and "True" do.
+[[nodiscard]] bool meanTheSame(const QString& one, const QString& other);
 
 } // namespace setup

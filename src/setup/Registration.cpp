@@ -3,12 +3,13 @@
 #include "db/ConnectString.h"
 #include "db/DataSources.h"
 #include "files/WholeFile.h"
-#include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
+#include <algorithm>
 
 namespace setup
 {
@@ -18,18 +19,31 @@ namespace
 using runtime::ErrorNumber;
 using runtime::RunTimeError;
 
-constexpr QLatin1String kServersFile("SaKalo");
-
 QString folderOfServers(const QString& applicationFolder)
 {
     return applicationFolder + QStringLiteral("/app_data");
 }
 
+/// By trying: on Windows what a folder says of itself leaves its rights out.
 bool canWriteIn(const QString& folder)
 {
     const QFileInfo there(folder);
-    return there.exists() ? there.isDir() && there.isWritable()
-                          : QFileInfo(there.path()).isWritable();
+    QTemporaryFile probe((there.exists() ? folder : there.path()) + QStringLiteral("/XXXXXX"));
+    return probe.open();
+}
+
+/// Whether all of it can stand in the program's connection string, which has nothing around values.
+bool canBePassedOn(const Server& server)
+{
+    const QString all = server.host + server.port + server.login + server.password + server.base;
+    return std::none_of(all.begin(), all.end(), [](QChar character) {
+        return character == u';' || character == u'{' || character == u'}';
+    });
+}
+
+bool belongsToAPackage(const db::ConfigurationFolders& folders)
+{
+    return !folders.system.isEmpty() && QFileInfo::exists(folders.system);
 }
 
 QString lineOf(const char* variable, const QString& value)
@@ -89,50 +103,21 @@ db::DataSource dataSourceOf(const Source& source, const QString& driver)
     return found;
 }
 
-bool isOn(const shell::Settings& settings, const QString& key)
-{
-    bool on = false;
-    runtime::skipOnError(
-        [&] { on = runtime::toBoolean(settings.get(key, QStringLiteral("False"))); });
-    return on;
-}
-
-QString words(const QString& kind, const QString& what)
-{
-    return what.isEmpty() ? kind : kind + u' ' + what;
-}
-
 } // namespace
 
-Route routeOf(const Source& source, const QStringList& drivers, const QString& applicationFolder)
+Route routeOf(const Source& source, const QStringList& drivers,
+              const db::ConfigurationFolders& folders)
 {
     const bool isByFile = source.kind == SourceKind::Server &&
-                          drivers.contains(QStringLiteral("MySQL ODBC 3.51 Driver")) &&
-                          canWriteIn(folderOfServers(applicationFolder));
+                          drivers.contains(QString(kServersDriver)) &&
+                          canBePassedOn(source.server) && !belongsToAPackage(folders) &&
+                          canWriteIn(folderOfServers(folders.application));
     return isByFile ? Route::PhpFile : Route::DataSource;
 }
 
-QString presentSource(const shell::Settings& settings)
+QString driverOn(Route route, SourceKind kind, const QStringList& drivers)
 {
-    if (isOn(settings, QStringLiteral("Mysql"))) {
-        return words(QStringLiteral("Serveur MariaDB ou MySQL, fichier app_data/"),
-                     settings.get(QStringLiteral("Base_Sql"), QString(kServersFile)));
-    }
-    const QString name = settings.get(QStringLiteral("Base"), QString(kDataSource)).trimmed();
-    const QString driver = db::wordOf(name, QStringLiteral("Driver"));
-    if (driver.contains(QStringLiteral("SQLite"), Qt::CaseInsensitive)) {
-        return words(QStringLiteral("Fichier SQLite"),
-                     db::wordOf(name, QStringLiteral("Database")));
-    }
-    const QString host = db::wordOf(name, QStringLiteral("Server"));
-    if (!host.isEmpty()) {
-        return words(QStringLiteral("Serveur"), host);
-    }
-    const QString file = db::wordOf(name, QStringLiteral("DBQ"));
-    if (!file.isEmpty()) {
-        return words(QStringLiteral("Base Access"), file);
-    }
-    return driver.isEmpty() ? QString() : QStringLiteral("Source de données « %1 »").arg(name);
+    return route == Route::PhpFile ? QString(kServersDriver) : driverFor(kind, drivers);
 }
 
 void registerSource(const Source& source, Route route, const QString& driver,
@@ -154,7 +139,7 @@ void saveRecommendations(const std::vector<Recommendation>& recommendations,
 {
     for (const Recommendation& one : recommendations) {
         const QString& value = one.isProposed ? one.value : one.refused;
-        if (settings.get(one.key, one.refused) != value) {
+        if (!meanTheSame(settings.get(one.key, one.refused), value)) {
             settings.save(one.key, value);
         }
     }

@@ -57,8 +57,13 @@ QString missingInFile(const QString& path)
     if (!file.isFile()) {
         return QStringLiteral("Le fichier « %1 » n’existe pas.").arg(path);
     }
-    return file.isReadable() ? QString()
-                             : QStringLiteral("Le fichier « %1 » ne peut pas être lu.").arg(path);
+    if (!file.isReadable()) {
+        return QStringLiteral("Le fichier « %1 » ne peut pas être lu.").arg(path);
+    }
+    // SQLite's driver ends the name there, whatever stands around it.
+    return path.contains(u';') ? QStringLiteral("Un point-virgule dans le nom du fichier ou d’un "
+                                                "dossier arrête le pilote : renommez-le.")
+                               : QString();
 }
 
 } // namespace

@@ -375,19 +375,11 @@ bool CommandLine::asksForFile(const QStringList& arguments)
 
 QString CommandLine::helpText()
 {
-    QString text =
-        QStringLiteral("Usage : tempora [options]\n"
-                       "Planning des classes : quelle salle est prise, par qui.\n"
-                       "Sans l’une des options qui écrivent un fichier, elles s’appliquent à la "
-                       "fenêtre.\n\n");
-    for (const OptionText& option : optionTexts()) {
-        QString left = QStringLiteral("  --") + QString::fromLatin1(option.name);
-        if (!option.value.isNull()) {
-            left += u' ' + option.value;
-        }
-        text += left.leftJustified(48) + u' ' + option.meaning + u'\n';
-    }
-    return text;
+    return QStringLiteral("Usage : tempora [options]\n"
+                          "Planning des classes : quelle salle est prise, par qui.\n"
+                          "Sans l’une des options qui écrivent un fichier, elles s’appliquent à la "
+                          "fenêtre.\n\n") +
+           optionTable(optionTexts());
 }
 
 } // namespace shell

@@ -8,6 +8,19 @@
 namespace shell
 {
 
+QString optionTable(const std::vector<OptionText>& options)
+{
+    QString text;
+    for (const OptionText& option : options) {
+        QString left = QStringLiteral("  --") + QString::fromLatin1(option.name);
+        if (!option.value.isNull()) {
+            left += u' ' + option.value;
+        }
+        text += left.leftJustified(48) + u' ' + option.meaning + u'\n';
+    }
+    return text;
+}
+
 OptionReader::OptionReader(const QStringList& arguments, const std::vector<OptionText>& options)
     : m_options(options)
 {

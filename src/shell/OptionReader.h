@@ -16,6 +16,9 @@ struct OptionText {
     QString meaning; ///< in French
 };
 
+/// The options as --help lists them, one a line.
+[[nodiscard]] QString optionTable(const std::vector<OptionText>& options);
+
 /// Reads the values of known options out of the program's arguments. Every mistake is a UsageError
 /// that names the option and what it accepts.
 class OptionReader

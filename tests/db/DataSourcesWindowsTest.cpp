@@ -27,9 +27,13 @@ protected:
     {
         QSettings sources(QStringLiteral("HKEY_CURRENT_USER\\Software\\ODBC\\ODBC.INI"),
                           QSettings::NativeFormat);
-        sources.remove(name);
-        sources.remove(QStringLiteral("ODBC Data Sources/") + name);
+        for (const QString& one : {name, copy()}) {
+            sources.remove(one);
+            sources.remove(QStringLiteral("ODBC Data Sources/") + one);
+        }
     }
+
+    [[nodiscard]] QString copy() const { return name + QString(kCopyEnding); }
 
     const QString name = QStringLiteral("Tempora à l’essai");
 };
@@ -55,6 +59,15 @@ TEST_F(ADataSourceOfWindows, givesWayToOneOfItsName)
                       {QStringLiteral("Timeout"), QString()}}});
     EXPECT_EQ(wordOf(name, QStringLiteral("Database")), QStringLiteral("C:\\b.sqlite"));
     EXPECT_EQ(wordOf(name, QStringLiteral("Timeout")), QString());
+}
+
+TEST_F(ADataSourceOfWindows, leavesACopyOfTheFirstOne)
+{
+    for (const char* file : {"C:\\a.sqlite", "C:\\b.sqlite", "C:\\c.sqlite"}) {
+        writeDataSource({name, kSqlite, {{QStringLiteral("Database"), QString::fromLatin1(file)}}});
+    }
+    EXPECT_EQ(wordOf(name, QStringLiteral("Database")), QStringLiteral("C:\\c.sqlite"));
+    EXPECT_EQ(wordOf(copy(), QStringLiteral("Database")), QStringLiteral("C:\\a.sqlite"));
 }
 
 TEST_F(ADataSourceOfWindows, takesNoValueOfSeveralLines)

@@ -37,6 +37,14 @@ TEST_P(Looking, countsWhatIsThere)
     EXPECT_EQ(found.courses, 6); // B1 holds two classes, C1's row alternates
     EXPECT_TRUE(found.marksAbsences);
     EXPECT_FALSE(found.hasApostrophes);
+    EXPECT_EQ(found.lastDay, QDate(2025, 6, 6)); // of spring; autumn ends on 31 January
+}
+
+TEST_P(Looking, knowsNoLastDayWithoutADate)
+{
+    test::createTinyFaculty(database());
+    database().execute("update tranche set DateFin = null");
+    EXPECT_FALSE(look(database().connectString()).lastDay.isValid());
 }
 
 TEST_P(Looking, changesNothing)

@@ -27,11 +27,13 @@ QStringList keysOf(const std::vector<Recommendation>& all)
 
 } // namespace
 
-TEST(Recommendations, areFourWhereThePaletteShips)
+TEST(Recommendations, areFourWhereNamesHaveApostrophesAndThePaletteShips)
 {
     const QString styles = test::processFolder() + "/Styles";
     test::writeFile(styles + "/Pastel.mpl", "0\tPastel\n");
-    const auto all = recommendationsFor({}, styles, nothingSet());
+    Findings found;
+    found.hasApostrophes = true;
+    const auto all = recommendationsFor(found, styles, nothingSet());
     EXPECT_EQ(keysOf(all),
               QStringList({"Toutes_Salles", "Ouvrir_Aujourdhui", "Apostrophes", "Palette"}));
     EXPECT_EQ(all.back().value, styles + "/Pastel.mpl");
@@ -49,12 +51,37 @@ TEST(Recommendations, nameNoPaletteThatIsNotThere)
 TEST(Recommendations, sayWhyWhereNamesHaveApostrophes)
 {
     Findings found;
-    const auto sentence = [&found] {
-        return recommendationsFor(found, {}, nothingSet())[2].sentence;
-    };
-    EXPECT_FALSE(sentence().startsWith("Votre base"));
+    EXPECT_FALSE(keysOf(recommendationsFor(found, {}, nothingSet())).contains("Apostrophes"));
     found.hasApostrophes = true;
-    EXPECT_TRUE(sentence().startsWith("Votre base a des noms"));
+    const auto all = recommendationsFor(found, {}, nothingSet());
+    ASSERT_EQ(all.size(), 3U);
+    EXPECT_TRUE(all[2].sentence.startsWith("Votre base a des noms"));
+}
+
+TEST(Recommendations, keepApostrophesThatHaveBeenAccepted)
+{
+    shell::Settings before = shell::Settings::fromFile(test::processFolder() + "/acceptées.ini");
+    before.save("Apostrophes", "1");
+    const auto all = recommendationsFor({}, {}, before);
+    ASSERT_EQ(all.size(), 3U);
+    EXPECT_EQ(all[2].key, "Apostrophes");
+    EXPECT_TRUE(all[2].isProposed);
+    EXPECT_FALSE(all[2].sentence.startsWith("Votre base"));
+}
+
+TEST(Recommendations, readATruthHoweverItIsWritten)
+{
+    shell::Settings before = shell::Settings::fromFile(test::processFolder() + "/vrai ou 1.ini");
+    before.save("Toutes_Salles", "1");
+    before.save("Ouvrir_Aujourdhui", "Vrai");
+    const auto all = recommendationsFor({}, {}, before);
+    EXPECT_TRUE(all[0].isProposed);
+    EXPECT_TRUE(all[1].isProposed);
+    saveRecommendations(all, before);
+    EXPECT_EQ(before.get("Toutes_Salles", {}), "1"); // it says so already
+    EXPECT_TRUE(meanTheSame("0", "Faux"));
+    EXPECT_FALSE(meanTheSame("0", "Vrai"));
+    EXPECT_FALSE(meanTheSame("/a.mpl", "/b.mpl"));
 }
 
 TEST(Recommendations, leaveWhatHasBeenSetOtherwise)
@@ -65,7 +92,9 @@ TEST(Recommendations, leaveWhatHasBeenSetOtherwise)
     before.save("Palette", "/home/mine/Mienne.mpl");
     before.save("Toutes_Salles", "False");
     before.save("Ouvrir_Aujourdhui", "True");
-    const auto all = recommendationsFor({}, styles, before);
+    Findings found;
+    found.hasApostrophes = true;
+    const auto all = recommendationsFor(found, styles, before);
     EXPECT_FALSE(all[0].isProposed); // Toutes_Salles
     EXPECT_EQ(all[0].refused, "False");
     EXPECT_TRUE(all[1].isProposed);

@@ -69,6 +69,9 @@ TEST(ASource, saysWhatItLacks)
     EXPECT_TRUE(missingIn(fileAt(""), "SQLite3").startsWith("Choisissez le fichier"));
     EXPECT_TRUE(missingIn(fileAt("/nowhere.sqlite"), "SQLite3").contains("n’existe pas"));
     EXPECT_TRUE(missingIn(fileAt(test::processFolder()), "SQLite3").contains("n’existe pas"));
+    const QString twoParts = test::processFolder() + "/a;b.sqlite";
+    test::writeFile(twoParts, "");
+    EXPECT_TRUE(missingIn(fileAt(twoParts), "SQLite3").startsWith("Un point-virgule"));
     EXPECT_EQ(missingIn({SourceKind::Demo, {}, {}}, "SQLite3"), "");
 }
 

@@ -10,7 +10,7 @@ namespace
 constexpr double kHeaderHeight = 70;
 constexpr double kRemarkHeight = 28;
 constexpr double kHoursHeight = 22;
-constexpr double kMargin = 8;
+constexpr double kHallMargin = 8;
 constexpr double kNamesWidth = 150;
 constexpr double kPlacesWidth = 48;
 // A row of three lines of text, and what a row does not outgrow.
@@ -19,7 +19,7 @@ constexpr double kHighestRow = 72;
 constexpr double kNarrowest = 1100; ///< for the names and a whole day
 constexpr double kUsualHeight = 720;
 constexpr int kMostRooms = 18; ///< with more of them, boxes have a single line
-constexpr double kAround = kHeaderHeight + kHoursHeight + kMargin;
+constexpr double kAround = kHeaderHeight + kHoursHeight + kHallMargin;
 
 /// How much a layout that wants this height can be enlarged. Less than once would swallow lines of
 /// one pixel.
@@ -57,13 +57,13 @@ HallLayout::HallLayout(QSize screen, int rows, bool hasRemark)
         remark = {0, top, size.width(), kRemarkHeight};
         top += kRemarkHeight;
     }
-    const double left = kMargin + kNamesWidth;
-    const double right = size.width() - kMargin - kPlacesWidth;
+    const double left = kHallMargin + kNamesWidth;
+    const double right = size.width() - kHallMargin - kPlacesWidth;
     hours = {left, top, right - left, kHoursHeight};
     top += kHoursHeight;
-    rowHeight = std::min(kHighestRow, (size.height() - kMargin - top) / std::max(1, rows));
+    rowHeight = std::min(kHighestRow, (size.height() - kHallMargin - top) / std::max(1, rows));
     const double height = rowHeight * rows;
-    names = {kMargin, top, kNamesWidth, height};
+    names = {kHallMargin, top, kNamesWidth, height};
     boxes = {left, top, right - left, height};
     places = {right, top, kPlacesWidth, height};
 }

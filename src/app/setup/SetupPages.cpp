@@ -32,15 +32,38 @@ QLabel* sentenceLabel(const QString& text)
     return label;
 }
 
-/// Where a page says what is missing or has failed.
+constexpr const char* kFaultColour = "color: #9b1c1c;";
+
+/// What is missing or has failed.
+void tellFault(QLabel& told, const QString& text)
+{
+    told.setStyleSheet(QString::fromLatin1(kFaultColour));
+    told.setText(text);
+}
+
+/// How it goes on.
+void tellNews(QLabel& told, const QString& text)
+{
+    told.setStyleSheet({});
+    told.setText(text);
+}
+
+/// Where a page says what is missing, what has failed or how it goes on.
 QLabel* toldLabel()
 {
     QLabel* label = plainLabel();
     label->setObjectName(QStringLiteral("Told"));
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setStyleSheet(QStringLiteral("color: #9b1c1c;"));
     return label;
+}
+
+bool tryOut(SetupWizard& wizard, QLabel& told)
+{
+    tellNews(told, QStringLiteral("Connexion à la base…"));
+    const QString fault = wizard.tryOut();
+    tellFault(told, fault);
+    return fault.isEmpty();
 }
 
 QLineEdit* addField(QFormLayout& form, const QString& label, const QString& name)
@@ -74,10 +97,7 @@ SetupKindPage::SetupKindPage(SetupWizard& wizard, int details, int found)
         addChoice(*layout, SourceKind::Access, QStringLiteral("Ma base &Access"),
                   QStringLiteral("Un fichier .mdb ou .accdb."));
     }
-    const auto possible =
-        std::find_if(m_choices.begin(), m_choices.end(),
-                     [this](const Choice& choice) { return hasDriver(choice.kind); });
-    (possible == m_choices.end() ? m_choices.front() : *possible).button->setChecked(true);
+    firstChoice().button->setChecked(true);
     addInstallation(*layout);
     m_lookAgain.callOnTimeout(this, [this] { tellDrivers(); });
     tellDrivers();
@@ -93,6 +113,22 @@ void SetupKindPage::addChoice(QVBoxLayout& layout, SourceKind kind, const QStrin
     m_choices.push_back({button, kind, sentence, sentenceLabel({})});
     layout.addWidget(button);
     layout.addWidget(m_choices.back().told);
+}
+
+/// What is set up now; else the first whose driver is there.
+const SetupKindPage::Choice& SetupKindPage::firstChoice() const
+{
+    const auto present =
+        std::find_if(m_choices.begin(), m_choices.end(), [this](const Choice& choice) {
+            return m_wizard.present().source && choice.kind == m_wizard.source().kind;
+        });
+    if (present != m_choices.end()) {
+        return *present;
+    }
+    const auto possible =
+        std::find_if(m_choices.begin(), m_choices.end(),
+                     [this](const Choice& choice) { return hasDriver(choice.kind); });
+    return possible == m_choices.end() ? m_choices.front() : *possible;
 }
 
 void SetupKindPage::addInstallation(QVBoxLayout& layout)
@@ -132,11 +168,12 @@ void SetupKindPage::tellDrivers()
 void SetupKindPage::installDriver()
 {
     if (m_wizard.ties().installSqliteDriver()) {
-        m_told->setText(QStringLiteral("Une fois le pilote installé, continuez par « Suivant »."));
+        tellNews(*m_told,
+                 QStringLiteral("Une fois le pilote installé, continuez par « Suivant »."));
         m_lookAgain.start(std::chrono::milliseconds(500));
     } else {
-        m_told->setText(QStringLiteral("L’installation n’a pas commencé. Ouvrez vous-même "
-                                       "pilote-sqlite.exe, dans le dossier de Tempora."));
+        tellFault(*m_told, QStringLiteral("L’installation n’a pas commencé. Ouvrez vous-même "
+                                          "pilote-sqlite.exe, dans le dossier de Tempora."));
     }
 }
 
@@ -157,7 +194,7 @@ SourceKind SetupKindPage::chosen() const
 
 void SetupKindPage::initializePage()
 {
-    const QString present = m_wizard.presentSource();
+    const QString& present = m_wizard.present().words;
     m_present->setText(present.isEmpty() ? QString()
                                          : QStringLiteral("Actuellement : %1").arg(present));
     m_present->setVisible(!present.isEmpty());
@@ -171,7 +208,7 @@ int SetupKindPage::nextId() const
 bool SetupKindPage::validatePage()
 {
     m_wizard.source().kind = chosen();
-    return chosen() != SourceKind::Demo || m_wizard.tryOut(m_told);
+    return chosen() != SourceKind::Demo || tryOut(m_wizard, *m_told);
 }
 
 SetupDetailsPage::SetupDetailsPage(SetupWizard& wizard, int found)
@@ -191,6 +228,7 @@ QWidget* SetupDetailsPage::makeFileForm()
     auto* form = new QFormLayout(page);
     m_file = new QLineEdit;
     m_file->setObjectName(QStringLiteral("File"));
+    m_file->setText(m_wizard.source().file);
     auto* choose = new QPushButton(QStringLiteral("&Parcourir…"));
     choose->setObjectName(QStringLiteral("ChooseFile"));
     connect(choose, &QPushButton::clicked, this, [this] { chooseFile(); });
@@ -213,7 +251,12 @@ QWidget* SetupDetailsPage::makeServerForm()
     m_login = addField(*form, QStringLiteral("&Compte :"), QStringLiteral("Login"));
     m_password = addField(*form, QStringLiteral("&Mot de passe :"), QStringLiteral("Password"));
     m_password->setEchoMode(QLineEdit::Password);
-    m_port->setText(m_wizard.source().server.port);
+    const setup::Server& server = m_wizard.source().server;
+    m_host->setText(server.host);
+    m_port->setText(server.port);
+    m_base->setText(server.base);
+    m_login->setText(server.login);
+    m_password->setText(server.password);
     return page;
 }
 
@@ -251,13 +294,14 @@ bool SetupDetailsPage::validatePage()
     source.file = m_file->text().trimmed();
     source.server = {m_host->text(), m_port->text(), m_login->text(), m_password->text(),
                      m_base->text()};
-    return m_wizard.tryOut(m_told);
+    return tryOut(m_wizard, *m_told);
 }
 
 SetupFoundPage::SetupFoundPage(SetupWizard& wizard) : m_wizard(wizard), m_found(plainLabel())
 {
     setTitle(QStringLiteral("Votre base est là"));
-    setSubTitle(QStringLiteral("Rien n’est encore enregistré : « Ouvrir le plan » le fait."));
+    setSubTitle(
+        QStringLiteral("Aucun réglage n’est encore enregistré : « Ouvrir le plan » le fait."));
     auto* layout = new QVBoxLayout(this);
     m_found->setObjectName(QStringLiteral("Found"));
     m_found->setWordWrap(true);

@@ -39,6 +39,7 @@ private:
 
     void addChoice(QVBoxLayout& layout, setup::SourceKind kind, const QString& text,
                    const QString& sentence);
+    [[nodiscard]] const Choice& firstChoice() const;
     void addInstallation(QVBoxLayout& layout);
     void tellDrivers();
     void installDriver();
@@ -55,7 +56,7 @@ private:
     std::vector<Choice> m_choices;
 };
 
-/// Where the file is, or the server and its account.
+/// Where the file is, or the server and its account. Begins with what is set up.
 class SetupDetailsPage : public QWizardPage
 {
 public:

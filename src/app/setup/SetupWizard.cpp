@@ -3,11 +3,10 @@
 #include "app/ErrorReport.h"
 #include "app/setup/SetupPages.h"
 #include "runtime/RunTimeError.h"
-#include "setup/Registration.h"
 
+#include <QDate>
 #include <QEventLoop>
-#include <QFileInfo>
-#include <QLabel>
+#include <QFile>
 #include <QScopeGuard>
 #include <utility>
 
@@ -15,8 +14,14 @@ namespace app
 {
 
 SetupWizard::SetupWizard(shell::Settings settings, Ties ties)
-    : m_settings(std::move(settings)), m_ties(std::move(ties))
+    : m_settings(std::move(settings)), m_ties(std::move(ties)),
+      m_present(setup::presentOf(m_settings, m_ties.folders)),
+      m_source(m_present.source.value_or(setup::Source()))
 {
+    if (m_source.kind == setup::SourceKind::SqliteFile && m_source.file == m_ties.demoFile) {
+        m_source.kind = setup::SourceKind::Demo;
+        m_source.file.clear(); // nobody looks for it there
+    }
     setObjectName(QStringLiteral("SetupWizard"));
     setWindowTitle(QStringLiteral("Tempora : choisir la base"));
     setWizardStyle(QWizard::ModernStyle);
@@ -29,11 +34,6 @@ SetupWizard::SetupWizard(shell::Settings settings, Ties ties)
     setPage(kDetailsPage, new SetupDetailsPage(*this, kFoundPage));
     setPage(kFoundPage, new SetupFoundPage(*this));
     resize(640, 480);
-}
-
-QString SetupWizard::presentSource() const
-{
-    return setup::presentSource(m_settings);
 }
 
 /// Serves the window while the call runs, which nobody can hurry.
@@ -51,53 +51,81 @@ void SetupWizard::await(const std::function<void()>& call)
     m_background.finish();
 }
 
-void SetupWizard::look()
+setup::Findings SetupWizard::found() const
 {
-    if (m_source.kind == setup::SourceKind::Demo && !QFileInfo::exists(m_source.file)) {
-        m_ties.makeDemo(m_source.file);
-    }
     const db::SqlDialect bySetting(m_source.kind == setup::SourceKind::Server);
     db::Connection connection(setup::connectStringOf(m_source, m_driver), bySetting);
-    m_findings = setup::lookInto(connection);
+    return setup::lookInto(connection);
 }
 
-bool SetupWizard::tryOut(QLabel* told)
+void SetupWizard::look()
+{
+    if (m_source.kind == setup::SourceKind::Demo) {
+        lookAtDemo();
+    } else {
+        m_findings = found();
+    }
+}
+
+/// One that is there is kept with what has been tried in it, until its last period is over or
+/// something has broken it.
+void SetupWizard::lookAtDemo()
+{
+    const bool wasThere = QFile::exists(m_source.file);
+    const bool isOfUse = wasThere && runtime::skipOnError([this] { m_findings = found(); }) &&
+                         m_findings.lastDay >= QDate::currentDate();
+    if (!isOfUse) {
+        m_ties.makeDemo(m_source.file);
+        m_hasMadeDemo = m_hasMadeDemo || !wasThere;
+        m_findings = found();
+    }
+}
+
+QString SetupWizard::tryOut()
 {
     if (m_source.kind == setup::SourceKind::Demo) {
         m_source.file = m_ties.demoFile;
     }
-    m_driver = setup::driverFor(m_source.kind, m_ties.drivers());
+    const QStringList drivers = m_ties.drivers();
+    m_route = setup::routeOf(m_source, drivers, m_ties.folders);
+    m_driver = setup::driverOn(m_route, m_source.kind, drivers);
     const QString missing = setup::missingIn(m_source, m_driver);
     if (!missing.isEmpty()) {
-        told->setText(missing);
-        return false;
+        return missing;
     }
-    told->setText(QStringLiteral("Connexion à la base…"));
     try {
         await([this] { look(); });
     } catch (const runtime::RunTimeError& error) {
-        told->setText(QStringLiteral("%1\n\n%2").arg(error.explanation(), error.text()));
-        return false;
+        return QStringLiteral("%1\n\n%2").arg(error.explanation(), error.text());
     }
     m_recommendations = setup::recommendationsFor(
-        m_findings, m_ties.applicationFolder + QStringLiteral("/Styles"), m_settings);
-    told->clear();
-    return true;
+        m_findings, m_ties.folders.application + QStringLiteral("/Styles"), m_settings);
+    return {};
 }
 
 void SetupWizard::accept()
 {
     try {
-        const setup::Route route =
-            setup::routeOf(m_source, m_ties.drivers(), m_ties.applicationFolder);
-        setup::registerSource(m_source, route, m_driver, m_ties.applicationFolder, m_settings);
+        setup::registerSource(m_source, m_route, m_driver, m_ties.folders.application, m_settings);
         setup::saveRecommendations(m_recommendations, m_settings);
     } catch (const runtime::RunTimeError& error) {
         reportRunTimeError(this, error);
         return;
     }
     QWizard::accept();
-    m_ties.openPlan();
+    if (!m_ties.openPlan()) {
+        showFault(this, QStringLiteral("Tout est enregistré, mais le plan ne s’est pas ouvert."),
+                  QStringLiteral("Ouvrez Tempora vous-même."));
+    }
+}
+
+void SetupWizard::done(int result)
+{
+    const bool isWanted = result == Accepted && m_source.kind == setup::SourceKind::Demo;
+    if (m_hasMadeDemo && !isWanted) {
+        QFile::remove(m_ties.demoFile);
+    }
+    QWizard::done(result);
 }
 
 } // namespace app
