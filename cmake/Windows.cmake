@@ -46,7 +46,7 @@ function(tempora_windows_program target description)
   tempora_icon()
   set(icon_line "")
   if(TEMPORA_ICON)
-    set(icon_line "1 ICON \"${TEMPORA_ICON}\"")
+    set(icon_line "IDI_ICON1 ICON \"${TEMPORA_ICON}\"") # the name by which the toolkit finds it
     add_dependencies(${target} tempora_icon)
   endif()
   set(resources ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)

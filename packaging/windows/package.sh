@@ -21,6 +21,8 @@ version=$(sed -n 's/^project(tempora VERSION \([0-9.]*\).*/\1/p' "$project/CMake
 name=tempora-$version-windows
 files=$work/$name # what is unpacked and installed
 
+rm -f "$windows"/tempora-*-windows.zip "$windows"/tempora-*-installateur.exe # of other versions, too
+
 # A text as Windows' editors expect it.
 windows_text() { sed 's/$/\r/' "$1" | sed '1s/^/\xef\xbb\xbf/' >"$2"; }
 
@@ -40,6 +42,7 @@ copy_licences() {
     cp "$qt"/licences/*.txt "$place/"
     mv "$place/copyright.txt" "$place/Qt-copyright.txt"
     cp "$qt/built-from" "$place/Qt-version.txt"
+    cp /usr/share/doc/qt6-translations-l10n/copyright "$place/Qt-textes-copyright.txt"
     cp /usr/share/doc/libsqlite3-dev/copyright "$place/SQLite-copyright.txt"
     windows_text "$sqlite/driver-licence.txt" "$place/SQLite-ODBC.txt"
     cp /usr/share/doc/g++-mingw-w64-x86-64-posix/copyright "$place/gcc-copyright.txt"
@@ -65,21 +68,22 @@ gather_files() {
 
 make_zip() {
     rm -f "$windows/$name.zip"
-    (cd "$work" && find "$name" -type f | LC_ALL=C sort | zip -q -X "$windows/$name.zip" -@)
+    # By a tool that marks names as UTF-8: without the mark Windows takes them for its old characters.
+    (cd "$work" && find "$name" -type f | LC_ALL=C sort >files &&
+        LC_ALL=C.UTF-8 cmake -E tar cf "$windows/$name.zip" --format=zip --files-from=files)
 }
 
 make_installer() {
-    local file
-    (cd "$files" && printf '%s\n' Styles/*.mpl Qt6*.dll lib*.dll) | while read -r file; do
-        # shellcheck disable=SC2016 # makensis expands it
-        printf 'Delete "$INSTDIR\\%s"\n' "${file//\//\\}"
-    done >"$work/ours.nsh"
+    # What the uninstaller takes away: every file, then every folder that is empty by then.
+    # shellcheck disable=SC2016 # makensis expands it
+    (cd "$files" && find . -type f -printf 'Delete "$INSTDIR\\%P"\n' &&
+        find . -depth -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n') | tr / '\\' >"$work/ours.nsh"
     makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFILES="$files" \
         -DICON="$build/tempora.ico" -DOUT="$windows/tempora-$version-installateur.exe" \
         "$here/tempora.nsi"
 }
 
-ensure_packages "${wine_packages[@]}" libsqlite3-dev nsis zip
+ensure_packages "${wine_packages[@]}" cmake libsqlite3-dev nsis
 "$here/build.sh"
 gather_files
 make_zip

@@ -5,6 +5,7 @@ Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel admin
 
+!include LogicLib.nsh
 !include MUI2.nsh
 
 !define DRIVERS "SOFTWARE\ODBC\ODBCINST.INI\ODBC Drivers"
@@ -76,7 +77,10 @@ Section "Uninstall"
   Delete "$INSTDIR\licence.txt"
   Delete "$INSTDIR\desinstaller.exe"
   RMDir "$INSTDIR"
-  DeleteRegValue HKLM "${DRIVERS}" "SQLite3 ODBC Driver"
-  DeleteRegKey HKLM "${DRIVERKEY}"
+  ReadRegStr $0 HKLM "${DRIVERKEY}" "Driver"
+  ${If} $0 == "$INSTDIR\sqlite3odbc.dll" ; and not one that somebody has installed since
+    DeleteRegValue HKLM "${DRIVERS}" "SQLite3 ODBC Driver"
+    DeleteRegKey HKLM "${DRIVERKEY}"
+  ${EndIf}
   DeleteRegKey HKLM "${KEY}"
 SectionEnd

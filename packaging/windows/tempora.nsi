@@ -4,6 +4,7 @@ Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 
+!include LogicLib.nsh
 !include MUI2.nsh
 
 !define KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tempora"
@@ -34,25 +35,42 @@ VIAddVersionKey /LANG=1036 "LegalCopyright" "The Tempora authors, MIT License"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "French"
 
-; What an earlier version has put there and this one does not bring: all but what is the user's.
-!macro RemoveProgram
-  Delete "$INSTDIR\tempora.exe"
-  Delete "$INSTDIR\tempora-setup.exe"
-  Delete "$INSTDIR\tempora-demo.exe"
-  Delete "$INSTDIR\pilote-sqlite.exe"
-  Delete "$INSTDIR\Lisez-moi.txt"
-  RMDir /r "$INSTDIR\demonstration"
-  RMDir /r "$INSTDIR\docs"
-  RMDir /r "$INSTDIR\licences"
-  RMDir /r "$INSTDIR\translations"
-  RMDir /r "$INSTDIR\platforms"
-  ; Palettes and libraries by their names: users keep palettes of their own beside them.
-  !include "${FILES}/../ours.nsh"
-  RMDir "$INSTDIR\Styles"
+; A program that runs cannot be replaced nor removed. Windows opens its file to nobody who would write.
+!macro RefuseWhileOpen PROGRAM
+  ${If} ${FileExists} "$INSTDIR\${PROGRAM}"
+    ${Do}
+      ClearErrors
+      FileOpen $0 "$INSTDIR\${PROGRAM}" a
+      ${IfNot} ${Errors}
+        FileClose $0
+        ${ExitDo}
+      ${EndIf}
+      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${PROGRAM} est ouvert. Fermez-le, puis réessayez." /SD IDCANCEL`
+        SetErrorLevel 3
+        Abort "${PROGRAM} est ouvert."
+      ${EndIf}
+    ${Loop}
+  ${EndIf}
+!macroend
+
+; What an earlier version has put there is known to its uninstaller: it takes away what was its own, and
+; leaves what is the user's.
+!macro RemoveEarlierVersion
+  ReadRegStr $1 HKCU "${KEY}" "InstallLocation"
+  ${If} $1 == $INSTDIR
+  ${AndIf} ${FileExists} "$INSTDIR\desinstaller.exe"
+    ExecWait '"$INSTDIR\desinstaller.exe" /S _?=$INSTDIR' $0
+    ${If} $0 != 0
+      SetErrorLevel 4
+      Abort "La version précédente ne s’enlève pas."
+    ${EndIf}
+  ${EndIf}
 !macroend
 
 Section
-  !insertmacro RemoveProgram
+  !insertmacro RefuseWhileOpen "tempora.exe"
+  !insertmacro RefuseWhileOpen "tempora-setup.exe"
+  !insertmacro RemoveEarlierVersion
   SetOutPath "$INSTDIR"
   File /r "${FILES}/*"
   WriteUninstaller "$INSTDIR\desinstaller.exe"
@@ -75,7 +93,9 @@ SectionEnd
 
 ; The settings, the data source and app_data stay.
 Section "Uninstall"
-  !insertmacro RemoveProgram
+  !insertmacro RefuseWhileOpen "tempora.exe"
+  !insertmacro RefuseWhileOpen "tempora-setup.exe"
+  !include "${FILES}/../ours.nsh" ; each of its files and folders by name, the latter where they are empty
   Delete "$INSTDIR\desinstaller.exe"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\Tempora\Tempora.lnk"

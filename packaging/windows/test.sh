@@ -42,7 +42,7 @@ says() {
 }
 has_key() { "$wine" reg.exe query "$1" >/dev/null 2>&1; }
 
-ensure_packages "${wine_packages[@]}" unzip
+ensure_packages "${wine_packages[@]}" python3 unzip xdotool
 installer=$(find "$windows" -maxdepth 1 -name 'tempora-*-installateur.exe')
 [[ -n $installer ]] || fail "There is no installer: run packaging/windows/package.sh"
 trap end_all EXIT
@@ -80,6 +80,14 @@ done
 "$WINESERVER" -w
 is_gone "$driver_place"
 ! has_key "$driver_key" || fail "Windows still knows the driver."
+"$wine" "$place/pilote-sqlite.exe" /S
+"$wine" reg.exe add "$driver_key" /v Driver /d 'C:\windows\system32\odbc32.dll' /f >/dev/null 2>&1
+"$wine" "$driver_place/desinstaller.exe" /S
+"$WINESERVER" -w
+is_gone "$driver_place"
+says "$driver_key" Driver 'C:\windows\system32\odbc32.dll' # somebody else's since: not its own to remove
+"$wine" reg.exe delete "$driver_key" /f >/dev/null 2>&1
+"$wine" reg.exe delete "$drivers" /v 'SQLite3 ODBC Driver' /f >/dev/null 2>&1
 says "$drivers" SQLite3 Installed # another one's
 "$wine" reg.exe add "$driver_key" /v Driver /d 'C:\windows\system32\odbc32.dll' /f >/dev/null 2>&1
 "$wine" "$place/pilote-sqlite.exe" /S
@@ -87,8 +95,39 @@ is_gone "$driver_place"
 says "$driver_key" Driver 'C:\windows\system32\odbc32.dll' # somebody else's driver stays
 "$wine" reg.exe delete "$driver_key" /f >/dev/null 2>&1
 
+say "Starting what is installed ..."
+for program in tempora tempora-setup; do
+    "$wine" "$place/$program.exe" --version | tr -d '\r' | grep -qx 'Tempora [0-9.]*' || fail "$program.exe --version"
+done
+"$wine" "$place/tempora-demo.exe" --sqlite "$windows/test/demo.sqlite" --size small
+is_there "$windows/test/demo.sqlite"
+rm "$windows/test/demo.sqlite"
+
+say "Installing over itself, and not over a program that is open ..."
+touch "$place/docs/a-moi.txt"
+"$wine" "$installer" /S
+is_there "$place/tempora.exe"
+is_there "$place/docs/a-moi.txt"
+"$wine" "$place/tempora-setup.exe" >/dev/null 2>&1 &
+timeout 60 sh -c 'until xdotool search --name "choisir la base" >/dev/null 2>&1; do sleep 0.5; done' ||
+    fail "tempora-setup.exe shows no window"
+code=0
+"$wine" "$installer" /S || code=$?
+((code == 3)) || fail "The installer over an open program ended with $code."
+is_there "$place/tempora.exe"
+"$wine" taskkill.exe /f /im tempora-setup.exe >/dev/null 2>&1
+wait $! || true
+rm "$place/docs/a-moi.txt"
+
 say "Comparing with the zip ..."
 unzip -q "$windows"/tempora-*-windows.zip -d "$windows/test/unzipped"
+is_there "$windows"/test/unzipped/*/Styles/Océan.mpl
+# Names beyond ASCII carry the mark of UTF-8, bit 11 of their flags.
+python3 - "$windows"/tempora-*-windows.zip <<'END' || fail "A name in the zip is not marked as UTF-8."
+import sys, zipfile
+names = [i for i in zipfile.ZipFile(sys.argv[1]).infolist() if not i.filename.isascii()]
+sys.exit(0 if names and all(i.flag_bits & 0x800 for i in names) else 1)
+END
 differences=$(diff -r "$place" "$windows"/test/unzipped/* | grep -v ': desinstaller.exe$' || true)
 [[ -z $differences ]] || fail "The zip holds something else than the installer: $differences"
 rm -rf "$windows/test/unzipped"

@@ -1,7 +1,9 @@
 #include "app/setup/SetupWizard.h"
 
 #include "app/Hands.h"
+#include "db/Connection.h"
 #include "db/DataSources.h"
+#include "support/MariaDbServer.h"
 #include "support/OwnDataSources.h"
 #include "support/RuntimeMatchers.h"
 #include "support/TinyFaculty.h"
@@ -11,9 +13,11 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QWindow>
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -31,10 +35,14 @@ protected:
     {
         createTinyFaculty(m_school);
         m_ties.drivers = [this] { return drivers; };
-        m_ties.applicationFolder = m_machine.path("program");
+        m_ties.folders = {m_machine.path("program"), {}};
         m_ties.demoFile = m_machine.path("demo.sqlite");
-        m_ties.makeDemo = [this](const QString& file) { QFile::copy(m_school.file(), file); };
-        m_ties.openPlan = [this] { ++opened; };
+        m_ties.makeDemo = [this](const QString& file) {
+            ++made;
+            QFile::remove(file);
+            QFile::copy(m_school.file(), file);
+        };
+        m_ties.openPlan = [this] { return ++opened > 0; };
     }
 
     /// Shows it, and waits until it has the focus.
@@ -78,6 +86,23 @@ protected:
     [[nodiscard]] app::SetupWizard::Ties& ties() { return m_ties; }
     [[nodiscard]] const OwnDataSources& machine() const { return m_machine; }
 
+    /// Until when the last period of the school lasts.
+    void endOn(QDate day)
+    {
+        m_school.execute("update tranche set DateFin = '" + day.toString(Qt::ISODate) +
+                         "' where ident = 1");
+    }
+    [[nodiscard]] QString fieldText(const QString& field) const
+    {
+        const auto* line = wizard->currentPage()->findChild<QLineEdit*>(field);
+        return line == nullptr ? QStringLiteral("(no such field)") : line->text();
+    }
+    [[nodiscard]] bool isOn(const QString& title) const
+    {
+        return until([&] { return wizard->currentPage()->title() == title; });
+    }
+
+    std::atomic<int> made = 0; ///< demo faculties, on the wizard's thread
     int opened = 0;
     QStringList drivers{"SQLite3"}; ///< that are installed
     std::unique_ptr<app::SetupWizard> wizard;
@@ -114,6 +139,64 @@ TEST_F(TheSetup, writesNothingBeforeTheLastButton)
     EXPECT_EQ(machine().text("odbc.ini"), OwnDataSources::usersText());
     EXPECT_FALSE(QFile::exists(machine().path("réglages.ini")));
     EXPECT_EQ(opened, 0);
+}
+
+TEST_F(TheSetup, takesADemoFacultyAwayThatNobodyWanted)
+{
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    EXPECT_TRUE(QFile::exists(machine().path("demo.sqlite")));
+    go(QWizard::CancelButton);
+    ASSERT_TRUE(until([this] { return !wizard->isVisible(); }));
+    EXPECT_FALSE(QFile::exists(machine().path("demo.sqlite")));
+}
+
+TEST_F(TheSetup, takesTheDemoFacultyAwayWhenAnotherBaseIsChosen)
+{
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    go(QWizard::BackButton);
+    ASSERT_TRUE(isOn("Où est votre emploi du temps ?"));
+    choose(SourceKind::SqliteFile);
+    go(QWizard::NextButton);
+    ASSERT_TRUE(isOn("Votre fichier"));
+    fill("File", school().file());
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([this] { return opened == 1; }));
+    EXPECT_FALSE(QFile::exists(machine().path("demo.sqlite")));
+}
+
+TEST_F(TheSetup, keepsADemoFacultyWhoseTermGoesOn)
+{
+    endOn(QDate::currentDate().addDays(1));
+    ASSERT_TRUE(QFile::copy(school().file(), machine().path("demo.sqlite")));
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    EXPECT_EQ(made, 0);
+    go(QWizard::CancelButton);
+    ASSERT_TRUE(until([this] { return !wizard->isVisible(); }));
+    EXPECT_TRUE(QFile::exists(machine().path("demo.sqlite"))); // it was there before
+}
+
+TEST_F(TheSetup, makesADemoFacultyAnewWhoseTermIsOverOrWhichIsBroken)
+{
+    endOn(QDate::currentDate().addDays(-1));
+    ASSERT_TRUE(QFile::copy(school().file(), machine().path("demo.sqlite")));
+    endOn(QDate::currentDate().addDays(1));
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    EXPECT_EQ(made, 1);
+    machine().write("demo.sqlite", "cut off");
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    EXPECT_EQ(made, 2);
 }
 
 TEST_F(TheSetup, leavesOutWhatIsNotTicked)
@@ -256,6 +339,104 @@ TEST_F(TheSetup, showsWhatIsSet)
     db::writeDataSource({"MonKalo", "SQLite3", {{"Database", "/srv/école.sqlite"}}});
     show();
     EXPECT_TRUE(shows("Present", "Actuellement : Fichier SQLite /srv/école.sqlite"));
+    go(QWizard::NextButton); // the kind is chosen already
+    ASSERT_TRUE(isOn("Votre fichier"));
+    EXPECT_EQ(fieldText("File"), "/srv/école.sqlite");
+}
+
+TEST_F(TheSetup, showsTheServerThatIsSet)
+{
+    drivers = QStringList{"SQLite3", "MariaDB Unicode"};
+    db::writeDataSource({"MonKalo",
+                         "MariaDB Unicode",
+                         {{"Server", "db1"},
+                          {"Port", "3310"},
+                          {"Database", "sa"},
+                          {"User", "kalo"},
+                          {"Password", "secret"}}});
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(isOn("Votre serveur"));
+    EXPECT_EQ(fieldText("Host"), "db1");
+    EXPECT_EQ(fieldText("Port"), "3310");
+    EXPECT_EQ(fieldText("Base"), "sa");
+    EXPECT_EQ(fieldText("Login"), "kalo");
+    EXPECT_EQ(fieldText("Password"), "secret");
+}
+
+TEST_F(TheSetup, showsTheDemoFacultyThatIsSet)
+{
+    drivers = QStringList{"MariaDB Unicode", "SQLite3"};
+    db::writeDataSource({"MonKalo", "SQLite3", {{"Database", machine().path("demo.sqlite")}}});
+    show();
+    EXPECT_TRUE(wizard->currentPage()->findChild<QRadioButton*>("Kind0")->isChecked());
+}
+
+TEST_F(TheSetup, showsTheSettingsThatAreSet)
+{
+    shell::Settings before = settings();
+    before.save("Toutes_Salles", "1");
+    before.save("Ouvrir_Aujourdhui", "Faux");
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    EXPECT_TRUE(wizard->findChild<QCheckBox*>("Toutes_Salles")->isChecked());
+    EXPECT_FALSE(wizard->findChild<QCheckBox*>("Ouvrir_Aujourdhui")->isChecked());
+    EXPECT_EQ(wizard->findChild<QCheckBox*>("Apostrophes"), nullptr); // no name has one
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([this] { return opened == 1; }));
+    EXPECT_EQ(settings().get("Toutes_Salles", {}), "1");
+    EXPECT_EQ(settings().get("Ouvrir_Aujourdhui", {}), "Faux");
+}
+
+TEST_F(TheSetup, opensAServerByItsAccountAndTellsAWrongPassword)
+{
+    TestDatabase faculty(DatabaseKind::MariaDb);
+    createTinyFaculty(faculty);
+    const MariaDbAccess& server = MariaDbServer::shared();
+    const QString login = "choix_" + QString::number(QCoreApplication::applicationPid());
+    const QString password = "se;cr}et";
+    server.createAccount(login, password, "SELECT ON `" + faculty.baseName() + "`.*");
+    drivers = QStringList{"MariaDB Unicode"};
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(isOn("Votre serveur"));
+    fill("Host", "127.0.0.1");
+    fill("Port", QString::number(server.port()));
+    fill("Base", faculty.baseName());
+    fill("Login", login);
+    fill("Password", "autre");
+    go(QWizard::NextButton);
+    ASSERT_TRUE(until([this] {
+        const auto* told = wizard->currentPage()->findChild<QLabel*>("Told");
+        return told != nullptr && told->text().contains("Access denied");
+    }));
+    EXPECT_EQ(wizard->currentPage()->title(), "Votre serveur");
+    EXPECT_EQ(machine().text("odbc.ini"), OwnDataSources::usersText());
+    fill("Password", password);
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles, 2 périodes, 6 séances ; droits : lecture seule"));
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([this] { return opened == 1; }));
+    db::Connection asTheProgram("DSN=MonKalo", db::SqlDialect(false));
+    EXPECT_EQ(asTheProgram.open("select Nom from salle").rows().size(), 5U);
+}
+
+TEST_F(TheSetup, saysWhereThePlanDoesNotOpen)
+{
+    ties().openPlan = [] { return false; };
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    QString text;
+    const DialogAnswer answer([&text](QDialog& dialog) {
+        text = static_cast<QMessageBox&>(dialog).text();
+        dialog.reject();
+    });
+    go(QWizard::FinishButton);
+    ASSERT_TRUE(until([&] { return answer.count() == 1; }));
+    EXPECT_EQ(text, "Tout est enregistré, mais le plan ne s’est pas ouvert.");
+    EXPECT_EQ(settings().get("Toutes_Salles", {}), "True");
 }
 
 TEST_F(TheSetup, staysWhereNothingCanBeWritten)
