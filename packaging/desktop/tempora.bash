@@ -1,4 +1,4 @@
-# Completion of tempora's options for bash.                                  -*- shell-script -*-
+# Completion of the programs' options for bash.                                 -*- shell-script -*-
 
 _tempora()
 {
@@ -12,6 +12,14 @@ _tempora()
             ;;
         --settings)
             _filedir ini
+            return
+            ;;
+        --sqlite | --mariadb-script)
+            _filedir
+            return
+            ;;
+        --size)
+            COMPREPLY=($(compgen -W 'small middle large' -- "$cur"))
             return
             ;;
         --mode)
@@ -44,13 +52,14 @@ _tempora()
             ;;
         --refresh | --display-seconds | --display-refresh | --from | --to | --places | \
             --weeks-running | --room | --teacher | --class | --matter | --text | --tranche | \
-            --department | --rooms-per-page | --subject | --page | --seed)
+            --department | --rooms-per-page | --subject | --page | --seed | --rooms | --classes | \
+            --students | --teachers | --subjects | --periods)
             return
             ;;
     esac
     $split && return
 
-    # The program's own list, so that no option is missing here.
+    # Each program's own list, so that no option is missing here.
     COMPREPLY=($(compgen -W "$("$1" --help 2>/dev/null |
-        sed -n 's/^ *\(--[a-z-]*\).*/\1/p')" -- "$cur"))
-} && complete -F _tempora tempora
+        sed -n 's/^ *\(-[a-z?], \)*\(--[a-z-]*\).*/\2/p')" -- "$cur"))
+} && complete -F _tempora tempora tempora-demo tempora-setup

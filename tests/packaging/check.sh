@@ -11,9 +11,9 @@ fail() {
     exit 1
 }
 
-# The options that the program itself knows, one a line.
+# The options that the program itself knows, one a line; those of the program `$1` beside it.
 options() {
-    "$program" --help | sed -n 's/^  \(--[a-z-]*\).*/\1/p'
+    "${program%/*}/${1:-tempora}" --help | sed -n 's/^  \(-[a-z?], \)*\(--[a-z-]*\).*/\2/p'
 }
 
 # What completion offers for the words given, one a line.
@@ -24,11 +24,11 @@ offered() {
         source /usr/share/bash-completion/bash_completion
         # shellcheck disable=SC1091
         source "$desktop/tempora.bash"
-        COMP_WORDS=("$program" "$@")
+        COMP_WORDS=("${completed:-$program}" "$@")
         COMP_CWORD=$#
         COMP_LINE="${COMP_WORDS[*]}"
         COMP_POINT=${#COMP_LINE}
-        _tempora "$program"
+        _tempora "${COMP_WORDS[0]}"
         printf '%s\n' "${COMPREPLY[@]}"
     )
 }
@@ -50,7 +50,9 @@ case $check in
     manualNamesEveryOption)
         count=0
         while read -r option; do
-            grep -qF -- "${option//-/\\-}" "$desktop/tempora.1" || fail "tempora.1 does not name $option"
+            # Up to its end: --week is not named where --weeks-running and --week-of are.
+            grep -qP -- "\\Q${option//-/\\-}\\E(?![a-z]|\\\\-)" "$desktop/tempora.1" ||
+                fail "tempora.1 does not name $option"
             count=$((count + 1))
         done < <(options)
         ((count >= 40)) || fail "The program told $count options only."
@@ -63,7 +65,11 @@ case $check in
         head -n 1 "$debian/changelog" | grep -qF "($version-" || fail "debian/changelog"
         ;;
     completionOffersEveryOption)
-        diff <(options | sort) <(offered -- | sort)
+        for name in tempora tempora-demo tempora-setup; do
+            completed=${program%/*}/$name
+            [[ -n $(options "$name") ]] || fail "$name tells no options"
+            diff <(options "$name" | sort) <(offered -- | sort) || fail "$name"
+        done
         ;;
     completionOffersValues)
         [[ $(offered --mode ex) == exam ]] || fail "--mode ex"

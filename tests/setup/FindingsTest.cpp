@@ -101,11 +101,11 @@ TEMPORA_ON_BOTH_DATABASES(Looking);
 
 TEST(Findings, areToldInOneLine)
 {
-    Findings found{64, 2, 2144, true, false};
+    Findings found{64, 2, 2144, {}, true, false};
     EXPECT_EQ(inWords(found),
               QStringLiteral("64 salles, 2 périodes, 2\u202f144 séances ; droits : lecture et "
                              "absences"));
-    found = {1, 0, 1, false, false};
+    found = {1, 0, 1, {}, false, false};
     EXPECT_EQ(inWords(found),
               QStringLiteral("1 salle, 0 période, 1 séance ; droits : lecture seule"));
 }
