@@ -45,7 +45,7 @@ VIAddVersionKey /LANG=1036 "LegalCopyright" "The Tempora authors, MIT License"
         FileClose $0
         ${ExitDo}
       ${EndIf}
-      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${PROGRAM} est ouvert. Fermez-le, puis réessayez." /SD IDCANCEL`
+      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${PROGRAM} est ouvert. Fermez-le, puis réessayez." /SD IDCANCEL IDCANCEL`
         SetErrorLevel 3
         Abort "${PROGRAM} est ouvert."
       ${EndIf}

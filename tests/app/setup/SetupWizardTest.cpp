@@ -347,13 +347,9 @@ TEST_F(TheSetup, showsWhatIsSet)
 TEST_F(TheSetup, showsTheServerThatIsSet)
 {
     drivers = QStringList{"SQLite3", "MariaDB Unicode"};
-    db::writeDataSource({"MonKalo",
-                         "MariaDB Unicode",
-                         {{"Server", "db1"},
-                          {"Port", "3310"},
-                          {"Database", "sa"},
-                          {"User", "kalo"},
-                          {"Password", "secret"}}});
+    shell::Settings before = settings();
+    setup::registerSource({SourceKind::Server, {}, {"db1", "3310", "kalo", "secret", "sa"}},
+                          setup::Route::DataSource, "MariaDB Unicode", {}, before);
     show();
     go(QWizard::NextButton);
     ASSERT_TRUE(isOn("Votre serveur"));
