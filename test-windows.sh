@@ -70,9 +70,10 @@ run_tests() {
     local name=$1 log=$work/$1.log code=0 cases="-$left_out"
     [[ $name != sqlite_driver ]] || cases=$on_driver
     use_odbc_folder "$work/odbc-$name"
-    "$wine" "$bin/${name}_tests.exe" -platform windows --gtest_color=no \
+    timeout 1200 "$wine" "$bin/${name}_tests.exe" -platform windows --gtest_color=no \
         --gtest_filter="$cases" >"$log" 2>&1 </dev/null ||
         code=$?
+    grep -q '^\[  PASSED  \] [1-9]' "$log" || ((code)) || code=1 # nothing ran
     printf '%-12s %s\n' "$name" "$(sed -n 's/\r//; s/^\[==========\] \(.* ran\.\).*/\1/p
         s/^\[  PASSED  \] \(.*\)/ passed: \1/p; s/^\[  FAILED  \] \([0-9]* tests\?\),.*/ failed: \1/p' \
         "$log" | paste -sd' ')"
@@ -81,8 +82,8 @@ run_tests() {
 
 ensure_packages "${wine_packages[@]}" libgtest-dev mariadb-client-core mariadb-server-core python3
 names=("$@")
+"$project/packaging/windows/build.sh" --tests
 if ((${#names[@]} == 0)); then
-    "$project/packaging/windows/build.sh" --tests
     mapfile -t names < <(basename -s _tests.exe "$bin"/*_tests.exe)
 fi
 mkdir -p "$work"

@@ -58,7 +58,7 @@ if ! $again && [[ -f $qt/built-from && $(<"$qt/built-from") == "$built_from" ]];
     exit
 fi
 rm -rf "$qt"
-mkdir -p "$work"
+begin_work "$work" "$built_from"
 fetch_source qt6-base "$version" "$work/source" >"$log"
 say "Building Qt $version for Windows: about half an hour on two cores. Its words go to" \
     "${log#"$project"/}."

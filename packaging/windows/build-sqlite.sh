@@ -49,7 +49,7 @@ if [[ -f $sqlite/built-from && $(<"$sqlite/built-from") == "$built_from" ]]; the
     exit
 fi
 rm -rf "$sqlite"
-mkdir -p "$work"
+begin_work "$work" "$built_from"
 {
     fetch_source sqlite3 "$version" "$work/sqlite3"
     fetch_source sqliteodbc "$driver_version" "$work/sqliteodbc"

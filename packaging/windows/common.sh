@@ -35,6 +35,14 @@ apt_get_source() {
         -o Dir::State::Lists="$place/lists" -o Dir::Cache="$place/cache" "$@"
 }
 
+# An empty folder `$1` to build `$2` in; what an interrupted run has left there of the same is kept, and of
+# anything else removed.
+begin_work() {
+    [[ -f $1/builds && $(<"$1/builds") == "$2" ]] || rm -rf "$1"
+    mkdir -p "$1"
+    printf '%s\n' "$2" >"$1/builds"
+}
+
 # The sources of the package `$1` in Debian's version `$2`, with Debian's patches, in the folder
 # `$3`, unless they are there. apt checks what it fetches.
 fetch_source() {

@@ -17,7 +17,7 @@ make_prefix() {
     say "Preparing Wine ..."
     rm -rf "$WINEPREFIX"
     mkdir -p "$WINEPREFIX"
-    "$wine" wineboot.exe -i >/dev/null 2>&1
+    "$wine" wineboot.exe -i >/dev/null 2>&1 || fail "Wine could not make its folder: $WINEPREFIX"
     "$wine" winecfg.exe -v win10 >/dev/null 2>&1
     local link
     while IFS= read -r link; do # the user's own folders are nobody's business here
