@@ -3,7 +3,8 @@
 #
 #   packaging/debian/build.sh [--twice]
 #
-# --twice builds it a second time, in another folder, and compares the bytes.
+# --twice builds it a second time, in another folder, another time zone and language and with other rights
+# for new files, and compares the bytes.
 # The package lies in build-deb/ afterwards; everything else that is written lies there, too.
 set -euo pipefail
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
@@ -53,7 +54,7 @@ package=$(find "$out/first" -maxdepth 1 -name 'tempora_*.deb')
 say "Checking it with lintian ..."
 lintian --fail-on error,warning "$out/first"/tempora_*.changes
 if $twice; then
-    build_package "$out/again"
+    (umask 027 && TZ=Etc/GMT-9 LC_ALL=C LANG=fr_FR.UTF-8 build_package "$out/again")
     for file in "$out/first"/*.deb; do
         cmp "$file" "$out/again/${file##*/}" || fail "${file##*/} is not the same bytes twice."
     done

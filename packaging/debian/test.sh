@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian package that build.sh made into a Debian of its own, uses it as somebody
-# without rights, upgrades it, and removes it. The root folder is made and taken down by mmdebstrap;
-# nothing of this machine is installed or mounted but mmdebstrap itself.
+# without rights, upgrades it, and removes it. The root folder is made and taken down by mmdebstrap, which
+# mounts in it what it needs and nothing else; on this machine nothing is installed but mmdebstrap itself.
 #
 #   packaging/debian/test.sh [PACKAGE.deb]
 set -euo pipefail

@@ -89,6 +89,11 @@ for file in /usr/bin/tempora /usr/share/applications/tempora.desktop \
     [[ -e $file ]] || dpkg -L tempora | grep -qxF "$file" || fail "$file is missing"
 done
 
+apt-get -q -y remove tempora
+[[ ! -e /usr/bin/tempora ]] || fail "the program stayed"
+[[ -s /etc/tempora/app_data/SaKalo.php ]] || fail "the removal took the server's file along"
+apt-get -q -y install /root/tempora.deb
+[[ -s /etc/tempora/app_data/SaKalo.php ]] || fail "installing it again lost the server's file"
 apt-get -q -y purge tempora
 [[ ! -e /usr/lib/tempora && ! -e /usr/bin/tempora ]] || fail "something of the program stayed"
 [[ -s /etc/tempora/app_data/SaKalo.php ]] || fail "the removal took the server's file along"

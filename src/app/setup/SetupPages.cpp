@@ -306,6 +306,7 @@ SetupFoundPage::SetupFoundPage(SetupWizard& wizard) : m_wizard(wizard), m_found(
     m_found->setObjectName(QStringLiteral("Found"));
     m_found->setWordWrap(true);
     layout->addWidget(m_found);
+    layout->addSpacing(12);
     layout->addWidget(plainLabel(QStringLiteral("Réglages conseillés :")));
     layout->addStretch();
 }
