@@ -9,7 +9,7 @@
 
 using app::hitPlan;
 using app::PlanHit;
-using Part = app::PlanHit::Part;
+using HitPart = app::PlanHit::Part;
 
 namespace
 {
@@ -53,7 +53,7 @@ protected:
     {
         return hitPlan(form, content, {}, {x, y});
     }
-    [[nodiscard]] Part partAt(double x, double y) const { return at(x, y).part; }
+    [[nodiscard]] HitPart partAt(double x, double y) const { return at(x, y).part; }
 
     form::PlanForm form;
     plan::PlanContent content;
@@ -64,7 +64,7 @@ protected:
 TEST_F(ThePoint, liesInTheBandOverABox)
 {
     const PlanHit hit = at(300, 57);
-    EXPECT_EQ(hit.part, Part::Box);
+    EXPECT_EQ(hit.part, HitPart::Box);
     EXPECT_EQ(hit.row, &content.rows[0]);
     EXPECT_EQ(hit.box, &content.rows[0].boxes[0]);
     EXPECT_EQ(at(110, 80).box, &content.rows[1].boxes[0]);
@@ -76,42 +76,42 @@ TEST_F(ThePoint, liesInNothingBesideTheBoxes)
     for (const QPointF& beside : {QPointF(267, 57), QPointF(429, 57), QPointF(300, 47),
                                   QPointF(300, 68), QPointF(110, 57), QPointF(300, 80)}) {
         const PlanHit hit = at(beside.x(), beside.y());
-        EXPECT_EQ(hit.part, Part::Nothing) << beside.x() << ' ' << beside.y();
+        EXPECT_EQ(hit.part, HitPart::Nothing) << beside.x() << ' ' << beside.y();
         EXPECT_EQ(hit.box, nullptr);
         EXPECT_EQ(hit.row, nullptr);
     }
-    EXPECT_EQ(partAt(269, 48), Part::Box);
-    EXPECT_EQ(partAt(300, 67), Part::Box);
+    EXPECT_EQ(partAt(269, 48), HitPart::Box);
+    EXPECT_EQ(partAt(300, 67), HitPart::Box);
 }
 
 TEST_F(ThePoint, liesInThePicturesPlacesWhetherOrNotTheyAreShown)
 {
-    EXPECT_EQ(partAt(427, 57), Part::YAbs); // 408 to 428
-    EXPECT_EQ(partAt(409, 57), Part::YAbs);
-    EXPECT_EQ(partAt(413, 57), Part::YAbs); // the left one, 394 to 414, lies under it
-    EXPECT_EQ(partAt(407, 57), Part::XAbs);
-    EXPECT_EQ(partAt(395, 57), Part::XAbs);
-    EXPECT_EQ(partAt(393, 57), Part::Box);
+    EXPECT_EQ(partAt(427, 57), HitPart::YAbs); // 408 to 428
+    EXPECT_EQ(partAt(409, 57), HitPart::YAbs);
+    EXPECT_EQ(partAt(413, 57), HitPart::YAbs); // the left one, 394 to 414, lies under it
+    EXPECT_EQ(partAt(407, 57), HitPart::XAbs);
+    EXPECT_EQ(partAt(395, 57), HitPart::XAbs);
+    EXPECT_EQ(partAt(393, 57), HitPart::Box);
 }
 
 TEST_F(ThePoint, liesInTheLabelsOverAllElse)
 {
     group();
-    EXPECT_EQ(partAt(269, 49), Part::Counter);
-    EXPECT_EQ(partAt(426, 66), Part::Size);
-    EXPECT_EQ(partAt(426, 49), Part::YAbs); // above the size
-    EXPECT_EQ(partAt(300, 57), Part::Box);
+    EXPECT_EQ(partAt(269, 49), HitPart::Counter);
+    EXPECT_EQ(partAt(426, 66), HitPart::Size);
+    EXPECT_EQ(partAt(426, 49), HitPart::YAbs); // above the size
+    EXPECT_EQ(partAt(300, 57), HitPart::Box);
     group(true);
-    EXPECT_EQ(partAt(426, 49), Part::Counter);
-    EXPECT_EQ(partAt(269, 49), Part::Box);
+    EXPECT_EQ(partAt(426, 49), HitPart::Counter);
+    EXPECT_EQ(partAt(269, 49), HitPart::Box);
 }
 
 TEST_F(ThePoint, passesThroughLabelsThatAreNotShown)
 {
     group();
     form.Check3.setChecked(false);
-    EXPECT_EQ(partAt(269, 49), Part::Box);
-    EXPECT_EQ(partAt(426, 66), Part::YAbs);
+    EXPECT_EQ(partAt(269, 49), HitPart::Box);
+    EXPECT_EQ(partAt(426, 66), HitPart::YAbs);
 }
 
 TEST_F(ThePoint, meetsAPictureWhereItIsDrawn)
@@ -122,8 +122,8 @@ TEST_F(ThePoint, meetsAPictureWhereItIsDrawn)
     const auto places = paint::drawnPlaces(
         form, paint::overlayPlaces(form, {}, 1, first(), paint::OverlayFonts()), first());
     ASSERT_LT(places.YAbs.right(), 400); // beside the label that would hide it
-    EXPECT_EQ(partAt(places.YAbs.center().x(), 49), Part::YAbs);
-    EXPECT_EQ(partAt(426, 49), Part::Box);
+    EXPECT_EQ(partAt(places.YAbs.center().x(), 49), HitPart::YAbs);
+    EXPECT_EQ(partAt(426, 49), HitPart::Box);
 }
 
 TEST_F(ThePoint, meetsTheBoxThatIsDrawnLast)
@@ -131,14 +131,14 @@ TEST_F(ThePoint, meetsTheBoxThatIsDrawnLast)
     content.rows[0].boxes.push_back(boxAt(4020 + 1200)); // 80 pixels further right
     EXPECT_EQ(at(300, 57).box, &content.rows[0].boxes[0]);
     EXPECT_EQ(at(349, 57).box, &content.rows[0].boxes[1]);
-    EXPECT_EQ(partAt(409, 57), Part::Box); // over the first one's picture
+    EXPECT_EQ(partAt(409, 57), HitPart::Box); // over the first one's picture
 }
 
 TEST_F(ThePoint, meetsNothingInAHiddenRow)
 {
     form.Salle[1].visible = false;
-    EXPECT_EQ(partAt(300, 57), Part::Nothing);
-    EXPECT_EQ(partAt(110, 80), Part::Box);
+    EXPECT_EQ(partAt(300, 57), HitPart::Nothing);
+    EXPECT_EQ(partAt(110, 80), HitPart::Box);
 }
 
 TEST_F(ThePoint, isInTheBoxThatHasThisPartOfTheRowsHeight)
