@@ -23,9 +23,13 @@ server= # the process of the MariaDB server
 # characters beyond the first 65536, in statements to SQLite, are cut by the machine's own manager,
 # which Windows does not have; a file that is open cannot be replaced there. One of paint's fails under
 # Wine: a line of text is drawn three pixels wider than Wine says that it is; to be tried on Windows itself.
+# Three of app's need a window that has the focus, which nothing has where there is no display.
 readonly left_out='On/BoundPlaces.*/sqlite:On/Handles.sendAStatementAndFetchItsRows/sqlite'\
 ':On/Reading.sendsEveryCharacterAsItIs/sqlite:OpenedFile.hasChangedWhereAnotherHasItsName'\
-':LabelText.shrinksForANameThatIsALittleTooLongInALowRow'
+':LabelText.shrinksForANameThatIsALittleTooLongInALowRow'\
+':ThePlanAsATable.givesTheFocusToTheCellThatTheKeyboardIsOn'\
+':ThePlanAsATable.tellsTheCellOfTheKeyboardAnewWhenAnAbsenceIsMarkedThere'\
+':ThePlanAsATable.saysNothingOfItsCursorWhileTheKeysGoElsewhere'
 
 # A server for the tests' databases, on a port of its own, as TEMPORA_MARIADB_PORT.
 start_server() {
