@@ -119,6 +119,13 @@ void SetupWizard::accept()
     }
 }
 
+void SetupWizard::reject()
+{
+    if (isEnabled()) {
+        QWizard::reject();
+    }
+}
+
 void SetupWizard::done(int result)
 {
     const bool isWanted = result == Accepted && m_source.kind == setup::SourceKind::Demo;

@@ -45,6 +45,8 @@ public:
 
     /// Writes what was chosen, and opens the plan; tells what cannot be written, and stays.
     void accept() override;
+    /// Not while a database is being tried, which is over in seconds.
+    void reject() override;
     /// Takes a demo faculty away that it has made and that nobody wants.
     void done(int result) override;
 

@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSemaphore>
 #include <QWindow>
 #include <atomic>
 #include <functional>
@@ -150,6 +151,28 @@ TEST_F(TheSetup, takesADemoFacultyAwayThatNobodyWanted)
     go(QWizard::CancelButton);
     ASSERT_TRUE(until([this] { return !wizard->isVisible(); }));
     EXPECT_FALSE(QFile::exists(machine().path("demo.sqlite")));
+}
+
+TEST_F(TheSetup, staysWhileItTriesADatabase)
+{
+    QSemaphore mayGoOn;
+    bool hasClosed = true;
+    ties().makeDemo = [&](const QString& file) {
+        QMetaObject::invokeMethod(
+            wizard.get(),
+            [&] {
+                hasClosed = wizard->close();
+                mayGoOn.release();
+            },
+            Qt::QueuedConnection);
+        mayGoOn.acquire();
+        QFile::copy(school().file(), file);
+    };
+    show();
+    go(QWizard::NextButton);
+    ASSERT_TRUE(shows("Found", "5 salles"));
+    EXPECT_FALSE(hasClosed);
+    EXPECT_TRUE(wizard->isVisible());
 }
 
 TEST_F(TheSetup, takesTheDemoFacultyAwayWhenAnotherBaseIsChosen)
