@@ -1,6 +1,6 @@
 #include "app/Screen.h"
 
-#include <QtGlobal>
+#include <QByteArray>
 
 namespace app
 {
